@@ -1,0 +1,27 @@
+# vantrel_tests(ROOM): one test program for the room's rules (no Qt) and one for its forms.
+# Files named frm*_test.cpp and everything in platform/qt are the forms' tests.
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+if(VANTREL_FORMS)
+  find_package(Qt6 REQUIRED COMPONENTS Test)
+endif()
+
+function(vantrel_tests room)
+  file(GLOB rule_tests CONFIGURE_DEPENDS "${room}/*_test.cpp")
+  file(GLOB form_tests CONFIGURE_DEPENDS "${room}/frm*_test.cpp" "${room}/qt/*_test.cpp")
+  list(REMOVE_ITEM rule_tests ${form_tests})
+  string(REPLACE "/" "_" name "${room}")
+
+  if(rule_tests)
+    add_executable(test_${name} ${rule_tests})
+    target_link_libraries(test_${name} PRIVATE test_support GTest::gtest GTest::gtest_main)
+    gtest_discover_tests(test_${name} TEST_PREFIX "${room}/" DISCOVERY_TIMEOUT 60)
+  endif()
+
+  if(form_tests AND VANTREL_FORMS)
+    add_executable(test_forms_${name} ${form_tests} "${CMAKE_CURRENT_SOURCE_DIR}/support/qt/formsmain.cpp")
+    target_link_libraries(test_forms_${name} PRIVATE test_support vantrel_forms Qt6::Test)
+    gtest_discover_tests(test_forms_${name} TEST_PREFIX "${room}/forms/" DISCOVERY_TIMEOUT 60)
+  endif()
+endfunction()

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "platform/filenames.h"
+
+#include "shared/fixedtext.h"
+#include "shared/runtimeerror.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
+namespace vantrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool isSeparator(char character) {
+    return character == '/' || character == '\\';
+}
+
+std::vector<std::string_view> partsOf(std::string_view name) {
+    std::vector<std::string_view> parts;
+    while (!name.empty()) {
+        const auto* const end = std::find_if(name.begin(), name.end(), isSeparator);
+        const auto size = static_cast<std::size_t>(end - name.begin());
+        if (size > 0)
+            parts.push_back(name.substr(0, size));
+        name.remove_prefix(std::min(size + 1, name.size()));
+    }
+    return parts;
+}
+
+bool matchesWithoutCase(const fs::path& entry, std::string_view part) {
+    const std::optional<std::string> entryName = latin1Text(entry.filename().string());
+    return entryName && upper(*entryName) == upper(part);
+}
+
+fs::path matchPart(const fs::path& folder, std::string_view part) {
+    std::error_code error;
+    const fs::path exact = folder / nativeText(part);
+    if (fs::exists(fs::symlink_status(exact, error)))
+        return exact;
+    fs::path found;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (!matchesWithoutCase(entry->path(), part))
+            continue;
+        if (!found.empty())
+            throw RuntimeError(ErrorCode::pathFileAccess, shownText(exact.string()) + " could be " +
+                                                              shownText(found.string()) + " or " +
+                                                              shownText(entry->path().string()));
+        found = entry->path();
+    }
+    return found.empty() ? exact : found;
+}
+
+} // namespace
+
+std::string nativeText(std::string_view latin1) {
+    std::string result;
+    for (const char character : latin1) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte < 0x80) {
+            result += character;
+        } else {
+            result += static_cast<char>(0xC0 | (byte >> 6));
+            result += static_cast<char>(0x80 | (byte & 0x3F));
+        }
+    }
+    return result;
+}
+
+std::optional<std::string> latin1Text(std::string_view native) {
+    std::string result;
+    for (std::size_t i = 0; i < native.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(native[i]);
+        if (byte < 0x80) {
+            result += native[i];
+            continue;
+        }
+        // Two bytes led by C2 or C3 are the only UTF-8 forms of an ISO 8859-1 character.
+        const bool two = (byte == 0xC2 || byte == 0xC3) && i + 1 < native.size() &&
+                         (static_cast<unsigned char>(native[i + 1]) & 0xC0) == 0x80;
+        if (!two)
+            return std::nullopt;
+        ++i;
+        result += static_cast<char>(((byte & 0x03) << 6) |
+                                    (static_cast<unsigned char>(native[i]) & 0x3F));
+    }
+    return result;
+}
+
+std::string shownText(std::string_view native) {
+    std::string result;
+    for (std::size_t i = 0; i < native.size();) {
+        std::size_t next = i + 1;
+        while (next < native.size() && (static_cast<unsigned char>(native[next]) & 0xC0) == 0x80)
+            ++next;
+        result += latin1Text(native.substr(i, next - i)).value_or("?");
+        i = next;
+    }
+    return result;
+}
+
+std::string resolveName(const std::string& folder, std::string_view name) {
+    fs::path current = !name.empty() && name.front() == '/' ? fs::path("/") : fs::path(folder);
+    for (const std::string_view part : partsOf(name))
+        current = matchPart(current, part);
+    return current.string();
+}
+
+} // namespace vantrel

@@ -1,0 +1,374 @@
+// SPDX-License-Identifier: MIT
+#include "platform/files.h"
+
+#include "platform/filenames.h"
+#include "platform/systemcalls.h"
+#include "shared/itemreader.h"
+#include "shared/runtimeerror.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace vantrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view newSuffix = ".vantrel-new";
+constexpr std::string_view oldSuffix = ".vantrel-old";
+constexpr std::string_view journalName = ".vantrel-journal";
+constexpr std::string_view finishMode = "finish";
+constexpr std::string_view undoMode = "undo";
+constexpr unsigned newFileMode = 0666; // less the operator's umask
+
+// Beside the target, hidden, so that a rename within the folder puts it in place.
+std::string scratchPath(const std::string& target, std::string_view suffix) {
+    const fs::path path(target);
+    return (path.parent_path() / ("." + path.filename().string() + std::string(suffix))).string();
+}
+
+std::string newPath(const std::string& target) {
+    return scratchPath(target, newSuffix);
+}
+std::string oldPath(const std::string& target) {
+    return scratchPath(target, oldSuffix);
+}
+
+ErrorCode codeFor(int error, const std::string& path) {
+    std::error_code ignored;
+    switch (error) {
+    case ENOENT:
+        return fs::exists(fs::path(path).parent_path(), ignored) ? ErrorCode::fileNotFound
+                                                                 : ErrorCode::pathNotFound;
+    case ENOTDIR:
+        return ErrorCode::pathNotFound;
+    case ENOSPC:
+    case EDQUOT:
+        return ErrorCode::diskFull;
+    case EACCES:
+    case EPERM:
+        return ErrorCode::permissionDenied;
+    default:
+        return ErrorCode::pathFileAccess;
+    }
+}
+
+[[noreturn]] void fail(int error, const std::string& path) {
+    throw RuntimeError(codeFor(error, path), shownText(path) + ": " + std::strerror(error));
+}
+
+// Throws unless `path` is a regular file or nothing at all.
+void requireRegular(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
+        throw RuntimeError(ErrorCode::pathFileAccess, shownText(path) + " is not a file");
+}
+
+class OpenFile {
+public:
+    OpenFile(SystemCalls& calls, const std::string& path, int flags, unsigned mode = newFileMode)
+        : m_calls(calls), m_file(calls.open(path, flags | O_CLOEXEC, mode)) {
+        if (m_file < 0)
+            fail(errno, path);
+    }
+    ~OpenFile() { m_calls.close(m_file); }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    operator int() const { return m_file; }
+
+private:
+    SystemCalls& m_calls;
+    int m_file;
+};
+
+long long sizeOf(int file) {
+    return ::lseek(file, 0, SEEK_END);
+}
+
+// What ends a last line that a crash or an editor left open.
+std::string missingLineEnd(int file, long long size) {
+    char last = '\n';
+    if (size > 0 && ::pread(file, &last, 1, size - 1) != 1)
+        return {};
+    if (last == '\n')
+        return {};
+    return last == '\r' ? "\n" : "\r\n";
+}
+
+} // namespace
+
+Files::Files(std::string programFolder, SystemCalls& calls)
+    : m_programFolder(std::move(programFolder)), m_calls(calls) {}
+
+std::string Files::nativePath(std::string_view name) const {
+    return resolveName(m_programFolder, name);
+}
+
+std::string Files::path(std::string_view name) const {
+    return shownText(nativePath(name));
+}
+
+bool Files::present(std::string_view name) const {
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(nativePath(name), ignored));
+}
+
+std::string Files::read(std::string_view name) const {
+    return readPath(nativePath(name));
+}
+
+std::string Files::readPath(const std::string& path) const {
+    requireRegular(path);
+    const OpenFile file(m_calls, path, O_RDONLY);
+    std::string bytes;
+    struct stat status {};
+    if (::fstat(file, &status) == 0 && status.st_size > 0)
+        bytes.reserve(static_cast<std::size_t>(status.st_size) + 1);
+    std::array<char, 1 << 16> buffer; // NOLINT: filled by read
+    for (;;) {
+        const long count = m_calls.read(file, buffer.data(), buffer.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            fail(errno, path);
+        if (count == 0)
+            return bytes;
+        bytes.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+}
+
+std::string Files::readOrEmpty(std::string_view name) const {
+    return present(name) ? read(name) : std::string();
+}
+
+// The real file behind the name (a link's target is rewritten, not the link), checked to be
+// one that the operator may change: a rename would not ask.
+std::string Files::writablePath(std::string_view name) const {
+    std::string path = nativePath(name);
+    std::error_code ignored;
+    if (fs::is_symlink(path, ignored))
+        path = fs::weakly_canonical(path).string();
+    requireRegular(path);
+    if (fs::exists(path, ignored) && ::access(path.c_str(), W_OK) != 0)
+        fail(errno, path);
+    return path;
+}
+
+void Files::writeAll(int file, std::string_view bytes, const std::string& path) {
+    while (!bytes.empty()) {
+        const long count = m_calls.write(file, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            fail(count == 0 ? ENOSPC : errno, path);
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    if (m_calls.sync(file) != 0)
+        fail(errno, path);
+}
+
+// Creates the file and writes it through to the disk; nothing is left of it on failure.
+void Files::writeWhole(const std::string& path, int flags, std::string_view bytes) {
+    const OpenFile file(m_calls, path, O_WRONLY | O_CREAT | flags);
+    try {
+        writeAll(file, bytes, path);
+    } catch (const RuntimeError&) {
+        m_calls.remove(path);
+        throw;
+    }
+}
+
+void Files::syncFolderOf(const std::string& path) {
+    const std::string folder = fs::path(path).parent_path().string();
+    const OpenFile file(m_calls, folder, O_RDONLY | O_DIRECTORY);
+    // Some file systems do not know how to sync a folder; that is no failure of ours.
+    if (m_calls.sync(file) != 0 && errno != EINVAL && errno != ENOTSUP)
+        fail(errno, folder);
+}
+
+void Files::appendLine(std::string_view name, std::string_view line) {
+    const std::string path = writablePath(name);
+    std::error_code ignored;
+    const bool existed = fs::exists(path, ignored);
+    const OpenFile file(m_calls, path, O_RDWR | O_CREAT | O_APPEND);
+    const long long size = sizeOf(file);
+    try {
+        writeAll(file, missingLineEnd(file, size) + std::string(line) + "\r\n", path);
+        if (!existed)
+            syncFolderOf(path);
+    } catch (const RuntimeError&) {
+        if (existed) {
+            m_calls.truncate(file, size);
+            m_calls.sync(file);
+        } else {
+            m_calls.remove(path);
+        }
+        throw;
+    }
+}
+
+void Files::rewrite(std::string_view name, std::string_view bytes) {
+    const std::string target = writablePath(name);
+    const std::string beside = newPath(target);
+    writeWhole(beside, O_TRUNC, bytes);
+    struct stat old {};
+    if (::stat(target.c_str(), &old) == 0)
+        ::chmod(beside.c_str(), old.st_mode & 07777);
+    if (m_calls.rename(beside, target) != 0) {
+        const int error = errno;
+        m_calls.remove(beside);
+        fail(error, target);
+    }
+    syncFolderOf(target);
+}
+
+std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
+    std::string taken(name);
+    for (int number = 2; present(taken); ++number)
+        taken = std::string(name) + std::to_string(number);
+    const std::string path = nativePath(taken);
+    writeWhole(path, O_EXCL, bytes);
+    syncFolderOf(path);
+    return shownText(path);
+}
+
+// --- Several files at once -----------------------------------------------------------------
+//
+// 1. Every new file is written beside its target, every old one kept by a second name.
+// 2. The journal says "finish": from here on a crash is finished by the next start.
+// 3. The new files are renamed over the targets, the journal and the old names removed.
+// If a rename fails in step 3, the journal is changed to "undo" and the old files are put
+// back; a crash during that is undone to the end by the next start.
+
+std::string Files::journalPath() const {
+    return (fs::path(m_programFolder) / journalName).string();
+}
+
+void Files::rewriteAll(const std::vector<FileContent>& contents) {
+    std::vector<Replacement> replacements;
+    for (const FileContent& content : contents) {
+        const std::string target = writablePath(content.name);
+        std::error_code ignored;
+        replacements.push_back({content.name, target, fs::exists(target, ignored)});
+    }
+    try {
+        for (std::size_t i = 0; i < contents.size(); ++i) {
+            writeWhole(newPath(replacements[i].target), O_TRUNC, contents[i].bytes);
+            if (replacements[i].existed)
+                keepOld(replacements[i].target);
+        }
+        writeJournal(finishMode, replacements);
+    } catch (const RuntimeError&) {
+        removeScratch(replacements);
+        throw;
+    }
+    try {
+        finish(replacements);
+    } catch (const RuntimeError&) {
+        writeJournal(undoMode, replacements);
+        undo(replacements);
+        throw;
+    }
+}
+
+// Gives the present file a second name; on file systems without links, a copy.
+void Files::keepOld(const std::string& target) {
+    m_calls.remove(oldPath(target));
+    if (m_calls.link(target, oldPath(target)) == 0)
+        return;
+    if (errno == ENOSPC || errno == EDQUOT)
+        fail(errno, oldPath(target));
+    writeWhole(oldPath(target), O_TRUNC, readPath(target));
+}
+
+void Files::writeJournal(std::string_view mode, const std::vector<Replacement>& replacements) {
+    std::string bytes(mode);
+    for (const Replacement& replacement : replacements)
+        bytes += (replacement.existed ? "\n+" : "\n-") + replacement.name;
+    const std::string beside = newPath(journalPath());
+    writeWhole(beside, O_TRUNC, bytes + "\n");
+    if (m_calls.rename(beside, journalPath()) != 0)
+        fail(errno, journalPath());
+    syncFolderOf(journalPath());
+}
+
+void Files::finish(const std::vector<Replacement>& replacements) {
+    for (const Replacement& replacement : replacements) {
+        const std::string beside = newPath(replacement.target);
+        std::error_code ignored;
+        if (fs::exists(beside, ignored) && m_calls.rename(beside, replacement.target) != 0)
+            fail(errno, replacement.target);
+    }
+    syncFolderOf(journalPath());
+    m_calls.remove(journalPath());
+    removeScratch(replacements);
+}
+
+void Files::undo(const std::vector<Replacement>& replacements) {
+    for (const Replacement& replacement : replacements) {
+        const std::string kept = oldPath(replacement.target);
+        std::error_code ignored;
+        // An old file that is kept no longer has been put back already.
+        if (replacement.existed && fs::exists(kept, ignored) &&
+            m_calls.rename(kept, replacement.target) != 0)
+            fail(errno, replacement.target);
+        if (!replacement.existed)
+            m_calls.remove(replacement.target);
+    }
+    syncFolderOf(journalPath());
+    m_calls.remove(journalPath());
+    removeScratch(replacements);
+}
+
+void Files::removeScratch(const std::vector<Replacement>& replacements) {
+    for (const Replacement& replacement : replacements) {
+        m_calls.remove(newPath(replacement.target));
+        m_calls.remove(oldPath(replacement.target));
+    }
+}
+
+void Files::recover() {
+    std::error_code ignored;
+    if (fs::exists(journalPath(), ignored)) {
+        const std::string bytes = read(journalName);
+        LineReader lines(bytes);
+        const std::string_view mode = lines.atEnd() ? std::string_view() : lines.next();
+        std::vector<Replacement> replacements;
+        while (!lines.atEnd()) {
+            const std::string_view line = lines.next();
+            const std::string name(line.substr(std::min<std::size_t>(1, line.size())));
+            replacements.push_back({name, nativePath(name), !line.empty() && line.front() == '+'});
+        }
+        if (mode == undoMode)
+            undo(replacements);
+        else
+            finish(replacements);
+    }
+    // Whatever else lies there was being written when the program was stopped.
+    std::vector<std::string> strays;
+    for (const fs::directory_entry& entry : fs::directory_iterator(m_programFolder, ignored)) {
+        const std::string name = entry.path().filename().string();
+        if (name.starts_with('.') && (name.ends_with(newSuffix) || name.ends_with(oldSuffix)))
+            strays.push_back(entry.path().string());
+    }
+    for (const std::string& stray : strays)
+        m_calls.remove(stray);
+}
+
+std::string joinLines(const std::vector<std::string>& lines) {
+    std::string bytes;
+    for (const std::string& line : lines)
+        bytes += line + "\r\n";
+    return bytes;
+}
+
+} // namespace vantrel

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+// The program's files: names without regard to case, durable appends and rewrites.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrel {
+
+class SystemCalls;
+
+// A file of several that are replaced together: its name and its whole new content.
+struct FileContent {
+    std::string name;
+    std::string bytes;
+};
+
+// All names are as the rules say them (ISO 8859-1): relative to the program folder, or
+// absolute; `\` and `/` both separate. All functions throw RuntimeError with the file's
+// path in its detail: 53 no such file, 76 no such folder, 61 disk full, 70 no permission,
+// 75 anything else (not a regular file, read-only, a name that two entries match).
+class Files {
+public:
+    // programFolder: a real path of the machine. calls: the system's calls, or a test's.
+    Files(std::string programFolder, SystemCalls& calls);
+
+    // The real path that `name` stands for: each part as it stands on the disk, matched
+    // exactly or else without regard to case; parts that do not exist as given.
+    std::string nativePath(std::string_view name) const;
+    // The same as text to show (ISO 8859-1).
+    std::string path(std::string_view name) const;
+    const std::string& programFolder() const { return m_programFolder; }
+
+    // True when the name stands for anything on the disk, file or not: reading it then either
+    // works or says why not.
+    bool present(std::string_view name) const;
+    // The file's whole content.
+    std::string read(std::string_view name) const;
+    // The file's whole content, empty when there is no such file.
+    std::string readOrEmpty(std::string_view name) const;
+    // Appends `line` and CR LF, on the disk when this returns; creates a missing file. A
+    // last line without a line end is ended first. On failure the file is as it was.
+    void appendLine(std::string_view name, std::string_view line);
+    // Replaces the whole file: the old or the new one survives a crash, never a mixture.
+    void rewrite(std::string_view name, std::string_view bytes);
+    // Replaces several files of the program folder, all or none, even when the machine stops
+    // in the middle: see recover().
+    void rewriteAll(const std::vector<FileContent>& contents);
+    // Writes the bytes to a file that does not exist yet: `name`, or else `name` followed by
+    // 2, 3, ... Never replaces anything. Returns the path taken, as text to show.
+    std::string keepCopy(std::string_view name, std::string_view bytes);
+
+    // Finishes or undoes what a crash left of a rewrite; called once at start, before
+    // anything is read.
+    void recover();
+
+private:
+    // One of several files being replaced together.
+    struct Replacement {
+        std::string name;
+        std::string target; // its real path
+        bool existed;       // before: an undo puts the old file back, or removes the new one
+    };
+
+    std::string readPath(const std::string& path) const;
+    std::string writablePath(std::string_view name) const;
+    void writeWhole(const std::string& path, int flags, std::string_view bytes);
+    void writeAll(int file, std::string_view bytes, const std::string& path);
+    void syncFolderOf(const std::string& path);
+    void keepOld(const std::string& target);
+    void writeJournal(std::string_view mode, const std::vector<Replacement>& replacements);
+    void finish(const std::vector<Replacement>& replacements);
+    void undo(const std::vector<Replacement>& replacements);
+    void removeScratch(const std::vector<Replacement>& replacements);
+    std::string journalPath() const;
+
+    std::string m_programFolder;
+    SystemCalls& m_calls;
+};
+
+// Each line followed by CR LF.
+std::string joinLines(const std::vector<std::string>& lines);
+
+} // namespace vantrel

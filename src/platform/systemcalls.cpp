@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "platform/systemcalls.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vantrel {
+
+int SystemCalls::open(const std::string& path, int flags, unsigned mode) {
+    return ::open(path.c_str(), flags, mode);
+}
+
+long SystemCalls::write(int file, const char* bytes, std::size_t count) {
+    return ::write(file, bytes, count);
+}
+
+long SystemCalls::read(int file, char* bytes, std::size_t count) {
+    return ::read(file, bytes, count);
+}
+
+int SystemCalls::sync(int file) {
+    return ::fsync(file);
+}
+
+int SystemCalls::truncate(int file, long long size) {
+    return ::ftruncate(file, size);
+}
+
+int SystemCalls::close(int file) {
+    return ::close(file);
+}
+
+int SystemCalls::rename(const std::string& from, const std::string& to) {
+    return ::rename(from.c_str(), to.c_str());
+}
+
+int SystemCalls::link(const std::string& from, const std::string& to) {
+    return ::link(from.c_str(), to.c_str());
+}
+
+int SystemCalls::remove(const std::string& path) {
+    return ::unlink(path.c_str());
+}
+
+} // namespace vantrel

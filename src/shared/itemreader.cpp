@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "shared/itemreader.h"
+
+#include "shared/fixedtext.h"
+#include "shared/runtimeerror.h"
+
+#include <algorithm>
+#include <string>
+
+namespace vantrel {
+
+namespace {
+
+// Takes the text up to the next LF off `rest`, and the LF with a CR before it.
+std::string_view takeLine(std::string_view& rest) {
+    const std::size_t end = rest.find('\n');
+    std::string_view line = rest.substr(0, end);
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    if (end != std::string_view::npos && !line.empty() && line.back() == '\r')
+        line.remove_suffix(1);
+    return line;
+}
+
+} // namespace
+
+std::string_view ItemReader::next() {
+    if (atEnd())
+        throw RuntimeError(ErrorCode::inputPastEnd, "after line " + std::to_string(m_lineNumber));
+    if (!m_insideLine) {
+        m_line = takeLine(m_rest);
+        ++m_lineNumber;
+    }
+
+    m_line = trimLeft(m_line);
+    const bool quoted = !m_line.empty() && m_line.front() == '"';
+    if (quoted)
+        m_line.remove_prefix(1);
+    const std::size_t closing = quoted ? std::min(m_line.find('"'), m_line.size()) : 0;
+    const std::size_t comma = m_line.find(',', closing);
+    const std::string_view item = m_line.substr(0, quoted ? closing : comma);
+
+    m_insideLine = comma != std::string_view::npos;
+    if (m_insideLine)
+        m_line.remove_prefix(comma + 1);
+    return item;
+}
+
+std::string_view LineReader::next() {
+    if (atEnd())
+        throw RuntimeError(ErrorCode::inputPastEnd, "no further line");
+    return takeLine(m_rest);
+}
+
+} // namespace vantrel

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// How screens reach each other: one slot per screen, and the few things two of them share.
+#pragma once
+
+#include "shared/module1.h"
+
+#include <string>
+
+namespace vantrel {
+
+enum class Screen {
+    start,        // frmVantrelStart
+    main,         // frmVantrelMain
+    dupe,         // frmVantrelDupe
+    correct,      // frmVantrelCorrect
+    deletion,     // frmVantrelDelete
+    editor,       // frmVantrelEDITcbr
+    score,        // frmVantrelScore
+    bonus,        // frmCountBonus
+    files,        // frmVantrelFiles
+    list,         // frmVantrelList
+    showDb,       // frmVantrelShowDB
+    backup,       // frmVantrelBackup
+    finder,       // frmFileFinder
+    updateList,   // frmSelectUpdateList
+    readData,     // frmReadSKCCDATA
+    memberUpdate, // frmVantrelUpdate
+    callArea,     // frmVantrelCallArea
+    standings,    // frmK3YStandings
+    standings2,   // frmK3YStandings2
+    checkDupeK3y, // frmCheckDupeK3Y
+    k3yBox,       // frmK3Ybox
+};
+
+// What other screens do to the start page.
+class StartPage {
+public:
+    virtual ~StartPage() = default;
+    virtual std::string logFileName() const = 0;
+    virtual void setLogFileName(const std::string& name) = 0;
+    virtual std::string myCall() const = 0; // as the page shows it, upper-cased
+};
+
+// What the boxes hold after a contact is dropped: nothing, or a single blank each.
+enum class EntryBoxes { empty, oneBlank };
+
+// What other screens do to the main page.
+class MainPage {
+public:
+    virtual ~MainPage() = default;
+    // Empties call, name, state and number, resets both RST boxes, focus to the call box.
+    virtual void clearEntry(EntryBoxes boxes) = 0;
+    // The K3Y tag label.
+    virtual void showTag(const std::string& text) = 0;
+    // Shows the count and the worked-stations list as Module1 holds them now.
+    virtual void showLog() = 0;
+};
+
+class Screens {
+public:
+    virtual ~Screens() = default;
+    // Shows the screen's single instance, created when there is none, and brings it to front.
+    virtual void open(Screen screen) = 0;
+    // nullptr while there is none.
+    virtual StartPage* startPage() = 0;
+    virtual MainPage* mainPage() = 0;
+    // Puts the finder's choice into the box of the screen that asked for it; it gets focus.
+    virtual void handBackPath(FinderMode mode, const std::string& path) = 0;
+    // Ends the program.
+    virtual void quit() = 0;
+};
+
+} // namespace vantrel

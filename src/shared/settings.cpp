@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "shared/settings.h"
+
+#include "platform/files.h"
+#include "shared/fixedtext.h"
+#include "shared/itemreader.h"
+#include "shared/runtimeerror.h"
+
+#include <array>
+
+namespace vantrel {
+
+namespace {
+
+struct SettingLine {
+    std::string OperatingSettings::*field;
+    std::string_view name;
+};
+
+// The file's lines, first to last.
+constexpr std::array<SettingLine, 14> settingLines{{
+    {&OperatingSettings::myCall, "my call"},
+    {&OperatingSettings::contestCode, "contest code"},
+    {&OperatingSettings::gmtOffset, "GMT offset"},
+    {&OperatingSettings::civAddress, "CI-V address"},
+    {&OperatingSettings::myName, "my name"},
+    {&OperatingSettings::myState, "my state"},
+    {&OperatingSettings::myNumber, "my SKCC number"},
+    {&OperatingSettings::rig, "rig"},
+    {&OperatingSettings::comPort, "COM port"},
+    {&OperatingSettings::baud, "baud rate"},
+    {&OperatingSettings::contestText, "contest name"},
+    {&OperatingSettings::logFileName, "log file name"},
+    {&OperatingSettings::bonusStation, "bonus station"},
+    {&OperatingSettings::dupeMode, "dupe mode"},
+}};
+
+std::string stored(std::string_view typed) {
+    return upper(trim(withoutSeparatorsAndQuotes(typed)));
+}
+
+} // namespace
+
+OperatingSettings storedSettings(const OperatingSettings& typed) {
+    OperatingSettings settings = typed;
+    settings.myCall = padRight(stored(typed.myCall), callWidth, "the call");
+    settings.myCall = trimRight(settings.myCall); // the call alone is kept unpadded
+    settings.myName = padRight(stored(typed.myName), nameWidth, "the name");
+    settings.myState = padRight(stored(typed.myState), stateWidth, "the state");
+    settings.myNumber = padRight(stored(typed.myNumber), numberWidth, "the SKCC number");
+    settings.bonusStation = padRight(stored(typed.bonusStation), callWidth, "the bonus station");
+    settings.contestText = stored(typed.contestText);
+    settings.logFileName = stored(typed.logFileName);
+    return settings;
+}
+
+void saveSettings(Files& files, const OperatingSettings& settings) {
+    std::string bytes;
+    for (const SettingLine& line : settingLines)
+        bytes += settings.*line.field + "\r\n";
+    files.rewrite(configurationFile, bytes);
+}
+
+OperatingSettings loadSettings(const Files& files) {
+    OperatingSettings settings;
+    if (!files.present(configurationFile))
+        return settings;
+    const std::string bytes = files.read(configurationFile);
+    ItemReader reader(bytes);
+    for (const SettingLine& line : settingLines) {
+        if (reader.atEnd())
+            throw RuntimeError(ErrorCode::inputPastEnd,
+                               files.path(configurationFile) + " ends after line " +
+                                   std::to_string(reader.line()) + ": the " +
+                                   std::string(line.name) + " is missing");
+        settings.*line.field = std::string(trimRight(reader.next()));
+    }
+    return settings;
+}
+
+} // namespace vantrel

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Doors to the machine that only record: event loop, sound, printer, launcher.
+#pragma once
+
+#include "platform/eventloop.h"
+#include "platform/launcher.h"
+#include "platform/printer.h"
+#include "platform/sound.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vantrel::test {
+
+class FakeEventLoop : public EventLoop {
+public:
+    void yield() override {
+        ++yields;
+        if (onYield)
+            onYield();
+    }
+    int yields = 0;
+    std::function<void()> onYield;
+};
+
+class FakeSound : public Sound {
+public:
+    void playDupeAlarm() override { ++alarms; }
+    int alarms = 0;
+};
+
+class FakePrinter : public Printer {
+public:
+    std::string print(const std::vector<std::string>& lines, const std::string& pdfPath) override {
+        jobs.push_back(lines);
+        lastPdfPath = pdfPath;
+        return hasPrinter ? std::string() : pdfPath;
+    }
+    bool hasPrinter = true;
+    std::vector<std::vector<std::string>> jobs;
+    std::string lastPdfPath;
+};
+
+class FakeLauncher : public Launcher {
+public:
+    void start(const std::string& path) override { started.push_back(path); }
+    std::vector<std::string> started;
+};
+
+} // namespace vantrel::test

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/formbuilder.h"
+
+#include <QFontDatabase>
+#include <QFontMetrics>
+
+namespace vantrel {
+
+namespace {
+QString text(const char* latin1) { return QString::fromLatin1(latin1); }
+} // namespace
+
+template <typename Control>
+Control* FormBuilder::named(Control* control, const char* name, const char* toolTip) {
+    control->setObjectName(vantrel::text(name));
+    control->setToolTip(vantrel::text(toolTip));
+    return control;
+}
+
+QLineEdit* FormBuilder::text(const char* name, int width, const char* toolTip) {
+    QLineEdit* box = named(new QLineEdit(m_form), name, toolTip);
+    if (width > 0)
+        box->setMaxLength(width);
+    return box;
+}
+
+QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
+    QLineEdit* box = named(new QLineEdit(m_form), name, toolTip);
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::NoFocus);
+    return box;
+}
+
+QPushButton* FormBuilder::command(const char* name, const char* caption, const char* toolTip) {
+    return named(new QPushButton(vantrel::text(caption), m_form), name, toolTip);
+}
+
+QLabel* FormBuilder::label(const char* name, const char* caption) {
+    QLabel* label = named(new QLabel(m_form), name, "");
+    label->setTextFormat(Qt::PlainText);
+    label->setText(vantrel::text(caption));
+    return label;
+}
+
+QLabel* FormBuilder::caption(const char* text, QWidget* buddy) {
+    auto* label = new QLabel(m_form);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(vantrel::text(text));
+    label->setBuddy(buddy);
+    return label;
+}
+
+QComboBox* FormBuilder::combo(const char* name, const char* toolTip) {
+    return named(new QComboBox(m_form), name, toolTip);
+}
+
+QComboBox* FormBuilder::editableCombo(const char* name, const char* toolTip) {
+    QComboBox* combo = this->combo(name, toolTip);
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setCompleter(nullptr);
+    return combo;
+}
+
+QRadioButton* FormBuilder::option(const char* name, const char* caption, const char* toolTip) {
+    return named(new QRadioButton(vantrel::text(caption), m_form), name, toolTip);
+}
+
+QRadioButton* FormBuilder::jobOption(const char* name, const char* caption,
+                                     const char* toolTip) {
+    QRadioButton* button = option(name, caption, toolTip);
+    // In an exclusive group the arrow keys would run every job they pass.
+    button->setAutoExclusive(false);
+    return button;
+}
+
+QListView* FormBuilder::list(const char* name, const char* toolTip) {
+    QListView* list = named(new QListView(m_form), name, toolTip);
+    list->setFont(fixedWidthFont());
+    list->setUniformItemSizes(true);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    return list;
+}
+
+QFont fixedWidthFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    return font;
+}
+
+QFont enlargedFont(const QWidget* widget, double factor, bool bold) {
+    QFont font = widget->font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(bold);
+    return font;
+}
+
+void setColumns(QLineEdit* box, int columns) {
+    const QFontMetrics metrics(box->font());
+    box->setMinimumWidth(metrics.horizontalAdvance(QLatin1Char('W')) * columns +
+                         metrics.averageCharWidth() * 2);
+}
+
+} // namespace vantrel

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// Message boxes as real windows over the form that is active.
+#pragma once
+
+#include "platform/messages.h"
+
+namespace vantrel {
+
+class QtMessages : public Messages {
+public:
+    void show(const Message& message) override;
+    bool ask(const Message& message) override;
+};
+
+} // namespace vantrel

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "k3y/standings.h"
+
+#include "shared/fixedtext.h"
+#include "shared/qsoline.h"
+#include "shared/qsotable.h"
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+
+constexpr std::string_view eventPrefix = "K3Y/";
+constexpr Column areaCode{5, 1};     // of a call: "K3Y/5"
+constexpr Column outlyingCode{5, 2}; // of a call: "K3Y/KH6"
+
+// The number (from 1) of the row with this code among rows `first` to `last`; 0 for none.
+int rowOf(std::span<const StandingsRow> rows, std::size_t first, std::size_t last,
+          std::string_view code) {
+    for (std::size_t row = first; row <= last; ++row)
+        if (rows[row - 1].code == code)
+            return static_cast<int>(row);
+    return 0;
+}
+
+int outlyingRow(std::string_view code) {
+    return rowOf(regionRows, 1, outlyingRows, code);
+}
+
+int continentRow(std::string_view code) {
+    return rowOf(regionRows, outlyingRows + 1, regionRows.size(), code);
+}
+
+bool isOutlyingCall(std::string_view call) {
+    return length(call) >= outlyingCode.last() && call.starts_with(eventPrefix);
+}
+
+// "/EU" at the end of the call or "K3Y/EU" at the end of the line.
+bool mayCountForContinent(std::string_view call, std::string_view line) {
+    const std::string_view callEnd = right(call, 3);
+    const std::string_view tag = right(line, qso::marker.width);
+    return (callEnd.starts_with('/') && continentRow(midToEnd(callEnd, 2)) != 0) ||
+           (tag.starts_with(eventPrefix) && continentRow(midToEnd(tag, 5)) != 0);
+}
+
+} // namespace
+
+const StandingsCell& Standings::cell(int row, int column) const {
+    return m_cells.at(static_cast<std::size_t>(row - 1)).at(static_cast<std::size_t>(column - 1));
+}
+
+bool Standings::fill(int row, std::string_view khzField, std::string_view text) {
+    const Band* band = bandOfKhz(khzField);
+    if (row == 0 || band == nullptr)
+        return false;
+    const auto column = static_cast<std::size_t>(band - bands.data());
+    const auto index = static_cast<std::size_t>(row - 1);
+    if (cell(row, m_rows[index].guards.at(column)).filled)
+        return false;
+    m_cells[index].at(column) = {true, std::string(text)};
+    ++m_total;
+    return true;
+}
+
+Standings areaStandings(const QsoTable& table) {
+    Standings result(areaRows);
+    for (const std::string_view line : table.lines()) {
+        const std::string_view call = trim(qso::hisCall.of(line));
+        if (length(call) == areaCode.last() && call.starts_with(eventPrefix))
+            result.fill(rowOf(areaRows, 1, areaRows.size(), areaCode.of(call)),
+                        qso::frequency.of(line), qso::hisNumber.of(line));
+    }
+    return result;
+}
+
+Standings regionStandings(const QsoTable& table) {
+    Standings result(regionRows);
+    for (const std::string_view line : table.lines()) {
+        const std::string_view call = trim(qso::hisCall.of(line));
+        const std::string_view khz = qso::frequency.of(line);
+        const bool counted = isOutlyingCall(call) && result.fill(outlyingRow(outlyingCode.of(call)),
+                                                                 khz, qso::hisNumber.of(line));
+        // The closing tag picks the continent, never the call: a DX station without a tag
+        // counts for none.
+        if (!counted && mayCountForContinent(call, line))
+            result.fill(continentRow(right(line, 2)), khz, call);
+    }
+    return result;
+}
+
+} // namespace vantrel

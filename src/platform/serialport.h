@@ -2,28 +2,62 @@
 // One serial port, as the radio routines use it: opened, used and closed within one read.
 #pragma once
 
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace vantrel {
 
+// Why a port cannot be used. what() says it in plain words for the operator, port named.
+class SerialPortError : public std::runtime_error {
+public:
+    enum class Reason {
+        notThere,     // no such port
+        inUse,        // another program, or a read still running, has it
+        noPermission, // the operator may not open it
+        badSettings,  // no such baud rate, or the port refuses it
+        lost,         // unplugged while in use
+    };
+
+    SerialPortError(Reason reason, const std::string& words)
+        : std::runtime_error(words), m_reason(reason) {}
+    Reason reason() const { return m_reason; }
+
+private:
+    Reason m_reason;
+};
+
+// The settings text "38400,n,8,2" taken apart.
+struct LineSettings {
+    int baud;
+    char parity; // 'n', 'e' or 'o'
+    int dataBits;
+    int stopBits;
+};
+
+// Nothing when the text has another form ("None,n,8,1").
+std::optional<LineSettings> lineSettings(std::string_view text);
+
 class SerialPort {
 public:
     virtual ~SerialPort() = default;
     // Opens the port `name` ("com1" .. "com10") at `settings` ("38400,n,8,2": baud, parity
-    // letter, data bits, stop bits), no flow control, and drops DTR and RTS. Throws
-    // SerialPortError when the port cannot be opened.
+    // letter, data bits, stop bits), no flow control, drops DTR and RTS, and discards what was
+    // waiting. Throws SerialPortError when the port cannot be opened.
     virtual void open(const std::string& name, const std::string& settings) = 0;
     virtual void close() = 0;
     // Sends the bytes. Throws SerialPortError when the device is gone.
     virtual void write(std::string_view bytes) = 0;
-    // Waits for input for at most `milliseconds` (events are served meanwhile, keys and
-    // clicks are kept for later), returning as soon as any has come; 0 only looks. Returns
-    // false once the program is being closed: the read is then given up.
+    // Waits for input for at most `milliseconds` (events are served meanwhile), returning as
+    // soon as any has come; 0 only looks. Returns false once the program is being closed: the
+    // read is then given up.
     virtual bool wait(int milliseconds) = 0;
     // Takes all bytes that have arrived, possibly none. Throws SerialPortError when the
     // device is gone.
     virtual std::string readAll() = 0;
+    // Milliseconds since the port was opened.
+    virtual int elapsed() const = 0;
 };
 
 } // namespace vantrel

@@ -1,4 +1,71 @@
 // SPDX-License-Identifier: MIT
-int main() {
-    return 0;
+// Makes the machine's doors, the shared state and the screens, and shows the start page.
+#include "app/appscreens.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/programfolder.h"
+#include "platform/qt/qteventloop.h"
+#include "platform/qt/qtlauncher.h"
+#include "platform/qt/qtmessages.h"
+#include "platform/qt/qtprinter.h"
+#include "platform/qt/qtserialport.h"
+#include "platform/qt/qtsound.h"
+#include "platform/systemcalls.h"
+#include "shared/settings.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QStandardPaths>
+
+namespace {
+
+using namespace vantrel;
+
+std::string programFolder() {
+    return chooseProgramFolder(
+        QCoreApplication::applicationDirPath().toStdString(),
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
+}
+
+// Throws RuntimeError when the program cannot start: what it needs is there but broken.
+int runProgram(QApplication& application, QtMessages& messages) {
+    const std::string folder = programFolder();
+    const FolderLock lock(folder);
+    if (!lock.held()) {
+        messages.show({"VANTREL IS ALREADY RUNNING IN THIS FOLDER", BoxIcon::critical, folder});
+        return 1;
+    }
+    SystemCalls calls;
+    Files files(folder, calls);
+    files.recover();
+
+    const SystemClock clock;
+    QtEventLoop eventLoop;
+    QtSerialPort serialPort(files);
+    QtSound sound;
+    QtPrinter printer;
+    QtLauncher launcher;
+    Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
+
+    Module1 module;
+    module.settings = loadSettings(files);
+    AppScreens screens(module, platform);
+    screens.open(Screen::start);
+    return application.exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Vantrel"));
+    QApplication::setApplicationVersion(QStringLiteral(VANTREL_VERSION));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/vantrel.png")));
+    QtMessages messages;
+    try {
+        return runProgram(application, messages);
+    } catch (const RuntimeError& error) {
+        messages.show({error.headline(), BoxIcon::critical, error.detail()});
+    }
+    return 1;
 }

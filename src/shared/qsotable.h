@@ -22,6 +22,8 @@ public:
     // file order. Throws RuntimeError 9 at the 12,001st; the first 12,000 then stay.
     void refill(std::string logBytes);
 
+    void clear() { m_lines.clear(); }
+
     Integer16 count() const { return static_cast<long long>(m_lines.size()); }
     // Index 1 to count(). Throws RuntimeError 9 outside of it.
     std::string_view line(int index) const;

@@ -54,6 +54,16 @@ public:
     virtual void showTag(const std::string& text) = 0;
     // Shows the count and the worked-stations list as Module1 holds them now.
     virtual void showLog() = 0;
+    // Loads the page as if it had just been opened (START pressed again).
+    virtual void loadAfresh() = 0;
+};
+
+// A screen that opens the file finder and takes the path chosen there.
+class PathReceiver {
+public:
+    virtual ~PathReceiver() = default;
+    // Puts the path into the screen's box and gives that box the focus.
+    virtual void receivePath(const std::string& path) = 0;
 };
 
 class Screens {
@@ -64,7 +74,7 @@ public:
     // nullptr while there is none.
     virtual StartPage* startPage() = 0;
     virtual MainPage* mainPage() = 0;
-    // Puts the finder's choice into the box of the screen that asked for it; it gets focus.
+    // Hands the finder's choice to the screen that asked for it, if it is still there.
     virtual void handBackPath(FinderMode mode, const std::string& path) = 0;
     // Ends the program.
     virtual void quit() = 0;

@@ -30,7 +30,9 @@ public:
     // Loads and shows the form; closing it returns to `opener`.
     void open(QWidget* opener);
     // Brings the form to the front and puts the focus where its work starts.
-    void bringToFront();
+    virtual void bringToFront();
+    // Whether opening the screen again while it shows loads it again.
+    virtual bool loadsAgain() const { return false; }
 
 protected:
     // The screen's load: fills the controls; runs inside the guard.
@@ -46,8 +48,7 @@ protected:
     // Connects a signal to a handler inside the guard. Only the signal's first arguments
     // that the handler takes are handed on.
     template <typename Sender, typename Signal, typename Self, typename... Args>
-    void connectHandler(Sender* sender, Signal signal, Self* self,
-                        void (Self::*handler)(Args...)) {
+    void connectHandler(Sender* sender, Signal signal, Self* self, void (Self::*handler)(Args...)) {
         connect(sender, signal, self, [self, handler](Args... args) {
             self->runHandler([&] { (self->*handler)(args...); });
         });
@@ -67,6 +68,7 @@ protected:
         }
     }
 
+    QWidget* opener() const { return m_opener; }
     Module1& module() { return m_context.module; }
     Platform& platform() { return m_context.platform; }
     Screens& screens() { return m_context.screens; }

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "app/appscreens.h"
+
+#include "screens/main/frmVantrelDupe.h"
+#include "screens/main/frmVantrelMain.h"
+#include "screens/start/frmVantrelStart.h"
+
+#include <QApplication>
+
+namespace vantrel {
+
+AppScreens::~AppScreens() {
+    for (const auto& [screen, form] : m_slots)
+        delete form.data();
+}
+
+Form* AppScreens::make(Screen screen) {
+    const FormContext context{m_module, m_platform, *this};
+    switch (screen) {
+    case Screen::start:
+        return new frmVantrelStart(context);
+    case Screen::main:
+        return new frmVantrelMain(context);
+    case Screen::dupe:
+        return new frmVantrelDupe(context);
+    default:
+        return nullptr;
+    }
+}
+
+void AppScreens::open(Screen screen) {
+    QPointer<Form>& slot = m_slots[screen];
+    QWidget* opener = QApplication::activeWindow();
+    if (slot && slot->isVisible() && !slot->loadsAgain()) {
+        slot->bringToFront();
+        return;
+    }
+    if (!slot)
+        slot = make(screen);
+    if (slot)
+        slot->open(opener);
+}
+
+StartPage* AppScreens::startPage() {
+    return dynamic_cast<StartPage*>(m_slots[Screen::start].data());
+}
+
+MainPage* AppScreens::mainPage() {
+    return dynamic_cast<MainPage*>(m_slots[Screen::main].data());
+}
+
+void AppScreens::handBackPath(FinderMode mode, const std::string& path) {
+    const std::map<FinderMode, Screen> receivers{{FinderMode::memberList, Screen::memberUpdate},
+                                                 {FinderMode::backup, Screen::backup},
+                                                 {FinderMode::start, Screen::start}};
+    const auto receiver = receivers.find(mode);
+    if (receiver == receivers.end())
+        return;
+    if (auto* form = dynamic_cast<PathReceiver*>(m_slots[receiver->second].data()))
+        form->receivePath(path);
+}
+
+void AppScreens::quit() {
+    QCoreApplication::exit(0);
+}
+
+} // namespace vantrel

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "platform/programfolder.h"
+
+#include "platform/filenames.h"
+#include "shared/fixedtext.h"
+#include "shared/runtimeerror.h"
+#include "shared/settings.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace vantrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* lockName = ".vantrel-lock";
+
+bool holdsData(const std::string& folder) {
+    std::error_code ignored;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+        const std::string name = upper(entry.path().filename().string());
+        if (name == upper(configurationFile) || name.ends_with(".CBR"))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+std::string chooseProgramFolder(const std::string& executableFolder,
+                                const std::string& userFolder) {
+    if (::access(executableFolder.c_str(), W_OK) == 0)
+        return executableFolder;
+    const std::string reason = std::strerror(errno);
+    if (holdsData(executableFolder))
+        throw RuntimeError(ErrorCode::permissionDenied, "the program's folder cannot be written: " +
+                                                            shownText(executableFolder) + ": " +
+                                                            reason);
+    std::error_code error;
+    fs::create_directories(userFolder, error);
+    if (error)
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           shownText(userFolder) + ": " + error.message());
+    return userFolder;
+}
+
+FolderLock::FolderLock(const std::string& folder) {
+    const std::string path = (fs::path(folder) / lockName).string();
+    m_file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (m_file < 0)
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           shownText(path) + ": " + std::strerror(errno));
+    m_held = ::flock(m_file, LOCK_EX | LOCK_NB) == 0;
+}
+
+FolderLock::~FolderLock() {
+    ::close(m_file);
+}
+
+} // namespace vantrel

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/frmVantrelDupe.h"
+
+#include "platform/qt/formbuilder.h"
+#include "platform/sound.h"
+
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace vantrel {
+
+namespace {
+constexpr int shownMilliseconds = 2000;
+} // namespace
+
+frmVantrelDupe::frmVantrelDupe(const FormContext& context)
+    : Form(context, "frmVantrelDupe", "Dupe") {
+    // A tool tip is the one kind of window that takes no keyboard on every platform.
+    setWindowFlags(Qt::ToolTip);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    QPalette red(palette());
+    red.setColor(QPalette::Window, QColor(0xC0, 0, 0));
+    red.setColor(QPalette::WindowText, Qt::white);
+    setPalette(red);
+
+    FormBuilder build(this);
+    Label1 = build.label("Label1", "DUPE");
+    Label1->setAlignment(Qt::AlignCenter);
+    Label1->setFont(enlargedFont(this, 8));
+    Timer1 = new QTimer(this);
+    Timer1->setObjectName(QStringLiteral("Timer1"));
+    Timer1->setSingleShot(true);
+    Timer1->setInterval(shownMilliseconds);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(60, 30, 60, 30);
+    layout->addWidget(Label1);
+    connectHandler(Timer1, &QTimer::timeout, this, &frmVantrelDupe::Timer1_Timer);
+}
+
+void frmVantrelDupe::Form_Load() {
+    Timer1->start();
+    if (module().audioOn)
+        platform().sound.playDupeAlarm();
+    module().dupeFlag = true;
+    // A refused contact leaves nothing behind in the boxes.
+    if (MainPage* page = screens().mainPage(); page != nullptr && !module().settings.logsDupes())
+        page->clearEntry(EntryBoxes::empty);
+    if (const QWidget* above = opener()) {
+        adjustSize();
+        move(above->geometry().center() - rect().center());
+    }
+}
+
+void frmVantrelDupe::bringToFront() {
+    raise();
+}
+
+void frmVantrelDupe::Timer1_Timer() {
+    close();
+}
+
+} // namespace vantrel

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// The word "DUPE", large and red, for two seconds; it never takes the keyboard.
+#pragma once
+
+#include "platform/qt/form.h"
+
+class QLabel;
+class QTimer;
+
+namespace vantrel {
+
+class frmVantrelDupe : public Form {
+    Q_OBJECT
+
+public:
+    explicit frmVantrelDupe(const FormContext& context);
+
+    // A second duplicate while the screen shows starts its two seconds again.
+    bool loadsAgain() const override { return true; }
+    void bringToFront() override;
+
+protected:
+    void Form_Load() override;
+
+private:
+    void Timer1_Timer();
+
+    QLabel* Label1; // "DUPE"
+    QTimer* Timer1; // closes the screen
+};
+
+} // namespace vantrel

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "fakes/failingcalls.h"
+#include "fakes/fakeclock.h"
+#include "platform/files.h"
+#include "screens/main/qsoentry.h"
+#include "shared/module1.h"
+#include "support/contacts.h"
+#include "support/errors.h"
+#include "support/tempfolder.h"
+
+namespace vantrel::test {
+namespace {
+
+using ::testing::HasSubstr;
+
+class QsoEntry : public ::testing::Test {
+protected:
+    QsoEntry() {
+        module.settings.myCall = "W1ABC";
+        module.settings.myName = "JOHN";
+        module.settings.myState = "MA";
+        module.settings.myNumber = "1234T";
+        module.settings.logFileName = "SKS061611.CBR";
+        folder.write("SKS061611.CBR", logHeaderLines);
+    }
+
+    std::string lineFor(const Entry& entry) {
+        Qso contact = contactFrom(entry, module, clock);
+        std::string mhz = entry.frequency;
+        EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::good);
+        return assembleLine(contact);
+    }
+
+    TempFolder folder;
+    FailingCalls calls;
+    Files files{folder.string(), calls};
+    FakeClock clock;
+    Module1 module;
+};
+
+TEST_F(QsoEntry, LineIsCutAndPaddedToItsColumns) {
+    EXPECT_EQ(lineFor({"k9skc", "CLUB", "IL", "5000S", "599", "599", "14.050"}),
+              "QSO: 14050 CW 2011-06-16 0012 W1ABC      599 JOHN       MA 1234T K9SKC      599 "
+              "CLUB       IL  5000S       ");
+    EXPECT_EQ(lineFor({" vk2/g4abcde ", "BARTHOLOMEW", "NSWX", "12345678", "59", "5999", "7"}),
+              "QSO:  7000 CW 2011-06-16 0012 W1ABC      59  JOHN       MA 1234T VK2/G4ABCD 599 "
+              "BARTHOLOME NSW 123456      ");
+}
+
+TEST_F(QsoEntry, SeparatorsNeverReachTheLine) {
+    const std::string line = lineFor({"K1,A", "A,B\tC", "M,A", "1,2", "5,9", "", "14.050"});
+    EXPECT_EQ(line, contactLine({.rstSent = "5 9",
+                                 .hisCall = "K1 A",
+                                 .rstReceived = "",
+                                 .hisName = "A B C",
+                                 .hisState = "M A",
+                                 .hisNumber = "1 2"}));
+}
+
+TEST_F(QsoEntry, SettingWiderThanItsFieldIsRefusedByName) {
+    module.settings.myName = "BARTHOLOMEW";
+    EXPECT_RUNTIME_ERROR(contactFrom({"K9SKC", {}, {}, {}, {}, {}, {}}, module, clock),
+                         ErrorCode::invalidCall, HasSubstr("my name"));
+}
+
+TEST_F(QsoEntry, OtherBandsAreLoggedInTheEventOnly) {
+    Qso contact;
+    std::string mhz = "10";
+    EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::outsideSprintBands);
+    EXPECT_EQ(mhz, "10.000");
+    module.settings.contestText = "K3Y";
+    mhz = "10.120";
+    EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::good);
+    EXPECT_EQ(contact.frequency, "10120");
+    for (const char* unloggable : {"", "QRL", "145.500", "14.O5"}) {
+        mhz = unloggable;
+        EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::missing) << unloggable;
+    }
+}
+
+TEST_F(QsoEntry, LookupFillsACallAndTurnsANumberIntoItsCall) {
+    folder.write("SKSDB2.TXT", "K1ABC     0123T     JOHN      MA \r\n");
+    Entry entry;
+    entry.call = "K1ABC";
+    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::found);
+    EXPECT_EQ(entry.name, "JOHN      ");
+    EXPECT_EQ(entry.state, "MA ");
+    EXPECT_EQ(entry.number, "0123T     ");
+
+    entry = {};
+    entry.call = "123C";
+    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::callOfNumber);
+    EXPECT_EQ(entry.call, "K1ABC     ");
+    EXPECT_EQ(entry.number, "");
+
+    entry.call = "9";
+    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::nobody);
+    EXPECT_EQ(entry.call, "");
+
+    entry.call = "4X1AB"; // a call, though it begins with a digit
+    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::notFound);
+    EXPECT_EQ(entry.call, "4X1AB");
+}
+
+TEST_F(QsoEntry, ForgettingALookupKeepsWhatTheOperatorChanged) {
+    const Entry lookedUp{"K1ABC", "JOHN      ", "MA ", "0123T     ", {}, {}, {}};
+    Entry now = lookedUp;
+    now.state = "NH";
+    forgetLookup(now, lookedUp);
+    EXPECT_EQ(now.name, "");
+    EXPECT_EQ(now.state, "NH");
+    EXPECT_EQ(now.number, "");
+}
+
+TEST_F(QsoEntry, ShortCallsAreNotLookedUp) {
+    EXPECT_FALSE(canLookUp(""));
+    EXPECT_FALSE(canLookUp("K1"));
+    EXPECT_FALSE(canLookUp("\xC5"));
+    EXPECT_TRUE(canLookUp("7"));
+    EXPECT_TRUE(canLookUp("K1A"));
+    EXPECT_FALSE(canBeLogged({.call = "  K1  "}));
+    EXPECT_TRUE(isComplete({.number = "99"}));
+    EXPECT_FALSE(isComplete({.number = " "}));
+}
+
+TEST_F(QsoEntry, ContactIsOnTheDiskBeforeAnythingElse) {
+    openLog(module, files);
+    module.currentLine = contactLine({});
+    appendContact(module, files);
+    EXPECT_EQ(folder.read("SKS061611.CBR"), logHeaderLines + contactLine({}) + "\r\n");
+    bringUpToDate(module, files);
+    EXPECT_EQ(countText(module), "01");
+    EXPECT_EQ(folder.read("StnsWorked.TXT"),
+              "K9SKC     | CLUB      |5000S  | IL  | 14050 | 0012 | 2011-06-16|      \r\n");
+    EXPECT_THAT(module.workedStations.entries(), ::testing::SizeIs(1));
+}
+
+TEST_F(QsoEntry, LogBeyondTheTableIsReportedAndStillShown) {
+    std::string log = logHeaderLines;
+    for (int i = 0; i < QsoTable::capacity + 1; ++i)
+        log += contactLine({}) + "\r\n";
+    folder.write("SKS061611.CBR", log);
+    EXPECT_RUNTIME_ERROR(openLog(module, files), ErrorCode::subscriptOutOfRange,
+                         HasSubstr("12000"));
+    EXPECT_EQ(countText(module), "12000");
+    EXPECT_EQ(module.workedStations.size(), Module1::workedCapacity);
+    EXPECT_EQ(folder.read("SKS061611.CBR"), log);
+}
+
+TEST_F(QsoEntry, LogThatVanishedLeavesAnEmptyTable) {
+    openLog(module, files);
+    module.settings.logFileName = "GONE.CBR";
+    EXPECT_RUNTIME_ERROR(openLog(module, files), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
+    EXPECT_EQ(countText(module), "00");
+}
+
+} // namespace
+} // namespace vantrel::test

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// A whole program around one form test: a folder of its own, real files and screens, fakes
+// for the rest of the machine.
+#pragma once
+
+#include "app/appscreens.h"
+#include "fakes/failingcalls.h"
+#include "fakes/fakeclock.h"
+#include "fakes/fakedevices.h"
+#include "fakes/fakemessages.h"
+#include "fakes/fakeserialport.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+#include "support/qt/hands.h"
+#include "support/tempfolder.h"
+
+namespace vantrel::test {
+
+class FormHarness : public Hands {
+public:
+    TempFolder folder;
+    FailingCalls calls;
+    Files files{folder.string(), calls};
+    FakeClock clock;
+    FakeMessages messages;
+    FakeEventLoop eventLoop;
+    FakeSerialPort serialPort;
+    FakeSound sound;
+    FakePrinter printer;
+    FakeLauncher launcher;
+    Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
+    Module1 module;
+    AppScreens screens{module, platform};
+};
+
+} // namespace vantrel::test

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "support/qt/hands.h"
+
+#include "platform/qt/latin1.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+namespace vantrel::test {
+
+namespace {
+
+QWidget* visibleForm(const char* name) {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->objectName() == QLatin1String(name))
+            return widget;
+    return nullptr;
+}
+
+// Keys go to the line inside an editable combo, as they do when one clicks into it.
+QWidget* keyTarget(QWidget* control) {
+    auto* combo = qobject_cast<QComboBox*>(control);
+    return combo != nullptr && combo->isEditable() ? combo->lineEdit() : control;
+}
+
+} // namespace
+
+QWidget* Hands::form(const char* name) const {
+    QWidget* found = visibleForm(name);
+    if (found == nullptr)
+        throw std::runtime_error(std::string("no form ") + name + " shows");
+    return found;
+}
+
+bool Hands::isOpen(const char* name) const {
+    return visibleForm(name) != nullptr;
+}
+
+std::string Hands::shown(const char* formName, const char* name) const {
+    QWidget* found = control(formName, name);
+    if (auto* box = qobject_cast<QLineEdit*>(found))
+        return fromQt(box->text());
+    if (auto* label = qobject_cast<QLabel*>(found))
+        return fromQt(label->text());
+    if (auto* combo = qobject_cast<QComboBox*>(found))
+        return fromQt(combo->currentText());
+    if (auto* button = qobject_cast<QAbstractButton*>(found))
+        return fromQt(button->text());
+    throw std::runtime_error(std::string(name) + " shows no text");
+}
+
+std::vector<std::string> Hands::lines(const char* formName, const char* name) const {
+    const QAbstractItemModel* model = control<QAbstractItemView>(formName, name)->model();
+    std::vector<std::string> result;
+    for (int row = 0; row < model->rowCount(); ++row)
+        result.push_back(fromQt(model->index(row, 0).data().toString()));
+    return result;
+}
+
+void Hands::type(const char* formName, const char* name, std::string_view text) {
+    QWidget* target = keyTarget(control(formName, name));
+    target->setFocus();
+    if (auto* box = qobject_cast<QLineEdit*>(target))
+        box->selectAll();
+    if (text.empty())
+        QTest::keyClick(target, Qt::Key_Delete);
+    else
+        QTest::keyClicks(target, toQt(text));
+}
+
+void Hands::choose(const char* formName, const char* name, std::string_view entry) {
+    auto* combo = control<QComboBox>(formName, name);
+    const int position = combo->findText(toQt(entry));
+    if (position < 0)
+        throw std::runtime_error(std::string(name) + " has no entry " + std::string(entry));
+    combo->setCurrentIndex(position);
+}
+
+void Hands::click(const char* formName, const char* name) {
+    auto* button = control<QAbstractButton>(formName, name);
+    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(10, button->height() / 2));
+}
+
+void Hands::press(const char* formName, const char* name, Qt::Key key,
+                  Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(keyTarget(control(formName, name)), key, modifiers);
+}
+
+void Hands::settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+} // namespace vantrel::test

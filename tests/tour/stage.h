@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// The stage of the tour: the real program in a folder of its own, a clock that the tour sets,
+// pictures of every screen, and answers to the message boxes that come up.
+#pragma once
+
+#include "app/appscreens.h"
+#include "fakes/fakeclock.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+#include "platform/qt/qteventloop.h"
+#include "platform/qt/qtlauncher.h"
+#include "platform/qt/qtmessages.h"
+#include "platform/qt/qtprinter.h"
+#include "platform/qt/qtserialport.h"
+#include "platform/qt/qtsound.h"
+#include "platform/systemcalls.h"
+#include "shared/module1.h"
+#include "support/qt/hands.h"
+
+#include <filesystem>
+#include <string>
+
+namespace vantrel::test {
+
+class Stage : public Hands {
+public:
+    // Everything is played in `folder`, which is emptied first; pictures go to its
+    // "pictures" folder.
+    explicit Stage(const std::filesystem::path& folder);
+
+    // Runs `action`, which must bring up a message box with this text; takes a picture of
+    // it and presses Yes (or OK) or No.
+    template <typename Action>
+    void answering(const std::string& text, bool yes, Action&& action) {
+        expectBox(text, yes);
+        action();
+        boxMustHaveCome();
+    }
+
+    // Saves "NN-name.png" of the form as it looks now.
+    void picture(const char* formName, const std::string& name);
+
+    // Throws with both texts unless they are equal.
+    void check(const std::string& what, const std::string& got, const std::string& expected);
+    // Compares a file of the folder byte for byte.
+    void checkFile(const std::string& name, const std::string& expected);
+
+    std::filesystem::path folder;
+    FakeClock clock;
+    SystemCalls calls;
+    Files files;
+    QtMessages messages;
+    QtEventLoop eventLoop;
+    QtSerialPort serialPort{files};
+    QtSound sound;
+    QtPrinter printer;
+    QtLauncher launcher;
+    Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
+    Module1 module;
+    AppScreens screens{module, platform};
+
+private:
+    void expectBox(const std::string& text, bool yes);
+    void boxMustHaveCome() const;
+    void save(QWidget* window, const std::string& name);
+
+    int m_pictures = 0;
+    bool m_boxCame = true;
+    std::string m_boxText;
+};
+
+} // namespace vantrel::test

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// The five roster files brought into the order of their members' numbers.
+#pragma once
+
+namespace vantrel {
+
+class Files;
+
+// Sorts "SKSDB1.TXT" to "SKSDB5.TXT", each by the number in its lines; lines with equal numbers
+// keep their order. All five are replaced or none. Throws RuntimeError 53 for a missing file, 9
+// for one of more than 8,000 lines, and as Files::rewriteAll.
+void sortRosterFiles(Files& files);
+
+} // namespace vantrel

@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+#include "output/strictadif.h"
+
+#include "output/contactdate.h"
+#include "output/outputfiles.h"
+#include "output/regioncodes.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "shared/bands.h"
+#include "shared/logfile.h"
+#include "shared/qsoline.h"
+#include "shared/qsotable.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vantrel {
+
+namespace {
+
+namespace chrono = std::chrono;
+
+constexpr std::size_t typicalRecord = 320; // bytes
+constexpr std::string_view adifVersion = "3.1.4";
+constexpr std::string_view programId = "VANTREL"; // also part of our own fields' names
+
+// ADIF's numbers of the countries that divide into states.
+constexpr std::string_view unitedStates = "291";
+constexpr std::string_view alaska = "6";
+constexpr std::string_view hawaii = "110";
+constexpr std::string_view canada = "1";
+
+// --- Values -----------------------------------------------------------------------------------
+
+// What the characters 0xC0 to 0xFF of ISO 8859-1 are without their accents.
+constexpr std::array<std::string_view, 64> unaccented{
+    "A", "A", "A", "A", "A", "A", "AE", "C", "E", "E", "E", "E", "I", "I", "I",  "I",
+    "D", "N", "O", "O", "O", "O", "O",  "x", "O", "U", "U", "U", "U", "Y", "TH", "ss",
+    "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
+    "d", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "th", "y"};
+
+// Trimmed and in printable ASCII; `?` for what has no plain letter.
+std::string plainText(std::string_view field) {
+    std::string result;
+    for (const char character : trim(field)) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= 0xC0)
+            result += unaccented[byte - 0xC0U];
+        else
+            result += byte >= ' ' && byte <= '~' ? character : '?';
+    }
+    return result;
+}
+
+std::string dateText(const chrono::year_month_day& date) {
+    return zeroPadded(static_cast<int>(date.year()), 4) +
+           zeroPadded(static_cast<int>(static_cast<unsigned>(date.month())), 2) +
+           zeroPadded(static_cast<int>(static_cast<unsigned>(date.day())), 2);
+}
+
+// "14.050" for a field of kHz, empty when it holds no frequency.
+std::string megahertz(std::string_view field) {
+    const std::string_view khz = trim(field);
+    if (!std::all_of(khz.begin(), khz.end(), isDigit) || numericValue(khz) == 0)
+        return {};
+    const int value = static_cast<int>(numericValue(khz));
+    return std::to_string(value / 1000) + '.' + zeroPadded(value % 1000, 3);
+}
+
+// "20m" for a frequency in MHz, as ADIF's own list spells it; empty outside our bands.
+std::string bandName(std::string_view mhz) {
+    const Band* band = bandOfMhz(mhz);
+    return band == nullptr ? std::string()
+                           : std::string(left(band->label, length(band->label) - 1)) + 'm';
+}
+
+// Digits, and the award letter if any. "100W" is a non-member's power and "NONE" nobody's.
+bool isMemberNumber(std::string_view number) {
+    return !number.empty() && isDigit(number.front()) && !number.ends_with('W') &&
+           std::all_of(number.begin(), number.end(), [](char character) {
+               return isDigit(character) || isCapital(upper(character));
+           });
+}
+
+// --- States and provinces ---------------------------------------------------------------------
+
+bool between(char character, char first, char last) {
+    return character >= first && character <= last;
+}
+
+bool isUnitedStatesCall(std::string_view call) {
+    const char first = call.empty() ? ' ' : call.front();
+    const char second = length(call) < 2 ? ' ' : call[1];
+    return first == 'K' || first == 'N' || first == 'W' ||
+           (first == 'A' && between(second, 'A', 'L'));
+}
+
+bool isCanadianCall(std::string_view call) {
+    const char first = call.empty() ? ' ' : call.front();
+    const char second = length(call) < 2 ? ' ' : call[1];
+    return (first == 'V' &&
+            (between(second, 'A', 'G') || second == 'O' || between(second, 'X', 'Y'))) ||
+           (first == 'C' && (between(second, 'F', 'K') || between(second, 'Y', 'Z'))) ||
+           (first == 'X' && between(second, 'J', 'O'));
+}
+
+// True when any of the call's parts ("VE3/W1ABC", "W1ABC/7") belongs to the country.
+bool anyPart(std::string_view call, bool (*ofCountry)(std::string_view)) {
+    for (;;) {
+        const std::size_t slash = call.find('/');
+        if (ofCountry(call.substr(0, slash)))
+            return true;
+        if (slash == std::string_view::npos)
+            return false;
+        call.remove_prefix(slash + 1);
+    }
+}
+
+// ADIF's number of the country that `code` is a state or province of; empty when it is none.
+// The call decides as well: members elsewhere send their prefix as code, and "OK" is Oklahoma
+// for K5ABC but the Czech Republic for OK1ABC, "ON" Ontario or Belgium.
+std::string_view countryOfState(std::string_view code, std::string_view call) {
+    if (anyPart(call, isUnitedStatesCall)) {
+        if (code == "AK")
+            return alaska;
+        if (code == "HI")
+            return hawaii;
+        if (code == "DC" || holdsCode(adjoiningStates, code))
+            return unitedStates;
+    }
+    if (anyPart(call, isCanadianCall) && (code == "YT" || holdsCode(canadianProvinces, code)))
+        return canada;
+    return {};
+}
+
+// --- Records ----------------------------------------------------------------------------------
+
+// "<NAME:4>JOHN " for a value, nothing without one.
+void appendField(std::string& bytes, std::string_view name, std::string_view value) {
+    if (value.empty())
+        return;
+    bytes += '<';
+    bytes.append(name).append(":").append(std::to_string(value.size())).append(">");
+    bytes.append(value).append(" ");
+}
+
+void appendOwnField(std::string& bytes, std::string_view name, std::string_view value) {
+    appendField(bytes, "APP_" + std::string(programId) + '_' + std::string(name), value);
+}
+
+// What he sent that has no field of its own: a prefix for a state, a power for a number.
+std::string notesOf(std::string_view prefix, std::string_view number) {
+    std::string notes(prefix);
+    if (!isMemberNumber(number) && !number.empty())
+        notes.append(notes.empty() ? "" : " ").append(number);
+    return notes;
+}
+
+void appendWhen(std::string& bytes, std::string_view contact) {
+    if (const auto day = contactDay(contact))
+        appendField(bytes, "QSO_DATE", dateText(*day));
+    if (contactTime(contact))
+        appendField(bytes, "TIME_ON", qso::time.of(contact));
+}
+
+void appendMarker(std::string& bytes, std::string_view contact) {
+    const std::string marker = plainText(qso::marker.of(contact));
+    if (isDupe(contact))
+        appendOwnField(bytes, "DUPE", "Y");
+    else if (marker.starts_with("K3Y"))
+        appendOwnField(bytes, "K3Y", marker);
+}
+
+void appendHisSide(std::string& bytes, std::string_view contact, const std::string& call) {
+    const std::string state = plainText(qso::hisState.of(contact));
+    const std::string number = plainText(qso::hisNumber.of(contact));
+    const std::string_view country = countryOfState(state, call);
+    appendField(bytes, "RST_RCVD", plainText(qso::rstReceived.of(contact)));
+    appendField(bytes, "NAME", plainText(qso::hisName.of(contact)));
+    appendField(bytes, "STATE", country.empty() ? std::string_view() : state);
+    appendField(bytes, "DXCC", country);
+    appendField(bytes, "SKCC", isMemberNumber(number) ? number : std::string_view());
+    appendField(bytes, "NOTES", notesOf(country.empty() ? state : std::string_view(), number));
+}
+
+void appendMySide(std::string& bytes, std::string_view contact) {
+    const std::string call = plainText(qso::myCall.of(contact));
+    const std::string state = plainText(qso::myState.of(contact));
+    const std::string_view country = countryOfState(state, call);
+    appendField(bytes, "RST_SENT", plainText(qso::rstSent.of(contact)));
+    appendField(bytes, "STATION_CALLSIGN", call);
+    appendField(bytes, "OPERATOR", call);
+    appendField(bytes, "MY_STATE", country.empty() ? std::string_view() : state);
+    appendField(bytes, "MY_DXCC", country);
+}
+
+void appendContact(std::string& bytes, std::string_view contact) {
+    const std::string call = plainText(qso::hisCall.of(contact));
+    const std::string mhz = megahertz(qso::frequency.of(contact));
+    appendField(bytes, "CALL", call);
+    appendWhen(bytes, contact);
+    appendField(bytes, "BAND", bandName(mhz));
+    appendField(bytes, "FREQ", mhz);
+    appendField(bytes, "MODE", plainText(qso::mode.of(contact)));
+    appendHisSide(bytes, contact, call);
+    appendMySide(bytes, contact);
+    appendMarker(bytes, contact);
+    bytes += "<EOR>\r\n";
+}
+
+void appendHeader(std::string& bytes, std::string_view created) {
+    bytes += "Contacts logged with Vantrel\r\n";
+    appendField(bytes, "ADIF_VER", adifVersion);
+    appendField(bytes, "PROGRAMID", programId);
+    appendField(bytes, "PROGRAMVERSION", VANTREL_VERSION);
+    appendField(bytes, "CREATED_TIMESTAMP", created);
+    bytes += "<EOH>\r\n";
+}
+
+} // namespace
+
+// The sprints and the K3Y event are not in ADIF's list of contests: no CONTEST_ID.
+std::string strictAdifText(const std::vector<std::string_view>& contacts,
+                           std::string_view created) {
+    std::string bytes;
+    bytes.reserve((contacts.size() + 1) * typicalRecord);
+    appendHeader(bytes, created);
+    for (const std::string_view contact : contacts)
+        appendContact(bytes, contact);
+    return bytes;
+}
+
+std::string creationTime(const LocalTime& local, std::string_view gmtOffset) {
+    const chrono::year_month_day localDay(chrono::year(local.year),
+                                          chrono::month(static_cast<unsigned>(local.month)),
+                                          chrono::day(static_cast<unsigned>(local.day)));
+    const auto utc =
+        chrono::sys_days(localDay) + chrono::hours(local.hour + numericValue(gmtOffset));
+    const auto day = chrono::floor<chrono::days>(utc);
+    const auto hour = chrono::duration_cast<chrono::hours>(utc - day).count();
+    return dateText(day) + ' ' + zeroPadded(static_cast<int>(hour), 2) +
+           zeroPadded(local.minute, 2) + zeroPadded(local.second, 2);
+}
+
+std::string exportStrictAdif(Files& files, const Clock& clock, const OperatingSettings& settings,
+                             QsoTable& table) {
+    loadLog(files, settings.logFileName, table);
+    const std::string name = strictAdifFileName(settings.logFileName);
+    files.rewrite(name,
+                  strictAdifText(table.lines(), creationTime(clock.now(), settings.gmtOffset)));
+    return files.path(name);
+}
+
+} // namespace vantrel

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "output/contacts.h"
+#include "output/contestpicture.h"
+#include "shared/fixedtext.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace vantrel::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+// "16 00Z 40m:1 20m:2", a break before it as "... ".
+std::vector<std::string> shown(const std::vector<std::string>& lines) {
+    std::vector<std::string> result;
+    for (const PictureHour& hour : contactsPerHour(views(lines))) {
+        std::string text = (hour.afterBreak ? "... " : "") + zeroPadded(hour.day, 2) + ' ' +
+                           zeroPadded(hour.hour, 2) + 'Z';
+        for (std::size_t i = 0; i < hour.contacts.size(); ++i)
+            if (hour.contacts[i] != 0)
+                text += ' ' + (i < bands.size() ? std::string(bands[i].label) : "other") + ':' +
+                        std::to_string(hour.contacts[i]);
+        result.push_back(text);
+    }
+    return result;
+}
+
+TEST(ContestPicture, ContactsPerHourAndBandInTimeOrder) {
+    EXPECT_THAT(shown({line({.date = "2011-06-17", .time = "0000"}), line({.time = "2359"}),
+                       line({.frequency = "7040", .time = "2300"}), line({.time = "2301"}),
+                       line({.frequency = "50125", .time = "0659"}),
+                       line({.time = "2302", .marker = "DUPE"})}),
+                ElementsAre("16 06Z other:1", "... 16 23Z 40M:1 20M:2", "17 00Z 20M:1"));
+}
+
+TEST(ContestPicture, TheDayAfterAMonthEndFollowsTheDayBefore) {
+    EXPECT_THAT(shown({line({.date = "2011-06-30", .time = "2330"}),
+                       line({.date = "07-01-2011", .time = "0030"})}),
+                ElementsAre("30 23Z 20M:1", "01 00Z 20M:1"));
+}
+
+TEST(ContestPicture, UnreadableDatesAndTimesAreLeftOut) {
+    EXPECT_THAT(shown({line({.date = "2011-13-01"}), line({.date = "0000-01-01"}),
+                       line({.time = "2400"}), line({.time = "12 0"}), "QSO: 14050 CW"}),
+                ElementsAre());
+}
+
+TEST(ContestPicture, TheLastFortyEightHoursWithContacts) {
+    std::vector<std::string> lines;
+    for (int i = 0; i < 50; ++i)
+        lines.push_back(line({.date = "2011-06-" + zeroPadded(10 + i / 24, 2),
+                              .time = zeroPadded(i % 24, 2) + "00"}));
+    const auto hours = contactsPerHour(views(lines));
+    EXPECT_EQ(hours.size(), 48U);
+    EXPECT_EQ(hours.front().hour, 2);
+    EXPECT_FALSE(hours.front().afterBreak);
+}
+
+} // namespace
+} // namespace vantrel::test

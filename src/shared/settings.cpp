@@ -69,10 +69,10 @@ OperatingSettings loadSettings(const Files& files) {
     ItemReader reader(bytes);
     for (const SettingLine& line : settingLines) {
         if (reader.atEnd())
-            throw RuntimeError(ErrorCode::inputPastEnd,
-                               files.path(configurationFile) + " ends after line " +
-                                   std::to_string(reader.line()) + ": the " +
-                                   std::string(line.name) + " is missing");
+            throw RuntimeError(ErrorCode::inputPastEnd, files.path(configurationFile) + ": line " +
+                                                            std::to_string(reader.line() + 1) +
+                                                            " (" + std::string(line.name) +
+                                                            ") is missing");
         settings.*line.field = std::string(trimRight(reader.next()));
     }
     return settings;

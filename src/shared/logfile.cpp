@@ -13,8 +13,9 @@ namespace vantrel {
 
 namespace {
 
+// By the same reading as the QSO table's: whatever was counted is worth keeping.
 bool holdsContacts(std::string_view logBytes) {
-    LineReader reader(logBytes);
+    ItemReader reader(logBytes);
     while (!reader.atEnd())
         if (isContact(reader.next()))
             return true;

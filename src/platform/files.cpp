@@ -65,6 +65,12 @@ ErrorCode codeFor(int error, const std::string& path) {
     throw RuntimeError(codeFor(error, path), shownText(path) + ": " + std::strerror(error));
 }
 
+// True for any entry of that path, a link that leads nowhere too.
+bool exists(const std::string& path) {
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(path, ignored));
+}
+
 // Throws unless `path` is a regular file or nothing at all.
 void requireRegular(const std::string& path) {
     struct stat status {};
@@ -119,7 +125,8 @@ std::string Files::path(std::string_view name) const {
 
 bool Files::present(std::string_view name) const {
     std::error_code ignored;
-    return fs::exists(fs::symlink_status(nativePath(name), ignored));
+    const fs::file_status status = fs::symlink_status(nativePath(name), ignored);
+    return status.type() != fs::file_type::not_found;
 }
 
 std::string Files::read(std::string_view name) const {
@@ -233,7 +240,7 @@ void Files::rewrite(std::string_view name, std::string_view bytes) {
 
 std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
     std::string taken(name);
-    for (int number = 2; present(taken); ++number)
+    for (int number = 2; exists(nativePath(taken)); ++number)
         taken = std::string(name) + std::to_string(number);
     const std::string path = nativePath(taken);
     writeWhole(path, O_EXCL, bytes);

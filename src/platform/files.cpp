@@ -157,13 +157,23 @@ std::string Files::readOrEmpty(std::string_view name) const {
     return present(name) ? read(name) : std::string();
 }
 
-// The real file behind the name (a link's target is rewritten, not the link), checked to be
-// one that the operator may change: a rename would not ask.
+// The real file behind the name: a link's target is rewritten, not the link. A link that
+// leads nowhere is refused: the log on a stick that is not plugged in is no new log.
+std::string Files::targetPath(std::string_view name) const {
+    const std::string path = nativePath(name);
+    std::error_code error;
+    if (!fs::is_symlink(path, error))
+        return path;
+    const fs::path target = fs::canonical(path, error);
+    if (error)
+        fail(error.value(), path);
+    return target.string();
+}
+
+// The same, checked to be a file that the operator may change: a rename would not ask.
 std::string Files::writablePath(std::string_view name) const {
-    std::string path = nativePath(name);
+    const std::string path = targetPath(name);
     std::error_code ignored;
-    if (fs::is_symlink(path, ignored))
-        path = fs::weakly_canonical(path).string();
     requireRegular(path);
     if (fs::exists(path, ignored) && ::access(path.c_str(), W_OK) != 0)
         fail(errno, path);
@@ -353,7 +363,7 @@ void Files::recover() {
         while (!lines.atEnd()) {
             const std::string_view line = lines.next();
             const std::string name(line.substr(std::min<std::size_t>(1, line.size())));
-            replacements.push_back({name, nativePath(name), !line.empty() && line.front() == '+'});
+            replacements.push_back({name, targetPath(name), !line.empty() && line.front() == '+'});
         }
         if (mode == undoMode)
             undo(replacements);

@@ -64,6 +64,7 @@ private:
     };
 
     std::string readPath(const std::string& path) const;
+    std::string targetPath(std::string_view name) const;
     std::string writablePath(std::string_view name) const;
     void writeWhole(const std::string& path, int flags, std::string_view bytes);
     void writeAll(int file, std::string_view bytes, const std::string& path);

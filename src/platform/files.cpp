@@ -42,12 +42,16 @@ std::string oldPath(const std::string& target) {
     return scratchPath(target, oldSuffix);
 }
 
+std::string folderOf(const std::string& path) {
+    return fs::path(path).parent_path().string();
+}
+
 ErrorCode codeFor(int error, const std::string& path) {
     std::error_code ignored;
     switch (error) {
     case ENOENT:
-        return fs::exists(fs::path(path).parent_path(), ignored) ? ErrorCode::fileNotFound
-                                                                 : ErrorCode::pathNotFound;
+        return fs::exists(folderOf(path), ignored) ? ErrorCode::fileNotFound
+                                                   : ErrorCode::pathNotFound;
     case ENOTDIR:
         return ErrorCode::pathNotFound;
     case ENOSPC:
@@ -80,10 +84,12 @@ void requireRegular(const std::string& path) {
 
 class OpenFile {
 public:
-    OpenFile(SystemCalls& calls, const std::string& path, int flags, unsigned mode = newFileMode)
+    // named: the file that the operator knows, for the error.
+    OpenFile(SystemCalls& calls, const std::string& path, int flags, const std::string& named,
+             unsigned mode = newFileMode)
         : m_calls(calls), m_file(calls.open(path, flags | O_CLOEXEC, mode)) {
         if (m_file < 0)
-            fail(errno, path);
+            fail(errno, named);
     }
     ~OpenFile() { m_calls.close(m_file); }
     OpenFile(const OpenFile&) = delete;
@@ -101,10 +107,10 @@ long long sizeOf(int file) {
 }
 
 // What ends a last line that a crash or an editor left open.
-std::string missingLineEnd(int file, long long size) {
+std::string missingLineEnd(int file, long long size, const std::string& path) {
     char last = '\n';
     if (size > 0 && ::pread(file, &last, 1, size - 1) != 1)
-        return {};
+        fail(errno, path);
     if (last == '\n')
         return {};
     return last == '\r' ? "\n" : "\r\n";
@@ -135,7 +141,7 @@ std::string Files::read(std::string_view name) const {
 
 std::string Files::readPath(const std::string& path) const {
     requireRegular(path);
-    const OpenFile file(m_calls, path, O_RDONLY);
+    const OpenFile file(m_calls, path, O_RDONLY, path);
     std::string bytes;
     struct stat status {};
     if (::fstat(file, &status) == 0 && status.st_size > 0)
@@ -193,33 +199,47 @@ void Files::writeAll(int file, std::string_view bytes, const std::string& path) 
         fail(errno, path);
 }
 
-// Creates the file and writes it through to the disk; nothing is left of it on failure.
-void Files::writeWhole(const std::string& path, int flags, std::string_view bytes) {
-    const OpenFile file(m_calls, path, O_WRONLY | O_CREAT | flags);
+// Creates the file, which must not be there, and writes it through to the disk; nothing is
+// left of it on failure. It stands in for `target`: it has that one's permissions from the
+// start, and errors name that one.
+void Files::create(const std::string& path, const std::string& target, std::string_view bytes) {
+    struct stat old {};
+    const bool replaces = ::stat(target.c_str(), &old) == 0;
+    const unsigned mode = replaces ? old.st_mode & 07777 : newFileMode;
+    const OpenFile file(m_calls, path, O_WRONLY | O_CREAT | O_EXCL, target, mode);
     try {
-        writeAll(file, bytes, path);
+        if (replaces)
+            ::fchmod(file, mode); // also what the umask took; not every file system can
+        writeAll(file, bytes, target);
     } catch (const RuntimeError&) {
         m_calls.remove(path);
         throw;
     }
 }
 
-void Files::syncFolderOf(const std::string& path) {
-    const std::string folder = fs::path(path).parent_path().string();
-    const OpenFile file(m_calls, folder, O_RDONLY | O_DIRECTORY);
+void Files::createBeside(const std::string& target, std::string_view bytes) {
+    m_calls.remove(newPath(target)); // what a crash may have left
+    create(newPath(target), target, bytes);
+}
+
+void Files::syncFolder(int folder, const std::string& path) {
     // Some file systems do not know how to sync a folder; that is no failure of ours.
-    if (m_calls.sync(file) != 0 && errno != EINVAL && errno != ENOTSUP)
-        fail(errno, folder);
+    if (m_calls.sync(folder) != 0 && errno != EINVAL && errno != ENOTSUP)
+        fail(errno, path);
+}
+
+void Files::syncFolderOf(const std::string& path) {
+    syncFolder(OpenFile(m_calls, folderOf(path), O_RDONLY | O_DIRECTORY, path), path);
 }
 
 void Files::appendLine(std::string_view name, std::string_view line) {
     const std::string path = writablePath(name);
     std::error_code ignored;
     const bool existed = fs::exists(path, ignored);
-    const OpenFile file(m_calls, path, O_RDWR | O_CREAT | O_APPEND);
+    const OpenFile file(m_calls, path, O_RDWR | O_CREAT | O_APPEND, path);
     const long long size = sizeOf(file);
     try {
-        writeAll(file, missingLineEnd(file, size) + std::string(line) + "\r\n", path);
+        writeAll(file, missingLineEnd(file, size, path) + std::string(line) + "\r\n", path);
         if (!existed)
             syncFolderOf(path);
     } catch (const RuntimeError&) {
@@ -234,18 +254,18 @@ void Files::appendLine(std::string_view name, std::string_view line) {
 }
 
 void Files::rewrite(std::string_view name, std::string_view bytes) {
-    const std::string target = writablePath(name);
-    const std::string beside = newPath(target);
-    writeWhole(beside, O_TRUNC, bytes);
-    struct stat old {};
-    if (::stat(target.c_str(), &old) == 0)
-        ::chmod(beside.c_str(), old.st_mode & 07777);
-    if (m_calls.rename(beside, target) != 0) {
+    replace(writablePath(name), bytes);
+}
+
+void Files::replace(const std::string& target, std::string_view bytes) {
+    const OpenFile folder(m_calls, folderOf(target), O_RDONLY | O_DIRECTORY, target);
+    createBeside(target, bytes);
+    if (m_calls.rename(newPath(target), target) != 0) {
         const int error = errno;
-        m_calls.remove(beside);
+        m_calls.remove(newPath(target));
         fail(error, target);
     }
-    syncFolderOf(target);
+    syncFolder(folder, target);
 }
 
 std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
@@ -253,8 +273,14 @@ std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
     for (int number = 2; exists(nativePath(taken)); ++number)
         taken = std::string(name) + std::to_string(number);
     const std::string path = nativePath(taken);
-    writeWhole(path, O_EXCL, bytes);
-    syncFolderOf(path);
+    const OpenFile folder(m_calls, folderOf(path), O_RDONLY | O_DIRECTORY, path);
+    create(path, path, bytes);
+    try {
+        syncFolder(folder, path);
+    } catch (const RuntimeError&) {
+        m_calls.remove(path);
+        throw;
+    }
     return shownText(path);
 }
 
@@ -279,7 +305,7 @@ void Files::rewriteAll(const std::vector<FileContent>& contents) {
     }
     try {
         for (std::size_t i = 0; i < contents.size(); ++i) {
-            writeWhole(newPath(replacements[i].target), O_TRUNC, contents[i].bytes);
+            createBeside(replacements[i].target, contents[i].bytes);
             if (replacements[i].existed)
                 keepOld(replacements[i].target);
         }
@@ -303,19 +329,15 @@ void Files::keepOld(const std::string& target) {
     if (m_calls.link(target, oldPath(target)) == 0)
         return;
     if (errno == ENOSPC || errno == EDQUOT)
-        fail(errno, oldPath(target));
-    writeWhole(oldPath(target), O_TRUNC, readPath(target));
+        fail(errno, target);
+    create(oldPath(target), target, readPath(target));
 }
 
 void Files::writeJournal(std::string_view mode, const std::vector<Replacement>& replacements) {
     std::string bytes(mode);
     for (const Replacement& replacement : replacements)
         bytes += (replacement.existed ? "\n+" : "\n-") + replacement.name;
-    const std::string beside = newPath(journalPath());
-    writeWhole(beside, O_TRUNC, bytes + "\n");
-    if (m_calls.rename(beside, journalPath()) != 0)
-        fail(errno, journalPath());
-    syncFolderOf(journalPath());
+    replace(journalPath(), bytes + "\n");
 }
 
 void Files::finish(const std::vector<Replacement>& replacements) {

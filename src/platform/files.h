@@ -42,7 +42,9 @@ public:
     // Appends `line` and CR LF, on the disk when this returns; creates a missing file. A
     // last line without a line end is ended first. On failure the file is as it was.
     void appendLine(std::string_view name, std::string_view line);
-    // Replaces the whole file: the old or the new one survives a crash, never a mixture.
+    // Replaces the whole file: the old or the new one survives a crash, never a mixture. On
+    // failure the file is as it was; only when its folder cannot be synced at the very end it
+    // is the new one.
     void rewrite(std::string_view name, std::string_view bytes);
     // Replaces several files of the program folder, all or none, even when the machine stops
     // in the middle: see recover().
@@ -66,8 +68,11 @@ private:
     std::string readPath(const std::string& path) const;
     std::string targetPath(std::string_view name) const;
     std::string writablePath(std::string_view name) const;
-    void writeWhole(const std::string& path, int flags, std::string_view bytes);
     void writeAll(int file, std::string_view bytes, const std::string& path);
+    void create(const std::string& path, const std::string& target, std::string_view bytes);
+    void createBeside(const std::string& target, std::string_view bytes);
+    void replace(const std::string& target, std::string_view bytes);
+    void syncFolder(int folder, const std::string& path);
     void syncFolderOf(const std::string& path);
     void keepOld(const std::string& target);
     void writeJournal(std::string_view mode, const std::vector<Replacement>& replacements);

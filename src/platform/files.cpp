@@ -3,15 +3,16 @@
 
 #include "platform/filenames.h"
 #include "platform/systemcalls.h"
+#include "shared/fixedtext.h"
 #include "shared/itemreader.h"
 #include "shared/runtimeerror.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <set>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -24,9 +25,8 @@ namespace {
 
 constexpr std::string_view newSuffix = ".vantrel-new";
 constexpr std::string_view oldSuffix = ".vantrel-old";
-constexpr std::string_view journalName = ".vantrel-journal";
-constexpr std::string_view finishMode = "finish";
-constexpr std::string_view undoMode = "undo";
+constexpr std::string_view finishJournal = ".vantrel-finish";
+constexpr std::string_view undoJournal = ".vantrel-undo";
 constexpr unsigned newFileMode = 0666; // less the operator's umask
 
 // Beside the target, hidden, so that a rename within the folder puts it in place.
@@ -66,7 +66,8 @@ ErrorCode codeFor(int error, const std::string& path) {
 }
 
 [[noreturn]] void fail(int error, const std::string& path) {
-    throw RuntimeError(codeFor(error, path), shownText(path) + ": " + std::strerror(error));
+    throw RuntimeError(codeFor(error, path),
+                       shownText(path) + ": " + shownText(std::strerror(error)));
 }
 
 // True for any entry of that path, a link that leads nowhere too.
@@ -232,6 +233,13 @@ void Files::syncFolderOf(const std::string& path) {
     syncFolder(OpenFile(m_calls, folderOf(path), O_RDONLY | O_DIRECTORY, path), path);
 }
 
+void Files::syncFoldersOf(const std::vector<Replacement>& replacements) {
+    std::set<std::string> synced; // a linked file lies in a folder of its own
+    for (const Replacement& replacement : replacements)
+        if (synced.insert(folderOf(replacement.target)).second)
+            syncFolderOf(replacement.target);
+}
+
 void Files::appendLine(std::string_view name, std::string_view line) {
     const std::string path = writablePath(name);
     std::error_code ignored;
@@ -287,16 +295,19 @@ std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
 // --- Several files at once -----------------------------------------------------------------
 //
 // 1. Every new file is written beside its target, every old one kept by a second name.
-// 2. The journal says "finish": from here on a crash is finished by the next start.
-// 3. The new files are renamed over the targets, the journal and the old names removed.
-// If a rename fails in step 3, the journal is changed to "undo" and the old files are put
-// back; a crash during that is undone to the end by the next start.
+// 2. The journal ".vantrel-finish" lists them: from here on a crash is finished by the next
+//    start.
+// 3. The new files are renamed over the targets; then the journal and the old names go.
+// If step 3 fails, the journal becomes ".vantrel-undo" (a rename: also a full disk can do
+// that) and the old files are put back; a crash during that is undone to the end by the next
+// start. A journal that cannot be removed is a failure: later it would speak of other files.
 
-std::string Files::journalPath() const {
-    return (fs::path(m_programFolder) / journalName).string();
+std::string Files::journalPath(std::string_view journal) const {
+    return (fs::path(m_programFolder) / journal).string();
 }
 
 void Files::rewriteAll(const std::vector<FileContent>& contents) {
+    recover(); // what an earlier one could not settle would mistake our files for its own
     std::vector<Replacement> replacements;
     for (const FileContent& content : contents) {
         const std::string target = writablePath(content.name);
@@ -309,16 +320,18 @@ void Files::rewriteAll(const std::vector<FileContent>& contents) {
             if (replacements[i].existed)
                 keepOld(replacements[i].target);
         }
-        writeJournal(finishMode, replacements);
+        syncFoldersOf(replacements); // the journal must not reach the disk before them
+        writeJournal(replacements);
     } catch (const RuntimeError&) {
+        m_calls.remove(journalPath(finishJournal));
         removeScratch(replacements);
         throw;
     }
     try {
         finish(replacements);
     } catch (const RuntimeError&) {
-        writeJournal(undoMode, replacements);
-        undo(replacements);
+        if (m_calls.rename(journalPath(finishJournal), journalPath(undoJournal)) == 0)
+            undo(replacements);
         throw;
     }
 }
@@ -333,38 +346,54 @@ void Files::keepOld(const std::string& target) {
     create(oldPath(target), target, readPath(target));
 }
 
-void Files::writeJournal(std::string_view mode, const std::vector<Replacement>& replacements) {
-    std::string bytes(mode);
+// A line each: "+" or "-" for a file that existed or not, and its name.
+void Files::writeJournal(const std::vector<Replacement>& replacements) {
+    std::string bytes;
     for (const Replacement& replacement : replacements)
-        bytes += (replacement.existed ? "\n+" : "\n-") + replacement.name;
-    replace(journalPath(), bytes + "\n");
+        bytes += (replacement.existed ? '+' : '-') + replacement.name + '\n';
+    replace(journalPath(finishJournal), bytes);
+}
+
+std::vector<Files::Replacement> Files::readJournal(std::string_view journal) const {
+    const std::string bytes = read(journal);
+    std::vector<Replacement> replacements;
+    for (LineReader lines(bytes); !lines.atEnd();) {
+        const std::string_view line = lines.next();
+        const std::string name(midToEnd(line, 2));
+        replacements.push_back({name, targetPath(name), left(line, 1) == "+"});
+    }
+    return replacements;
+}
+
+void Files::removeJournal(std::string_view journal) {
+    const std::string path = journalPath(journal);
+    if (m_calls.remove(path) != 0 && errno != ENOENT)
+        fail(errno, path);
 }
 
 void Files::finish(const std::vector<Replacement>& replacements) {
     for (const Replacement& replacement : replacements) {
+        // A new file that is there no longer is in place already.
         const std::string beside = newPath(replacement.target);
-        std::error_code ignored;
-        if (fs::exists(beside, ignored) && m_calls.rename(beside, replacement.target) != 0)
+        if (exists(beside) && m_calls.rename(beside, replacement.target) != 0)
             fail(errno, replacement.target);
     }
-    syncFolderOf(journalPath());
-    m_calls.remove(journalPath());
+    syncFoldersOf(replacements);
+    removeJournal(finishJournal);
     removeScratch(replacements);
 }
 
 void Files::undo(const std::vector<Replacement>& replacements) {
-    for (const Replacement& replacement : replacements) {
-        const std::string kept = oldPath(replacement.target);
-        std::error_code ignored;
+    for (const auto& [name, target, existed] : replacements) {
         // An old file that is kept no longer has been put back already.
-        if (replacement.existed && fs::exists(kept, ignored) &&
-            m_calls.rename(kept, replacement.target) != 0)
-            fail(errno, replacement.target);
-        if (!replacement.existed)
-            m_calls.remove(replacement.target);
+        const std::string kept = oldPath(target);
+        const bool undone = existed ? !exists(kept) || m_calls.rename(kept, target) == 0
+                                    : m_calls.remove(target) == 0 || errno == ENOENT;
+        if (!undone)
+            fail(errno, target);
     }
-    syncFolderOf(journalPath());
-    m_calls.remove(journalPath());
+    syncFoldersOf(replacements);
+    removeJournal(undoJournal);
     removeScratch(replacements);
 }
 
@@ -376,28 +405,18 @@ void Files::removeScratch(const std::vector<Replacement>& replacements) {
 }
 
 void Files::recover() {
-    std::error_code ignored;
-    if (fs::exists(journalPath(), ignored)) {
-        const std::string bytes = read(journalName);
-        LineReader lines(bytes);
-        const std::string_view mode = lines.atEnd() ? std::string_view() : lines.next();
-        std::vector<Replacement> replacements;
-        while (!lines.atEnd()) {
-            const std::string_view line = lines.next();
-            const std::string name(line.substr(std::min<std::size_t>(1, line.size())));
-            replacements.push_back({name, targetPath(name), !line.empty() && line.front() == '+'});
-        }
-        if (mode == undoMode)
-            undo(replacements);
-        else
-            finish(replacements);
-    }
+    if (exists(journalPath(finishJournal)))
+        finish(readJournal(finishJournal));
+    if (exists(journalPath(undoJournal)))
+        undo(readJournal(undoJournal));
     // Whatever else lies there was being written when the program was stopped.
     std::vector<std::string> strays;
-    for (const fs::directory_entry& entry : fs::directory_iterator(m_programFolder, ignored)) {
-        const std::string name = entry.path().filename().string();
+    std::error_code error;
+    for (fs::directory_iterator entry(m_programFolder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
         if (name.starts_with('.') && (name.ends_with(newSuffix) || name.ends_with(oldSuffix)))
-            strays.push_back(entry.path().string());
+            strays.push_back(entry->path().string());
     }
     for (const std::string& stray : strays)
         m_calls.remove(stray);

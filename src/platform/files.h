@@ -54,7 +54,7 @@ public:
     std::string keepCopy(std::string_view name, std::string_view bytes);
 
     // Finishes or undoes what a crash left of a rewrite; called once at start, before
-    // anything is read.
+    // anything is read. Throws when that fails too; the next call tries again.
     void recover();
 
 private:
@@ -75,11 +75,14 @@ private:
     void syncFolder(int folder, const std::string& path);
     void syncFolderOf(const std::string& path);
     void keepOld(const std::string& target);
-    void writeJournal(std::string_view mode, const std::vector<Replacement>& replacements);
+    void writeJournal(const std::vector<Replacement>& replacements);
+    std::vector<Replacement> readJournal(std::string_view journal) const;
+    void removeJournal(std::string_view journal);
+    void syncFoldersOf(const std::vector<Replacement>& replacements);
     void finish(const std::vector<Replacement>& replacements);
     void undo(const std::vector<Replacement>& replacements);
     void removeScratch(const std::vector<Replacement>& replacements);
-    std::string journalPath() const;
+    std::string journalPath(std::string_view journal) const;
 
     std::string m_programFolder;
     SystemCalls& m_calls;

@@ -62,8 +62,9 @@ long FailingCalls::read(int file, char* bytes, std::size_t count) {
     return fails(Call::read) ? -1 : SystemCalls::read(file, bytes, count);
 }
 
-int FailingCalls::sync(int file) {
-    return fails(Call::sync) ? -1 : SystemCalls::sync(file);
+int FailingCalls::sync(int) {
+    // Nothing here outlives the test: no need to wait for the disk.
+    return fails(Call::sync) ? -1 : 0;
 }
 
 int FailingCalls::truncate(int file, long long size) {

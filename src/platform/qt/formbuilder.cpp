@@ -97,8 +97,8 @@ QFont enlargedFont(const QWidget* widget, double factor, bool bold) {
 
 void setColumns(QLineEdit* box, int columns) {
     const QFontMetrics metrics(box->font());
-    box->setMinimumWidth(metrics.horizontalAdvance(QLatin1Char('W')) * columns +
-                         metrics.averageCharWidth() * 2);
+    // A digit is as wide as most capitals; a frame and the cursor need two more.
+    box->setMinimumWidth(metrics.horizontalAdvance(QLatin1Char('0')) * (columns + 2));
 }
 
 } // namespace vantrel

@@ -26,7 +26,7 @@ namespace {
 
 constexpr int numberBoxWidth = 10; // a lookup fills ten
 constexpr int frequencyBoxWidth = 10;
-constexpr double entryEnlargement = 1.7;
+constexpr double entryEnlargement = 1.5;
 constexpr std::string_view startFrequency = "14.050";
 constexpr std::string_view startBand = "20 Meters ";
 constexpr const char* reports[] = {"599", "589", "579", "569", "559", "549",
@@ -461,7 +461,7 @@ QHBoxLayout* frmVantrelMain::rowOf(std::initializer_list<QWidget*> controls) {
 QHBoxLayout* frmVantrelMain::statusRow() {
     QHBoxLayout* row = rowOf({Label12, Label13, Label11});
     row->setStretch(0, 1);
-    row->setSpacing(row->spacing() * 4);
+    row->setSpacing(fontMetrics().averageCharWidth() * 4);
     return row;
 }
 

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// Logging a contact, looking a member up, checking for duplicates.
+#include "platform/files.h"
+#include "platform/systemcalls.h"
+#include "roster/rosterlookup.h"
+#include "screens/main/dupecheck.h"
+#include "screens/main/qsoentry.h"
+#include "screens/main/workedstations.h"
+#include "shared/module1.h"
+#include "support/contacts.h"
+#include "support/ratiotable.h"
+
+#include <cstdlib>
+
+namespace {
+
+using namespace vantrel;
+
+const std::string logName = "SKS061611.CBR";
+
+std::string call(int number) {
+    return "K" + std::to_string(number % 10) +
+           std::string(1, static_cast<char>('A' + number % 26)) + std::to_string(number);
+}
+
+std::string logOf(int contacts) {
+    std::string bytes = test::logHeaderLines;
+    for (int i = 0; i < contacts; ++i)
+        bytes += test::contactLine({.hisCall = call(i)}) + "\r\n";
+    return bytes;
+}
+
+std::string rosterOf(int members) {
+    std::string bytes;
+    for (int i = 0; i < members; ++i)
+        bytes += test::padded(call(i), 10) + test::padded(std::to_string(i) + "T", 10) +
+                 test::padded("NAME", 10) + "MA \r\n";
+    return bytes;
+}
+
+// One contact more into a log that holds `contacts`; the log is cut back before each.
+void logging(bench::BenchFolder& folder, Files& files, int contacts) {
+    auto module = std::make_shared<Module1>();
+    module->settings.logFileName = logName;
+    module->currentLine = test::contactLine({});
+    const std::string log = logOf(contacts);
+    const bool worked = contacts < Module1::workedCapacity;
+    const auto prepare = [&folder, &files, module, log] {
+        folder.write(logName, log);
+        folder.write(std::string(workedStationsFile), "");
+        openLog(*module, files);
+    };
+    const auto ours = [&files, module] {
+        appendContact(*module, files);
+        bringUpToDate(*module, files);
+    };
+    const auto bound = [&folder, module, worked] {
+        const std::string line = module->currentLine + "\r\n";
+        bench::bareAppend(folder.path / logName, line);
+        bench::bareRead(folder.path / logName);
+        if (worked)
+            bench::bareAppend(folder.path / workedStationsFile, workedEntry(line) + "\r\n");
+    };
+    bench::pair("one contact into " + std::to_string(contacts), 1.5, ours, bound, prepare);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    bench::BenchFolder folder;
+    SystemCalls calls;
+    Files files(folder.path.string(), calls);
+
+    for (const int contacts : {100, 999, 11999})
+        logging(folder, files, contacts);
+
+    constexpr int members = 8000;
+    folder.write("SKSDB2.TXT", rosterOf(members));
+    bench::pair(
+        "lookup of the last of 8,000", 2,
+        [&] {
+            std::string rosterFile;
+            if (!findByCall(files, call(members - 1), rosterFile))
+                std::abort();
+        },
+        [&] { bench::bareRead(folder.path / "SKSDB2.TXT"); });
+
+    QsoTable table;
+    table.refill(logOf(QsoTable::capacity));
+    bench::single("dupe check over 12,000", 1,
+                  [&] { benchmark::DoNotOptimize(isDuplicate(table, "W1NOTHERE", "14")); });
+    return bench::run(argc, argv);
+}

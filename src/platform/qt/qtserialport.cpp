@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/qtserialport.h"
+
+#include "platform/filenames.h"
+#include "platform/serialnames.h"
+#include "shared/runtimeerror.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+#include <filesystem>
+#include <grp.h>
+#include <sys/stat.h>
+#include <termios.h>
+#include <unistd.h>
+#include <utility>
+
+namespace vantrel {
+
+namespace {
+
+using Reason = SerialPortError::Reason;
+
+enum WaitResult { woken = 1, givenUp = 2 };
+
+// The device behind the port as the system names it, links followed; throws where there is
+// none.
+std::string realDevice(const std::string& programFolder, const std::string& name) {
+    std::string device;
+    try {
+        device = serialDevice(programFolder, name);
+    } catch (const RuntimeError& error) {
+        throw SerialPortError(Reason::notThere, error.detail());
+    }
+    if (device.empty())
+        throw SerialPortError(Reason::notThere, name + " is not there: no such serial port.");
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(device, error);
+    if (error || !std::filesystem::is_character_file(real, error))
+        throw SerialPortError(Reason::notThere,
+                              name + " (" + shownText(device) + ") is no serial port.");
+    return real.string();
+}
+
+// The group that owns the device: who belongs to it may use the port.
+std::string groupOf(const std::string& device) {
+    struct stat info = {};
+    const group* const owner = ::stat(device.c_str(), &info) == 0 ? getgrgid(info.st_gid) : nullptr;
+    return owner == nullptr ? "dialout" : owner->gr_name;
+}
+
+SerialPortError openError(const QSerialPort& port, const std::string& name) {
+    const std::string device = port.portName().toStdString();
+    switch (port.error()) {
+    case QSerialPort::DeviceNotFoundError:
+        return {Reason::notThere, name + " is not there."};
+    case QSerialPort::PermissionError:
+        // A port one may use and cannot open is taken, and so is one whose lock is held.
+        if (::access(device.c_str(), R_OK | W_OK) == 0)
+            return {Reason::inUse, name + " is in use by another program, or its lock file in "
+                                          "/var/lock cannot be made."};
+        return {Reason::noPermission, name + ": no permission. Join the group \"" +
+                                          groupOf(device) + "\" and log in again."};
+    default:
+        return {Reason::badSettings,
+                name + " cannot be used: " + port.errorString().toLatin1().toStdString() + "."};
+    }
+}
+
+} // namespace
+
+QtSerialPort::QtSerialPort(std::string programFolder) : m_programFolder(std::move(programFolder)) {
+    QObject::connect(&m_port, &QSerialPort::readyRead, &m_port, [this] {
+        if (m_waiting != nullptr)
+            m_waiting->exit(woken);
+    });
+    QObject::connect(&m_port, &QSerialPort::errorOccurred, &m_port,
+                     [this](QSerialPort::SerialPortError error) {
+                         if (m_waiting != nullptr && error == QSerialPort::ResourceError)
+                             m_waiting->exit(woken);
+                     });
+}
+
+QtSerialPort::~QtSerialPort() {
+    close();
+}
+
+void QtSerialPort::open(const std::string& name, const std::string& settings) {
+    if (m_port.isOpen())
+        throw SerialPortError(Reason::inUse, name + " is being read already.");
+    const std::optional<LineSettings> line = lineSettings(settings);
+    if (!line)
+        throw SerialPortError(Reason::badSettings,
+                              name + ": no baud rate is chosen on the start page.");
+    const std::string device = realDevice(m_programFolder, name);
+    m_name = name + " (" + shownText(device) + ")";
+    m_port.setPortName(QString::fromStdString(device));
+    setLine(*line);
+    if (!m_port.open(QIODevice::ReadWrite))
+        throw openError(m_port, m_name);
+    // A port without these lines (a pseudo-terminal) refuses, and has nothing to drop.
+    m_port.setDataTerminalReady(false);
+    m_port.setRequestToSend(false);
+    m_port.clearError();
+    m_port.clear(QSerialPort::Input); // a late answer to an earlier query is no answer to this
+    m_sinceOpen.start();
+}
+
+void QtSerialPort::setLine(const LineSettings& line) {
+    m_port.setBaudRate(line.baud);
+    m_port.setDataBits(line.dataBits == 7 ? QSerialPort::Data7 : QSerialPort::Data8);
+    m_port.setStopBits(line.stopBits == 2 ? QSerialPort::TwoStop : QSerialPort::OneStop);
+    m_port.setParity(line.parity == 'e'   ? QSerialPort::EvenParity
+                     : line.parity == 'o' ? QSerialPort::OddParity
+                                          : QSerialPort::NoParity);
+    m_port.setFlowControl(QSerialPort::NoFlowControl);
+}
+
+void QtSerialPort::close() {
+    if (m_waiting != nullptr)
+        m_waiting->exit(givenUp);
+    if (!m_port.isOpen())
+        return;
+    m_port.clear();
+    // Closing puts the port's former settings back, hang-up on close among them. The port
+    // stays open through the second handle until that is off again.
+    const int handle = ::dup(m_port.handle());
+    m_port.close();
+    termios settings = {};
+    if (::tcgetattr(handle, &settings) == 0) {
+        settings.c_cflag &= ~static_cast<tcflag_t>(HUPCL);
+        ::tcsetattr(handle, TCSANOW, &settings);
+    }
+    ::close(handle);
+}
+
+void QtSerialPort::write(std::string_view bytes) {
+    const auto size = static_cast<qint64>(bytes.size());
+    if (m_port.write(bytes.data(), size) != size)
+        checkThere();
+    m_port.flush();
+}
+
+bool QtSerialPort::wait(int milliseconds) {
+    if (!m_port.isOpen())
+        return false;
+    if (m_port.bytesAvailable() > 0)
+        return true;
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, [&loop] { loop.exit(woken); });
+    m_waiting = &loop;
+    const int result = loop.exec(); // another code: the program is quitting
+    m_waiting = nullptr;
+    return result == woken;
+}
+
+std::string QtSerialPort::readAll() {
+    std::string bytes = m_port.readAll().toStdString();
+    if (bytes.empty())
+        checkThere();
+    return bytes;
+}
+
+void QtSerialPort::checkThere() const {
+    if (m_port.error() == QSerialPort::ResourceError || !m_port.isOpen())
+        throw SerialPortError(Reason::lost, m_name + " has been unplugged.");
+}
+
+int QtSerialPort::elapsed() const {
+    return static_cast<int>(m_sinceOpen.elapsed());
+}
+
+} // namespace vantrel

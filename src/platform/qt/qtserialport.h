@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// The machine's serial port. Both keying lines are dropped as soon as it is open and are not
+// touched by closing it: a radio keyed by DTR or RTS must not transmit.
+#pragma once
+
+#include "platform/serialport.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QSerialPort>
+
+class QEventLoop;
+
+namespace vantrel {
+
+class QtSerialPort : public SerialPort {
+public:
+    // programFolder: where a link named "com1" stands for the port, see serialnames.h.
+    explicit QtSerialPort(std::string programFolder);
+    ~QtSerialPort() override;
+
+    void open(const std::string& name, const std::string& settings) override;
+    void close() override;
+    void write(std::string_view bytes) override;
+    bool wait(int milliseconds) override;
+    std::string readAll() override;
+    int elapsed() const override;
+
+private:
+    void setLine(const LineSettings& line);
+    void checkThere() const;
+
+    std::string m_programFolder;
+    std::string m_name; // "com1 (/dev/ttyUSB0)", for messages
+    QSerialPort m_port;
+    QElapsedTimer m_sinceOpen;
+    QEventLoop* m_waiting = nullptr;
+};
+
+} // namespace vantrel

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "platform/serialnames.h"
+
+#include "platform/filenames.h"
+#include "shared/fixedtext.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+namespace vantrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int portCount = 10;
+
+// 1 to 10; 0 for any other text.
+int portNumber(std::string_view port) {
+    for (int number = 1; number <= portCount; ++number)
+        if (upper(port) == "COM" + std::to_string(number))
+            return number;
+    return 0;
+}
+
+std::vector<fs::path> sortedEntries(const std::string& folder) {
+    std::vector<fs::path> entries;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        entries.push_back(entry->path());
+    std::sort(entries.begin(), entries.end());
+    return entries;
+}
+
+// Consoles and pseudo-terminals have no device; the places the system keeps free for built-in
+// ports have one, but of type 0, unknown.
+bool hasHardware(const fs::path& tty) {
+    std::error_code error;
+    if (!fs::exists(tty / "device", error))
+        return false;
+    std::string type;
+    std::ifstream(tty / "type") >> type;
+    return type != "0";
+}
+
+fs::path target(const fs::path& device) {
+    std::error_code error;
+    const fs::path found = fs::canonical(device, error);
+    return error ? fs::path() : found;
+}
+
+std::vector<fs::path> allPorts(const SerialRoots& roots) {
+    std::vector<fs::path> ports = sortedEntries(roots.byId);
+    std::vector<fs::path> listed;
+    std::transform(ports.begin(), ports.end(), std::back_inserter(listed), target);
+    for (const fs::path& tty : sortedEntries(roots.classTty)) {
+        const fs::path device = fs::path(roots.devices) / tty.filename();
+        if (hasHardware(tty) &&
+            std::find(listed.begin(), listed.end(), target(device)) == listed.end())
+            ports.push_back(device);
+    }
+    return ports;
+}
+
+} // namespace
+
+std::string serialDevice(const std::string& programFolder, std::string_view port,
+                         const SerialRoots& roots) {
+    const int number = portNumber(port);
+    if (number == 0)
+        return {};
+    const fs::path own = resolveName(programFolder, port);
+    std::error_code error;
+    if (fs::exists(fs::symlink_status(own, error)))
+        return own.string();
+    const std::vector<fs::path> ports = allPorts(roots);
+    const auto index = static_cast<std::size_t>(number - 1);
+    return index < ports.size() ? ports[index].string() : std::string();
+}
+
+std::string serialDeviceLabel(const std::string& programFolder, std::string_view port,
+                              const SerialRoots& roots) {
+    if (portNumber(port) == 0)
+        return {};
+    const fs::path device = target(serialDevice(programFolder, port, roots));
+    return device.empty() ? "no such port" : shownText(device.string());
+}
+
+} // namespace vantrel

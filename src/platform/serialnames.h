@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// Which device "com1" .. "com10" stand for on this machine now. Only looks at names: opening
+// a port just to list it could key a radio.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+// Where the machine keeps its list of ports; a test has its own.
+struct SerialRoots {
+    std::string byId = "/dev/serial/by-id";
+    std::string classTty = "/sys/class/tty";
+    std::string devices = "/dev";
+};
+
+// The device behind `port` ("com1" .. "com10"): the file or link of that name (any case) in
+// the program folder if there is one, otherwise the n-th of the adapters by their lasting name
+// and then of the ports with hardware behind them. "" for none or another name. Throws
+// RuntimeError 75 when two entries of the folder differ from the name by case only.
+std::string serialDevice(const std::string& programFolder, std::string_view port,
+                         const SerialRoots& roots = {});
+
+// What the start page shows beside the port: the device where its links lead to
+// ("/dev/ttyUSB0"), "no such port", or "" for no port.
+std::string serialDeviceLabel(const std::string& programFolder, std::string_view port,
+                              const SerialRoots& roots = {});
+
+} // namespace vantrel

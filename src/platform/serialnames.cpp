@@ -2,6 +2,7 @@
 #include "platform/serialnames.h"
 
 #include "platform/filenames.h"
+#include "platform/files.h"
 #include "shared/fixedtext.h"
 
 #include <algorithm>
@@ -81,11 +82,10 @@ std::string serialDevice(const std::string& programFolder, std::string_view port
     return index < ports.size() ? ports[index].string() : std::string();
 }
 
-std::string serialDeviceLabel(const std::string& programFolder, std::string_view port,
-                              const SerialRoots& roots) {
+std::string serialDeviceShown(const Files& files, std::string_view port, const SerialRoots& roots) {
     if (portNumber(port) == 0)
         return {};
-    const fs::path device = target(serialDevice(programFolder, port, roots));
+    const fs::path device = target(serialDevice(files.programFolder(), port, roots));
     return device.empty() ? "no such port" : shownText(device.string());
 }
 

@@ -8,6 +8,8 @@
 
 namespace vantrel {
 
+class Files;
+
 // Where the machine keeps its list of ports; a test has its own.
 struct SerialRoots {
     std::string byId = "/dev/serial/by-id";
@@ -23,8 +25,8 @@ std::string serialDevice(const std::string& programFolder, std::string_view port
                          const SerialRoots& roots = {});
 
 // What the start page shows beside the port: the device where its links lead to
-// ("/dev/ttyUSB0"), "no such port", or "" for no port.
-std::string serialDeviceLabel(const std::string& programFolder, std::string_view port,
+// ("/dev/ttyUSB0"), "no such port", or "" for no port. Throws as serialDevice.
+std::string serialDeviceShown(const Files& files, std::string_view port,
                               const SerialRoots& roots = {});
 
 } // namespace vantrel

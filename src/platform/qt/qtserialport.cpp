@@ -2,6 +2,7 @@
 #include "platform/qt/qtserialport.h"
 
 #include "platform/filenames.h"
+#include "platform/files.h"
 #include "platform/serialnames.h"
 #include "shared/runtimeerror.h"
 
@@ -13,7 +14,6 @@
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
-#include <utility>
 
 namespace vantrel {
 
@@ -69,7 +69,7 @@ SerialPortError openError(const QSerialPort& port, const std::string& name) {
 
 } // namespace
 
-QtSerialPort::QtSerialPort(std::string programFolder) : m_programFolder(std::move(programFolder)) {
+QtSerialPort::QtSerialPort(const Files& files) : m_files(files) {
     QObject::connect(&m_port, &QSerialPort::readyRead, &m_port, [this] {
         if (m_waiting != nullptr)
             m_waiting->exit(woken);
@@ -92,7 +92,7 @@ void QtSerialPort::open(const std::string& name, const std::string& settings) {
     if (!line)
         throw SerialPortError(Reason::badSettings,
                               name + ": no baud rate is chosen on the start page.");
-    const std::string device = realDevice(m_programFolder, name);
+    const std::string device = realDevice(m_files.programFolder(), name);
     m_name = name + " (" + shownText(device) + ")";
     m_port.setPortName(QString::fromStdString(device));
     setLine(*line);

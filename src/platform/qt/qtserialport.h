@@ -6,17 +6,18 @@
 #include "platform/serialport.h"
 
 #include <QElapsedTimer>
-#include <QPointer>
 #include <QSerialPort>
 
 class QEventLoop;
 
 namespace vantrel {
 
+class Files;
+
 class QtSerialPort : public SerialPort {
 public:
-    // programFolder: where a link named "com1" stands for the port, see serialnames.h.
-    explicit QtSerialPort(std::string programFolder);
+    // files: a link named "com1" in the program folder stands for that port.
+    explicit QtSerialPort(const Files& files);
     ~QtSerialPort() override;
 
     void open(const std::string& name, const std::string& settings) override;
@@ -30,7 +31,7 @@ private:
     void setLine(const LineSettings& line);
     void checkThere() const;
 
-    std::string m_programFolder;
+    const Files& m_files;
     std::string m_name; // "com1 (/dev/ttyUSB0)", for messages
     QSerialPort m_port;
     QElapsedTimer m_sinceOpen;

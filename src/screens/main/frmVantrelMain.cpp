@@ -4,9 +4,9 @@
 #include "k3y/dupecheckk3y.h"
 #include "k3y/k3ytag.h"
 #include "platform/qt/formbuilder.h"
-#include "platform/qt/inputhold.h"
 #include "platform/qt/latin1.h"
 #include "platform/qt/linelistmodel.h"
+#include "platform/serialport.h"
 #include "rig/catlink.h"
 #include "screens/main/bandring.h"
 #include "screens/main/dupecheck.h"
@@ -54,7 +54,8 @@ QComboBox* reportBox(FormBuilder& build, const char* name) {
 } // namespace
 
 frmVantrelMain::frmVantrelMain(const FormContext& context)
-    : Form(context, "frmVantrelMain", "Vantrel") {
+    : Form(context, "frmVantrelMain", "Vantrel"),
+      m_hold(this, [this] { platform().serialPort.close(); }) {
     setAttribute(Qt::WA_DeleteOnClose, false);
     createControls();
     layOut();
@@ -206,7 +207,7 @@ void frmVantrelMain::Text2_Change() {
 }
 
 void frmVantrelMain::Command2_Click() {
-    const InputHold hold;
+    const InputHold::Scope hold(m_hold);
     frequencyEntered();
     Entry now = entry();
     if (isComplete(now)) {
@@ -259,7 +260,7 @@ void frmVantrelMain::checkForDupes(const Entry& now) {
 // --- LOG -------------------------------------------------------------------------------------
 
 void frmVantrelMain::Command3_Click() {
-    const InputHold hold;
+    const InputHold::Scope hold(m_hold);
     frequencyEntered();
     Entry now = entry();
     if (!canBeLogged(now)) {
@@ -342,7 +343,7 @@ void frmVantrelMain::showFrequency(const std::string& mhz) {
 }
 
 void frmVantrelMain::Command5_Click() {
-    const InputHold hold;
+    const InputHold::Scope hold(m_hold);
     Entry now = entry();
     if (readRadio(now))
         toCallBox();

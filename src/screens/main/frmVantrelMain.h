@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/qt/form.h"
+#include "platform/qt/inputhold.h"
 #include "screens/main/qsoentry.h"
 
 #include <initializer_list>
@@ -111,6 +112,7 @@ private:
     QPushButton* Command15; // band from frequency
     QPushButton* Command16; // bonus
 
+    InputHold m_hold;                // what is typed while the radio is read
     LineListModel* m_worked;         // behind List1
     std::optional<Entry> m_lookedUp; // what the last lookup filled in
     bool m_radioReadDue = false;     // the radio is read once after the first paint

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// The radios a test can have: one of each family, what it is asked and how it answers.
+#pragma once
+
+#include "shared/settings.h"
+
+#include <array>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace vantrel::test {
+
+struct Radio {
+    std::string name; // for the test's name
+    std::string rig;
+    std::string baud;
+    std::string civAddress;
+    std::string lineSettings; // what the port must be opened with
+    std::string query;
+    std::string (*reply)(long hertz);
+    std::string noReplyText; // the box's text when there is no good reply
+    int queries = 1;         // how often a silent radio is asked
+};
+
+inline void PrintTo(const Radio& radio, std::ostream* out) {
+    *out << radio.name;
+}
+
+// One of each family.
+const std::vector<Radio>& radios();
+const Radio& radioNamed(const std::string& name);
+
+// Settings with this radio on `com1`.
+OperatingSettings settingsFor(const Radio& radio);
+
+struct Reading {
+    long hertz;
+    std::string mhz;
+    std::string bandText;
+};
+
+// Frequencies that every family must read; 30 m leaves the band text as it was (20 m).
+extern const std::array<Reading, 6> readings;
+
+} // namespace vantrel::test

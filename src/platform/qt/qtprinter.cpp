@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/qtprinter.h"
+
+#include "platform/filenames.h"
+#include "platform/qt/latin1.h"
+#include "shared/runtimeerror.h"
+
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+
+constexpr double fontSize = 12;
+constexpr double smallestFontSize = 8; // a contact line's 107 columns just fit the page then
+constexpr double fontStep = 0.25;
+constexpr double marginInches = 0.5;
+
+QFont printFont(double pointSize) {
+    QFont font(QStringLiteral("Courier New"));
+    font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(pointSize);
+    return font;
+}
+
+// What a page takes: the largest font in which the longest line fits, else the smallest one
+// and as many columns as fit.
+class PageLayout {
+public:
+    PageLayout(const std::vector<std::string>& lines, QPainter& painter)
+        : m_page(painter.viewport()) {
+        std::size_t longest = 0;
+        for (const std::string& line : lines)
+            longest = std::max(longest, line.size());
+        double size = fontSize;
+        setFont(painter, size);
+        while (m_columns < longest && size > smallestFontSize) {
+            size -= fontStep;
+            setFont(painter, size);
+        }
+    }
+
+    std::size_t columns() const { return m_columns; }
+    double lineHeight() const { return m_lineHeight; }
+    double ascent() const { return m_ascent; }
+    bool fitsBelow(double y) const { return y + m_lineHeight <= m_page.height(); }
+
+private:
+    void setFont(QPainter& painter, double size) {
+        painter.setFont(printFont(size));
+        const QFontMetricsF metrics(painter.font(), painter.device());
+        const double columnWidth = metrics.horizontalAdvance(QLatin1Char('0'));
+        m_columns = static_cast<std::size_t>(m_page.width() / columnWidth);
+        m_ascent = metrics.ascent();
+        m_lineHeight = metrics.lineSpacing();
+    }
+
+    QRect m_page;
+    std::size_t m_columns = 0;
+    double m_lineHeight = 0;
+    double m_ascent = 0;
+};
+
+// Draws the lines on as many pages as they need; a line wider than the page goes on in the
+// next. False when the device cannot be painted on.
+bool paintLines(const std::vector<std::string>& lines, QPagedPaintDevice& device) {
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
+    const PageLayout layout(lines, painter);
+    double y = 0;
+    const auto paint = [&](std::string_view piece) {
+        if (!layout.fitsBelow(y)) {
+            device.newPage();
+            y = 0;
+        }
+        painter.drawText(QPointF(0, y + layout.ascent()), toQt(piece));
+        y += layout.lineHeight();
+    };
+    for (const std::string& line : lines) {
+        std::string_view rest = line;
+        while (rest.size() > layout.columns()) {
+            paint(rest.substr(0, layout.columns()));
+            rest.remove_prefix(layout.columns());
+        }
+        paint(rest);
+    }
+    return painter.end();
+}
+
+void setMargins(QPagedPaintDevice& device) {
+    device.setPageMargins(QMarginsF(marginInches, marginInches, marginInches, marginInches),
+                          QPageLayout::Inch);
+}
+
+[[noreturn]] void failed(const std::string& path, const QSaveFile& file) {
+    const bool refused = file.error() == QFileDevice::PermissionsError;
+    throw RuntimeError(refused ? ErrorCode::permissionDenied : ErrorCode::pathFileAccess,
+                       shownText(path) + ": " + fromQt(file.errorString()));
+}
+
+} // namespace
+
+void printToPdf(const std::vector<std::string>& lines, const std::string& pdfPath) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+        writer.setPageSize(QPageSize(letter ? QPageSize::Letter : QPageSize::A4));
+        setMargins(writer);
+        paintLines(lines, writer);
+    }
+    QSaveFile file(QString::fromStdString(pdfPath));
+    if (!file.open(QIODevice::WriteOnly))
+        failed(pdfPath, file);
+    file.write(bytes);
+    if (!file.commit())
+        failed(pdfPath, file);
+}
+
+std::string QtPrinter::print(const std::vector<std::string>& lines, const std::string& pdfPath) {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull()) {
+        printToPdf(lines, pdfPath);
+        return pdfPath;
+    }
+    QPrinter printer(info, QPrinter::HighResolution);
+    setMargins(printer);
+    if (!paintLines(lines, printer))
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           "the printer " + fromQt(info.printerName()) + " takes no job");
+    return {};
+}
+
+} // namespace vantrel

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/appscreens.h"
 
+#include "k3y/frmCheckDupeK3Y.h"
+#include "k3y/frmK3YStandings.h"
+#include "k3y/frmK3Ybox.h"
 #include "screens/main/frmVantrelDupe.h"
 #include "screens/main/frmVantrelMain.h"
 #include "screens/start/frmVantrelStart.h"
@@ -23,14 +26,32 @@ Form* AppScreens::make(Screen screen) {
         return new frmVantrelMain(context);
     case Screen::dupe:
         return new frmVantrelDupe(context);
+    case Screen::standings:
+        return new frmK3YStandings(context, areaPage);
+    case Screen::standings2:
+        return new frmK3YStandings(context, regionPage);
+    case Screen::checkDupeK3y:
+        return new frmCheckDupeK3Y(context);
+    case Screen::k3yBox:
+        return new frmK3Ybox(context);
     default:
         return nullptr;
     }
 }
 
 void AppScreens::open(Screen screen) {
+    openFor(QApplication::activeWindow(), screen);
+}
+
+void AppScreens::replace(Screen current, Screen next) {
+    Form* leaving = m_slots[current];
+    QWidget* opener = leaving->opener();
+    leaving->close();
+    openFor(opener, next);
+}
+
+void AppScreens::openFor(QWidget* opener, Screen screen) {
     QPointer<Form>& slot = m_slots[screen];
-    QWidget* opener = QApplication::activeWindow();
     if (slot && slot->isVisible() && !slot->loadsAgain()) {
         slot->bringToFront();
         return;

@@ -19,6 +19,7 @@ public:
     AppScreens& operator=(const AppScreens&) = delete;
 
     void open(Screen screen) override;
+    void replace(Screen current, Screen next) override;
     StartPage* startPage() override;
     MainPage* mainPage() override;
     void handBackPath(FinderMode mode, const std::string& path) override;
@@ -26,6 +27,7 @@ public:
 
 private:
     Form* make(Screen screen);
+    void openFor(QWidget* opener, Screen screen);
 
     Module1& m_module;
     Platform& m_platform;

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/dupecheckk3y.h"
 
-#include "platform/files.h"
-#include "screens/main/workedstations.h"
-#include "shared/logfile.h"
+#include "screens/main/qsoentry.h"
 #include "shared/module1.h"
 #include "shared/qsoline.h"
 
@@ -34,19 +32,11 @@ bool isK3yDupe(const QsoTable& table, std::string_view call, std::string_view nu
     });
 }
 
-std::optional<RuntimeError> logTheDupe(Module1& module, Files& files) {
+void logTheDupe(Module1& module, Files& files) {
     // A region tag gives way to "DUPE": a duplicate counts for no region.
     module.currentLine =
         std::string(left(module.currentLine, qso::hisNumber.last())) + std::string(dupeMarker);
-    files.appendLine(module.settings.logFileName, module.currentLine);
-    module.dropDupeMarker();
-    try {
-        loadLog(files, module.settings.logFileName, module.qsoTable);
-        addWorkedStation(module, files, module.currentLine);
-    } catch (const RuntimeError& error) {
-        return error;
-    }
-    return std::nullopt;
+    appendContact(module, files);
 }
 
 } // namespace vantrel

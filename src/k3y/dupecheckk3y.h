@@ -3,9 +3,6 @@
 // that the operator wants in the log all the same.
 #pragma once
 
-#include "shared/runtimeerror.h"
-
-#include <optional>
 #include <string_view>
 
 namespace vantrel {
@@ -23,10 +20,9 @@ bool isK3yDupe(const QsoTable& table, std::string_view contactLine);
 bool isK3yDupe(const QsoTable& table, std::string_view call, std::string_view number,
                std::string_view bandTag);
 
-// Logs module.currentLine as a duplicate: its first 101 columns and "DUPE" go to the log,
-// the QSO table is reloaded, the worked-stations list gets the entry, a "DUPE" marker is
-// dropped. Throws as Files::appendLine: then nothing is logged. Returns what failed once the
-// line was on the disk (reload, list), if anything: the contact is logged all the same.
-std::optional<RuntimeError> logTheDupe(Module1& module, Files& files);
+// Logs module.currentLine as a duplicate: its first 101 columns and "DUPE", on the disk when
+// this returns. Table and list are then brought up to date as after any contact. Throws as
+// Files::appendLine.
+void logTheDupe(Module1& module, Files& files);
 
 } // namespace vantrel

@@ -40,12 +40,6 @@ struct Module1 {
 
     bool listShowsAdif = false;      // the list screen shows the ADIF file, not the log
     bool listFromFileScreen = false; // the list screen was opened from the file screen
-
-    // A "DUPE" marker ends with its contact, logged or not; a K3Y tag stays in force.
-    void dropDupeMarker() {
-        if (marker == dupeMarker)
-            marker = noMarker;
-    }
 };
 
 } // namespace vantrel

@@ -71,6 +71,9 @@ public:
     virtual ~Screens() = default;
     // Shows the screen's single instance, created when there is none, and brings it to front.
     virtual void open(Screen screen) = 0;
+    // Closes `current` and opens `next` in its place: closing that one leads to where closing
+    // `current` would have led.
+    virtual void replace(Screen current, Screen next) = 0;
     // nullptr while there is none.
     virtual StartPage* startPage() = 0;
     virtual MainPage* mainPage() = 0;

@@ -3,8 +3,7 @@
 #include "k3y/dupecheckk3y.h"
 #include "k3y/k3ylines.h"
 #include "platform/files.h"
-#include "screens/main/workedstations.h"
-#include "shared/logfile.h"
+#include "screens/main/qsoentry.h"
 #include "shared/module1.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
@@ -73,8 +72,7 @@ protected:
 
     void start(const std::vector<std::string>& logged) {
         folder.write("K3Y.CBR", k3yLog(logged));
-        loadLog(files, "K3Y.CBR", module.qsoTable);
-        rebuildWorkedStations(module, files);
+        openLog(module, files);
     }
 
     TempFolder folder;
@@ -87,60 +85,37 @@ protected:
 
 TEST_F(LogTheDupe, ReplacesTheTagAndBringsFileTableAndListUpToDate) {
     start({first});
-    EXPECT_FALSE(logTheDupe(module, files).has_value());
+    logTheDupe(module, files);
+    bringUpToDate(module, files);
     EXPECT_EQ(folder.read("K3Y.CBR"), k3yLog({first, dupe}));
     EXPECT_EQ(dupe.size(), 105U);
     EXPECT_EQ(module.currentLine, dupe);
     EXPECT_EQ(module.qsoTable.count().value(), 2);
     EXPECT_EQ(folder.read("StnsWorked.TXT"),
-              "GB0SKC    | BILL      |1T     | IL  | 14050 | 0012 | 2011-01-05|K3Y/EU\r\n"
-              "GB0SKC    | BILL      |1T     | IL  | 14060 | 0012 | 2011-01-05|DUPE\r\n");
+              "GB0SKC    | BILL      |1T     | IL  | 14050 | 0012 | 2011-06-16|K3Y/EU\r\n"
+              "GB0SKC    | BILL      |1T     | IL  | 14060 | 0012 | 2011-06-16|DUPE\r\n");
     EXPECT_EQ(joinLines(module.workedStations.entries()), folder.read("StnsWorked.TXT"));
     EXPECT_EQ(module.marker, "K3Y/EU"); // the tag stays for the next contact
-}
-
-TEST_F(LogTheDupe, ADupeMarkerEndsWithItsContact) {
-    start({first});
-    module.marker = dupeMarker;
-    EXPECT_FALSE(logTheDupe(module, files).has_value());
-    EXPECT_EQ(module.marker, noMarker);
 }
 
 TEST_F(LogTheDupe, BeyondAThousandIsLoggedWithoutAnEntry) {
     start(std::vector<std::string>(1000, first));
     const std::string listed = folder.read("StnsWorked.TXT");
-    EXPECT_FALSE(logTheDupe(module, files).has_value());
+    logTheDupe(module, files);
+    bringUpToDate(module, files);
     EXPECT_EQ(module.qsoTable.count().value(), 1001);
     EXPECT_TRUE(isDupe(module.qsoTable.line(1001)));
     EXPECT_EQ(folder.read("StnsWorked.TXT"), listed);
 }
 
-TEST_F(LogTheDupe, AFailedAppendLogsNothing) {
+TEST_F(LogTheDupe, AFailedAppendLogsNothingAndASecondTryTheSame) {
     start({first});
-    module.marker = dupeMarker;
     calls.failAt(Call::sync, 1, ENOSPC);
     EXPECT_RUNTIME_ERROR(logTheDupe(module, files), ErrorCode::diskFull, HasSubstr("K3Y.CBR"));
     EXPECT_EQ(folder.read("K3Y.CBR"), k3yLog({first}));
-    EXPECT_EQ(module.qsoTable.count().value(), 1);
-    EXPECT_EQ(module.workedStations.size(), 1);
-    EXPECT_EQ(module.marker, dupeMarker); // the contact is still the operator's to log
-}
-
-TEST_F(LogTheDupe, WhatFailsAfterTheAppendIsReportedAndTheContactStays) {
-    start({first});
-    calls.failAt(Call::write, 2, ENOSPC); // the log's write succeeds, the list's fails
-    const auto failure = logTheDupe(module, files);
-    ASSERT_TRUE(failure.has_value());
-    EXPECT_THAT(failure->detail(), HasSubstr("StnsWorked.TXT"));
-    EXPECT_EQ(folder.read("K3Y.CBR"), k3yLog({first, dupe}));
-
     calls.heal();
-    start(std::vector<std::string>(QsoTable::capacity, first));
-    const auto full = logTheDupe(module, files);
-    ASSERT_TRUE(full.has_value());
-    EXPECT_EQ(full->code(), ErrorCode::subscriptOutOfRange);
-    EXPECT_EQ(folder.read("K3Y.CBR").size(),
-              k3yLog(std::vector<std::string>(QsoTable::capacity, first)).size() + 107);
+    logTheDupe(module, files);
+    EXPECT_EQ(folder.read("K3Y.CBR"), k3yLog({first, dupe}));
 }
 
 } // namespace

@@ -2,20 +2,22 @@
 // Contact lines of the K3Y event for tests.
 #pragma once
 
-#include "shared/qsoline.h"
+#include "support/contacts.h"
 
 #include <string>
 #include <vector>
 
 namespace vantrel::test {
 
-// A full contact line; khz as written ("7030" or "14050"), everything cut or padded to width.
+// A full contact line; khz as written ("7030" or "14050").
 inline std::string k3yLine(const std::string& call, const std::string& khz,
                            const std::string& number = "1234T",
-                           const std::string& marker = std::string(noMarker)) {
-    return assembleLine({fitRight(khz, 5), "CW", "2011-01-05", "0012", fitLeft("W1ABC", 10), "599",
-                         fitLeft("JOHN", 10), "MA ", "1234T ", fitLeft(call, 10), "599",
-                         fitLeft("BILL", 10), "IL ", fitLeft(number, 6), marker});
+                           const std::string& marker = "      ") {
+    return contactLine({.frequency = std::string(5 - khz.size(), ' ') + khz,
+                        .hisCall = call,
+                        .hisName = "BILL",
+                        .hisNumber = number,
+                        .marker = marker});
 }
 
 // A log's bytes: a header line and the contacts.

@@ -33,6 +33,8 @@ public:
     virtual void bringToFront();
     // Whether opening the screen again while it shows loads it again.
     virtual bool loadsAgain() const { return false; }
+    // The window that closing leads back to; nullptr when there is none any more.
+    QWidget* opener() const { return m_opener; }
 
 protected:
     // The screen's load: fills the controls; runs inside the guard.
@@ -68,7 +70,6 @@ protected:
         }
     }
 
-    QWidget* opener() const { return m_opener; }
     Module1& module() { return m_context.module; }
     Platform& platform() { return m_context.platform; }
     Screens& screens() { return m_context.screens; }

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "k3y/frmK3YStandings.h"
+
+#include "platform/qt/formbuilder.h"
+#include "platform/qt/latin1.h"
+#include "shared/logfile.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPalette>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace vantrel {
+
+namespace {
+
+constexpr int bandCount = static_cast<int>(bands.size());
+constexpr int firstBandLabel = 4; // Label4 "160M" to Label12 "10M"
+// Row labels in the order of the rows; the zero area's stands last, under the others.
+constexpr const char* rowLabels[] = {"Label3",  "Label13", "Label14", "Label15", "Label16",
+                                     "Label17", "Label18", "Label19", "Label20", "Label21"};
+constexpr double headlineEnlargement = 1.5;
+// At least a member number; the window opens wider, for a call of ten.
+constexpr int cellColumns = 5;
+
+// Worked is blue: the text is white in light and dark palettes alike.
+void paintFilled(QLineEdit* box, const std::string& text) {
+    QPalette blue(box->palette());
+    blue.setColor(QPalette::Base, Qt::blue);
+    blue.setColor(QPalette::Text, Qt::white);
+    box->setPalette(blue);
+    box->setText(toQt(text));
+    box->setToolTip(toQt(text));
+    box->setCursorPosition(0);
+}
+
+} // namespace
+
+std::string areaCellName(int row, int column) {
+    return "Text" + std::to_string((row - 1) * bandCount + column);
+}
+
+std::string regionCellName(int row, int column) {
+    return "Text" + std::to_string(row) + std::to_string(row) + std::to_string(column);
+}
+
+frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage& page)
+    : Form(context, page.name, "K3Y Standings"), m_page(page) {
+    createControls();
+    resize(sizeHint().boundedTo(screen()->availableSize()));
+    connectHandler(Command2, &QPushButton::clicked, this, &frmK3YStandings::Command2_Click);
+    connectHandler(Command1, &QPushButton::clicked, this, &frmK3YStandings::Command1_Click);
+}
+
+void frmK3YStandings::createControls() {
+    FormBuilder build(this);
+    Label1 = build.label("Label1", "K3Y  Regions/Continents Worked");
+    Label1->setFont(enlargedFont(this, headlineEnlargement));
+    Label1->setAlignment(Qt::AlignCenter);
+    Label2 = build.label("Label2");
+    Label2->setFont(enlargedFont(this, headlineEnlargement));
+    Command2 = build.command("Command2", m_page.otherCaption);
+    Command1 = build.command("Command1", "E&XIT");
+
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(Label1);
+    page->addLayout(createGrid(), 1);
+    auto* commands = new QHBoxLayout;
+    commands->addWidget(Label2, 1);
+    commands->addWidget(Command2);
+    commands->addWidget(Command1);
+    page->addLayout(commands);
+}
+
+QGridLayout* frmK3YStandings::createGrid() {
+    FormBuilder build(this);
+    auto* grid = new QGridLayout;
+    for (int column = 1; column <= bandCount; ++column) {
+        const std::string name = "Label" + std::to_string(firstBandLabel + column - 1);
+        const std::string band(bands.at(static_cast<std::size_t>(column - 1)).label);
+        QLabel* label = build.label(name.c_str(), band.c_str());
+        label->setAlignment(Qt::AlignCenter);
+        grid->addWidget(label, 0, column);
+        grid->setColumnStretch(column, 1);
+    }
+    for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row) {
+        const std::string station(m_page.rows[static_cast<std::size_t>(row - 1)].label);
+        grid->addWidget(build.label(rowLabels[row - 1], station.c_str()), row, 0);
+        for (int column = 1; column <= bandCount; ++column) {
+            QLineEdit* box = build.output(m_page.cellName(row, column).c_str());
+            setColumns(box, cellColumns);
+            grid->addWidget(box, row, column);
+        }
+    }
+    return grid;
+}
+
+QWidget* frmK3YStandings::firstFocus() {
+    return Command2;
+}
+
+void frmK3YStandings::Form_Load() {
+    loadLog(platform().files, module().settings.logFileName, module().qsoTable);
+    const Standings standings = m_page.tally(module().qsoTable);
+    for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row)
+        for (int column = 1; column <= bandCount; ++column)
+            if (const StandingsCell& worked = standings.cell(row, column); worked.filled)
+                paintFilled(cell(row, column), worked.text);
+    Label2->setText(toQt(standings.totalText()));
+}
+
+QLineEdit* frmK3YStandings::cell(int row, int column) const {
+    return findChild<QLineEdit*>(toQt(m_page.cellName(row, column)));
+}
+
+// The other page takes this one's place: leaving it leads back to where this one came from.
+void frmK3YStandings::Command2_Click() {
+    screens().replace(m_page.screen, m_page.other);
+}
+
+void frmK3YStandings::Command1_Click() {
+    close();
+}
+
+} // namespace vantrel

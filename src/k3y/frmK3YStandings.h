@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// The K3Y standings: a grid of stations by bands, the total, and the way to the other page.
+// frmK3YStandings shows the call areas, frmK3YStandings2 the outlying areas and continents.
+#pragma once
+
+#include "k3y/standings.h"
+#include "platform/qt/form.h"
+
+#include <span>
+#include <string>
+
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace vantrel {
+
+// What makes one page differ from the other.
+struct StandingsPage {
+    Screen screen;
+    const char* name;
+    std::span<const StandingsRow> rows;
+    Standings (*tally)(const QsoTable& table);
+    std::string (*cellName)(int row, int column); // row and column from 1
+    Screen other;                                 // the other page
+    const char* otherCaption;                     // of the button that leads there
+};
+
+// "Text1" (K3Y/1 on 160M) to "Text90" (K3Y/0 on 10M).
+std::string areaCellName(int row, int column);
+// "Text111" (K3Y/KH on 160M) to "Text999" (K3Y/OC on 10M): the row twice, then the column.
+std::string regionCellName(int row, int column);
+
+inline constexpr StandingsPage areaPage{Screen::standings, "frmK3YStandings", areaRows,
+                                        areaStandings,     areaCellName,      Screen::standings2,
+                                        "Next Page"};
+inline constexpr StandingsPage regionPage{Screen::standings2, "frmK3YStandings2", regionRows,
+                                          regionStandings,    regionCellName,     Screen::standings,
+                                          "PREV PAGE"};
+
+class frmK3YStandings : public Form {
+    Q_OBJECT
+
+public:
+    frmK3YStandings(const FormContext& context, const StandingsPage& page);
+
+protected:
+    void Form_Load() override;
+    QWidget* firstFocus() override;
+
+private:
+    void createControls();
+    QGridLayout* createGrid();
+    QLineEdit* cell(int row, int column) const;
+
+    void Command2_Click();
+    void Command1_Click();
+
+    QLabel* Label1;        // headline
+    QLabel* Label2;        // total
+    QPushButton* Command2; // to the other page
+    QPushButton* Command1; // exit
+
+    StandingsPage m_page;
+};
+
+} // namespace vantrel

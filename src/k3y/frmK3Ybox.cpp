@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "k3y/frmK3Ybox.h"
+
+#include "platform/qt/formbuilder.h"
+
+#include <QVBoxLayout>
+
+namespace vantrel {
+
+namespace {
+constexpr double headlineEnlargement = 1.3;
+} // namespace
+
+// Every opening makes a fresh box: no option is chosen, whatever tag is in force.
+frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K3Y") {
+    createControls();
+    connectHandlers();
+}
+
+void frmK3Ybox::createControls() {
+    FormBuilder build(this);
+    Label1 = build.label("Label1", "APPEND K3Y/xx TO ");
+    Label2 = build.label("Label2", " K3Y DX STATIONS");
+    m_options = {
+        build.option("Option1", "EU  Europe"),        build.option("Option2", "AF  Africa"),
+        build.option("Option3", "AS  Asia"),          build.option("Option4", "OC  Oceania"),
+        build.option("Option5", "NA  North America"), build.option("Option6", "SA  South America"),
+        build.option("Option7", "NONE Add No Note")};
+    Command1 = build.command("Command1", "OK");
+
+    auto* page = new QVBoxLayout(this);
+    for (QLabel* headline : {Label1, Label2}) {
+        headline->setFont(enlargedFont(this, headlineEnlargement));
+        headline->setAlignment(Qt::AlignCenter);
+        page->addWidget(headline);
+    }
+    for (QRadioButton* option : m_options)
+        page->addWidget(option);
+    page->addWidget(Command1);
+}
+
+void frmK3Ybox::connectHandlers() {
+    for (std::size_t index = 0; index < m_options.size(); ++index)
+        connect(m_options[index], &QRadioButton::clicked, this,
+                [this, index] { runHandler([&] { choose(k3yTags[index]); }); });
+    connectHandler(Command1, &QPushButton::clicked, this, &frmK3Ybox::Command1_Click);
+}
+
+QWidget* frmK3Ybox::firstFocus() {
+    return m_options.front();
+}
+
+// A choice holds at once; OK only closes the box.
+void frmK3Ybox::choose(const K3yTag& tag) {
+    module().marker = tag.marker;
+    if (MainPage* page = screens().mainPage())
+        page->showTag(std::string(tag.label));
+}
+
+void frmK3Ybox::Command1_Click() {
+    close();
+}
+
+} // namespace vantrel

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// The K3Y box: the operator picks the event station the next contacts are with.
+#pragma once
+
+#include "k3y/k3ytag.h"
+#include "platform/qt/form.h"
+
+#include <array>
+
+class QButtonGroup;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+
+namespace vantrel {
+
+class frmK3Ybox : public Form {
+    Q_OBJECT
+
+public:
+    explicit frmK3Ybox(const FormContext& context);
+
+protected:
+    QWidget* firstFocus() override;
+
+private:
+    void createControls();
+    void connectHandlers();
+
+    void choose(const K3yTag& tag);
+    void Command1_Click();
+
+    std::array<QRadioButton*, k3yTags.size()> m_options; // Option1 to Option7
+    QLabel* Label1;                                      // headline
+    QLabel* Label2;                                      // its second line
+    QPushButton* Command1;                               // OK
+};
+
+} // namespace vantrel

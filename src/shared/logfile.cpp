@@ -51,7 +51,8 @@ std::string startNewLog(Files& files, const OperatingSettings& settings) {
 }
 
 void loadLog(const Files& files, std::string_view logFileName, QsoTable& table) {
-    table.refill(files.read(logFileName));
+    files.readInto(logFileName, table.spare());
+    table.refillFromSpare();
 }
 
 } // namespace vantrel

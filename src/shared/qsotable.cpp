@@ -10,8 +10,13 @@
 namespace vantrel {
 
 void QsoTable::refill(std::string logBytes) {
+    m_spare = std::move(logBytes);
+    refillFromSpare();
+}
+
+void QsoTable::refillFromSpare() {
     m_lines.clear();
-    m_bytes = std::move(logBytes);
+    m_bytes.swap(m_spare);
     ItemReader reader(m_bytes);
     while (!reader.atEnd()) {
         const std::string_view item = reader.next();

@@ -21,6 +21,10 @@ public:
     // Refills the table from a log's bytes: every comma-delimited item that begins "QSO", in
     // file order. Throws RuntimeError 9 at the 12,001st; the first 12,000 then stay.
     void refill(std::string logBytes);
+    // The same from the bytes that spare() was filled with: memory is used in turns, since
+    // the log is read again after each contact.
+    void refillFromSpare();
+    std::string& spare() { return m_spare; }
 
     void clear() { m_lines.clear(); }
 
@@ -32,6 +36,7 @@ public:
 
 private:
     std::string m_bytes;
+    std::string m_spare;
     std::vector<std::string_view> m_lines;
 };
 

@@ -5,6 +5,8 @@
 #include "roster/rosterrecord.h"
 #include "support/tempfolder.h"
 
+#include <chrono>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace vantrel::test {
@@ -30,16 +32,17 @@ protected:
     TempFolder folder;
     SystemCalls calls;
     Files files{folder.string(), calls};
+    Roster roster{files};
     std::string rosterFile;
 
     // "call/number/name/state" of the member found, "nobody" otherwise.
     std::string byCall(std::string_view text) {
-        const std::optional<Member> found = findByCall(files, text, rosterFile);
+        const std::optional<Member> found = roster.findByCall(text, rosterFile);
         return found ? found->call + "/" + found->number + "/" + found->name + "/" + found->state
                      : "nobody";
     }
-    std::string byNumber(std::string_view text) const {
-        const NumberMatch match = findByNumber(files, text);
+    std::string byNumber(std::string_view text) {
+        const NumberMatch match = roster.findByNumber(text);
         if (match.outcome == NumberLookup::notANumber)
             return "not a number";
         return match.outcome == NumberLookup::nobody ? "nobody" : match.call;
@@ -118,6 +121,25 @@ TEST_F(RosterLookup, MissingFilesAreEmptyOnes) {
     EXPECT_EQ(byNumber("123"), "nobody");
     folder.write("sksdb5.txt", "VE3ABC    0123      VERA      ON \r\n"); // the name has no case
     EXPECT_EQ(byNumber("123"), "VE3ABC    ");
+}
+
+TEST_F(RosterLookup, ChangedFileIsReadAgain) {
+    const auto writeLongAgo = [&](std::string_view bytes, int hoursAgo) {
+        folder.write("SKSDB2.TXT", bytes);
+        std::filesystem::last_write_time(folder.path() / "SKSDB2.TXT",
+                                         std::filesystem::file_time_type::clock::now() -
+                                             std::chrono::hours(hoursAgo));
+    };
+    writeLongAgo("K1ABC     0123      JOHN      MA \r\n", 3);
+    EXPECT_EQ(byCall("K1ABC"), "K1ABC     /0123      /JOHN      /MA ");
+    writeLongAgo("K1ABC     0123T     JOHN      MA \r\n", 2); // the same size
+    EXPECT_EQ(byCall("K1ABC"), "K1ABC     /0123T     /JOHN      /MA ");
+    folder.write("SKSDB2.TXT", "K1ABC     0123S     JOHN      MA \r\n");
+    EXPECT_EQ(byCall("K1ABC"), "K1ABC     /0123S     /JOHN      /MA ");
+    folder.write("SKSDB2.TXT", "K1ABC     0123X     JOHN      MA \r\n"); // at the same moment
+    EXPECT_EQ(byCall("K1ABC"), "K1ABC     /0123X     /JOHN      /MA ");
+    std::filesystem::remove(folder.path() / "SKSDB2.TXT");
+    EXPECT_EQ(byCall("K1ABC"), "nobody");
 }
 
 } // namespace

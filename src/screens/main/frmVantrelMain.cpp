@@ -3,6 +3,7 @@
 
 #include "k3y/dupecheckk3y.h"
 #include "k3y/k3ytag.h"
+#include "platform/files.h"
 #include "platform/qt/formbuilder.h"
 #include "platform/qt/latin1.h"
 #include "platform/qt/linelistmodel.h"
@@ -55,7 +56,8 @@ QComboBox* reportBox(FormBuilder& build, const char* name) {
 
 frmVantrelMain::frmVantrelMain(const FormContext& context)
     : Form(context, "frmVantrelMain", "Vantrel"),
-      m_hold(this, [this] { platform().serialPort.close(); }) {
+      m_hold(this, [this] { platform().serialPort.close(); }),
+      m_roster(context.platform.files) {
     setAttribute(Qt::WA_DeleteOnClose, false);
     createControls();
     layOut();
@@ -239,7 +241,7 @@ void frmVantrelMain::Command2_Click() {
 bool frmVantrelMain::lookedUpAndShown(Entry& now) {
     if (!canLookUp(now.call))
         return false;
-    const LookupOutcome outcome = lookUp(now, module(), platform().files);
+    const LookupOutcome outcome = lookUp(now, module(), m_roster);
     showEntry(now);
     if (outcome == LookupOutcome::found)
         m_lookedUp = now;
@@ -308,6 +310,7 @@ bool frmVantrelMain::assembleContact(Entry& now) {
 }
 
 void frmVantrelMain::logContact() {
+    const bool logWasThere = platform().files.present(module().settings.logFileName);
     appendContact(module(), platform().files);
     // The contact is on the disk: whatever fails from here on is shown, but the boxes are
     // cleared all the same, so that nobody logs it twice.
@@ -315,6 +318,9 @@ void frmVantrelMain::logContact() {
     showLog();
     clearEntry(EntryBoxes::empty);
     showTag(std::string(noTagLabel));
+    if (!logWasThere)
+        messages().show({std::string(logStartedAgainText), BoxIcon::exclamation,
+                         platform().files.path(module().settings.logFileName)});
 }
 
 void frmVantrelMain::Command4_Click() {

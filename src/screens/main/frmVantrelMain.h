@@ -5,6 +5,7 @@
 
 #include "platform/qt/form.h"
 #include "platform/qt/inputhold.h"
+#include "roster/rosterlookup.h"
 #include "screens/main/qsoentry.h"
 
 #include <initializer_list>
@@ -112,7 +113,8 @@ private:
     QPushButton* Command15; // band from frequency
     QPushButton* Command16; // bonus
 
-    InputHold m_hold;                // what is typed while the radio is read
+    InputHold m_hold; // what is typed while the radio is read
+    Roster m_roster;
     LineListModel* m_worked;         // behind List1
     std::optional<Entry> m_lookedUp; // what the last lookup filled in
     bool m_radioReadDue = false;     // the radio is read once after the first paint

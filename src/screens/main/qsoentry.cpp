@@ -41,16 +41,16 @@ bool canLookUp(std::string_view call) {
     return length(call) >= shortestCall || !startsWithLetter;
 }
 
-LookupOutcome lookUp(Entry& entry, Module1& module, const Files& files) {
+LookupOutcome lookUp(Entry& entry, Module1& module, Roster& roster) {
     if (isDigit(entry.call.front())) {
-        const NumberMatch match = findByNumber(files, entry.call);
+        const NumberMatch match = roster.findByNumber(entry.call);
         if (match.outcome != NumberLookup::notANumber) {
             entry.call = match.call;
             return match.outcome == NumberLookup::found ? LookupOutcome::callOfNumber
                                                         : LookupOutcome::nobody;
         }
     }
-    const auto member = findByCall(files, entry.call, module.rosterFile);
+    const auto member = roster.findByCall(entry.call, module.rosterFile);
     if (!member)
         return LookupOutcome::notFound;
     entry.name = member->name;

@@ -12,6 +12,7 @@ namespace vantrel {
 
 class Clock;
 class Files;
+class Roster;
 struct Module1;
 
 // What the entry boxes hold.
@@ -31,6 +32,10 @@ inline constexpr std::string_view wrongBandText = " MHz IS NOT A VALID SPRINT FR
 inline constexpr std::string_view invalidEntryText = "Invalid Entry - Pleasr try again";
 inline constexpr std::string_view duplicateQsoText = " <<<<<< THIS IS A DUPLICATE QSO >>>>>> ";
 
+// The log vanished under the program: the contact is in a new one of that name.
+inline constexpr std::string_view logStartedAgainText =
+    "THE LOG FILE WAS NO LONGER THERE.  A NEW ONE HAS BEEN STARTED WITH THIS QSO";
+
 // True when SEARCH has nothing left to do and logs: the number box holds more than one
 // character.
 bool isComplete(const Entry& entry);
@@ -47,7 +52,7 @@ enum class LookupOutcome {
 };
 
 // Looks the trimmed call, or member number, up in the roster. Throws as Files::read.
-LookupOutcome lookUp(Entry& entry, Module1& module, const Files& files);
+LookupOutcome lookUp(Entry& entry, Module1& module, Roster& roster);
 
 // The values a lookup filled in and that the operator has not changed are cleared again:
 // they belong to the call they were looked up for.

@@ -254,7 +254,9 @@ TEST_F(MainPageTest, DeletedLogStartsAgainWithTheContact) {
     std::filesystem::remove(folder.path() / log);
     type(page, "Text7", "7.040");
     enterCall("k1abc");
+    messages.expect(std::string(logStartedAgainText));
     press(page, "Text2", Qt::Key_Return);
+    EXPECT_THAT(messages.shown.back().informative, HasSubstr(log));
     EXPECT_EQ(folder.read(log), contactLine({.frequency = " 7040",
                                              .hisCall = "K1ABC",
                                              .hisName = "JOE",

@@ -2,6 +2,7 @@
 #include "fakes/failingcalls.h"
 #include "fakes/fakeclock.h"
 #include "platform/files.h"
+#include "roster/rosterlookup.h"
 #include "screens/main/qsoentry.h"
 #include "shared/module1.h"
 #include "support/contacts.h"
@@ -36,6 +37,7 @@ protected:
     Files files{folder.string(), calls};
     FakeClock clock;
     Module1 module;
+    Roster roster{files};
 };
 
 TEST_F(QsoEntry, LineIsCutAndPaddedToItsColumns) {
@@ -82,23 +84,23 @@ TEST_F(QsoEntry, LookupFillsACallAndTurnsANumberIntoItsCall) {
     folder.write("SKSDB2.TXT", "K1ABC     0123T     JOHN      MA \r\n");
     Entry entry;
     entry.call = "K1ABC";
-    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::found);
+    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::found);
     EXPECT_EQ(entry.name, "JOHN      ");
     EXPECT_EQ(entry.state, "MA ");
     EXPECT_EQ(entry.number, "0123T     ");
 
     entry = {};
     entry.call = "123C";
-    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::callOfNumber);
+    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::callOfNumber);
     EXPECT_EQ(entry.call, "K1ABC     ");
     EXPECT_EQ(entry.number, "");
 
     entry.call = "9";
-    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::nobody);
+    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::nobody);
     EXPECT_EQ(entry.call, "");
 
     entry.call = "4X1AB"; // a call, though it begins with a digit
-    EXPECT_EQ(lookUp(entry, module, files), LookupOutcome::notFound);
+    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::notFound);
     EXPECT_EQ(entry.call, "4X1AB");
 }
 

@@ -6,8 +6,7 @@
 
 namespace vantrel {
 
-Form::Form(const FormContext& context, const char* name, const char* caption)
-    : m_context(context) {
+Form::Form(const FormContext& context, const char* name, const char* caption) : m_context(context) {
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(QString::fromLatin1(caption));
     setAttribute(Qt::WA_DeleteOnClose);

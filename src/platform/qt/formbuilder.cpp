@@ -7,7 +7,9 @@
 namespace vantrel {
 
 namespace {
-QString text(const char* latin1) { return QString::fromLatin1(latin1); }
+QString text(const char* latin1) {
+    return QString::fromLatin1(latin1);
+}
 } // namespace
 
 template <typename Control>
@@ -66,8 +68,7 @@ QRadioButton* FormBuilder::option(const char* name, const char* caption, const c
     return named(new QRadioButton(vantrel::text(caption), m_form), name, toolTip);
 }
 
-QRadioButton* FormBuilder::jobOption(const char* name, const char* caption,
-                                     const char* toolTip) {
+QRadioButton* FormBuilder::jobOption(const char* name, const char* caption, const char* toolTip) {
     QRadioButton* button = option(name, caption, toolTip);
     // In an exclusive group the arrow keys would run every job they pass.
     button->setAutoExclusive(false);

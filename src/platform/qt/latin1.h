@@ -14,6 +14,8 @@ inline QString toQt(std::string_view text) {
 }
 
 // A character outside ISO 8859-1 becomes `?`.
-inline std::string fromQt(const QString& text) { return text.toLatin1().toStdString(); }
+inline std::string fromQt(const QString& text) {
+    return text.toLatin1().toStdString();
+}
 
 } // namespace vantrel

@@ -48,6 +48,21 @@ protected:
     const std::string before = k3yLog({k3yLine("GB0SKC", "14060", "77T", "K3Y/EU")});
 };
 
+TEST_F(CheckDupeK3y, SearchSaysSoForTheSameOperatorOnly) {
+    const auto search = [&](const std::string& number) {
+        folder.write("SKSDB5.TXT", "GB0SKC    " + number + "       BILL      ENG\r\n");
+        type(mainPage, "Text2", "GB0SKC");
+        press(mainPage, "Text2", Qt::Key_Return);
+        EXPECT_EQ(shown(mainPage, "Text5"), number + "       ");
+    };
+    search("78T"); // somebody else at the key of the same station
+    EXPECT_TRUE(messages.shown.empty());
+    click(mainPage, "Command4");
+    messages.expect(" <<<<<< THIS IS A DUPLICATE QSO >>>>>> ");
+    search("77T");
+    EXPECT_EQ(messages.shown.size(), 1U);
+}
+
 TEST_F(CheckDupeK3y, LogTheDupe_LogsItMarkedAndEmptiesTheBoxes) {
     module.marker = "K3Y/EU";
     logAgain();

@@ -3,6 +3,7 @@
 // compares the files that come of it byte for byte.
 #include "screens/start/startlog.h"
 #include "support/contacts.h"
+#include "tour/k3yevent.h"
 #include "tour/stage.h"
 
 #include <QApplication>
@@ -235,6 +236,7 @@ void play(Stage& stage) {
     writeRoster(stage);
     fillStartPage(stage);
     playContest(stage);
+    playK3yEvent(stage);
 }
 
 } // namespace

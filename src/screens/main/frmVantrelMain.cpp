@@ -12,6 +12,7 @@
 #include "screens/main/bandring.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
+#include "screens/main/workedbefore.h"
 #include "shared/fixedtext.h"
 
 #include <QCloseEvent>
@@ -28,6 +29,7 @@ namespace {
 constexpr int numberBoxWidth = 10; // a lookup fills ten
 constexpr int frequencyBoxWidth = 10;
 constexpr double entryEnlargement = 1.5;
+constexpr int workedBeforeColumns = 80;
 constexpr std::string_view startFrequency = "14.050";
 constexpr std::string_view startBand = "20 Meters ";
 constexpr const char* reports[] = {"599", "589", "579", "569", "559", "549",
@@ -43,6 +45,12 @@ void keepUpperCase(QLineEdit* box) {
         box->setText(shown);
         box->setCursorPosition(cursor);
     });
+}
+
+// A red that can be read on a light and on a dark window.
+QColor warningColour(const QPalette& palette) {
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    return dark ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
 }
 
 QComboBox* reportBox(FormBuilder& build, const char* name) {
@@ -102,6 +110,7 @@ void frmVantrelMain::createControls() {
     Label12 = build.label("Label12");
     Label13 = build.label("Label13");
     Label23 = build.label("Label23");
+    Label24 = build.label("Label24");
     m_worked = new LineListModel(this);
     List1->setModel(m_worked);
 }
@@ -198,6 +207,7 @@ void frmVantrelMain::closeEvent(QCloseEvent* event) {
 // What a lookup filled in belongs to the call it was looked up for, and so does a mark.
 void frmVantrelMain::Text2_Change() {
     resetDupeMarker(module());
+    showWorkedBefore();
     if (!m_lookedUp)
         return;
     Entry now = entry();
@@ -206,6 +216,19 @@ void frmVantrelMain::Text2_Change() {
     const int cursor = Text2->cursorPosition();
     showEntry(now);
     Text2->setCursorPosition(cursor);
+}
+
+// Only shows, in red where SEARCH would call it a duplicate on the present band.
+void frmVantrelMain::showWorkedBefore() {
+    const std::string typed = fromQt(Text2->text());
+    const std::string mhz = completedFrequency(frequencyAsEntered(fromQt(Text7->text())));
+    const std::string text = workedBefore(module().qsoTable, typed, workedBeforeColumns);
+    const bool duplicate = !text.empty() && isDuplicate(module().qsoTable, typed, bandTagOf(mhz));
+    QPalette colours(palette());
+    if (duplicate)
+        colours.setColor(QPalette::WindowText, warningColour(colours));
+    Label24->setPalette(colours);
+    Label24->setText(toQt(text));
 }
 
 void frmVantrelMain::Command2_Click() {
@@ -346,6 +369,7 @@ void frmVantrelMain::showFrequency(const std::string& mhz) {
         Text7->setText(toQt(mhz));
     module().bandText = bandTextOf(mhz, module().bandText);
     Label10->setText(toQt(module().bandText));
+    showWorkedBefore();
 }
 
 void frmVantrelMain::Command5_Click() {
@@ -415,6 +439,7 @@ void frmVantrelMain::showEntry(const Entry& entry) {
     Text3->setText(toQt(entry.name));
     Text4->setText(toQt(entry.state));
     Text5->setText(toQt(entry.number));
+    showWorkedBefore();
 }
 
 void frmVantrelMain::clearEntry(EntryBoxes boxes) {
@@ -447,9 +472,13 @@ void frmVantrelMain::toCallBox() {
 // --- Layout ----------------------------------------------------------------------------------
 
 void frmVantrelMain::layOut() {
+    // Long texts are cut at the window's edge; they must not widen it.
+    for (QLabel* label : {Label12, Label24})
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* page = new QVBoxLayout(this);
     page->addLayout(statusRow());
     page->addLayout(exchangeRow());
+    page->addWidget(Label24);
     page->addLayout(frequencyRow());
     page->addLayout(rowOf({Command2, Command3, Command4, Command5, Command12, Option1, Label23}));
     page->addWidget(workedHeadings());

@@ -72,6 +72,7 @@ private:
     Entry entry() const;
     void showEntry(const Entry& entry);
     void showFrequency(const std::string& mhz);
+    void showWorkedBefore();
     void frequencyEntered();
     bool lookedUpAndShown(Entry& now);
     void checkForDupes(const Entry& now);
@@ -94,6 +95,7 @@ private:
     QLabel* Label11;        // auto read on or off
     QLabel* Label12;        // log file
     QLabel* Label13;        // dupes logged or not
+    QLabel* Label24;        // worked before, as one types
     QLabel* Label23;        // K3Y station tag
     QRadioButton* Option1;  // ADD K3Y/xx
     QPushButton* Command1;  // exit

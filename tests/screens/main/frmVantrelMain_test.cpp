@@ -302,6 +302,23 @@ TEST_F(MainPageTest, TypingIsUpperCasedWhereItHappens) {
     EXPECT_EQ(shown(page, "Text2"), "k1abc");
 }
 
+TEST_F(MainPageTest, WorkedBeforeIsRedOnTheBandWhereItIsADupe) {
+    openPage(joe);
+    const auto red = [this] {
+        const QColor colour = control(page, "Label24")->palette().color(QPalette::WindowText);
+        return colour.red() > colour.green() + 80;
+    };
+    type(page, "Text2", "k1");
+    EXPECT_EQ(shown(page, "Label24"), "K1ABC 20");
+    EXPECT_TRUE(red());
+    type(page, "Text7", "7.040");
+    type(page, "Text2", "k1a");
+    EXPECT_EQ(shown(page, "Label24"), "K1ABC 20");
+    EXPECT_FALSE(red());
+    press(page, "Text2", Qt::Key_Escape);
+    EXPECT_EQ(shown(page, "Label24"), "");
+}
+
 TEST_F(MainPageTest, StartingAgainLoadsTheOtherLog) {
     openPage(joe);
     folder.write("OTHER.CBR", "");

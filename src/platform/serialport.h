@@ -47,7 +47,7 @@ public:
     // waiting. Throws SerialPortError when the port cannot be opened.
     virtual void open(const std::string& name, const std::string& settings) = 0;
     virtual void close() = 0;
-    // Sends the bytes. Throws SerialPortError when the device is gone.
+    // Sends the bytes. That nobody is there any more shows in readAll().
     virtual void write(std::string_view bytes) = 0;
     // Waits for input for at most `milliseconds` (events are served meanwhile), returning as
     // soon as any has come; 0 only looks. Returns false once the program is being closed: the

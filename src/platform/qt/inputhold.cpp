@@ -60,20 +60,33 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
         scheduleDelivery(); // it waited for a message box
     if (keepsClosing(receiver, event))
         return true;
-    if (!keepsInput(*event))
+    if (event->type() == QEvent::FocusOut && m_scopes > 0 && receiver->isWidgetType() &&
+        static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+        m_focusBeforeClick = static_cast<QWidget*>(receiver);
+    if (!keepsInput(receiver, *event))
         return false;
     const bool toFocus = isKey(*event) && receiver == QApplication::focusWidget();
     m_kept.push_back({receiver, std::unique_ptr<QEvent>(event->clone()), toFocus});
     event->accept();
+    // A click handed straight to a control has moved the focus before anybody could keep it;
+    // the keys kept before it come first.
+    if (m_focusBeforeClick != nullptr)
+        std::exchange(m_focusBeforeClick, nullptr)->setFocus();
     return true;
 }
 
-bool InputHold::keepsInput(const QEvent& event) const {
+bool InputHold::keepsInput(QObject* receiver, const QEvent& event) const {
     if (!isInput(event) || QApplication::activeModalWidget() != nullptr)
         return false;
+    if (m_scopes > 0)
+        return true;
     // What is being delivered goes through as events that are not the system's own; the
     // operator's go to the end of the queue.
-    return m_scopes > 0 || !m_delivering || event.spontaneous();
+    if (m_delivering)
+        return event.spontaneous();
+    // The handler has just ended, and the key that started it goes on to the control's parents.
+    const auto* const parent = qobject_cast<QWidget*>(receiver);
+    return !isKey(event) || parent == nullptr || !parent->isAncestorOf(QApplication::focusWidget());
 }
 
 // The window must not go while one of its handlers is still running.

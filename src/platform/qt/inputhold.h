@@ -52,7 +52,7 @@ private:
 
     void begin();
     void end();
-    bool keepsInput(const QEvent& event) const;
+    bool keepsInput(QObject* receiver, const QEvent& event) const;
     bool keepsClosing(QObject* receiver, QEvent* event);
     void scheduleDelivery();
     void deliver();
@@ -62,6 +62,7 @@ private:
     QWidget* m_window;
     std::function<void()> m_giveUp;
     std::deque<Kept> m_kept;
+    QPointer<QWidget> m_focusBeforeClick;
     int m_scopes = 0;
     bool m_delivering = false;
     Closing m_closing = Closing::no;

@@ -11,6 +11,7 @@
 
 #include <filesystem>
 #include <grp.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
@@ -49,8 +50,9 @@ std::string groupOf(const std::string& device) {
     return owner == nullptr ? "dialout" : owner->gr_name;
 }
 
-SerialPortError openError(const QSerialPort& port, const std::string& name) {
-    const std::string device = port.portName().toStdString();
+// name: with the device, for the operator.
+SerialPortError openError(const QSerialPort& port, const std::string& device,
+                          const std::string& name) {
     switch (port.error()) {
     case QSerialPort::DeviceNotFoundError:
         return {Reason::notThere, name + " is not there."};
@@ -74,11 +76,6 @@ QtSerialPort::QtSerialPort(const Files& files) : m_files(files) {
         if (m_waiting != nullptr)
             m_waiting->exit(woken);
     });
-    QObject::connect(&m_port, &QSerialPort::errorOccurred, &m_port,
-                     [this](QSerialPort::SerialPortError error) {
-                         if (m_waiting != nullptr && error == QSerialPort::ResourceError)
-                             m_waiting->exit(woken);
-                     });
 }
 
 QtSerialPort::~QtSerialPort() {
@@ -97,7 +94,7 @@ void QtSerialPort::open(const std::string& name, const std::string& settings) {
     m_port.setPortName(QString::fromStdString(device));
     setLine(*line);
     if (!m_port.open(QIODevice::ReadWrite))
-        throw openError(m_port, m_name);
+        throw openError(m_port, device, m_name);
     // A port without these lines (a pseudo-terminal) refuses, and has nothing to drop.
     m_port.setDataTerminalReady(false);
     m_port.setRequestToSend(false);
@@ -135,9 +132,7 @@ void QtSerialPort::close() {
 }
 
 void QtSerialPort::write(std::string_view bytes) {
-    const auto size = static_cast<qint64>(bytes.size());
-    if (m_port.write(bytes.data(), size) != size)
-        checkThere();
+    m_port.write(bytes.data(), static_cast<qint64>(bytes.size()));
     m_port.flush();
 }
 
@@ -161,8 +156,11 @@ std::string QtSerialPort::readAll() {
     return bytes;
 }
 
+// A device that is pulled out hangs up; reading it then yields nothing and is no error.
 void QtSerialPort::checkThere() const {
-    if (m_port.error() == QSerialPort::ResourceError || !m_port.isOpen())
+    pollfd state = {m_port.handle(), 0, 0};
+    ::poll(&state, 1, 0);
+    if ((state.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0)
         throw SerialPortError(Reason::lost, m_name + " has been unplugged.");
 }
 

@@ -239,6 +239,24 @@ void play(Stage& stage) {
     playK3yEvent(stage);
 }
 
+// The looks that pictures are taken in: VANTREL_TOUR_POINTS, the font's size, and
+// VANTREL_TOUR_PALETTE=dark.
+void dress(QApplication& application) {
+    if (const int points = qEnvironmentVariableIntValue("VANTREL_TOUR_POINTS")) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
+    if (qgetenv("VANTREL_TOUR_PALETTE") != "dark")
+        return;
+    application.setStyle(QStringLiteral("Fusion"));
+    const QColor window(0x2B, 0x2B, 0x2B);
+    QPalette dark(QColor(0x3C, 0x3C, 0x3C), window);
+    dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
+    dark.setColor(QPalette::ToolTipBase, window);
+    QApplication::setPalette(dark);
+}
+
 } // namespace
 } // namespace vantrel::test
 
@@ -247,6 +265,7 @@ int main(int argc, char** argv) {
         ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    vantrel::test::dress(application);
     if (argc != 2) {
         std::fprintf(stderr, "usage: tour FOLDER (emptied first)\n");
         return 2;

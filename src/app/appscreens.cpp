@@ -4,6 +4,11 @@
 #include "k3y/frmCheckDupeK3Y.h"
 #include "k3y/frmK3YStandings.h"
 #include "k3y/frmK3Ybox.h"
+#include "output/frmCountBonus.h"
+#include "output/frmVantrelFiles.h"
+#include "output/frmVantrelList.h"
+#include "output/frmVantrelScore.h"
+#include "output/frmVantrelShowDB.h"
 #include "screens/main/frmVantrelDupe.h"
 #include "screens/main/frmVantrelMain.h"
 #include "screens/start/frmVantrelStart.h"
@@ -34,6 +39,16 @@ Form* AppScreens::make(Screen screen) {
         return new frmCheckDupeK3Y(context);
     case Screen::k3yBox:
         return new frmK3Ybox(context);
+    case Screen::score:
+        return new frmVantrelScore(context);
+    case Screen::bonus:
+        return new frmCountBonus(context);
+    case Screen::files:
+        return new frmVantrelFiles(context);
+    case Screen::list:
+        return new frmVantrelList(context);
+    case Screen::showDb:
+        return new frmVantrelShowDB(context);
     default:
         return nullptr;
     }

@@ -21,11 +21,8 @@ std::size_t bandIndex(std::string_view contact) {
     return band == nullptr ? bands.size() : static_cast<std::size_t>(band - bands.data());
 }
 
-PictureHour pictureHour(Hour hour, const ContactsByBand& contacts, bool afterBreak) {
-    const auto day = chrono::floor<chrono::days>(hour);
-    const chrono::year_month_day date(day);
-    return {static_cast<int>(static_cast<unsigned>(date.day())),
-            static_cast<int>((hour - day).count()), afterBreak, contacts};
+int hourOfDay(Hour hour) {
+    return static_cast<int>((hour - chrono::floor<chrono::days>(hour)).count());
 }
 
 } // namespace
@@ -48,7 +45,7 @@ std::vector<PictureHour> contactsPerHour(const std::vector<std::string_view>& co
     std::vector<PictureHour> picture;
     Hour expected = hours.empty() ? Hour() : hours.begin()->first;
     for (const auto& [hour, counts] : hours) {
-        picture.push_back(pictureHour(hour, counts, hour != expected));
+        picture.push_back({hourOfDay(hour), hour != expected, counts});
         expected = hour + chrono::hours(1);
     }
     return picture;

@@ -12,7 +12,6 @@ namespace vantrel {
 
 // One clock hour (UTC) in which contacts were made.
 struct PictureHour {
-    int day;                                      // of the month
     int hour;                                     // 0 to 23
     bool afterBreak;                              // no contact in the hour before it
     std::array<int, bands.size() + 1> contacts{}; // as `bands`; the last: on none of them

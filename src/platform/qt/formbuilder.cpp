@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/formbuilder.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
 
@@ -86,6 +87,8 @@ QListView* FormBuilder::list(const char* name, const char* toolTip) {
 QFont fixedWidthFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::Monospace);
+    // As large as everything else: the system's own fixed font knows no larger setting.
+    font.setPointSizeF(QApplication::font().pointSizeF());
     return font;
 }
 

@@ -29,6 +29,7 @@ namespace {
 constexpr int numberBoxWidth = 10; // a lookup fills ten
 constexpr int frequencyBoxWidth = 10;
 constexpr double entryEnlargement = 1.5;
+constexpr double workedBeforeEnlargement = 1.1;
 constexpr int workedBeforeColumns = 80;
 constexpr std::string_view startFrequency = "14.050";
 constexpr std::string_view startBand = "20 Meters ";
@@ -475,6 +476,7 @@ void frmVantrelMain::layOut() {
     // Long texts are cut at the window's edge; they must not widen it.
     for (QLabel* label : {Label12, Label24})
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    Label24->setFont(enlargedFont(this, workedBeforeEnlargement));
     auto* page = new QVBoxLayout(this);
     page->addLayout(statusRow());
     page->addLayout(exchangeRow());

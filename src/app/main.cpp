@@ -2,6 +2,7 @@
 // Makes the machine's doors, the shared state and the screens, and shows the start page.
 #include "app/appscreens.h"
 #include "platform/clock.h"
+#include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/programfolder.h"
 #include "platform/qt/qteventloop.h"
@@ -32,7 +33,8 @@ int runProgram(QApplication& application, QtMessages& messages) {
     const std::string folder = programFolder();
     const FolderLock lock(folder);
     if (!lock.held()) {
-        messages.show({"VANTREL IS ALREADY RUNNING IN THIS FOLDER", BoxIcon::critical, folder});
+        messages.show({"VANTREL IS ALREADY RUNNING IN THIS FOLDER", BoxIcon::critical,
+                       shownText(folder)});
         return 1;
     }
     SystemCalls calls;

@@ -45,7 +45,7 @@ void frmVantrelFiles::createControls() {
                         "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT"),
         build.jobOption("Option12", "&PRINT THE LOG", "PRINTS THE WHOLE CABRILLO FILE"),
         build.jobOption("Option13", "SORT THE DATA&BASE BY SKCC#", "SORTS ALL FIVE MEMBER FILES"),
-        build.jobOption("Option14", "ADIF FILE FOR OTHE&R LOGGERS",
+        build.jobOption("Option14", "ADIF FILE FOR OTHER LOGGERS",
                         "WRITES THE LOG STRICTLY BY ADIF 3.1, BESIDE THE OTHER ADIF FILE"),
     };
     Command1 = build.command("Command1", "&MAIN PAGE", "BACK TO THE MAIN PAGE");

@@ -197,7 +197,9 @@ void frmVantrelStart::Combo7_Change() {
 }
 
 void frmVantrelStart::startNewFile() {
-    const OperatingSettings settings = storedSettings(pageSettings());
+    OperatingSettings settings = storedSettings(pageSettings());
+    // The file gets the name as it was typed; START finds it whatever its case.
+    settings.logFileName = trim(withoutSeparatorsAndQuotes(fromQt(Text9->text())));
     Label14->clear();
     const std::string kept = startNewLog(platform().files, settings);
     module().settings.logFileName = settings.logFileName;

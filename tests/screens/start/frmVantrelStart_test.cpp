@@ -123,14 +123,17 @@ TEST_F(StartPageTest, NewFileTakesWhatThePageShowsNow) {
     fillIn();
     messages.expect(std::string(newFileQuestion), false);
     choose(page, "Combo7", "YES");
-    EXPECT_FALSE(folder.has("SKS061611.CBR"));
+    EXPECT_FALSE(folder.has("sks061611.cbr"));
     EXPECT_EQ(shown(page, "Combo7"), "NO");
 
     messages.expect(std::string(newFileQuestion), true);
     choose(page, "Combo7", "YES");
     EXPECT_EQ(messages.shown.back().title, "WARNING");
-    EXPECT_EQ(folder.read("SKS061611.CBR"), logHeaderLines);
+    EXPECT_EQ(folder.read("sks061611.cbr"), logHeaderLines);
     EXPECT_EQ(shown(page, "Combo7"), "NO");
+    click(page, "Command2"); // upper case on the page, the same file on the disk
+    EXPECT_EQ(shown("frmVantrelMain", "Label12"), "FILE NAME:  SKS061611.CBR");
+    EXPECT_FALSE(folder.has("SKS061611.CBR"));
 }
 
 TEST_F(StartPageTest, OldContactsAreKeptBesideANewFile) {
@@ -139,6 +142,7 @@ TEST_F(StartPageTest, OldContactsAreKeptBesideANewFile) {
     folder.write("SKS061611.CBR.OLD", "older");
     openPage();
     fillIn();
+    type(page, "Text9", "SKS061611.CBR");
     messages.expect(std::string(newFileQuestion), true);
     choose(page, "Combo7", "YES");
     EXPECT_EQ(folder.read("SKS061611.CBR"), logHeaderLines);

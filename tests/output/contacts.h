@@ -69,7 +69,10 @@ inline std::vector<std::string> randomContacts(unsigned seed, int count) {
             {"MA", "NY", "AK", "HI", "DL", "ON", "QC", "YT", "DC", "G", "OK", "EA8", "", " MA"});
         contact.frequency =
             pick({"14050", "7045", "3550", "1825", "21050", "28050", "10120", "50125", "472"});
-        contact.name = pick({"JOHN", "CLUB", "JOHN/25", "ABCDEFGHIJ", "", "AL/5/6"});
+        contact.name = pick({"JOHN",
+                             "J\xDC"
+                             "RGEN",
+                             "JOHN/25", "ABCDEFGHIJ", "", "AL/5/6"});
         contact.date = pick({"2011-06-16", "2012-02-30", "07-01-2011", "01-01-2012"});
         contact.time = pick({"0000", "0959", "2359", "1830"});
         contact.marker = pick({"      ", "      ", "DUPE", "K3Y/EU", "DUPE  ", ""});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/adif.h"
 
+#include "output/adifitem.h"
 #include "output/outputfiles.h"
 #include "platform/files.h"
 #include "shared/bands.h"
@@ -20,36 +21,21 @@ constexpr Column day{qso::date.first + 8, 2};
 constexpr Column continent{qso::marker.first + 4, 2}; // the region letters of a K3Y tag
 constexpr std::size_t typicalRecord = 256;            // bytes
 
-// A decimal length and the `>` after it; field widths have one digit or two.
-void appendLength(std::string& bytes, int length) {
-    if (length >= 10)
-        bytes += static_cast<char>('0' + length / 10);
-    bytes += static_cast<char>('0' + length % 10);
-    bytes += '>';
-}
-
-// head: "<NAME:"
-void appendItem(std::string& bytes, std::string_view head, std::string_view value) {
-    bytes += head;
-    appendLength(bytes, length(value));
-    bytes += value;
-}
-
 class AdifWriter {
 public:
     void append(std::string& bytes, std::string_view contact) {
         takeFrequency(contact);
-        appendItem(bytes, "<FREQ:", m_mhz);
-        appendItem(bytes, "<BAND:", m_band);
+        appendAdifItem(bytes, "<FREQ:", m_mhz);
+        appendAdifItem(bytes, "<BAND:", m_band);
         bytes.append("<MODE:2>").append(qso::mode.of(contact));
         bytes.append("<QSO_DATE:8>").append(year.of(contact));
         bytes.append(month.of(contact)).append(day.of(contact));
         bytes.append("<TIME_ON:4>").append(qso::time.of(contact));
         bytes.append("<RST_SENT:3>").append(qso::rstSent.of(contact));
-        appendItem(bytes, "<CALL:", trim(qso::hisCall.of(contact)));
+        appendAdifItem(bytes, "<CALL:", trim(qso::hisCall.of(contact)));
         bytes.append("<RST_RCVD:3>").append(qso::rstReceived.of(contact));
-        appendItem(bytes, "<NAME:", trim(qso::hisName.of(contact)));
-        appendItem(bytes, "<STATE:", trim(qso::hisState.of(contact)));
+        appendAdifItem(bytes, "<NAME:", trim(qso::hisName.of(contact)));
+        appendAdifItem(bytes, "<STATE:", trim(qso::hisState.of(contact)));
         appendNumber(bytes, qso::hisNumber.of(contact));
         if (length(trim(qso::marker.of(contact))) == qso::marker.width)
             bytes.append("<CONT:2>").append(continent.of(contact));
@@ -72,9 +58,9 @@ private:
     static void appendNumber(std::string& bytes, std::string_view field) {
         constexpr std::string_view prefix = "SKCC NR: ";
         const std::string_view number = trim(field);
-        appendItem(bytes, "<SKCC_NR:", number);
+        appendAdifItem(bytes, "<SKCC_NR:", number);
         bytes += "<COMMENT:";
-        appendLength(bytes, length(prefix) + length(field));
+        appendAdifLength(bytes, length(prefix) + length(field));
         bytes.append(prefix).append(number);
     }
 

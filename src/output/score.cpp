@@ -152,16 +152,16 @@ void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Sc
 // Two-letter codes of states and provinces stand for their country. The field is compared as
 // it stands in the line, with its padding: a code that is out of place stays what it is.
 std::string_view countryOf(std::string_view field) {
-    const std::string_view code = trim(field);
-    if (length(code) != 2 || field != fitLeft(code, qso::hisState.width))
+    const std::string_view code = trimRight(field);
+    if (length(code) != 2 || length(field) != qso::hisState.width)
         return field;
+    if (adjoiningStates.holds(code))
+        return "USA";
+    if (canadianProvinces.holds(code))
+        return "CAN";
     if (code == "AK")
         return "ALK";
-    if (code == "HI")
-        return "HAW";
-    if (holdsCode(adjoiningStates, code))
-        return "USA";
-    return holdsCode(canadianProvinces, code) ? "CAN" : field;
+    return code == "HI" ? "HAW" : field;
 }
 
 Integer16 countCountries(const Contacts& contacts) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/strictadif.h"
 
+#include "output/adifitem.h"
 #include "output/contactdate.h"
 #include "output/outputfiles.h"
 #include "output/regioncodes.h"
@@ -22,7 +23,7 @@ namespace chrono = std::chrono;
 
 constexpr std::size_t typicalRecord = 320; // bytes
 constexpr std::string_view adifVersion = "3.1.4";
-constexpr std::string_view programId = "VANTREL"; // also part of our own fields' names
+constexpr std::string_view programId = "VANTREL"; // our own fields' names begin APP_VANTREL_
 
 // ADIF's numbers of the countries that divide into states.
 constexpr std::string_view unitedStates = "291";
@@ -125,27 +126,22 @@ std::string_view countryOfState(std::string_view code, std::string_view call) {
             return alaska;
         if (code == "HI")
             return hawaii;
-        if (code == "DC" || holdsCode(adjoiningStates, code))
+        if (code == "DC" || adjoiningStates.holds(code))
             return unitedStates;
     }
-    if (anyPart(call, isCanadianCall) && (code == "YT" || holdsCode(canadianProvinces, code)))
+    if (anyPart(call, isCanadianCall) && (code == "YT" || canadianProvinces.holds(code)))
         return canada;
     return {};
 }
 
 // --- Records ----------------------------------------------------------------------------------
 
-// "<NAME:4>JOHN " for a value, nothing without one.
-void appendField(std::string& bytes, std::string_view name, std::string_view value) {
+// "<NAME:4>JOHN " for a value, nothing without one. head: "<NAME:".
+void appendField(std::string& bytes, std::string_view head, std::string_view value) {
     if (value.empty())
         return;
-    bytes += '<';
-    bytes.append(name).append(":").append(std::to_string(value.size())).append(">");
-    bytes.append(value).append(" ");
-}
-
-void appendOwnField(std::string& bytes, std::string_view name, std::string_view value) {
-    appendField(bytes, "APP_" + std::string(programId) + '_' + std::string(name), value);
+    appendAdifItem(bytes, head, value);
+    bytes += ' ';
 }
 
 // What he sent that has no field of its own: a prefix for a state, a power for a number.
@@ -158,50 +154,50 @@ std::string notesOf(std::string_view prefix, std::string_view number) {
 
 void appendWhen(std::string& bytes, std::string_view contact) {
     if (const auto day = contactDay(contact))
-        appendField(bytes, "QSO_DATE", dateText(*day));
+        appendField(bytes, "<QSO_DATE:", dateText(*day));
     if (contactTime(contact))
-        appendField(bytes, "TIME_ON", qso::time.of(contact));
+        appendField(bytes, "<TIME_ON:", qso::time.of(contact));
 }
 
 void appendMarker(std::string& bytes, std::string_view contact) {
     const std::string marker = plainText(qso::marker.of(contact));
     if (isDupe(contact))
-        appendOwnField(bytes, "DUPE", "Y");
+        appendField(bytes, "<APP_VANTREL_DUPE:", "Y");
     else if (marker.starts_with("K3Y"))
-        appendOwnField(bytes, "K3Y", marker);
+        appendField(bytes, "<APP_VANTREL_K3Y:", marker);
 }
 
 void appendHisSide(std::string& bytes, std::string_view contact, const std::string& call) {
     const std::string state = plainText(qso::hisState.of(contact));
     const std::string number = plainText(qso::hisNumber.of(contact));
     const std::string_view country = countryOfState(state, call);
-    appendField(bytes, "RST_RCVD", plainText(qso::rstReceived.of(contact)));
-    appendField(bytes, "NAME", plainText(qso::hisName.of(contact)));
-    appendField(bytes, "STATE", country.empty() ? std::string_view() : state);
-    appendField(bytes, "DXCC", country);
-    appendField(bytes, "SKCC", isMemberNumber(number) ? number : std::string_view());
-    appendField(bytes, "NOTES", notesOf(country.empty() ? state : std::string_view(), number));
+    appendField(bytes, "<RST_RCVD:", plainText(qso::rstReceived.of(contact)));
+    appendField(bytes, "<NAME:", plainText(qso::hisName.of(contact)));
+    appendField(bytes, "<STATE:", country.empty() ? std::string_view() : state);
+    appendField(bytes, "<DXCC:", country);
+    appendField(bytes, "<SKCC:", isMemberNumber(number) ? number : std::string_view());
+    appendField(bytes, "<NOTES:", notesOf(country.empty() ? state : std::string_view(), number));
 }
 
 void appendMySide(std::string& bytes, std::string_view contact) {
     const std::string call = plainText(qso::myCall.of(contact));
     const std::string state = plainText(qso::myState.of(contact));
     const std::string_view country = countryOfState(state, call);
-    appendField(bytes, "RST_SENT", plainText(qso::rstSent.of(contact)));
-    appendField(bytes, "STATION_CALLSIGN", call);
-    appendField(bytes, "OPERATOR", call);
-    appendField(bytes, "MY_STATE", country.empty() ? std::string_view() : state);
-    appendField(bytes, "MY_DXCC", country);
+    appendField(bytes, "<RST_SENT:", plainText(qso::rstSent.of(contact)));
+    appendField(bytes, "<STATION_CALLSIGN:", call);
+    appendField(bytes, "<OPERATOR:", call);
+    appendField(bytes, "<MY_STATE:", country.empty() ? std::string_view() : state);
+    appendField(bytes, "<MY_DXCC:", country);
 }
 
 void appendContact(std::string& bytes, std::string_view contact) {
     const std::string call = plainText(qso::hisCall.of(contact));
     const std::string mhz = megahertz(qso::frequency.of(contact));
-    appendField(bytes, "CALL", call);
+    appendField(bytes, "<CALL:", call);
     appendWhen(bytes, contact);
-    appendField(bytes, "BAND", bandName(mhz));
-    appendField(bytes, "FREQ", mhz);
-    appendField(bytes, "MODE", plainText(qso::mode.of(contact)));
+    appendField(bytes, "<BAND:", bandName(mhz));
+    appendField(bytes, "<FREQ:", mhz);
+    appendField(bytes, "<MODE:", plainText(qso::mode.of(contact)));
     appendHisSide(bytes, contact, call);
     appendMySide(bytes, contact);
     appendMarker(bytes, contact);
@@ -210,10 +206,10 @@ void appendContact(std::string& bytes, std::string_view contact) {
 
 void appendHeader(std::string& bytes, std::string_view created) {
     bytes += "Contacts logged with Vantrel\r\n";
-    appendField(bytes, "ADIF_VER", adifVersion);
-    appendField(bytes, "PROGRAMID", programId);
-    appendField(bytes, "PROGRAMVERSION", VANTREL_VERSION);
-    appendField(bytes, "CREATED_TIMESTAMP", created);
+    appendField(bytes, "<ADIF_VER:", adifVersion);
+    appendField(bytes, "<PROGRAMID:", programId);
+    appendField(bytes, "<PROGRAMVERSION:", VANTREL_VERSION);
+    appendField(bytes, "<CREATED_TIMESTAMP:", created);
     bytes += "<EOH>\r\n";
 }
 

@@ -128,6 +128,18 @@ TEST_F(FilesPage, ListsTheAdifFileOrTheLogAndReturnsHere) {
     EXPECT_FALSE(module.listFromFileScreen);
 }
 
+TEST_F(FilesPage, TheMainPageTakesTheListOverForTheLog) {
+    click(page, "Option6");
+    click(page, "Option7");
+    screens.open(Screen::main);
+    settle();
+    click("frmVantrelMain", "Command6");
+    EXPECT_EQ(lines(list, "List1").front(), " Contest: SKS");
+    click(list, "Command1");
+    settle();
+    EXPECT_EQ(QApplication::activeWindow(), form("frmVantrelMain"));
+}
+
 TEST_F(FilesPage, ArrowKeysRunNoJob) {
     press(page, "Option5", Qt::Key_Down);
     press(page, "Option5", Qt::Key_Right);

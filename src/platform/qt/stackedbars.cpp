@@ -113,7 +113,7 @@ void StackedBars::paintBars(QPainter& painter, const QRect& plot) const {
     const double place = std::min(plot.width() / places, 4.0 * fontMetrics().height());
     // Where labels would touch, only as many are written as have room.
     const auto everyLabel = static_cast<std::size_t>((widestLabel + space) / place) + 1;
-    double x = plot.left();
+    double x = plot.left() + (plot.width() - place * (places - 1 + barShare)) / 2;
     for (std::size_t i = 0; i < m_bars.size(); ++i) {
         x += m_bars[i].afterGap ? place * gapShare : 0;
         const QRectF column(x, plot.top(), place * barShare, plot.height());

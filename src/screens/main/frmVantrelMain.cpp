@@ -126,6 +126,7 @@ void frmVantrelMain::connectHandlers() {
     onClick(Command3, &Main::Command3_Click);
     onClick(Command4, &Main::Command4_Click);
     onClick(Command5, &Main::Command5_Click);
+    onClick(Command6, &Main::Command6_Click);
     onClick(Command11, &Main::Command11_Click);
     onClick(Command12, &Main::Command12_Click);
     onClick(Command13, &Main::Command13_Click);
@@ -136,7 +137,6 @@ void frmVantrelMain::connectHandlers() {
         connect(button, &QPushButton::clicked, this,
                 [this, screen] { runHandler([&] { screens().open(screen); }); });
     };
-    opens(Command6, Screen::list);
     opens(Command7, Screen::correct);
     opens(Command8, Screen::deletion);
     opens(Command9, Screen::files);
@@ -420,6 +420,12 @@ void frmVantrelMain::Command12_Click() {
 
 void frmVantrelMain::Option1_Click() {
     screens().open(Screen::k3yBox);
+}
+
+void frmVantrelMain::Command6_Click() {
+    module().listShowsAdif = false;
+    module().listFromFileScreen = false;
+    screens().open(Screen::list);
 }
 
 // In the event month the standings take the place of the score.

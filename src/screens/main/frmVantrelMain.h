@@ -67,6 +67,7 @@ private:
     void Command14_Click(); // band down
     void Command12_Click(); // audio
     void Option1_Click();   // K3Y box
+    void Command6_Click();  // list the log
     void Command11_Click(); // score
 
     Entry entry() const;

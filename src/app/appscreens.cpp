@@ -4,6 +4,9 @@
 #include "k3y/frmCheckDupeK3Y.h"
 #include "k3y/frmK3YStandings.h"
 #include "k3y/frmK3Ybox.h"
+#include "logedit/frmVantrelCorrect.h"
+#include "logedit/frmVantrelDelete.h"
+#include "logedit/frmVantrelEDITcbr.h"
 #include "output/frmCountBonus.h"
 #include "output/frmVantrelFiles.h"
 #include "output/frmVantrelList.h"
@@ -31,6 +34,12 @@ Form* AppScreens::make(Screen screen) {
         return new frmVantrelMain(context);
     case Screen::dupe:
         return new frmVantrelDupe(context);
+    case Screen::correct:
+        return new frmVantrelCorrect(context);
+    case Screen::deletion:
+        return new frmVantrelDelete(context);
+    case Screen::editor:
+        return new frmVantrelEDITcbr(context);
     case Screen::standings:
         return new frmK3YStandings(context, areaPage);
     case Screen::standings2:

@@ -33,8 +33,8 @@ int runProgram(QApplication& application, QtMessages& messages) {
     const std::string folder = programFolder();
     const FolderLock lock(folder);
     if (!lock.held()) {
-        messages.show({"VANTREL IS ALREADY RUNNING IN THIS FOLDER", BoxIcon::critical,
-                       shownText(folder)});
+        messages.show(
+            {"VANTREL IS ALREADY RUNNING IN THIS FOLDER", BoxIcon::critical, shownText(folder)});
         return 1;
     }
     SystemCalls calls;

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "logedit/editor.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr std::size_t frequencyBox = 0;
+constexpr int shortFrequency = 4; // digits of a frequency below 10 MHz
+
+std::string tidiedFrequency(std::string_view typed) {
+    std::string khz = upper(left(typed, qso::frequency.width));
+    if (length(khz) == shortFrequency)
+        khz.insert(khz.begin(), ' ');
+    return fitLeft(khz, qso::frequency.width);
+}
+
+std::string tidiedBox(std::string_view typed, int width) {
+    return fitLeft(trim(upper(left(typed, width))), width);
+}
+
+} // namespace
+
+EditorBoxes editorBoxes(std::string_view line) {
+    EditorBoxes boxes;
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        boxes[i] = editorFields[i].read.of(line);
+    return boxes;
+}
+
+EditorBoxes tidiedBoxes(const EditorBoxes& typed) {
+    EditorBoxes boxes;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const std::string text = withoutSeparators(typed[i]);
+        boxes[i] = i == frequencyBox ? tidiedFrequency(text)
+                                     : tidiedBox(text, editorFields[i].written.width);
+    }
+    return boxes;
+}
+
+std::string rebuiltLine(std::string_view line, const EditorBoxes& boxes) {
+    std::string edited(line);
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        edited = withField(edited, editorFields[i].written, boxes[i]);
+
+    // Deliberate, as the editor has always rebuilt a line: columns 59 and 65 become blanks, so
+    // that a three-letter state and a six-character number of mine lose their last character,
+    // and the report sent is the old first digit with the first two of the box.
+    constexpr Column myStateKept{qso::myState.first, 2};
+    constexpr Column myNumberKept{qso::myNumber.first, 5};
+    std::string rebuilt = "QSO:";
+    for (const Column piece : {qso::frequency, qso::mode, qso::date, qso::time, qso::myCall,
+                               qso::rstSent, qso::myName, myStateKept, myNumberKept, qso::hisCall,
+                               qso::rstReceived, qso::hisName, qso::hisState, qso::hisNumber})
+        rebuilt += ' ' + std::string(piece.of(edited));
+    return rebuilt + std::string(qso::dupeMark.of(edited));
+}
+
+} // namespace vantrel

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// The correction page: finds a contact by its call, changes any of its fields.
+#pragma once
+
+#include "logedit/correction.h"
+#include "logedit/logedit.h"
+#include "platform/qt/form.h"
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace vantrel {
+
+class frmVantrelCorrect : public Form {
+    Q_OBJECT
+
+public:
+    explicit frmVantrelCorrect(const FormContext& context);
+
+protected:
+    QWidget* firstFocus() override;
+
+private:
+    void createControls();
+    void layOut();
+    void connectHandlers();
+
+    void Command3_Click(); // SEARCH, and Enter in the call box
+    void Command4_Click(); // SEARCH AGAIN
+    void Option1_Click();  // DUPE NOTE
+    void Command2_Click(); // SAVE CHANGES
+    void Command5_Click(); // UNDO
+
+    CorrectionBoxes boxes() const;
+    void showBoxes(const CorrectionBoxes& boxes);
+    void showContact();
+    void say(std::string_view message);
+
+    std::array<QLineEdit*, correctionFields.size()> m_boxes; // Text1 .. Text10
+    QPushButton* Command1;                                   // exit
+    QPushButton* Command2;                                   // save changes
+    QPushButton* Command3;                                   // search
+    QPushButton* Command4;                                   // search again
+    QPushButton* Command5;                                   // undo
+    QRadioButton* Option1;                                   // dupe note
+    QLabel* Label11;                                         // message
+    QLabel* Label12;                                         // what was cut to width
+
+    LogEdit m_log;
+    CorrectionBoxes m_shown{}; // as the last search or save left them
+};
+
+} // namespace vantrel

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "logedit/frmVantrelDelete.h"
+
+#include "logedit/changereport.h"
+#include "logedit/deletion.h"
+#include "platform/qt/formbuilder.h"
+#include "platform/qt/latin1.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace vantrel {
+
+namespace {
+
+constexpr std::string_view openingText = "ENTER A CALLSIGN ";
+constexpr std::string_view notFoundText = "THIS CALL NOT FOUND ";
+constexpr std::string_view lastEntryText = "  LAST ENTRY";
+constexpr std::string_view deletedText = "Deleted...Click EXIT";
+constexpr double headingEnlargement = 1.5;
+constexpr int openingColumns = 50; // room for the contact shown
+
+} // namespace
+
+frmVantrelDelete::frmVantrelDelete(const FormContext& context)
+    : Form(context, "frmVantrelDelete", "DELETE AN ENTRY FROM THE CABRILLO FILE"),
+      m_log(context.platform.files, context.module) {
+    createControls();
+    layOut();
+    connectHandlers();
+}
+
+void frmVantrelDelete::createControls() {
+    FormBuilder build(this);
+    Text1 = build.text("Text1");
+    Command3 = build.command("Command3", "SEARCH", "ENTER A CALL THEN CLICK HERE");
+    Command4 = build.command("Command4", "SEARCH AGAIN", "SEARCH FOR ADDITIONAL ENTRIES");
+    Command2 = build.command("Command2", "&DELETE", "REMOVE THE ENTRY DISPLAYED ");
+    Command5 = build.command("Command5", "&UNDO", "UNDOES THE LAST CHANGE MADE HERE, OR REDOES IT");
+    Command1 = build.command("Command1", "E&XIT", "QUIT THIS ROUTINE");
+    Label2 = build.label("Label2");
+    Label3 = build.label("Label3");
+    Label4 = build.label("Label4");
+    Command5->setEnabled(false);
+}
+
+void frmVantrelDelete::connectHandlers() {
+    using Page = frmVantrelDelete;
+    connectHandler(Text1, &QLineEdit::returnPressed, this, &Page::Command3_Click);
+    connectHandler(Command3, &QPushButton::clicked, this, &Page::Command3_Click);
+    connectHandler(Command4, &QPushButton::clicked, this, &Page::Command4_Click);
+    connectHandler(Command2, &QPushButton::clicked, this, &Page::Command2_Click);
+    connectHandler(Command5, &QPushButton::clicked, this, &Page::Command5_Click);
+    connect(Command1, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void frmVantrelDelete::Form_Load() {
+    showNothing(openingText);
+}
+
+QWidget* frmVantrelDelete::firstFocus() {
+    return Text1;
+}
+
+void frmVantrelDelete::Command3_Click() {
+    Command2->setEnabled(true);
+    const std::string key = tidied(fromQt(Text1->text()));
+    Text1->setText(toQt(key));
+    switch (m_log.search(key)) {
+    case SearchResult::found:
+        showContact();
+        break;
+    case SearchResult::notFound:
+        showNothing(notFoundText);
+        Command2->setEnabled(false);
+        break;
+    case SearchResult::keyTooShort:
+        break;
+    }
+    Text1->setFocus();
+}
+
+void frmVantrelDelete::Command4_Click() {
+    switch (m_log.searchNext(tidied(fromQt(Text1->text())))) {
+    case SearchResult::found:
+        Command2->setEnabled(true);
+        showContact();
+        break;
+    case SearchResult::notFound:
+        Label4->setText(toQt(lastEntryText));
+        break;
+    case SearchResult::keyTooShort:
+        break;
+    }
+    Text1->setFocus();
+}
+
+void frmVantrelDelete::Command2_Click() {
+    const ChangeResult result = m_log.removeLine();
+    Command5->setEnabled(m_log.canUndo());
+    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+        return;
+    showNothing(deletedText);
+    // A second press would remove the contact that moved up, which nobody has seen.
+    Command2->setEnabled(false);
+    Text1->setFocus();
+}
+
+void frmVantrelDelete::Command5_Click() {
+    const ChangeResult result = m_log.undo();
+    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+        return;
+    showNothing(m_log.undoText());
+    Command2->setEnabled(false);
+    Text1->setFocus();
+}
+
+void frmVantrelDelete::showContact() {
+    Label2->setText(toQt(deletionCallText(m_log.line())));
+    Label3->setText(toQt(deletionDetailText(m_log.line())));
+    Label4->clear();
+}
+
+void frmVantrelDelete::showNothing(std::string_view message) {
+    Label2->clear();
+    Label3->clear();
+    Label4->setText(toQt(message));
+}
+
+void frmVantrelDelete::layOut() {
+    FormBuilder build(this);
+    QLabel* heading = build.caption("DELETE AN ENTRY");
+    heading->setFont(enlargedFont(this, headingEnlargement));
+    heading->setAlignment(Qt::AlignCenter);
+    auto* searching = new QHBoxLayout;
+    searching->addWidget(build.caption("HIS CALL"));
+    searching->addWidget(Text1, 1);
+    searching->addWidget(Command3);
+    searching->addWidget(Command4);
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {Command2, Command5, Command1})
+        buttons->addWidget(button);
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(heading);
+    page->addLayout(searching);
+    for (QLabel* label : {Label2, Label3}) {
+        label->setFont(fixedWidthFont());
+        label->setMinimumWidth(QFontMetrics(label->font()).averageCharWidth() * openingColumns);
+        page->addWidget(label);
+    }
+    page->addWidget(Label4);
+    page->addLayout(buttons);
+    page->addStretch();
+    Label4->setAlignment(Qt::AlignCenter);
+}
+
+} // namespace vantrel

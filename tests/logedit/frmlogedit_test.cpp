@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "logedit/loglines.h"
+#include "support/qt/formharness.h"
+
+#include <QAbstractButton>
+
+#include <cerrno>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace vantrel::test {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::SizeIs;
+
+constexpr const char* correctPage = "frmVantrelCorrect";
+constexpr const char* deletePage = "frmVantrelDelete";
+constexpr const char* editPage = "frmVantrelEDITcbr";
+
+// The main page on a log of three contacts, and one of the three pages over it.
+class LogPages : public ::testing::Test, public FormHarness {
+protected:
+    LogPages() {
+        module.settings.logFileName = logName;
+        folder.write(logName, before);
+        screens.open(Screen::main);
+    }
+
+    void search(const char* page, std::string_view call) {
+        type(page, "Text1", call);
+        press(page, "Text1", Qt::Key_Return);
+    }
+
+    bool enabled(const char* page, const char* button) const {
+        return control<QAbstractButton>(page, button)->isEnabled();
+    }
+
+    std::string worked() const { return folder.read("StnsWorked.TXT"); }
+
+    const std::string before =
+        logOf({contact("K1ABC", "JOE"), contact("K9SKC"), contact("K1ABD", "ANN")});
+};
+
+TEST_F(LogPages, CorrectionChangesTheTypedFieldAndTheMainPageFollows) {
+    screens.open(Screen::correct);
+    search(correctPage, "k1ab");
+    EXPECT_EQ(shown(correctPage, "Text1"), "K1AB");
+    EXPECT_EQ(shown(correctPage, "Text2"), "JOE");
+    EXPECT_EQ(shown(correctPage, "Text7"), "14050");
+    click(correctPage, "Command4");
+    EXPECT_EQ(shown(correctPage, "Text2"), "ANN");
+    click(correctPage, "Command4");
+    EXPECT_EQ(shown(correctPage, "Label11"), "LAST ENTRY");
+    EXPECT_EQ(shown(correctPage, "Text2"), "ANN");
+
+    type(correctPage, "Text2", "anna,b");
+    type(correctPage, "Text7", "7045");
+    click(correctPage, "Command2");
+    std::string line = contact("K1ABD", "ANNA B");
+    line.replace(5, 5, " 7045");
+    const std::string after = logOf({contact("K1ABC", "JOE"), contact("K9SKC"), line});
+    EXPECT_EQ(folder.read(logName), after);
+    EXPECT_EQ(folder.read(backupName), before);
+    EXPECT_EQ(shown(correctPage, "Label11"), " Done....Click EXIT ");
+    EXPECT_EQ(shown(correctPage, "Label12"), "");
+    EXPECT_THAT(worked(), HasSubstr("|  7045 |"));
+    EXPECT_THAT(lines("frmVantrelMain", "List1").back(), HasSubstr("ANNA B"));
+
+    click(correctPage, "Command5");
+    EXPECT_EQ(folder.read(logName), before);
+    EXPECT_THAT(lines("frmVantrelMain", "List1").back(), HasSubstr("ANN  "));
+    click(correctPage, "Command5");
+    EXPECT_EQ(folder.read(logName), after);
+    press(correctPage, "Text1", Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(isOpen(correctPage));
+}
+
+TEST_F(LogPages, CorrectionSaysWhatItCutAndMarksADupe) {
+    screens.open(Screen::correct);
+    search(correctPage, "K9SKC");
+    type(correctPage, "Text2", "BARTHOLOMEW");
+    type(correctPage, "Text4", "MASS");
+    click(correctPage, "Option1");
+    EXPECT_EQ(shown(correctPage, "Text10"), "DUPE");
+    EXPECT_FALSE(control<QAbstractButton>(correctPage, "Option1")->isChecked());
+    click(correctPage, "Command2");
+    EXPECT_EQ(shown(correctPage, "Label11"), " Done....Click EXIT ");
+    EXPECT_EQ(shown(correctPage, "Label12"), "CUT TO WIDTH: HIS NAME, HIS STATE");
+    std::string line = contact("K9SKC", "BARTHOLOME", "DUPE  ");
+    line.replace(91, 3, "MAS");
+    EXPECT_EQ(folder.read(logName),
+              logOf({contact("K1ABC", "JOE"), line, contact("K1ABD", "ANN")}));
+}
+
+TEST_F(LogPages, NothingFoundSavesNothing) {
+    screens.open(Screen::correct);
+    click(correctPage, "Command2");
+    search(correctPage, "K1");
+    EXPECT_EQ(shown(correctPage, "Label11"), "");
+    search(correctPage, "W1AW");
+    EXPECT_EQ(shown(correctPage, "Label11"), "THIS CALL IS NOT FOUND");
+    EXPECT_FALSE(enabled(correctPage, "Command2"));
+    EXPECT_FALSE(enabled(correctPage, "Command5"));
+    EXPECT_EQ(folder.read(logName), before);
+    EXPECT_FALSE(folder.has(backupName));
+}
+
+TEST_F(LogPages, ContactLoggedMeanwhileIsNeverLost) {
+    screens.open(Screen::correct);
+    search(correctPage, "K9SKC");
+    type(correctPage, "Text2", "CLUBB");
+    files.appendLine(logName, contact("W1AW"));
+    messages.expect("THE LOG HAS CHANGED SINCE THE SEARCH");
+    click(correctPage, "Command2");
+    EXPECT_EQ(shown(correctPage, "Text2"), "CLUBB");
+    EXPECT_EQ(folder.read(logName), before + contact("W1AW") + "\r\n");
+
+    search(correctPage, "K9SKC");
+    type(correctPage, "Text2", "CLUBB");
+    click(correctPage, "Command2");
+    files.appendLine(logName, contact("W2AW"));
+    messages.expect("THE CHANGE CANNOT BE UNDONE");
+    click(correctPage, "Command5");
+    EXPECT_THAT(folder.read(logName), HasSubstr("W2AW"));
+}
+
+TEST_F(LogPages, FullDiskLeavesLogAndTyping) {
+    screens.open(Screen::correct);
+    search(correctPage, "K9SKC");
+    type(correctPage, "Text2", "CLUBB");
+    calls.failAt(Call::write, 1, ENOSPC);
+    messages.expect("Run-time error 61: Disk full");
+    click(correctPage, "Command2");
+    EXPECT_EQ(folder.read(logName), before);
+    EXPECT_EQ(shown(correctPage, "Text2"), "CLUBB");
+}
+
+TEST_F(LogPages, DeletionRemovesWhatItShowsOnce) {
+    screens.open(Screen::deletion);
+    EXPECT_EQ(shown(deletePage, "Label4"), "ENTER A CALLSIGN ");
+    search(deletePage, "k9skc");
+    EXPECT_EQ(shown(deletePage, "Label2"), "K9SKC       CLUB       IL  5000S ");
+    EXPECT_EQ(shown(deletePage, "Label3"), "14050 MHz CW 2011-06-16 0012       ");
+    click(deletePage, "Command2");
+    const std::string after = logOf({contact("K1ABC", "JOE"), contact("K1ABD", "ANN")});
+    EXPECT_EQ(folder.read(logName), after);
+    EXPECT_EQ(shown(deletePage, "Label4"), "Deleted...Click EXIT");
+    EXPECT_FALSE(enabled(deletePage, "Command2"));
+    click(deletePage, "Command2");
+    EXPECT_EQ(folder.read(logName), after);
+    EXPECT_EQ(shown("frmVantrelMain", "Text1"), "02");
+    EXPECT_THAT(lines("frmVantrelMain", "List1"), SizeIs(2));
+
+    search(deletePage, "K1AB");
+    EXPECT_TRUE(enabled(deletePage, "Command2"));
+    click(deletePage, "Command4");
+    click(deletePage, "Command4");
+    EXPECT_EQ(shown(deletePage, "Label4"), "  LAST ENTRY");
+    click(deletePage, "Command2");
+    EXPECT_EQ(folder.read(logName), logOf({contact("K1ABC", "JOE")}));
+    click(deletePage, "Command5");
+    EXPECT_EQ(folder.read(logName), after);
+    search(deletePage, "W1AW");
+    EXPECT_EQ(shown(deletePage, "Label4"), "THIS CALL NOT FOUND ");
+    EXPECT_FALSE(enabled(deletePage, "Command2"));
+}
+
+TEST_F(LogPages, EditorRebuildsTheLine) {
+    screens.open(Screen::editor);
+    search(editPage, "k1abd");
+    EXPECT_EQ(shown(editPage, "Label16"), "MAKE CORRECTIONS AS NECESSARY");
+    EXPECT_EQ(shown(editPage, "Text12"), "ANN       ");
+    EXPECT_EQ(shown(editPage, "Text6"), "599");
+    type(editPage, "Text2", "7045");
+    type(editPage, "Text6", "579");
+    click(editPage, "Command2");
+    EXPECT_EQ(shown(editPage, "Label16"), "                   Done......Click EXIT");
+    EXPECT_EQ(shown(editPage, "Text2"), " 7045");
+    EXPECT_EQ(folder.read(logName),
+              logOf({contact("K1ABC", "JOE"), contact("K9SKC"),
+                     "QSO:  7045 CW 2011-06-16 0012 W1ABC      557 JOHN       MA 1234T K1ABD      "
+                     "589 ANN        IL  5000S     "}));
+    search(editPage, "W1AW");
+    EXPECT_EQ(shown(editPage, "Label16"), "W1AW IS NOT IN THE FILE");
+    click(editPage, "Command4");
+    EXPECT_EQ(shown(editPage, "Label16"), "LAST ENTRY");
+}
+
+} // namespace
+} // namespace vantrel::test

@@ -36,6 +36,14 @@ std::string normalisedNumber(std::string_view number) {
     return withLeadingZeros(digits) + std::string(midToEnd(number, length(digits) + 1));
 }
 
+std::string memberRecord(std::string_view number, std::string_view call, std::string_view name,
+                         std::string_view state) {
+    return fitLeft(upper(trimLeft(call)), member::call.width) +
+           fitLeft(normalisedNumber(upper(trim(number))), member::number.width) +
+           fitLeft(upper(trim(left(name, member::name.width))), member::name.width) +
+           fitLeft(upper(trim(left(state, member::state.width))), member::state.width);
+}
+
 std::string numberKey(std::string_view number) {
     return withLeadingZeros(withoutAwardLetter(number));
 }

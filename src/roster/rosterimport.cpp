@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "roster/rosterimport.h"
+
+#include "platform/files.h"
+#include "roster/rosterrecord.h"
+#include "shared/boundedtable.h"
+#include "shared/itemreader.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace vantrel {
+
+namespace {
+
+constexpr int listCapacity = 20000;
+constexpr int wholeListInOneLine = 150; // a first line longer than this is no line
+// The lines of "SKSDB4.TXT", and of no other file, are padded with blanks to 232 columns.
+constexpr std::size_t paddedFile = 3;
+constexpr int paddedWidth = 232;
+
+constexpr std::string_view workingPhase = "<<< WORKING >>>";
+constexpr std::string_view splittingPhase = "PREPARING THE FILE";
+constexpr std::string_view savingPhase = "    SAVING THE FILES";
+
+std::string_view mergingPhase(MemberList list) {
+    return list == MemberList::data ? "ADDING TO DATABASE" : "READING THE DATABASE";
+}
+
+// One roster file in memory: its lines, and where each call stands first.
+class RosterTable {
+public:
+    // width: shorter lines are padded with blanks to it.
+    RosterTable(std::string_view name, int capacity, int width, std::string_view bytes)
+        : m_name(name),
+          m_width(static_cast<std::size_t>(width)),
+          m_lines("the table of " + m_name, capacity) {
+        m_places.reserve(static_cast<std::size_t>(capacity));
+        LineReader reader(bytes);
+        while (!reader.atEnd())
+            append(reader.next());
+    }
+
+    // The line that begins with this call, padded to its columns; nullptr for none.
+    const std::string* find(std::string_view call) const {
+        const auto place = m_places.find(std::string(call));
+        return place == m_places.end() ? nullptr : &m_lines.at(place->second);
+    }
+
+    void append(std::string_view line) {
+        m_lines.append(padded(line));
+        std::string call(left(m_lines.at(m_lines.size()), member::call.width));
+        m_places.try_emplace(std::move(call), m_lines.size());
+    }
+
+    // Puts the record in the place of the line that find() gives for its call.
+    void replace(std::string_view record) {
+        m_lines.at(m_places.at(std::string(member::call.of(record)))) = padded(record);
+    }
+
+    FileContent content() const { return {m_name, joinLines(m_lines.entries())}; }
+
+private:
+    std::string padded(std::string_view line) const {
+        std::string result(line);
+        result.resize(std::max(result.size(), m_width), ' ');
+        return result;
+    }
+
+    std::string m_name;
+    std::size_t m_width;
+    BoundedTable<std::string> m_lines;
+    std::unordered_map<std::string, int> m_places;
+};
+
+class Roster {
+public:
+    explicit Roster(const Files& files) {
+        for (std::size_t i = 0; i < rosterFiles.size(); ++i)
+            m_tables.emplace_back(rosterFiles[i], rosterCapacities[i],
+                                  i == paddedFile ? paddedWidth : 0,
+                                  files.readOrEmpty(rosterFiles[i]));
+    }
+
+    void merge(const std::string& record, ImportResult& result) {
+        RosterTable& table = m_tables[rosterFileOf(record)];
+        const std::string* const present = table.find(member::call.of(record));
+        if (present == nullptr) {
+            table.append(record);
+            ++result.added;
+            return;
+        }
+        if (fitLeft(member::number.of(*present), member::number.width) != member::number.of(record))
+            ++result.fixed;
+        table.replace(record);
+    }
+
+    void save(Files& files) const {
+        std::vector<FileContent> contents;
+        for (const RosterTable& table : m_tables)
+            contents.push_back(table.content());
+        files.rewriteAll(contents);
+    }
+
+private:
+    std::vector<RosterTable> m_tables;
+};
+
+BoundedTable<std::string_view> linesOf(std::string_view bytes, const std::string& path) {
+    BoundedTable<std::string_view> lines("the table of " + path, listCapacity);
+    LineReader reader(bytes);
+    while (!reader.atEnd())
+        lines.append(reader.next());
+    return lines;
+}
+
+} // namespace
+
+ImportResult importMembers(Files& files, MemberList list, std::string_view listPath,
+                           const ImportProgress& progress) {
+    ImportResult result;
+    if (!progress({workingPhase}))
+        return result;
+    Roster roster(files);
+    const std::string bytes = files.read(listPath);
+    if (std::min(bytes.find('\r'), bytes.size()) > wholeListInOneLine &&
+        !progress({splittingPhase}))
+        return result;
+    const BoundedTable<std::string_view> lines = linesOf(bytes, files.path(listPath));
+
+    MemberListReader reader(list);
+    std::string_view lastFile;
+    int number = 0;
+    for (const std::string_view line : lines) {
+        if (!progress({mergingPhase(list), ++number, lines.size()}))
+            return result;
+        const ListLine kind = reader.read(line);
+        if (kind == ListLine::malformed)
+            ++result.skipped;
+        if (kind != ListLine::member)
+            continue;
+        roster.merge(reader.record(), result);
+        lastFile = rosterFiles[rosterFileOf(reader.record())];
+    }
+
+    if (!progress({savingPhase}))
+        return result;
+    roster.save(files);
+    if (!lastFile.empty())
+        result.rosterFile = files.path(lastFile);
+    result.finished = true;
+    return result;
+}
+
+std::string lineNumberText(int line) {
+    constexpr int trailingBlanks = 24;
+    return std::to_string(line) + blanks(trailingBlanks);
+}
+
+std::string addedText(MemberList list, int added) {
+    return list == MemberList::data
+               ? "DONE. . . . " + std::to_string(added) + " MBRS ADDED. Click EXIT"
+               : "DONE..." + std::to_string(added) + " Mbrs Added...Click EXIT";
+}
+
+std::string fixedText(int fixed) {
+    return std::to_string(fixed) + " SKCC#'s Fixed";
+}
+
+std::string skippedText(int skipped) {
+    return skipped == 0 ? std::string() : std::to_string(skipped) + " LINES SKIPPED";
+}
+
+} // namespace vantrel

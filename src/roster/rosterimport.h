@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Bringing the five roster files up to date from one of the club's member lists.
+#pragma once
+
+#include "roster/memberlist.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+class Files;
+
+// Where an import is: told when a phase begins (line 0) and at each line of the list.
+struct ImportStep {
+    std::string_view phase; // in the operator's words
+    int line = 0;           // of the list, from 1
+    int lines = 0;          // in the whole list
+};
+
+// Returns false to give the import up.
+using ImportProgress = std::function<bool(const ImportStep&)>;
+
+struct ImportResult {
+    bool finished = false;    // false: given up, no file touched
+    int added = 0;            // members new to the roster
+    int fixed = 0;            // members whose stored number differed from the list's
+    int skipped = 0;          // lines that lack fields
+    std::string rosterFile{}; // path of the file of the list's last member; empty without any
+};
+
+// Merges the list `listPath` into the roster files: a member already there (the first line with
+// his call) is rewritten in place, a new one appended to the file of his call's first letter.
+// All five files are then rewritten, or none; a missing one is an empty one. Throws RuntimeError
+// 9 naming the table for a list of more than 20,000 lines or a roster file beyond its
+// capacity, 53 for a missing list, and as Files; no roster file is touched then.
+ImportResult importMembers(Files& files, MemberList list, std::string_view listPath,
+                           const ImportProgress& progress);
+
+// Shown when the list of members is missing.
+inline constexpr std::string_view memberListMissing = "SKCCLIST.TXT IS NOT FOUND";
+// The running line number as shown.
+std::string lineNumberText(int line);
+// "DONE. . . . 3 MBRS ADDED. Click EXIT", as the list's screen words it.
+std::string addedText(MemberList list, int added);
+std::string fixedText(int fixed);
+// Empty for none.
+std::string skippedText(int skipped);
+
+} // namespace vantrel

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// Finding a folder or a file: where the operator stands, what he sees there, what is handed
+// back.
+#pragma once
+
+#include "platform/folders.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+class Files;
+
+// Texts are ISO 8859-1, as shown; indexes count from 0 in the list of that name. What has no
+// name in that alphabet could not be handed back and is not listed.
+class FileFinder {
+public:
+    // Starts in the program folder. Throws as Folders::content.
+    FileFinder(const Files& files, const Folders& folders);
+
+    std::vector<std::string> drives() const;
+    // Index of the drive on which the current folder lies.
+    std::size_t currentDrive() const;
+    // ".." first, except at the top.
+    std::vector<std::string> folders() const;
+    std::vector<std::string> files() const;
+
+    // Each moves and forgets the file chosen. Throws as Folders::content; where the operator
+    // stood, and what he chose, then stays.
+    void openDrive(std::size_t index);
+    void enterFolder(std::size_t index);
+    void chooseFile(std::size_t index);
+
+    // The current folder and the file chosen in it, if any: what is shown and handed back. The
+    // folder ends with the separator and is in upper case where that still leads to it.
+    std::string selection() const;
+
+private:
+    void moveTo(const std::string& folder);
+
+    const Files& m_files;
+    const Folders& m_machine;
+    std::vector<std::string> m_drives; // this and the rest: real paths and names
+    std::string m_folder;
+    FolderContent m_content;
+    std::string m_folderText; // as shown
+    std::string m_chosen;     // a file's name; empty: none
+};
+
+} // namespace vantrel

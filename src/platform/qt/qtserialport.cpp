@@ -9,9 +9,11 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include <fcntl.h>
 #include <filesystem>
 #include <grp.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
@@ -69,6 +71,24 @@ SerialPortError openError(const QSerialPort& port, const std::string& device,
     }
 }
 
+// Qt puts the former settings back when it closes, and hang-up on close or hardware flow
+// control among them would move the keying lines. So it is given something else to close in
+// the port's place, and the port itself is closed as it stands, without hanging up.
+void closeQuietly(QSerialPort& port) {
+    const int device = ::dup(port.handle());
+    const int standIn = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+    ::dup2(standIn, port.handle());
+    ::close(standIn);
+    port.close();
+    termios settings = {};
+    if (::tcgetattr(device, &settings) == 0) {
+        settings.c_cflag &= ~static_cast<tcflag_t>(HUPCL);
+        ::tcsetattr(device, TCSANOW, &settings);
+    }
+    ::ioctl(device, TIOCNXCL);
+    ::close(device);
+}
+
 } // namespace
 
 QtSerialPort::QtSerialPort(const Files& files) : m_files(files) {
@@ -119,16 +139,7 @@ void QtSerialPort::close() {
     if (!m_port.isOpen())
         return;
     m_port.clear();
-    // Closing puts the port's former settings back, hang-up on close among them. The port
-    // stays open through the second handle until that is off again.
-    const int handle = ::dup(m_port.handle());
-    m_port.close();
-    termios settings = {};
-    if (::tcgetattr(handle, &settings) == 0) {
-        settings.c_cflag &= ~static_cast<tcflag_t>(HUPCL);
-        ::tcsetattr(handle, TCSANOW, &settings);
-    }
-    ::close(handle);
+    closeQuietly(m_port);
 }
 
 void QtSerialPort::write(std::string_view bytes) {
@@ -146,7 +157,7 @@ bool QtSerialPort::wait(int milliseconds) {
     m_waiting = &loop;
     const int result = loop.exec(); // another code: the program is quitting
     m_waiting = nullptr;
-    return result == woken;
+    return result == woken && m_port.isOpen();
 }
 
 std::string QtSerialPort::readAll() {

@@ -52,7 +52,7 @@ PtyRadio::PtyRadio() {
     m_slave = ::open(m_device.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
     termios raw = line();
     ::cfmakeraw(&raw);
-    raw.c_cflag |= HUPCL; // as a real port has it before anybody uses it
+    raw.c_cflag |= HUPCL | CRTSCTS; // as another program may have left a real port
     ::tcsetattr(m_slave, TCSANOW, &raw);
     m_notifier = std::make_unique<QSocketNotifier>(m_master, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] { hear(); });

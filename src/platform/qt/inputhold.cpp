@@ -63,7 +63,7 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() == QEvent::FocusOut && m_scopes > 0 && receiver->isWidgetType() &&
         static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
         m_focusBeforeClick = static_cast<QWidget*>(receiver);
-    if (!keepsInput(receiver, *event))
+    if (!keepsInput(*event))
         return false;
     const bool toFocus = isKey(*event) && receiver == QApplication::focusWidget();
     m_kept.push_back({receiver, std::unique_ptr<QEvent>(event->clone()), toFocus});
@@ -75,18 +75,12 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
     return true;
 }
 
-bool InputHold::keepsInput(QObject* receiver, const QEvent& event) const {
+bool InputHold::keepsInput(const QEvent& event) const {
     if (!isInput(event) || QApplication::activeModalWidget() != nullptr)
         return false;
-    if (m_scopes > 0)
-        return true;
     // What is being delivered goes through as events that are not the system's own; the
     // operator's go to the end of the queue.
-    if (m_delivering)
-        return event.spontaneous();
-    // The handler has just ended, and the key that started it goes on to the control's parents.
-    const auto* const parent = qobject_cast<QWidget*>(receiver);
-    return !isKey(event) || parent == nullptr || !parent->isAncestorOf(QApplication::focusWidget());
+    return m_scopes > 0 || !m_delivering || event.spontaneous();
 }
 
 // The window must not go while one of its handlers is still running.

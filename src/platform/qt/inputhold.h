@@ -52,7 +52,7 @@ private:
 
     void begin();
     void end();
-    bool keepsInput(QObject* receiver, const QEvent& event) const;
+    bool keepsInput(const QEvent& event) const;
     bool keepsClosing(QObject* receiver, QEvent* event);
     void scheduleDelivery();
     void deliver();

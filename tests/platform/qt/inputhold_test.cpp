@@ -40,6 +40,12 @@ struct Window : QWidget {
     }
 
     void handle() {
+        waitAndLog();
+        if (const auto next = std::exchange(afterHandler, nullptr))
+            next();
+    }
+
+    void waitAndLog() {
         const InputHold::Scope scope(hold);
         log.push_back("begin " + shown());
         const QPointer<Window> self(this);
@@ -70,7 +76,8 @@ struct Window : QWidget {
                        waiting->quit();
                    }};
     std::vector<std::function<void()>> pending; // run inside the first, second ... wait
-    std::function<void()> afterWait;
+    std::function<void()> afterWait;            // in the scope
+    std::function<void()> afterHandler;         // behind it, where errors are shown
     std::vector<std::string> log;
 };
 
@@ -134,6 +141,26 @@ TEST_P(Holding, EachKeptEnterRunsItsHandlerBeforeTheNextKeyArrives) {
                 ElementsAre("begin a|", "end a|", "begin a|", "end a|", "begin abc|", "end abc|"));
 }
 
+// Another handler of the page lets the window live for a while, too.
+TEST_P(Holding, KeysTypedWhileKeptOnesAreDeliveredComeBehindThem) {
+    window.pending = {[this] {
+        key(Qt::Key_Return);
+        keys("b");
+    }};
+    keys("a");
+    window.afterWait = [this] {
+        window.afterWait = [this] {
+            window.afterHandler = [this] {
+                QTimer::singleShot(5, &window, [this] { keys("c"); });
+                QTest::qWait(30);
+            };
+        };
+    };
+    key(Qt::Key_Return);
+    settle();
+    EXPECT_EQ(window.shown(), "abc|");
+}
+
 TEST_P(Holding, ShortcutsAndClicksKeepTheirPlace) {
     window.pending = {[this] {
         keys("b");
@@ -150,33 +177,40 @@ TEST_P(Holding, ShortcutsAndClicksKeepTheirPlace) {
     EXPECT_EQ(window.shown(), "abcd|");
 }
 
-TEST_P(Holding, KeptKeysDoNotAnswerAMessageBoxAndItsOwnKeysDo) {
-    window.pending = {[this] {
-        key(Qt::Key_Escape);
+// The handler's own boxes stand inside the scope, an error's box behind it.
+TEST_P(Holding, KeptKeysDoNotAnswerMessageBoxesAndTheirOwnKeysDo) {
+    for (std::function<void()> Window::*moment : {&Window::afterWait, &Window::afterHandler}) {
+        SCOPED_TRACE(moment == &Window::afterWait ? "inside" : "behind");
+        window.first->clear();
+        window.log.clear();
+        window.pending = {[this] {
+            key(Qt::Key_Escape);
+            key(Qt::Key_Return);
+            keys("x");
+        }};
+        int answer = -1;
+        bool boxStood = false;
+        window.*moment = [&] {
+            QMessageBox box(QMessageBox::NoIcon, QString(), QStringLiteral("?"),
+                            QMessageBox::Yes | QMessageBox::No, &window);
+            QTimer::singleShot(60, &box, [&] {
+                boxStood = box.isVisible();
+                if (GetParam() == Source::system)
+                    QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
+                else
+                    QTest::keyClick(&box, Qt::Key_Escape);
+            });
+            answer = box.exec();
+            window.activateWindow();
+        };
+        keys("a");
         key(Qt::Key_Return);
-        keys("x");
-    }};
-    int answer = -1;
-    bool boxStood = false;
-    window.afterWait = [&] {
-        QMessageBox box(QMessageBox::NoIcon, QString(), QStringLiteral("?"),
-                        QMessageBox::Yes | QMessageBox::No, &window);
-        QTimer::singleShot(60, &box, [&] {
-            boxStood = box.isVisible();
-            if (GetParam() == Source::system)
-                QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
-            else
-                QTest::keyClick(&box, Qt::Key_Escape);
-        });
-        answer = box.exec();
-    };
-    keys("a");
-    key(Qt::Key_Return);
-    settle();
-    EXPECT_TRUE(boxStood);
-    EXPECT_EQ(answer, QMessageBox::No);
-    EXPECT_THAT(window.log, ElementsAre("begin a|", "end a|", "begin a|", "end a|"));
-    EXPECT_EQ(window.shown(), "ax|");
+        settle();
+        EXPECT_TRUE(boxStood);
+        EXPECT_EQ(answer, QMessageBox::No);
+        EXPECT_THAT(window.log, ElementsAre("begin a|", "end a|", "begin a|", "end a|"));
+        EXPECT_EQ(window.shown(), "ax|");
+    }
 }
 
 TEST_P(Holding, ClosingTheWindowEndsTheWaitAndHappensAfterTheHandler) {

@@ -75,9 +75,9 @@ private:
     std::unordered_map<std::string, int> m_places;
 };
 
-class Roster {
+class RosterTables {
 public:
-    explicit Roster(const Files& files) {
+    explicit RosterTables(const Files& files) {
         for (std::size_t i = 0; i < rosterFiles.size(); ++i)
             m_tables.emplace_back(rosterFiles[i], rosterCapacities[i],
                                   i == paddedFile ? paddedWidth : 0,
@@ -123,7 +123,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     ImportResult result;
     if (!progress({workingPhase}))
         return result;
-    Roster roster(files);
+    RosterTables roster(files);
     const std::string bytes = files.read(listPath);
     if (std::min(bytes.find('\r'), bytes.size()) > wholeListInOneLine &&
         !progress({splittingPhase}))

@@ -48,7 +48,9 @@ std::string realDevice(const std::string& programFolder, const std::string& name
 // The group that owns the device: who belongs to it may use the port.
 std::string groupOf(const std::string& device) {
     struct stat info = {};
-    const group* const owner = ::stat(device.c_str(), &info) == 0 ? getgrgid(info.st_gid) : nullptr;
+    if (::stat(device.c_str(), &info) != 0 || info.st_gid == 0)
+        return "dialout"; // nobody joins root's
+    const group* const owner = ::getgrgid(info.st_gid);
     return owner == nullptr ? "dialout" : owner->gr_name;
 }
 

@@ -4,14 +4,19 @@
 #include "k3y/frmCheckDupeK3Y.h"
 #include "k3y/frmK3YStandings.h"
 #include "k3y/frmK3Ybox.h"
+#include "k3y/frmVantrelCallArea.h"
 #include "logedit/frmVantrelCorrect.h"
 #include "logedit/frmVantrelDelete.h"
 #include "logedit/frmVantrelEDITcbr.h"
 #include "output/frmCountBonus.h"
+#include "output/frmFileFinder.h"
+#include "output/frmVantrelBackup.h"
 #include "output/frmVantrelFiles.h"
 #include "output/frmVantrelList.h"
 #include "output/frmVantrelScore.h"
 #include "output/frmVantrelShowDB.h"
+#include "roster/frmMemberImport.h"
+#include "roster/frmSelectUpdateList.h"
 #include "screens/main/frmVantrelDupe.h"
 #include "screens/main/frmVantrelMain.h"
 #include "screens/start/frmVantrelStart.h"
@@ -58,13 +63,26 @@ Form* AppScreens::make(Screen screen) {
         return new frmVantrelList(context);
     case Screen::showDb:
         return new frmVantrelShowDB(context);
-    default:
-        return nullptr;
+    case Screen::backup:
+        return new frmVantrelBackup(context);
+    case Screen::finder:
+        return new frmFileFinder(context);
+    case Screen::updateList:
+        return new frmSelectUpdateList(context);
+    case Screen::readData:
+        return new frmMemberImport(context, dataImportPage);
+    case Screen::memberUpdate:
+        return new frmMemberImport(context, memberImportPage);
+    case Screen::callArea:
+        return new frmVantrelCallArea(context);
     }
+    return nullptr;
 }
 
 void AppScreens::open(Screen screen) {
-    openFor(QApplication::activeWindow(), screen);
+    // Not every platform says at once which window is active.
+    QWidget* active = QApplication::activeWindow();
+    openFor(active != nullptr ? active : m_lastOpened.data(), screen);
 }
 
 void AppScreens::replace(Screen current, Screen next) {
@@ -82,8 +100,11 @@ void AppScreens::openFor(QWidget* opener, Screen screen) {
     }
     if (!slot)
         slot = make(screen);
-    if (slot)
-        slot->open(opener);
+    if (!slot)
+        return;
+    if (slot->windowType() != Qt::ToolTip) // nothing returns to the dupe screen
+        m_lastOpened = slot;
+    slot->open(opener);
 }
 
 StartPage* AppScreens::startPage() {
@@ -101,8 +122,11 @@ void AppScreens::handBackPath(FinderMode mode, const std::string& path) {
     const auto receiver = receivers.find(mode);
     if (receiver == receivers.end())
         return;
-    if (auto* form = dynamic_cast<PathReceiver*>(m_slots[receiver->second].data()))
-        form->receivePath(path);
+    Form* const form = m_slots[receiver->second];
+    if (auto* const taker = dynamic_cast<PathReceiver*>(form)) {
+        form->bringToFront();
+        taker->receivePath(path);
+    }
 }
 
 void AppScreens::quit() {

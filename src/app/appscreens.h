@@ -32,6 +32,7 @@ private:
     Module1& m_module;
     Platform& m_platform;
     std::map<Screen, QPointer<Form>> m_slots;
+    QPointer<Form> m_lastOpened;
 };
 
 } // namespace vantrel

@@ -3,6 +3,7 @@
 // compares the files that come of it byte for byte.
 #include "screens/start/startlog.h"
 #include "support/contacts.h"
+#include "tour/afterwards.h"
 #include "tour/k3yevent.h"
 #include "tour/stage.h"
 
@@ -236,6 +237,7 @@ void play(Stage& stage) {
     writeRoster(stage);
     fillStartPage(stage);
     playContest(stage);
+    playAfterContest(stage);
     playK3yEvent(stage);
 }
 

@@ -98,7 +98,7 @@ void AppScreens::openFor(QWidget* opener, Screen screen) {
         slot->bringToFront();
         return;
     }
-    if (!slot)
+    if (!slot || slot->isGone())
         slot = make(screen);
     if (!slot)
         return;

@@ -6,6 +6,7 @@
 #include "tour/afterwards.h"
 #include "tour/k3yevent.h"
 #include "tour/stage.h"
+#include "tour/upkeep.h"
 
 #include <QApplication>
 
@@ -238,6 +239,7 @@ void play(Stage& stage) {
     fillStartPage(stage);
     playContest(stage);
     playAfterContest(stage);
+    playUpkeep(stage);
     playK3yEvent(stage);
 }
 

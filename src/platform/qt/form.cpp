@@ -39,6 +39,7 @@ void Form::keyPressEvent(QKeyEvent* event) {
 
 void Form::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
+    m_gone = event->isAccepted() && testAttribute(Qt::WA_DeleteOnClose);
     if (!event->isAccepted() || !m_opener)
         return;
     // No window is active by itself after one closes on every platform.

@@ -33,6 +33,8 @@ public:
     virtual void bringToFront();
     // Whether opening the screen again while it shows loads it again.
     virtual bool loadsAgain() const { return false; }
+    // Closed for good: the form lives until the event loop comes round, but must not come back.
+    bool isGone() const { return m_gone; }
     // The window that closing leads back to; nullptr when there is none any more.
     QWidget* opener() const { return m_opener; }
 
@@ -78,6 +80,7 @@ protected:
 private:
     FormContext m_context;
     QPointer<QWidget> m_opener;
+    bool m_gone = false;
 };
 
 } // namespace vantrel

@@ -5,6 +5,7 @@
 #include "support/contacts.h"
 #include "tour/afterwards.h"
 #include "tour/k3yevent.h"
+#include "tour/radioevening.h"
 #include "tour/stage.h"
 #include "tour/upkeep.h"
 
@@ -241,6 +242,7 @@ void play(Stage& stage) {
     playAfterContest(stage);
     playUpkeep(stage);
     playK3yEvent(stage);
+    playRadioEvening(stage);
 }
 
 // The looks that pictures are taken in: VANTREL_TOUR_POINTS, the font's size, and

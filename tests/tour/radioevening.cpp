@@ -69,6 +69,17 @@ std::vector<Worked> evening() {
     };
 }
 
+// The members of this evening, whatever was imported before it.
+void writeRoster(const Stage& stage) {
+    const auto write = [&](const char* name, const char* lines) {
+        std::ofstream(stage.folder / name, std::ios::binary) << lines;
+    };
+    write("SKSDB2.TXT", "K1ABC     0123T     JOE       CT \r\n"
+                        "K9SKC     5000S     CLUB      IL \r\n");
+    write("SKSDB3.TXT", "N4XYZ     8123C     ANN       NC \r\n");
+    write("SKSDB5.TXT", "DL1QRS    9010      KLAUS     DL \r\n");
+}
+
 void chooseRadio(Stage& stage, const PtyRadio& radio) {
     std::filesystem::create_symlink(radio.device(), stage.folder / "com1");
     std::ofstream(stage.folder / log, std::ios::binary) << logHeaderLines;
@@ -104,6 +115,7 @@ void playRadioEvening(Stage& stage) {
     PtyRadio radio(radioNamed("Kenwood"));
     radio.delay = 100;
     radio.hertz = 10'120'000;
+    writeRoster(stage);
     chooseRadio(stage, radio);
     if (!QTest::qWaitFor([&] { return stage.shown(mainPage, "Text7") == "10.120"; }))
         throw std::runtime_error("the radio is not read when the page opens");

@@ -333,7 +333,8 @@ std::string Files::journalPath(std::string_view journal) const {
     return (fs::path(m_programFolder) / journal).string();
 }
 
-void Files::rewriteAll(const std::vector<FileContent>& contents) {
+void Files::rewriteAll(const std::vector<FileContent>& contents,
+                       const std::function<void()>& between) {
     recover(); // what an earlier one could not settle would mistake our files for its own
     std::vector<Replacement> replacements;
     for (const FileContent& content : contents) {
@@ -346,6 +347,8 @@ void Files::rewriteAll(const std::vector<FileContent>& contents) {
             createBeside(replacements[i].target, contents[i].bytes);
             if (replacements[i].existed)
                 keepOld(replacements[i].target);
+            if (between)
+                between();
         }
         syncFoldersOf(replacements); // the journal must not reach the disk before them
         writeJournal(replacements);
@@ -452,9 +455,14 @@ void Files::recover() {
 }
 
 std::string joinLines(const std::vector<std::string>& lines) {
-    std::string bytes;
+    constexpr std::string_view lineEnd = "\r\n";
+    std::size_t size = 0;
     for (const std::string& line : lines)
-        bytes += line + "\r\n";
+        size += line.size() + lineEnd.size();
+    std::string bytes;
+    bytes.reserve(size);
+    for (const std::string& line : lines)
+        bytes.append(line).append(lineEnd);
     return bytes;
 }
 

@@ -2,6 +2,7 @@
 // The program's files: names without regard to case, durable appends and rewrites.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,8 +53,10 @@ public:
     // is the new one.
     void rewrite(std::string_view name, std::string_view bytes);
     // Replaces several files of the program folder, all or none, even when the machine stops
-    // in the middle: see recover().
-    void rewriteAll(const std::vector<FileContent>& contents);
+    // in the middle: see recover(). between: called after each file that has been written
+    // beside, so that a window can live on while the disk works.
+    void rewriteAll(const std::vector<FileContent>& contents,
+                    const std::function<void()>& between = {});
     // Writes the bytes to a file that does not exist yet: `name`, or else `name` followed by
     // 2, 3, ... Never replaces anything. Returns the path taken, as text to show.
     std::string keepCopy(std::string_view name, std::string_view bytes);

@@ -159,7 +159,7 @@ void frmMemberImport::layOut() {
     };
     if (*m_page.explanation != '\0')
         addText(m_page.explanation);
-    addText("The club publishes the list at " + std::string(listsAddress));
+    addText("The club publishes its lists at " + std::string(listsAddress));
     addText("Then run this routine to add new members to the database - Click ADD MBRS");
     auto* path = new QHBoxLayout;
     path->addWidget(Text1, 1);

@@ -3,8 +3,6 @@
 
 #include "roster/rosterrecord.h"
 
-#include <vector>
-
 namespace vantrel {
 
 namespace {
@@ -23,10 +21,9 @@ bool isHeader(std::string_view line) {
     return line.starts_with("skcc") || line.starts_with("SKCC");
 }
 
-// All fields of the line; the last runs to its end.
-std::vector<std::string_view> split(std::string_view line) {
-    std::vector<std::string_view> fields;
-    fields.reserve(dataFields + 1);
+// All fields of the line into `fields`; the last runs to its end.
+void split(std::string_view line, std::vector<std::string_view>& fields) {
+    fields.clear();
     const std::string_view searched = left(line, searchedColumns);
     std::size_t start = 0;
     for (std::size_t end = searched.find(separator); end != std::string_view::npos;
@@ -35,7 +32,6 @@ std::vector<std::string_view> split(std::string_view line) {
         start = end + 1;
     }
     fields.push_back(line.substr(start));
-    return fields;
 }
 
 } // namespace
@@ -51,7 +47,8 @@ ListLine MemberListReader::read(std::string_view line) {
     }
     if (trim(line).empty())
         return ListLine::other;
-    std::vector<std::string_view> fields = split(line);
+    std::vector<std::string_view>& fields = m_fields; // its memory is used for every line
+    split(line, fields);
     if (fields.size() < m_fieldCount)
         return ListLine::malformed;
     if (fields.size() > m_fieldCount && fields.back().empty()) // what follows the last separator

@@ -5,13 +5,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantrel {
 
 inline constexpr std::string_view dataListFile = "skccdata.txt";
 inline constexpr std::string_view memberListFile = "SKCCLIST.TXT";
-// Where the lists are published: shown for the operator to copy. Set it when packaging.
-inline constexpr std::string_view listsAddress = "https://roster.skcc.example/skccdata.txt";
+// Where the club publishes its lists: shown for the operator to copy.
+inline constexpr std::string_view listsAddress = "https://www.skccgroup.com";
 // The program that downloads both lists into its own folder.
 inline constexpr std::string_view fetcherProgram = "ROSTFETCH.EXE";
 
@@ -36,6 +37,7 @@ public:
 private:
     MemberList m_list;
     std::size_t m_fieldCount;
+    std::vector<std::string_view> m_fields; // of the line read last
     std::string m_record;
 };
 

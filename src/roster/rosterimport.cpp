@@ -43,11 +43,13 @@ public:
             append(reader.next());
     }
 
-    // The line that begins with this call, padded to its columns; nullptr for none.
-    const std::string* find(std::string_view call) const {
+    // The place of the first line that begins with this call, padded to its columns; 0 for
+    // none.
+    int find(std::string_view call) const {
         const auto place = m_places.find(std::string(call));
-        return place == m_places.end() ? nullptr : &m_lines.at(place->second);
+        return place == m_places.end() ? 0 : place->second;
     }
+    const std::string& line(int place) const { return m_lines.at(place); }
 
     void append(std::string_view line) {
         m_lines.append(padded(line));
@@ -55,9 +57,10 @@ public:
         m_places.try_emplace(std::move(call), m_lines.size());
     }
 
-    // Puts the record in the place of the line that find() gives for its call.
-    void replace(std::string_view record) {
-        m_lines.at(m_places.at(std::string(member::call.of(record)))) = padded(record);
+    void replace(int place, std::string_view record) {
+        std::string& line = m_lines.at(place);
+        line = record;
+        line.resize(std::max(line.size(), m_width), ' ');
     }
 
     FileContent content() const { return {m_name, joinLines(m_lines.entries())}; }
@@ -86,22 +89,23 @@ public:
 
     void merge(const std::string& record, ImportResult& result) {
         RosterTable& table = m_tables[rosterFileOf(record)];
-        const std::string* const present = table.find(member::call.of(record));
-        if (present == nullptr) {
+        const int place = table.find(member::call.of(record));
+        if (place == 0) {
             table.append(record);
             ++result.added;
             return;
         }
-        if (fitLeft(member::number.of(*present), member::number.width) != member::number.of(record))
+        const std::string_view stored = member::number.of(table.line(place));
+        if (fitLeft(stored, member::number.width) != member::number.of(record))
             ++result.fixed;
-        table.replace(record);
+        table.replace(place, record);
     }
 
-    void save(Files& files) const {
+    void save(Files& files, const std::function<void()>& between) const {
         std::vector<FileContent> contents;
         for (const RosterTable& table : m_tables)
             contents.push_back(table.content());
-        files.rewriteAll(contents);
+        files.rewriteAll(contents, between);
     }
 
 private:
@@ -147,7 +151,8 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
 
     if (!progress({savingPhase}))
         return result;
-    roster.save(files);
+    // Too late to give up: the files are all saved, or none.
+    roster.save(files, [&] { progress({savingPhase}); });
     if (!lastFile.empty())
         result.rosterFile = files.path(lastFile);
     result.finished = true;

@@ -38,10 +38,13 @@ std::string normalisedNumber(std::string_view number) {
 
 std::string memberRecord(std::string_view number, std::string_view call, std::string_view name,
                          std::string_view state) {
-    return fitLeft(upper(trimLeft(call)), member::call.width) +
-           fitLeft(normalisedNumber(upper(trim(number))), member::number.width) +
-           fitLeft(upper(trim(left(name, member::name.width))), member::name.width) +
-           fitLeft(upper(trim(left(state, member::state.width))), member::state.width);
+    std::string record;
+    record.reserve(member::width);
+    record += fitLeft(upper(left(trimLeft(call), member::call.width)), member::call.width);
+    record += fitLeft(normalisedNumber(upper(trim(number))), member::number.width);
+    record += fitLeft(upper(trim(left(name, member::name.width))), member::name.width);
+    record += fitLeft(upper(trim(left(state, member::state.width))), member::state.width);
+    return record;
 }
 
 std::string numberKey(std::string_view number) {

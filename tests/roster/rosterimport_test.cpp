@@ -7,6 +7,7 @@
 #include "support/errors.h"
 #include "support/tempfolder.h"
 
+#include <algorithm>
 #include <cerrno>
 
 namespace vantrel::test {
@@ -219,6 +220,8 @@ TEST_F(RosterImport, GivenUpAtAnyStepItLeavesTheFilesAsTheyWere) {
         EXPECT_EQ(result.finished, folder.has(file(1))) << "stopped at " << stopAt;
         ++stopAt;
     } while (!result.finished && stopAt < 10);
+    // Told again after each file that is saved; then it is too late to give up.
+    phases.erase(std::unique(phases.begin() + 3, phases.end()), phases.end());
     EXPECT_THAT(phases, ElementsAre("<<< WORKING >>>", "ADDING TO DATABASE", "ADDING TO DATABASE",
                                     "    SAVING THE FILES"));
 }

@@ -349,7 +349,6 @@ void frmVantrelMain::logContact() {
 
 void frmVantrelMain::Command4_Click() {
     clearEntry(EntryBoxes::empty);
-    Option1->setChecked(false);
     showTag(std::string(noTagLabel));
 }
 
@@ -463,6 +462,7 @@ void frmVantrelMain::clearEntry(EntryBoxes boxes) {
 
 void frmVantrelMain::showTag(const std::string& text) {
     Label23->setText(toQt(text));
+    Option1->setChecked(text != noTagLabel);
 }
 
 void frmVantrelMain::showLog() {

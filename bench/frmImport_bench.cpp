@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+// Importing 19,500 members into roster files near their capacity: without a window against
+// `LC_ALL=C sort` of the same list, in the window against without, and how long the window
+// goes without serving its events.
+#include "roster/clublist.h"
+#include "roster/rosterimport.h"
+#include "roster/rosterrecord.h"
+#include "support/program.h"
+
+#include <QElapsedTimer>
+#include <QPushButton>
+#include <QTimer>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+namespace {
+
+using namespace vantrel;
+
+constexpr int listed = 19500;
+constexpr int roomLeft = 50; // lines short of each file's capacity before the import
+constexpr int rounds = 9;
+
+std::string dataList() {
+    std::string list =
+        "SKCCNR|CALL|NAME|QTH|SPC|OLDCALL|SKCC|DXCODE|JOINDATE|CENTDATE|TRIBDATE\r\n";
+    // Spread over the files as the club's members are.
+    static constexpr std::array prefixes{"K", "W", "N", "A", "G", "K", "W", "K"};
+    auto members = test::madeUpMembers(listed);
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        members[i].call = prefixes[i % prefixes.size()] + std::to_string(i) + "XY";
+        list += test::dataLine(members[i], i) + "\r\n";
+    }
+    return list;
+}
+
+// Files that hold every member of the list, filled up with others to near their capacity.
+void fillRoster(bench::Program& program) {
+    importMembers(program.files, MemberList::data, dataListFile,
+                  [](const ImportStep&) { return true; });
+    for (std::size_t i = 0; i < rosterFiles.size(); ++i) {
+        std::string bytes = program.files.readOrEmpty(rosterFiles[i]);
+        for (auto count = std::count(bytes.begin(), bytes.end(), '\n');
+             count < rosterCapacities[i] - roomLeft; ++count)
+            bytes += fitLeft("Z9" + std::to_string(count), member::width) + "\r\n";
+        program.folder.write(std::string(rosterFiles[i]), bytes);
+    }
+}
+
+double millisecondsOf(const std::function<void()>& work) {
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+double median(std::vector<double> values) {
+    std::nth_element(values.begin(), values.begin() + static_cast<long>(values.size() / 2),
+                     values.end());
+    return values[values.size() / 2];
+}
+
+// The longest time between two turns of the event loop while it lives.
+class HoldWatch {
+public:
+    HoldWatch() {
+        m_since.start();
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+            longest = std::max(longest, static_cast<double>(m_since.nsecsElapsed()) / 1e6);
+            m_since.restart();
+        });
+        m_timer.start(0);
+    }
+    double longest = 0;
+
+private:
+    QTimer m_timer;
+    QElapsedTimer m_since;
+};
+
+void print(const char* subject, double ours, double bound, double atMost) {
+    std::printf("%-44s %9.1f ms %9.1f ms %8.2f %8.1f\n", subject, ours, bound, ours / bound,
+                atMost);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    bench::Program program;
+    const std::string list = std::string(dataListFile);
+    program.folder.write(list, dataList());
+    fillRoster(program);
+
+    const std::string sorting = "LC_ALL=C sort -o " + (program.folder.path / "sorted").string() +
+                                " " + (program.folder.path / list).string();
+    program.screens.open(Screen::readData);
+    QWidget* page = QApplication::activeWindow();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String("frmReadSKCCDATA"))
+            page = window;
+    auto* add = page->findChild<QPushButton*>(QStringLiteral("Command2"));
+    QCoreApplication::processEvents();
+
+    std::vector<double> without, sorted, inWindow, holds;
+    for (int round = 0; round < rounds; ++round) {
+        without.push_back(millisecondsOf([&] {
+            importMembers(program.files, MemberList::data, list,
+                          [](const ImportStep&) { return true; });
+        }));
+        sorted.push_back(millisecondsOf([&] {
+            if (std::system(sorting.c_str()) != 0)
+                std::abort();
+        }));
+        HoldWatch watch;
+        inWindow.push_back(millisecondsOf([&] { add->click(); }));
+        QCoreApplication::processEvents();
+        holds.push_back(watch.longest);
+    }
+    std::printf("%-44s %12s %12s %8s %8s\n", "subject", "ours", "bound", "ratio", "at most");
+    print("import of 19,500, against sort", median(without), median(sorted), 2);
+    print("the same in its window, against without", median(inWindow), median(without), 2);
+    std::printf("%-44s %9.1f ms %12s %8s %5.0f ms\n", "longest hold of the event loop meanwhile",
+                *std::max_element(holds.begin(), holds.end()), "", "", 50.0);
+    return 0;
+}

@@ -56,6 +56,12 @@ void frmVantrelDupe::bringToFront() {
     raise();
 }
 
+// It took no focus, so it gives none back: by now the operator may be typing the next name, or
+// be on another page.
+void frmVantrelDupe::closeEvent(QCloseEvent* event) {
+    QWidget::closeEvent(event);
+}
+
 void frmVantrelDupe::Timer1_Timer() {
     close();
 }

@@ -21,6 +21,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void Timer1_Timer();

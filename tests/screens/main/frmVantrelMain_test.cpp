@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 
 #include <cerrno>
 #include <gmock/gmock.h>
@@ -135,6 +136,24 @@ TEST_F(MainPageTest, RefusedDupeLeavesNothingBehind) {
     enterCall("k1abc");
     EXPECT_EQ(sound.alarms, 1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !isOpen("frmVantrelDupe"); }, 3000));
+}
+
+TEST_F(MainPageTest, DupeScreenClosesWithoutTakingTheFocus) {
+    openPage(joe);
+    enterCall("k1abc");
+    auto* timer = form("frmVantrelDupe")->findChild<QTimer*>(QStringLiteral("Timer1"));
+    ASSERT_NE(timer, nullptr);
+    type(page, "Text3", "BI");
+    timer->setInterval(0);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen("frmVantrelDupe"); }, 3000));
+    EXPECT_EQ(focus(), "Text3");
+
+    enterCall("k1abc");
+    timer = form("frmVantrelDupe")->findChild<QTimer*>(QStringLiteral("Timer1"));
+    screens.open(Screen::list);
+    timer->setInterval(0);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen("frmVantrelDupe"); }, 3000));
+    EXPECT_TRUE(form("frmVantrelList")->isActiveWindow());
 }
 
 TEST_F(MainPageTest, LoggedDupeIsMarkedOnce) {

@@ -4,6 +4,10 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
+#include <QKeyEvent>
+#include <QShortcutEvent>
+
+#include <algorithm>
 
 namespace vantrel {
 
@@ -11,6 +15,53 @@ namespace {
 QString text(const char* latin1) {
     return QString::fromLatin1(latin1);
 }
+
+// A box that a lookup has filled is padded to its width, with no room to type into: what is
+// typed takes the padding's place, and that of the blanks alone in an emptied box.
+class TextBox : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!event->text().isEmpty() && event->text().front().isPrint() && !hasSelectedText())
+            dropPadding();
+        QLineEdit::keyPressEvent(event);
+    }
+
+private:
+    void dropPadding() {
+        const QString shown = text();
+        const auto kept = shown.size() - countTrailingBlanks(shown);
+        const bool inTheWay = kept == 0 || shown.size() == maxLength();
+        if (kept == shown.size() || !inTheWay)
+            return;
+        const int cursor = cursorPosition();
+        setText(shown.first(kept));
+        setCursorPosition(std::min(cursor, static_cast<int>(kept)));
+    }
+
+    static qsizetype countTrailingBlanks(const QString& shown) {
+        const auto end = std::find_if(shown.crbegin(), shown.crend(),
+                                      [](QChar character) { return character != u' '; });
+        return end - shown.crbegin();
+    }
+};
+
+// Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is
+// typed meanwhile would still go into the contact being logged.
+class CommandButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+            return QPushButton::event(event);
+        click();
+        return true;
+    }
+};
 } // namespace
 
 template <typename Control>
@@ -21,7 +72,7 @@ Control* FormBuilder::named(Control* control, const char* name, const char* tool
 }
 
 QLineEdit* FormBuilder::text(const char* name, int width, const char* toolTip) {
-    QLineEdit* box = named(new QLineEdit(m_form), name, toolTip);
+    QLineEdit* box = named(new TextBox(m_form), name, toolTip);
     if (width > 0)
         box->setMaxLength(width);
     return box;
@@ -35,7 +86,7 @@ QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
 }
 
 QPushButton* FormBuilder::command(const char* name, const char* caption, const char* toolTip) {
-    return named(new QPushButton(vantrel::text(caption), m_form), name, toolTip);
+    return named(new CommandButton(vantrel::text(caption), m_form), name, toolTip);
 }
 
 QLabel* FormBuilder::label(const char* name, const char* caption) {

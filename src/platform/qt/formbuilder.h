@@ -18,10 +18,12 @@ class FormBuilder {
 public:
     explicit FormBuilder(QWidget* form) : m_form(form) {}
 
-    // A one-line box that takes at most `width` characters; 0: no limit.
+    // A one-line box that takes at most `width` characters; 0: no limit. What is typed takes
+    // the place of the blanks that pad it.
     QLineEdit* text(const char* name, int width = 0, const char* toolTip = "");
     // A box to read from only; out of the tab order.
     QLineEdit* output(const char* name, const char* toolTip = "");
+    // A button whose Alt key clicks it at once.
     QPushButton* command(const char* name, const char* caption, const char* toolTip = "");
     // Plain text, never markup.
     QLabel* label(const char* name, const char* caption = "");

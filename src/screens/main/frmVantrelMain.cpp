@@ -153,7 +153,9 @@ void frmVantrelMain::connectEntryBoxes() {
     connectHandler(Text2, &QLineEdit::textEdited, this, &Main::Text2_Change);
     connectHandler(Text2, &QLineEdit::returnPressed, this, &Main::Command2_Click);
     const auto nextOnEnter = [this](QLineEdit* box, QWidget* next) {
-        connect(box, &QLineEdit::returnPressed, next, [next] { next->setFocus(); });
+        // As Tab would: what the box holds is selected, and typing replaces it.
+        connect(box, &QLineEdit::returnPressed, next,
+                [next] { next->setFocus(Qt::TabFocusReason); });
     };
     nextOnEnter(Combo1->lineEdit(), Combo2);
     nextOnEnter(Combo2->lineEdit(), Text3);

@@ -117,6 +117,15 @@ TEST_F(MainPageTest, ExchangeIsTypedWithEnterFromBoxToBox) {
     EXPECT_EQ(shown(page, "Combo2"), "599");
 }
 
+TEST_F(MainPageTest, EnterSelectsWhatALookupPutIntoTheNextBox) {
+    openPage();
+    enterCall("k1abc");
+    EXPECT_EQ(focus(), "Text2");
+    press(page, "Combo2", Qt::Key_Return);
+    QTest::keyClicks(control(page, "Text3"), QStringLiteral("bill"));
+    EXPECT_EQ(shown(page, "Text3"), "BILL");
+}
+
 TEST_F(MainPageTest, RefusedDupeLeavesNothingBehind) {
     openPage(joe);
     const std::string before = folder.read("StnsWorked.TXT");

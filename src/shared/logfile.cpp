@@ -52,7 +52,11 @@ std::string startNewLog(Files& files, const OperatingSettings& settings) {
 
 void loadLog(const Files& files, std::string_view logFileName, QsoTable& table) {
     files.readInto(logFileName, table.spare());
-    table.refillFromSpare();
+    try {
+        table.refillFromSpare();
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.code(), files.path(logFileName) + ": " + error.detail());
+    }
 }
 
 } // namespace vantrel

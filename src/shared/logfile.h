@@ -27,7 +27,8 @@ std::string logHeader(std::string_view contestText, std::string_view myCall,
 // for an empty name, and as Files.
 std::string startNewLog(Files& files, const OperatingSettings& settings);
 
-// Reads the log's contacts into the table. Throws as Files::read and QsoTable::refill.
+// Reads the log's contacts into the table. Throws as Files::read and QsoTable::refill, the
+// log's path in the detail.
 void loadLog(const Files& files, std::string_view logFileName, QsoTable& table);
 
 } // namespace vantrel

@@ -243,7 +243,7 @@ void frmVantrelMain::Command2_Click() {
         return;
     }
     module().dupeFlag = false;
-    now.call = trim(now.call);
+    now.call = callAsEntered(now.call);
     Text2->setText(toQt(now.call));
     if (!lookedUpAndShown(now)) {
         toCallBox();
@@ -339,11 +339,19 @@ void frmVantrelMain::logContact() {
     const bool logWasThere = platform().files.present(module().settings.logFileName);
     appendContact(module(), platform().files);
     // The contact is on the disk: whatever fails from here on is shown, but the boxes are
-    // cleared all the same, so that nobody logs it twice.
-    runHandler([this] { bringUpToDate(module(), platform().files); });
+    // cleared first, so that nobody logs it twice.
+    std::optional<RuntimeError> failure;
+    try {
+        bringUpToDate(module(), platform().files);
+    } catch (const RuntimeError& error) {
+        failure = error;
+    }
     showLog();
     clearEntry(EntryBoxes::empty);
     showTag(std::string(noTagLabel));
+    if (failure)
+        messages().show({failure->headline(), BoxIcon::critical,
+                         failure->detail() + '\n' + std::string(isLoggedText)});
     if (!logWasThere)
         messages().show({std::string(logStartedAgainText), BoxIcon::exclamation,
                          platform().files.path(module().settings.logFileName)});

@@ -34,6 +34,10 @@ bool isComplete(const Entry& entry) {
     return length(entry.number) > 1;
 }
 
+std::string callAsEntered(std::string_view box) {
+    return std::string(trim(withoutSeparators(box)));
+}
+
 bool canLookUp(std::string_view call) {
     if (call.empty())
         return false;
@@ -69,13 +73,13 @@ void forgetLookup(Entry& entry, const Entry& lookedUp) {
 }
 
 bool canBeLogged(const Entry& entry) {
-    return length(trim(entry.call)) >= shortestCall;
+    return length(callAsEntered(entry.call)) >= shortestCall;
 }
 
 Qso contactFrom(const Entry& entry, Module1& module, const Clock& clock) {
     const OperatingSettings& settings = module.settings;
     Qso contact;
-    contact.hisCall = fitLeft(upper(trim(withoutSeparators(entry.call))), qso::hisCall.width);
+    contact.hisCall = fitLeft(upper(callAsEntered(entry.call)), qso::hisCall.width);
     contact.hisName = fieldOf(entry.name, qso::hisName.width);
     contact.hisState = fieldOf(entry.state, qso::hisState.width);
     contact.hisNumber = fieldOf(entry.number, qso::hisNumber.width);

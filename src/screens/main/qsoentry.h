@@ -32,6 +32,9 @@ inline constexpr std::string_view wrongBandText = " MHz IS NOT A VALID SPRINT FR
 inline constexpr std::string_view invalidEntryText = "Invalid Entry - Pleasr try again";
 inline constexpr std::string_view duplicateQsoText = " <<<<<< THIS IS A DUPLICATE QSO >>>>>> ";
 
+// Said with whatever fails after the contact is in the log.
+inline constexpr std::string_view isLoggedText = "THE QSO IS IN THE LOG";
+
 // The log vanished under the program: the contact is in a new one of that name.
 inline constexpr std::string_view logStartedAgainText =
     "THE LOG FILE WAS NO LONGER THERE.  A NEW ONE HAS BEEN STARTED WITH THIS QSO";
@@ -39,6 +42,10 @@ inline constexpr std::string_view logStartedAgainText =
 // True when SEARCH has nothing left to do and logs: the number box holds more than one
 // character.
 bool isComplete(const Entry& entry);
+
+// His call as the rules take it from its box: commas and control characters are blanks, none
+// of them around it.
+std::string callAsEntered(std::string_view box);
 
 // False when a call is too short to look up, a letter and fewer than three characters (or
 // nothing): SEARCH then goes back to the call box.

@@ -27,8 +27,13 @@ void rebuildWorkedStations(Module1& module, Files& files) {
 }
 
 void addWorkedStation(Module1& module, Files& files, std::string_view contactLine) {
-    if (module.qsoTable.count() > Module1::workedCapacity || module.workedStations.full())
+    if (module.qsoTable.count() > Module1::workedCapacity)
         return;
+    // Somebody else changed the log, or it began again: the list is made anew from it.
+    if (module.qsoTable.count() != module.workedStations.size() + 1) {
+        rebuildWorkedStations(module, files);
+        return;
+    }
     module.workedStations.append(workedEntry(contactLine));
     files.appendLine(workedStationsFile, workedEntry(contactLine));
 }

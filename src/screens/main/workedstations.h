@@ -22,8 +22,9 @@ std::string workedEntry(std::string_view contactLine);
 void rebuildWorkedStations(Module1& module, Files& files);
 
 // Adds the entry of a contact just logged, the last of module.qsoTable, to the list and
-// appends it to the file; does nothing once the log holds more than 1,000. Throws as
-// Files::appendLine; the list has the entry all the same.
+// appends it to the file; does nothing once the log holds more than 1,000. A list that is not
+// in step with the table is rebuilt. Throws as Files::appendLine; the list has the entry all
+// the same.
 void addWorkedStation(Module1& module, Files& files, std::string_view contactLine);
 
 } // namespace vantrel

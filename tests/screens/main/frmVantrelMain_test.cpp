@@ -15,6 +15,7 @@
 namespace vantrel::test {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
@@ -270,8 +271,10 @@ TEST_F(MainPageTest, ContactOnTheDiskIsNeverLoggedTwice) {
     enterCall("k1abc");
     calls.failAt(Call::write, 2, ENOSPC); // the worked-stations file, after the log
     messages.expect("Run-time error 61: Disk full");
+    messages.whileShown = [this] { EXPECT_EQ(shown(page, "Text2"), ""); };
     press(page, "Text2", Qt::Key_Return);
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr("StnsWorked.TXT"));
+    EXPECT_THAT(messages.shown.back().informative,
+                AllOf(HasSubstr("StnsWorked.TXT"), HasSubstr("THE QSO IS IN THE LOG")));
     EXPECT_EQ(logged(), joe);
     EXPECT_EQ(shown(page, "Text2"), "");
     EXPECT_EQ(shown(page, "Text1"), "01");
@@ -291,6 +294,16 @@ TEST_F(MainPageTest, DeletedLogStartsAgainWithTheContact) {
                                              .hisState = "CT",
                                              .hisNumber = "0123T"}) +
                                     "\r\n");
+    EXPECT_EQ(shown(page, "Text1"), "01");
+    EXPECT_THAT(lines(page, "List1"), ElementsAre(HasSubstr(" 7040")));
+}
+
+TEST_F(MainPageTest, CommaInTheCallIsTheBlankItIsLoggedAs) {
+    openPage(contactLine({.hisCall = "K1 AB"}) + "\r\n");
+    enterCall(",k1,ab");
+    EXPECT_TRUE(isOpen("frmVantrelDupe"));
+    enterCall(",k,");
+    EXPECT_EQ(shown(page, "Text2"), "K");
 }
 
 TEST_F(MainPageTest, EscapeIsNoLog) {

@@ -12,6 +12,7 @@
 namespace vantrel::test {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 class QsoEntry : public ::testing::Test {
@@ -143,7 +144,7 @@ TEST_F(QsoEntry, LogBeyondTheTableIsReportedAndStillShown) {
         log += contactLine({}) + "\r\n";
     folder.write("SKS061611.CBR", log);
     EXPECT_RUNTIME_ERROR(openLog(module, files), ErrorCode::subscriptOutOfRange,
-                         HasSubstr("12000"));
+                         AllOf(HasSubstr("SKS061611.CBR"), HasSubstr("12000")));
     EXPECT_EQ(countText(module), "12000");
     EXPECT_EQ(module.workedStations.size(), Module1::workedCapacity);
     EXPECT_EQ(folder.read("SKS061611.CBR"), log);

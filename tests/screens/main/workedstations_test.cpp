@@ -102,6 +102,18 @@ TEST_F(WorkedStations, TheThousandthIsAddedAndTheNextIsNot) {
     EXPECT_EQ(file.substr(999U * 72), workedEntry(contactNumber(1000)) + "\r\n");
 }
 
+TEST_F(WorkedStations, ListFollowsALogThatSomebodyElseChanged) {
+    for (const int before : {3, 8}) {
+        m_module.qsoTable.refill(logOf(before));
+        rebuildWorkedStations(m_module, m_files);
+        m_module.qsoTable.refill(logOf(5));
+        addWorkedStation(m_module, m_files, contactNumber(5));
+        EXPECT_EQ(m_module.workedStations.size(), 5) << before;
+        EXPECT_EQ(m_module.workedStations.at(5), workedEntry(contactNumber(5)));
+        EXPECT_EQ(m_folder.read("StnsWorked.TXT").size(), 5U * 72);
+    }
+}
+
 TEST_F(WorkedStations, ListHasTheEntryAlsoWhenTheFileCannotBeWritten) {
     m_module.qsoTable.refill(contact);
     m_calls.failAt(Call::write, 1, ENOSPC);

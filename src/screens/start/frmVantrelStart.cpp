@@ -201,8 +201,8 @@ void frmVantrelStart::startNewFile() {
     // The file gets the name as it was typed; START finds it whatever its case.
     settings.logFileName = trim(withoutSeparatorsAndQuotes(fromQt(Text9->text())));
     Label14->clear();
+    refuseOwnFile(platform().files, settings.logFileName);
     const std::string kept = startNewLog(platform().files, settings);
-    module().settings.logFileName = settings.logFileName;
     Label14->setText(toQt(kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept));
 }
 
@@ -227,19 +227,21 @@ void frmVantrelStart::Command5_Click() {
 
 void frmVantrelStart::Command2_Click() {
     upperCaseBoxes();
-    module().settings = storedSettings(pageSettings());
-    saveSettings(platform().files, module().settings);
-    switch (probeLog(platform().files, module().settings.logFileName)) {
+    const OperatingSettings settings = storedSettings(pageSettings());
+    saveSettings(platform().files, settings);
+    switch (probeLog(platform().files, settings.logFileName)) {
     case LogProbe::opened:
+        // Not before: a main page behind this one goes on with the log that it shows.
+        module().settings = settings;
         openMainPage();
         break;
     case LogProbe::fileNotFound:
         messages().show({std::string(fileNotFoundText), BoxIcon::critical,
-                         platform().files.path(module().settings.logFileName)});
+                         platform().files.path(settings.logFileName)});
         break;
     case LogProbe::pathNotFound:
         messages().show({std::string(pathNotFoundText), BoxIcon::critical,
-                         platform().files.path(module().settings.logFileName)});
+                         platform().files.path(settings.logFileName)});
         break;
     }
 }

@@ -159,6 +159,37 @@ TEST_F(StartPageTest, NewFileWithoutANameIsRefused) {
     EXPECT_THAT(messages.shown.back().informative, HasSubstr("name"));
 }
 
+TEST_F(StartPageTest, MainPageKeepsItsLogUntilAnotherIsOpen) {
+    folder.write("SKS061611.CBR", logHeaderLines);
+    openPage();
+    fillIn();
+    click(page, "Command2");
+    screens.open(Screen::start); // from the file screen
+    type(page, "Text9", "new.cbr");
+    messages.expect(std::string(newFileQuestion), true);
+    choose(page, "Combo7", "YES");
+    type(page, "Text9", "nosuch.cbr");
+    messages.expect(std::string(fileNotFoundText));
+    click(page, "Command2");
+    form(page)->close();
+    type("frmVantrelMain", "Text2", "k9skc");
+    click("frmVantrelMain", "Command3");
+    EXPECT_EQ(shown("frmVantrelMain", "Label12"), "FILE NAME:  SKS061611.CBR");
+    EXPECT_THAT(folder.read("SKS061611.CBR"), HasSubstr("K9SKC"));
+    EXPECT_EQ(folder.read("new.cbr"), logHeaderLines);
+    EXPECT_FALSE(folder.has("NOSUCH.CBR"));
+}
+
+TEST_F(StartPageTest, NewFileInPlaceOfTheSettingsIsRefused) {
+    folder.write("Vantrel.CFG", "settings");
+    openPage();
+    type(page, "Text9", "vantrel.cfg");
+    messages.expect(std::string(newFileQuestion), true);
+    messages.expect("Run-time error 75: Path/File access error");
+    choose(page, "Combo7", "YES");
+    EXPECT_EQ(folder.read("Vantrel.CFG"), "settings");
+}
+
 TEST_F(StartPageTest, DefaultNameFollowsContestAndLocalDate) {
     openPage();
     click(page, "Option3");

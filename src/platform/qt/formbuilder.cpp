@@ -48,6 +48,15 @@ private:
     }
 };
 
+// Chosen by a click anywhere in its row, not on its text alone.
+class OptionButton : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+};
+
 // Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is
 // typed meanwhile would still go into the contact being logged.
 class CommandButton : public QPushButton {
@@ -117,7 +126,7 @@ QComboBox* FormBuilder::editableCombo(const char* name, const char* toolTip) {
 }
 
 QRadioButton* FormBuilder::option(const char* name, const char* caption, const char* toolTip) {
-    return named(new QRadioButton(vantrel::text(caption), m_form), name, toolTip);
+    return named(new OptionButton(vantrel::text(caption), m_form), name, toolTip);
 }
 
 QRadioButton* FormBuilder::jobOption(const char* name, const char* caption, const char* toolTip) {

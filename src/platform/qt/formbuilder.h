@@ -32,6 +32,7 @@ public:
     QComboBox* combo(const char* name, const char* toolTip = "");
     // A combo that one can also type into: nothing completes or inserts by itself.
     QComboBox* editableCombo(const char* name, const char* toolTip = "");
+    // Its whole rectangle takes the click.
     QRadioButton* option(const char* name, const char* caption, const char* toolTip = "");
     // An option that runs a job on every click and belongs to no exclusive group.
     QRadioButton* jobOption(const char* name, const char* caption, const char* toolTip = "");

@@ -55,6 +55,15 @@ INSTANTIATE_TEST_SUITE_P(
                       Typing{"FullBox_TakesNoMore", "K1ABCD", 6, "E", "K1ABCD"}),
     [](const auto& row) { return std::string(row.param.name); });
 
+TEST_F(ControlsTest, OptionIsChosenBehindItsText) {
+    QRadioButton* option = build.option("Option1", "SKS");
+    option->resize(400, 20);
+    form.resize(420, 40);
+    show();
+    QTest::mouseClick(option, Qt::LeftButton, Qt::NoModifier, QPoint(350, 10));
+    EXPECT_TRUE(option->isChecked());
+}
+
 TEST_F(ControlsTest, AltKeyClicksBeforeTheNextKeyArrives) {
     QLineEdit* box = build.text("Text1");
     QPushButton* log = build.command("Command1", "&LOG");

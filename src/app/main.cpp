@@ -62,6 +62,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vantrel"));
     QApplication::setApplicationVersion(QStringLiteral(VANTREL_VERSION));
+    QApplication::setDesktopFileName(QString::fromLatin1(desktopEntry));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/vantrel.png")));
     QtMessages messages;
     try {

@@ -31,17 +31,36 @@ bool holdsData(const std::string& folder) {
     return false;
 }
 
-} // namespace
+// An installation has the program in its "bin" and the desktop entry in the "share" beside;
+// a folder that is taken along has not.
+bool installedForAll(const fs::path& executableFolder) {
+    const fs::path entries = executableFolder.parent_path() / "share/applications";
+    std::error_code ignored;
+    return executableFolder.filename() == "bin" &&
+           fs::exists(entries / (std::string(desktopEntry) + ".desktop"), ignored);
+}
 
-std::string chooseProgramFolder(const std::string& executableFolder,
-                                const std::string& userFolder) {
+bool keepsFilesBeside(const std::string& executableFolder) {
+    // Whoever starts it once as the system's administrator could write among the system's
+    // programs, and his files there would stop everybody else's start.
+    if (installedForAll(executableFolder))
+        return false;
     if (::access(executableFolder.c_str(), W_OK) == 0)
-        return executableFolder;
+        return true;
     const std::string reason = std::strerror(errno);
     if (holdsData(executableFolder))
         throw RuntimeError(ErrorCode::permissionDenied, "the program's folder cannot be written: " +
                                                             shownText(executableFolder) + ": " +
                                                             reason);
+    return false;
+}
+
+} // namespace
+
+std::string chooseProgramFolder(const std::string& executableFolder,
+                                const std::string& userFolder) {
+    if (keepsFilesBeside(executableFolder))
+        return executableFolder;
     std::error_code error;
     fs::create_directories(userFolder, error);
     if (error)

@@ -7,10 +7,14 @@
 
 namespace vantrel {
 
+// The name by which a desktop knows the program.
+inline constexpr const char* desktopEntry = "org.vantrel.Vantrel";
+
 // The executable's folder when the user can write there; when he cannot and it holds no
-// configuration and no log, `userFolder` (created when missing). Both are real paths. Throws
-// RuntimeError 70 when a folder with data cannot be written: that is no reason to start an
-// empty world elsewhere; 75 when `userFolder` cannot be created.
+// configuration and no log, or when the program is installed for all users, `userFolder`
+// (created when missing). Both are real paths. Throws RuntimeError 70 when a folder with data
+// cannot be written: that is no reason to start an empty world elsewhere; 75 when `userFolder`
+// cannot be created.
 std::string chooseProgramFolder(const std::string& executableFolder, const std::string& userFolder);
 
 // Holds the folder's lock while it lives; the system drops it when the program is killed.

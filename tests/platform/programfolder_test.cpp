@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// Where the program's files go: carried along, installed for all users, made read-only; and
+// one program a folder.
+#include "platform/programfolder.h"
+#include "support/errors.h"
+#include "support/tempfolder.h"
+
+#include <gtest/gtest.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace vantrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::HasSubstr;
+
+constexpr unsigned nobody = 65534;
+
+// Nothing is read-only to the system's administrator: while this lives the test is nobody in
+// particular, when it was started as root.
+class OrdinaryUser {
+public:
+    OrdinaryUser() {
+        if (m_wasRoot) {
+            EXPECT_EQ(::syscall(SYS_setresuid, nobody, nobody, 0), 0);
+        }
+    }
+    ~OrdinaryUser() {
+        if (m_wasRoot)
+            ::syscall(SYS_setresuid, 0, 0, 0);
+    }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+private:
+    bool m_wasRoot = ::geteuid() == 0;
+};
+
+class ProgramFolder : public ::testing::Test {
+protected:
+    ProgramFolder() {
+        fs::create_directories(programs);
+        fs::permissions(folder.path(), fs::perms::all); // nobody makes his own folder in it
+    }
+    ~ProgramFolder() override { fs::permissions(programs, fs::perms::owner_all); }
+
+    void makeReadOnly() const {
+        const auto write =
+            fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+        fs::permissions(programs, fs::perms::all & ~write);
+    }
+    void installDesktopEntry() const {
+        fs::create_directories(folder.path() / "share/applications");
+        folder.write("share/applications/org.vantrel.Vantrel.desktop", "[Desktop Entry]\n");
+    }
+
+    TempFolder folder;
+    fs::path programs = folder.path() / "bin";
+    fs::path own = folder.path() / "home/share/Vantrel";
+};
+
+TEST_F(ProgramFolder, AFolderThatIsTakenAlong_KeepsTheFiles) {
+    EXPECT_EQ(chooseProgramFolder(programs, own), programs);
+    EXPECT_FALSE(fs::exists(own));
+}
+
+TEST_F(ProgramFolder, ReadOnlyWithoutData_GivesTheUsersOwnFolder) {
+    makeReadOnly();
+    const OrdinaryUser user;
+    EXPECT_EQ(chooseProgramFolder(programs, own), own);
+    EXPECT_TRUE(fs::is_directory(own));
+}
+
+TEST_F(ProgramFolder, ReadOnlyWithData_IsAnErrorAndNoEmptyWorldElsewhere) {
+    for (const char* data : {"Vantrel.CFG", "vantrel.cfg", "SKS061611.CBR", "mylog.cbr"}) {
+        folder.write(std::string("bin/") + data, "");
+        makeReadOnly();
+        {
+            const OrdinaryUser user;
+            EXPECT_RUNTIME_ERROR(chooseProgramFolder(programs, own), ErrorCode::permissionDenied,
+                                 HasSubstr(programs.string()));
+            EXPECT_FALSE(fs::exists(own)) << data;
+        }
+        fs::permissions(programs, fs::perms::owner_all);
+        fs::remove(programs / data);
+    }
+}
+
+// The administrator may write among the system's programs. Files of his there would stop
+// everybody else's start, and ones that lie there already must not.
+TEST_F(ProgramFolder, InstalledForAll_GivesEachUserHisOwnWhateverHeMayWrite) {
+    installDesktopEntry();
+    EXPECT_EQ(chooseProgramFolder(programs, own), own);
+    folder.write("bin/Vantrel.CFG", "");
+    makeReadOnly();
+    const OrdinaryUser user;
+    EXPECT_EQ(chooseProgramFolder(programs, own), own);
+}
+
+TEST_F(ProgramFolder, ADesktopEntryForAFolderOfOnesOwn_ChangesNothing) {
+    installDesktopEntry();
+    const fs::path carried = folder.path() / "Vantrel";
+    fs::create_directories(carried);
+    EXPECT_EQ(chooseProgramFolder(carried, own), carried);
+}
+
+TEST_F(ProgramFolder, TheUsersOwnFolderCannotBeMade_NamesIt) {
+    folder.write("home", "a file in the way");
+    installDesktopEntry();
+    EXPECT_RUNTIME_ERROR(chooseProgramFolder(programs, own), ErrorCode::pathFileAccess,
+                         HasSubstr(own.string()));
+}
+
+TEST_F(ProgramFolder, OneProgramAFolder_UntilItEnds) {
+    {
+        const FolderLock first(folder.string());
+        EXPECT_TRUE(first.held());
+        EXPECT_FALSE(FolderLock(folder.string()).held());
+        EXPECT_TRUE(FolderLock(programs.string()).held());
+    }
+    EXPECT_TRUE(FolderLock(folder.string()).held());
+    EXPECT_RUNTIME_ERROR(FolderLock((folder.path() / "missing").string()),
+                         ErrorCode::pathFileAccess, HasSubstr("missing"));
+}
+
+} // namespace
+} // namespace vantrel::test

@@ -24,10 +24,11 @@ NEEDED = ("Xvfb", "openbox", "xdotool")
 class Screen:
     """A virtual screen with a window manager; DISPLAY names it."""
 
-    def __init__(self):
+    def __init__(self, *options):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp",
+             *options],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         number = os.read(read, 16).decode().strip()
@@ -117,6 +118,8 @@ def compare(path, expected):
 
 HEADER = [" Contest: SKS", " My Call: W1ABC", "My SKCC#: 1234T ", "   Count: 66 to HisCall"]
 
+LOG = "mylog.cbr"  # named as it is typed; the program shows it in upper case
+
 # frequency typed or "", call, and name, state, number: typed unless the roster has them
 CONTEST = [
     ("", "k1abc", ("JOE", "CT", "0123T"), True, "14050", "20M"),
@@ -128,7 +131,7 @@ CONTEST = [
 
 def fill_start_page():
     """The focus is in the call box; the tab order follows the page."""
-    type_text("w1abc\tjohn\tma\t1234t\t\tmylog.cbr")
+    type_text("w1abc\tjohn\tma\t1234t\t\t" + LOG)
     keys("Tab", "Tab", "Tab", "Down")  # default name, browse, start a new: YES
     wait_for_window("WARNING")
     keys("alt+y")
@@ -155,7 +158,7 @@ def log_contacts(log):
 
 
 def play(program, folder):
-    log = folder / "mylog.cbr"  # named as it was typed; the program shows it in upper case
+    log = folder / LOG
     (folder / "SKSDB2.TXT").write_bytes(b"K1ABC     0123T     JOE       CT \r\n")
     backup = folder / "backup"
     backup.mkdir()

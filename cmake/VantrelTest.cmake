@@ -22,6 +22,13 @@ function(vantrel_tests room)
   if(form_tests AND VANTREL_FORMS)
     add_executable(test_forms_${name} ${form_tests})
     target_link_libraries(test_forms_${name} PRIVATE forms_test_support forms_test_main)
-    gtest_discover_tests(test_forms_${name} TEST_PREFIX "${room}/forms/" DISCOVERY_TIMEOUT 60)
+    # Pseudo-terminals are numbered anew at once: the lock file of one that a test has just let
+    # go would stop another test that gets its number meanwhile.
+    set(lock "")
+    if(room MATCHES "^(platform|screens/main)$")
+      set(lock PROPERTIES RESOURCE_LOCK serial-ports)
+    endif()
+    gtest_discover_tests(test_forms_${name} TEST_PREFIX "${room}/forms/" DISCOVERY_TIMEOUT 60
+      ${lock})
   endif()
 endfunction()

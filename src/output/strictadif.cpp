@@ -8,6 +8,7 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "shared/bands.h"
+#include "shared/integer16.h"
 #include "shared/logfile.h"
 #include "shared/qsoline.h"
 #include "shared/qsotable.h"
@@ -230,8 +231,8 @@ std::string creationTime(const LocalTime& local, std::string_view gmtOffset) {
     const chrono::year_month_day localDay(chrono::year(local.year),
                                           chrono::month(static_cast<unsigned>(local.month)),
                                           chrono::day(static_cast<unsigned>(local.day)));
-    const auto utc =
-        chrono::sys_days(localDay) + chrono::hours(local.hour + numericValue(gmtOffset));
+    const auto utc = chrono::sys_days(localDay) +
+                     chrono::hours(local.hour + Integer16(numericValue(gmtOffset)).value());
     const auto day = chrono::floor<chrono::days>(utc);
     const auto hour = chrono::duration_cast<chrono::hours>(utc - day).count();
     return dateText(day) + ' ' + zeroPadded(static_cast<int>(hour), 2) +

@@ -58,7 +58,8 @@ std::string workedBefore(const QsoTable& table, std::string_view typed, int colu
         return {};
     std::string result;
     for (const Worked& worked : workedWith(table, typed)) {
-        const std::string next = (result.empty() ? "" : "  ") + textOf(worked);
+        std::string next = result.empty() ? "" : "  ";
+        next += textOf(worked);
         if (length(result) + length(next) > columns)
             return result + std::string(more);
         result += next;

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// Any bytes as a log of the event: both standings fill cells from its contacts and count what
+// they fill.
+#include "fuzz/fuzztarget.h"
+#include "k3y/standings.h"
+#include "shared/qsotable.h"
+
+#include <algorithm>
+
+namespace vantrel::test {
+namespace {
+
+void cellsAreFromTheLog(const Standings& standings, const QsoTable& table) {
+    int filled = 0;
+    for (int row = 1; row <= static_cast<int>(standings.rows().size()); ++row)
+        for (int column = 1; column <= static_cast<int>(bands.size()); ++column) {
+            const StandingsCell& cell = standings.cell(row, column);
+            filled += cell.filled ? 1 : 0;
+            require(cell.filled || cell.text.empty(), "an empty cell shows nothing");
+            require(!cell.filled || std::any_of(table.lines().begin(), table.lines().end(),
+                                                [&](std::string_view line) {
+                                                    return line.find(cell.text) != line.npos;
+                                                }),
+                    "a filled cell shows what stands in the log");
+        }
+    require(standings.total() >= filled, "every filled cell was counted");
+    require(standings.total() <= table.count(), "a contact counts once at most");
+    require((filled == 0) == (standings.total() == 0), "what was counted is filled");
+}
+
+} // namespace
+} // namespace vantrel::test
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace vantrel;
+    using namespace vantrel::test;
+    QsoTable table;
+    table.refill(std::string(data, data + size));
+    cellsAreFromTheLog(areaStandings(table), table);
+    cellsAreFromTheLog(regionStandings(table), table);
+    return 0;
+}

@@ -372,7 +372,7 @@ QLayout* frmVantrelStart::fileBox() {
     auto* grid = new QGridLayout;
     grid->addWidget(build.caption("FILE NAME:"), 0, 0);
     grid->addWidget(Text9, 0, 1, 1, 2);
-    grid->addWidget(Command4, 1, 1);
+    grid->addWidget(Command4, 1, 0, 1, 2);
     grid->addWidget(Command3, 1, 2);
     grid->addWidget(build.caption("START A NEW"), 2, 0);
     grid->addWidget(Combo7, 2, 1);
@@ -380,10 +380,10 @@ QLayout* frmVantrelStart::fileBox() {
     grid->addWidget(build.caption("LOG DUPES:"), 4, 0);
     grid->addWidget(Combo6, 4, 1);
     grid->addWidget(build.caption("BONUS STATION:"), 5, 0);
-    grid->addWidget(Text10, 5, 1);
-    grid->addWidget(Command6, 5, 2);
+    grid->addWidget(Text10, 5, 1, 1, 2);
+    grid->addWidget(Command6, 6, 1, 1, 2);
     Label14->setWordWrap(true);
-    grid->setRowStretch(6, 1);
+    grid->setRowStretch(7, 1);
     return grid;
 }
 

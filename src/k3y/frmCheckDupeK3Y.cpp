@@ -79,12 +79,15 @@ QWidget* frmCheckDupeK3Y::firstFocus() {
 void frmCheckDupeK3Y::Command2_Click() {
     logTheDupe(module(), platform().files);
     m_logged = true;
-    runHandler([this] { bringUpToDate(module(), platform().files); });
+    const std::optional<Message> failure = bringUpToDate(module(), platform().files);
     if (MainPage* page = screens().mainPage()) {
         page->showLog();
         page->clearEntry(EntryBoxes::empty);
     }
+    Messages& boxes = messages();
     close();
+    if (failure)
+        boxes.show(*failure);
 }
 
 void frmCheckDupeK3Y::Command1_Click() {

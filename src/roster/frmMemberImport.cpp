@@ -16,6 +16,7 @@ namespace vantrel {
 
 namespace {
 constexpr qint64 frameMilliseconds = 16;
+constexpr int widthInCharacters = 90;
 } // namespace
 
 const MemberImportPage dataImportPage{
@@ -178,7 +179,9 @@ void frmMemberImport::layOut() {
     buttons->addWidget(Command2);
     buttons->addWidget(Command1);
     page->addLayout(buttons);
-    resize(600, 360);
+    // As high as its texts need when they wrap at this width.
+    const int width = fontMetrics().averageCharWidth() * widthInCharacters;
+    resize(width, page->totalHeightForWidth(width));
 }
 
 } // namespace vantrel

@@ -340,18 +340,12 @@ void frmVantrelMain::logContact() {
     appendContact(module(), platform().files);
     // The contact is on the disk: whatever fails from here on is shown, but the boxes are
     // cleared first, so that nobody logs it twice.
-    std::optional<RuntimeError> failure;
-    try {
-        bringUpToDate(module(), platform().files);
-    } catch (const RuntimeError& error) {
-        failure = error;
-    }
+    const std::optional<Message> failure = bringUpToDate(module(), platform().files);
     showLog();
     clearEntry(EntryBoxes::empty);
     showTag(std::string(noTagLabel));
     if (failure)
-        messages().show({failure->headline(), BoxIcon::critical,
-                         failure->detail() + '\n' + std::string(isLoggedText)});
+        messages().show(*failure);
     if (!logWasThere)
         messages().show({std::string(logStartedAgainText), BoxIcon::exclamation,
                          platform().files.path(module().settings.logFileName)});

@@ -125,9 +125,15 @@ void appendContact(const Module1& module, Files& files) {
     files.appendLine(module.settings.logFileName, module.currentLine);
 }
 
-void bringUpToDate(Module1& module, Files& files) {
-    loadLog(files, module.settings.logFileName, module.qsoTable);
-    addWorkedStation(module, files, module.currentLine);
+std::optional<Message> bringUpToDate(Module1& module, Files& files) {
+    try {
+        loadLog(files, module.settings.logFileName, module.qsoTable);
+        addWorkedStation(module, files, module.currentLine);
+    } catch (const RuntimeError& error) {
+        return Message{error.headline(), BoxIcon::critical,
+                       error.detail() + '\n' + std::string(isLoggedText)};
+    }
+    return std::nullopt;
 }
 
 std::string countText(const Module1& module) {

@@ -3,8 +3,10 @@
 // step, without a window.
 #pragma once
 
+#include "platform/messages.h"
 #include "shared/qsoline.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -87,8 +89,9 @@ void openLog(Module1& module, Files& files);
 void appendContact(const Module1& module, Files& files);
 
 // Reloads the log and adds the contact to the worked-stations list and file. The contact is
-// logged whatever this throws (RuntimeError 9 for a full table, or as Files).
-void bringUpToDate(Module1& module, Files& files);
+// logged whatever fails here (a full table, a file): returned is what to tell the operator
+// then, once his boxes are cleared.
+std::optional<Message> bringUpToDate(Module1& module, Files& files);
 
 // The count box: "00", "09", "10", "12000".
 std::string countText(const Module1& module);

@@ -7,6 +7,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 namespace vantrel {
@@ -17,6 +18,7 @@ constexpr std::string_view workingText = "    < WORKING >     ";
 constexpr std::string_view doneText = " Done....Click EXIT ";
 constexpr std::string_view notFoundText = "THIS CALL IS NOT FOUND";
 constexpr std::string_view lastEntryText = "LAST ENTRY";
+constexpr std::string_view foundLead = "FOUND: ";
 constexpr std::string_view cutLead = "CUT TO WIDTH: ";
 constexpr std::string_view shortCallText = "A CALL NEEDS AT LEAST THREE CHARACTERS";
 constexpr double headingEnlargement = 1.5;
@@ -43,6 +45,8 @@ void frmVantrelCorrect::createControls() {
     Command1 = build.command("Command1", "E&XIT", "EXIT THIS ROUTINE");
     Label11 = build.label("Label11");
     Label12 = build.label("Label12");
+    Label13 = build.label("Label13");
+    Command2->setEnabled(false);
     Command5->setEnabled(false);
 }
 
@@ -63,37 +67,35 @@ QWidget* frmVantrelCorrect::firstFocus() {
 
 void frmVantrelCorrect::Command3_Click() {
     say("");
-    Command2->setEnabled(true);
-    const std::string key = tidied(fromQt(m_boxes[0]->text()));
-    m_boxes[0]->setText(toQt(key));
+    const std::string key = takeKey();
     switch (m_log.search(key)) {
     case SearchResult::found:
-        showContact();
+        showBoxes(correctionBoxes(key, m_log.line()));
         break;
     case SearchResult::notFound:
         say(notFoundText);
-        Command2->setEnabled(false);
         break;
     case SearchResult::keyTooShort:
         break;
     }
-    m_boxes[0]->setFocus();
+    followLog();
 }
 
 void frmVantrelCorrect::Command4_Click() {
     say("");
-    switch (m_log.searchNext(tidied(fromQt(m_boxes[0]->text())))) {
+    const std::string key = takeKey();
+    switch (m_log.searchNext(key)) {
     case SearchResult::found:
-        Command2->setEnabled(true);
-        showContact();
+        showBoxes(correctionBoxes(key, m_log.line()));
         break;
     case SearchResult::notFound:
+        m_shown[0] = key; // searched for, so it is no correction of the call that stays
         say(lastEntryText);
         break;
     case SearchResult::keyTooShort:
         break;
     }
-    m_boxes[0]->setFocus();
+    followLog();
 }
 
 void frmVantrelCorrect::Option1_Click() {
@@ -108,14 +110,12 @@ void frmVantrelCorrect::Command2_Click() {
         messages().show({std::string(shortCallText), BoxIcon::exclamation});
         return;
     }
-    say(workingText);
     const Correction correction = corrected(m_log.line(), m_shown, boxes());
-    const ChangeResult result = m_log.replaceLine(correction.line);
-    say("");
-    Command5->setEnabled(m_log.canUndo());
+    const ChangeResult result = rewriteAtWork(correction.line);
     if (!reportChange(result, m_log, messages(), screens().mainPage()))
         return;
     showBoxes(correction.boxes);
+    followLog();
     say(doneText);
     if (!correction.cut.empty())
         Label12->setText(toQt(std::string(cutLead) + correction.cut));
@@ -128,8 +128,21 @@ void frmVantrelCorrect::Command5_Click() {
     CorrectionBoxes key{};
     key[0] = fromQt(m_boxes[0]->text());
     showBoxes(key);
+    followLog();
     say(m_log.undoText());
-    m_boxes[0]->setFocus();
+}
+
+std::string frmVantrelCorrect::takeKey() {
+    const std::string key = tidied(fromQt(m_boxes[0]->text()));
+    m_boxes[0]->setText(toQt(key));
+    return key;
+}
+
+ChangeResult frmVantrelCorrect::rewriteAtWork(const std::string& line) {
+    say(workingText);
+    Label11->repaint();
+    const QScopeGuard atWorkNoMore([this] { say(""); });
+    return m_log.replaceLine(line);
 }
 
 CorrectionBoxes frmVantrelCorrect::boxes() const {
@@ -145,8 +158,16 @@ void frmVantrelCorrect::showBoxes(const CorrectionBoxes& boxes) {
         m_boxes[i]->setText(toQt(boxes[i]));
 }
 
-void frmVantrelCorrect::showContact() {
-    showBoxes(correctionBoxes(fromQt(m_boxes[0]->text()), m_log.line()));
+void frmVantrelCorrect::followLog() {
+    Command2->setEnabled(m_log.found());
+    Command5->setEnabled(m_log.canUndo());
+    Label13->clear();
+    if (m_log.found()) {
+        const std::string_view call = trim(qso::hisCall.of(m_log.line()));
+        Label13->setText(toQt(std::string(foundLead) + std::string(call)));
+    }
+    m_boxes[0]->setFocus();
+    m_boxes[0]->selectAll();
 }
 
 void frmVantrelCorrect::say(std::string_view message) {
@@ -178,11 +199,13 @@ void frmVantrelCorrect::layOut() {
     page->addWidget(heading);
     page->addLayout(grid);
     page->addLayout(searching);
+    page->addWidget(Label13);
     page->addWidget(Label11);
     page->addWidget(Label12);
     page->addLayout(buttons);
     page->addStretch();
-    Label11->setAlignment(Qt::AlignCenter);
+    for (QLabel* label : {Label11, Label13})
+        label->setAlignment(Qt::AlignCenter);
     Label12->setWordWrap(true);
 }
 

@@ -35,7 +35,12 @@ private:
 
     CorrectionBoxes boxes() const;
     void showBoxes(const CorrectionBoxes& boxes);
-    void showContact();
+    // The call box's text tidied, put back into it.
+    std::string takeKey();
+    // Rewrites the log while the message label tells so.
+    ChangeResult rewriteAtWork(const std::string& line);
+    // Shows what can be done and to whom; the next call may be typed.
+    void followLog();
     void say(std::string_view message);
 
     std::array<QLineEdit*, correctionFields.size()> m_boxes; // Text1 .. Text10
@@ -47,6 +52,7 @@ private:
     QRadioButton* Option1;                                   // dupe note
     QLabel* Label11;                                         // message
     QLabel* Label12;                                         // what was cut to width
+    QLabel* Label13; // the call found, of which the call box may hold only the beginning
 
     LogEdit m_log;
     CorrectionBoxes m_shown{}; // as the last search or save left them

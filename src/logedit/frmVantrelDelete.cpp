@@ -41,6 +41,7 @@ void frmVantrelDelete::createControls() {
     Label2 = build.label("Label2");
     Label3 = build.label("Label3");
     Label4 = build.label("Label4");
+    Command2->setEnabled(false);
     Command5->setEnabled(false);
 }
 
@@ -63,7 +64,6 @@ QWidget* frmVantrelDelete::firstFocus() {
 }
 
 void frmVantrelDelete::Command3_Click() {
-    Command2->setEnabled(true);
     const std::string key = tidied(fromQt(Text1->text()));
     Text1->setText(toQt(key));
     switch (m_log.search(key)) {
@@ -72,18 +72,16 @@ void frmVantrelDelete::Command3_Click() {
         break;
     case SearchResult::notFound:
         showNothing(notFoundText);
-        Command2->setEnabled(false);
         break;
     case SearchResult::keyTooShort:
         break;
     }
-    Text1->setFocus();
+    followLog();
 }
 
 void frmVantrelDelete::Command4_Click() {
     switch (m_log.searchNext(tidied(fromQt(Text1->text())))) {
     case SearchResult::found:
-        Command2->setEnabled(true);
         showContact();
         break;
     case SearchResult::notFound:
@@ -92,18 +90,15 @@ void frmVantrelDelete::Command4_Click() {
     case SearchResult::keyTooShort:
         break;
     }
-    Text1->setFocus();
+    followLog();
 }
 
 void frmVantrelDelete::Command2_Click() {
     const ChangeResult result = m_log.removeLine();
-    Command5->setEnabled(m_log.canUndo());
     if (!reportChange(result, m_log, messages(), screens().mainPage()))
         return;
     showNothing(deletedText);
-    // A second press would remove the contact that moved up, which nobody has seen.
-    Command2->setEnabled(false);
-    Text1->setFocus();
+    followLog();
 }
 
 void frmVantrelDelete::Command5_Click() {
@@ -111,8 +106,7 @@ void frmVantrelDelete::Command5_Click() {
     if (!reportChange(result, m_log, messages(), screens().mainPage()))
         return;
     showNothing(m_log.undoText());
-    Command2->setEnabled(false);
-    Text1->setFocus();
+    followLog();
 }
 
 void frmVantrelDelete::showContact() {
@@ -125,6 +119,14 @@ void frmVantrelDelete::showNothing(std::string_view message) {
     Label2->clear();
     Label3->clear();
     Label4->setText(toQt(message));
+}
+
+void frmVantrelDelete::followLog() {
+    // Not after a deletion: a second press would remove the contact that moved up, unseen.
+    Command2->setEnabled(m_log.found());
+    Command5->setEnabled(m_log.canUndo());
+    Text1->setFocus();
+    Text1->selectAll();
 }
 
 void frmVantrelDelete::layOut() {

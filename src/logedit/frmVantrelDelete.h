@@ -33,6 +33,8 @@ private:
 
     void showContact();
     void showNothing(std::string_view message);
+    // Shows what can be done; the next call may be typed.
+    void followLog();
 
     QLineEdit* Text1;      // his call
     QPushButton* Command1; // exit

@@ -41,6 +41,7 @@ void frmVantrelEDITcbr::createControls() {
     Command5 = build.command("Command5", "&UNDO", "UNDOES THE LAST CHANGE MADE HERE, OR REDOES IT");
     Command1 = build.command("Command1", "E&XIT", "QUIT THIS ROUTINE");
     Label16 = build.label("Label16");
+    Command2->setEnabled(false);
     Command5->setEnabled(false);
 }
 
@@ -72,7 +73,7 @@ void frmVantrelEDITcbr::Command3_Click() {
     case SearchResult::keyTooShort:
         break;
     }
-    Text1->setFocus();
+    followLog();
 }
 
 void frmVantrelEDITcbr::Command4_Click() {
@@ -86,7 +87,7 @@ void frmVantrelEDITcbr::Command4_Click() {
     case SearchResult::keyTooShort:
         break;
     }
-    Text1->setFocus();
+    followLog();
 }
 
 void frmVantrelEDITcbr::Option1_Click() {
@@ -99,11 +100,11 @@ void frmVantrelEDITcbr::Command2_Click() {
         return;
     const EditorBoxes tidy = tidiedBoxes(boxes());
     const ChangeResult result = m_log.replaceLine(rebuiltLine(m_log.line(), tidy));
-    Command5->setEnabled(m_log.canUndo());
     if (!reportChange(result, m_log, messages(), screens().mainPage()))
         return;
     showBoxes(tidy);
     say(doneText);
+    followLog();
 }
 
 void frmVantrelEDITcbr::Command5_Click() {
@@ -112,7 +113,7 @@ void frmVantrelEDITcbr::Command5_Click() {
         return;
     showBoxes({});
     say(m_log.undoText());
-    Text1->setFocus();
+    followLog();
 }
 
 EditorBoxes frmVantrelEDITcbr::boxes() const {
@@ -130,6 +131,13 @@ void frmVantrelEDITcbr::showBoxes(const EditorBoxes& boxes) {
 void frmVantrelEDITcbr::showContact() {
     showBoxes(editorBoxes(m_log.line()));
     say(foundText);
+}
+
+void frmVantrelEDITcbr::followLog() {
+    Command2->setEnabled(m_log.found());
+    Command5->setEnabled(m_log.canUndo());
+    Text1->setFocus();
+    Text1->selectAll();
 }
 
 void frmVantrelEDITcbr::say(std::string_view message) {

@@ -36,6 +36,8 @@ private:
     EditorBoxes boxes() const;
     void showBoxes(const EditorBoxes& boxes);
     void showContact();
+    // Shows what can be done; the next call may be typed.
+    void followLog();
     void say(std::string_view message);
 
     QLineEdit* Text1;                                    // the call searched for

@@ -41,7 +41,7 @@ TEST_P(EditorSaved, RebuildsTheLine) {
 }
 
 // Whole lines, since what the rebuild does to the other columns is the point. Note the report
-// sent: it comes out as its old first digit and the first two of the box, so 555 even unedited.
+// sent: its old first digit and the first two of the box make 559 of a 599 that nobody edited.
 INSTANTIATE_TEST_SUITE_P(
     Rows, EditorSaved,
     ::testing::Values(Saved{"FourDigits_GetABlankInFront", frequency, "7045",

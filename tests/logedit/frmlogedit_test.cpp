@@ -3,10 +3,12 @@
 #include "support/qt/formharness.h"
 
 #include <QAbstractButton>
+#include <QTest>
 
 #include <cerrno>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace vantrel::test {
 namespace {
@@ -135,6 +137,55 @@ TEST_F(LogPages, FullDiskLeavesLogAndTyping) {
     click(correctPage, "Command2");
     EXPECT_EQ(folder.read(logName), before);
     EXPECT_EQ(shown(correctPage, "Text2"), "CLUBB");
+    EXPECT_EQ(shown(correctPage, "Label11"), ""); // no longer at work
+}
+
+TEST_F(LogPages, CorrectionShowsWhoWasFound) {
+    screens.open(Screen::correct);
+    search(correctPage, "K1AB");
+    EXPECT_EQ(shown(correctPage, "Label13"), "FOUND: K1ABC");
+    click(correctPage, "Command4");
+    EXPECT_EQ(shown(correctPage, "Label13"), "FOUND: K1ABD");
+    type(correctPage, "Text1", "k1abe");
+    click(correctPage, "Command2");
+    EXPECT_EQ(shown(correctPage, "Label13"), "FOUND: K1ABE");
+    search(correctPage, "W1AW");
+    EXPECT_EQ(shown(correctPage, "Label13"), "");
+}
+
+TEST_F(LogPages, AKeySearchedForInVainIsNotSavedAsACall) {
+    screens.open(Screen::correct);
+    search(correctPage, "K9SKC");
+    type(correctPage, "Text1", "w1aw");
+    click(correctPage, "Command4");
+    EXPECT_EQ(shown(correctPage, "Label11"), "LAST ENTRY");
+    type(correctPage, "Text2", "NEW");
+    click(correctPage, "Command2");
+    EXPECT_EQ(folder.read(logName),
+              logOf({contact("K1ABC", "JOE"), contact("K9SKC", "NEW"), contact("K1ABD", "ANN")}));
+}
+
+TEST_F(LogPages, AfterAnUndoOneSearchesBeforeChangingAgain) {
+    for (const auto& [screen, page] :
+         {std::pair{Screen::correct, correctPage}, std::pair{Screen::deletion, deletePage},
+          std::pair{Screen::editor, editPage}}) {
+        SCOPED_TRACE(page);
+        screens.open(screen);
+        EXPECT_FALSE(enabled(page, "Command2"));
+        search(page, "K9SKC");
+        EXPECT_TRUE(enabled(page, "Command2"));
+        if (screen == Screen::correct)
+            type(page, "Text2", "NEW");
+        click(page, "Command2");
+        click(page, "Command5");
+        EXPECT_EQ(folder.read(logName), before);
+        EXPECT_FALSE(enabled(page, "Command2"));
+        // The next call typed takes the place of the one searched for.
+        QTest::keyClicks(control(page, "Text1"), QStringLiteral("k1ab"));
+        press(page, "Text1", Qt::Key_Return);
+        EXPECT_EQ(shown(page, "Text1"), "K1AB");
+        EXPECT_TRUE(enabled(page, "Command2"));
+    }
 }
 
 TEST_F(LogPages, DeletionRemovesWhatItShowsOnce) {

@@ -351,6 +351,8 @@ void Files::rewriteAll(const std::vector<FileContent>& contents,
                 between();
         }
         syncFoldersOf(replacements); // the journal must not reach the disk before them
+        if (between)
+            between();
         writeJournal(replacements);
     } catch (const RuntimeError&) {
         m_calls.remove(journalPath(finishJournal));

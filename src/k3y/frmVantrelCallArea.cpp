@@ -40,9 +40,11 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
 }
 
 void frmVantrelCallArea::Form_Load() {
-    module().utc = utcTime(platform().clock.now(), module().settings.gmtOffset);
-    if (const StartPage* page = screens().startPage())
-        m_savedName = page->logFileName();
+    const StartPage* page = screens().startPage();
+    if (page == nullptr)
+        return;
+    module().utc = utcTime(platform().clock.now(), page->gmtOffset());
+    m_savedName = page->logFileName();
 }
 
 QWidget* frmVantrelCallArea::firstFocus() {

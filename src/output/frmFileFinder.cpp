@@ -78,6 +78,10 @@ void frmFileFinder::filList_Click(const QModelIndex& index) {
 }
 
 void frmFileFinder::Command1_Click() {
+    if (!m_finder) { // the program folder could not be listed: there is nothing to hand back
+        close();
+        return;
+    }
     Screens& others = screens();
     const FinderMode mode = module().finderMode;
     const std::string selection = m_finder->selection();

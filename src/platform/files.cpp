@@ -105,6 +105,18 @@ private:
     int m_file;
 };
 
+// True as long as this lives.
+class RaisedFlag {
+public:
+    explicit RaisedFlag(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~RaisedFlag() { m_flag = false; }
+    RaisedFlag(const RaisedFlag&) = delete;
+    RaisedFlag& operator=(const RaisedFlag&) = delete;
+
+private:
+    bool& m_flag;
+};
+
 long long sizeOf(int file) {
     return ::lseek(file, 0, SEEK_END);
 }
@@ -335,6 +347,10 @@ std::string Files::journalPath(std::string_view journal) const {
 
 void Files::rewriteAll(const std::vector<FileContent>& contents,
                        const std::function<void()>& between) {
+    if (m_replacingSeveral) // it would take the other's files for strays
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           contents.front().name + ": other files are being saved; try again");
+    const RaisedFlag replacing(m_replacingSeveral);
     recover(); // what an earlier one could not settle would mistake our files for its own
     std::vector<Replacement> replacements;
     for (const FileContent& content : contents) {

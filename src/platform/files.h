@@ -54,7 +54,8 @@ public:
     void rewrite(std::string_view name, std::string_view bytes);
     // Replaces several files of the program folder, all or none, even when the machine stops
     // in the middle: see recover(). between: called after each file that has been written
-    // beside, so that a window can live on while the disk works.
+    // beside, so that a window can live on while the disk works. A second one meanwhile is
+    // error 75 and changes nothing.
     void rewriteAll(const std::vector<FileContent>& contents,
                     const std::function<void()>& between = {});
     // Writes the bytes to a file that does not exist yet: `name`, or else `name` followed by
@@ -94,6 +95,7 @@ private:
 
     std::string m_programFolder;
     SystemCalls& m_calls;
+    bool m_replacingSeveral = false;
 };
 
 // Each line followed by CR LF.

@@ -119,6 +119,8 @@ void frmMemberImport::runImport() {
 
 // Shows a phase at once and the lines once a frame; false once the window has been closed.
 bool frmMemberImport::showStep(const ImportStep& step) {
+    if (m_closed) // files under way are saved to the end; another turn would delete this form
+        return false;
     const bool lastLine = step.line == step.lines;
     if (!lastLine && m_sinceShown.isValid() && m_sinceShown.elapsed() < frameMilliseconds)
         return true;

@@ -38,7 +38,8 @@ public:
     virtual ~StartPage() = default;
     virtual std::string logFileName() const = 0;
     virtual void setLogFileName(const std::string& name) = 0;
-    virtual std::string myCall() const = 0; // as the page shows it, upper-cased
+    virtual std::string myCall() const = 0;    // as the page shows it, upper-cased
+    virtual std::string gmtOffset() const = 0; // as chosen on the page
 };
 
 // What the boxes hold after a contact is dropped: nothing, or a single blank each.

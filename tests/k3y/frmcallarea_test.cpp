@@ -18,6 +18,7 @@ TEST(CallAreaPage, ProposesTheLogsNameUntilItIsAborted) {
     program.screens.open(Screen::start);
     program.type("frmVantrelStart", "Text2", "w1abc/4");
     program.type("frmVantrelStart", "Text9", "MINE.CBR");
+    program.choose("frmVantrelStart", "Combo5", "5"); // not saved yet: 01:00 UTC the next day
     program.click("frmVantrelStart", "Option4");
     EXPECT_EQ(program.shown("frmVantrelStart", "Text9"), "MINE.CBR");
 
@@ -31,10 +32,10 @@ TEST(CallAreaPage, ProposesTheLogsNameUntilItIsAborted) {
     clickRow(2);
     EXPECT_EQ(program.module.callArea, "03");
     EXPECT_EQ(program.shown(page, "Label3"), "USA         03");
-    EXPECT_EQ(program.shown("frmVantrelStart", "Text9"), "2010-01-05-K3Y-03-W1ABC-4.CBR");
+    EXPECT_EQ(program.shown("frmVantrelStart", "Text9"), "2010-01-06-K3Y-03-W1ABC-4.CBR");
     clickRow(18);
     EXPECT_EQ(program.shown(page, "Label3"), "Oceania\t   OC");
-    EXPECT_EQ(program.shown("frmVantrelStart", "Text9"), "2010-01-05-K3Y-OC-W1ABC-4.CBR");
+    EXPECT_EQ(program.shown("frmVantrelStart", "Text9"), "2010-01-06-K3Y-OC-W1ABC-4.CBR");
     program.click(page, "Command2");
     FormHarness::settle();
     EXPECT_FALSE(program.isOpen(page));

@@ -238,6 +238,22 @@ TEST_F(FilesTest, PermissionsOfTheFileAreKept) {
         EXPECT_EQ(fs::status(m_folder.path() / name).permissions(), fs::perms(0660)) << name;
 }
 
+TEST_F(FilesTest, SecondReplacingOfSeveralFilesMeanwhileIsRefused) {
+    m_folder.write("LOG.CBR", "log");
+    int refused = 0;
+    m_files.rewriteAll({{"SKSDB1.TXT", "one"}, {"SKSDB2.TXT", "two"}}, [&] {
+        EXPECT_RUNTIME_ERROR(m_files.rewriteAll({{"LOG.CBR", "x"}}), ErrorCode::pathFileAccess,
+                             HasSubstr("LOG.CBR"));
+        m_files.appendLine("STNS", "a contact can be logged");
+        ++refused;
+    });
+    EXPECT_EQ(refused, 2);
+    EXPECT_EQ(m_folder.read("SKSDB1.TXT") + m_folder.read("SKSDB2.TXT"), "onetwo");
+    EXPECT_EQ(m_folder.read("LOG.CBR"), "log");
+    m_files.rewriteAll({{"LOG.CBR", "later"}});
+    EXPECT_EQ(m_folder.read("LOG.CBR"), "later");
+}
+
 TEST_F(FilesTest, KeptCopyTakesTheNextFreeNumber) {
     EXPECT_THAT(m_files.keepCopy("LOG.CBR.OLD", "one"), HasSubstr("LOG.CBR.OLD"));
     m_folder.write("log.cbr.old2", "somebody's");

@@ -4,7 +4,9 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <filesystem>
@@ -99,6 +101,24 @@ TEST_F(ImportPages, ButtonsRestMeanwhileAndClosingLeavesTheFiles) {
     EXPECT_TRUE(rested);
     EXPECT_FALSE(isOpen(dataPage));
     EXPECT_EQ(folder.read("SKSDB3.TXT"), "as it was");
+}
+
+TEST_F(ImportPages, ClosedWhileTheFilesAreSavedTheyAreSavedAllTheSame) {
+    folder.write("skccdata.txt", dataList(2));
+    click(choice, "Option1");
+    const QPointer<QWidget> import = form(dataPage);
+    int savingSteps = 0;
+    eventLoop.onYield = [&] { // as the real one does, where the window may come to its end
+        if (isOpen(dataPage) && shown(dataPage, "Label1") == "    SAVING THE FILES" &&
+            ++savingSteps == 2) // the first is still in time to give up
+            QTimer::singleShot(0, import, &QWidget::close);
+        QCoreApplication::processEvents();
+    };
+    click(dataPage, "Command2");
+    eventLoop.onYield = nullptr;
+    settle();
+    EXPECT_TRUE(import.isNull());
+    EXPECT_THAT(folder.read("SKSDB3.TXT"), HasSubstr("N2AA"));
 }
 
 TEST_F(ImportPages, FetcherOfTheProgramFolderIsStarted) {

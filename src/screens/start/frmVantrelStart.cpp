@@ -302,6 +302,10 @@ std::string frmVantrelStart::myCall() const {
     return upper(trim(fromQt(Text2->text())));
 }
 
+std::string frmVantrelStart::gmtOffset() const {
+    return stored(Combo5);
+}
+
 void frmVantrelStart::receivePath(const std::string& path) {
     setLogFileName(path);
     Text9->setFocus();

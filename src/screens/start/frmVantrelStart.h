@@ -23,6 +23,7 @@ public:
     std::string logFileName() const override;
     void setLogFileName(const std::string& name) override;
     std::string myCall() const override;
+    std::string gmtOffset() const override;
     void receivePath(const std::string& path) override;
     bool loadsAgain() const override { return true; }
 

@@ -24,6 +24,7 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     QFont rounded(font());
     rounded.setFamily(QStringLiteral("Arial Rounded MT Bold"));
     setFont(rounded);
+    List1->setFont(rounded); // its items are aligned for it
     std::vector<std::string> items;
     for (const CallArea& area : callAreas)
         items.emplace_back(area.item);

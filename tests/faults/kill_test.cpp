@@ -218,7 +218,7 @@ protected:
         expectOldOrNew(found, &Contents::hasAdif, "the ADIF file");
         expectKeptLogs(found, isNew);
         for (const std::string& name : m_folder.names())
-            EXPECT_FALSE(name.find(".vantrel-") == 0 && name != ".vantrel-lock") << name;
+            EXPECT_FALSE(name.starts_with(".vantrel-") && name != ".vantrel-lock") << name;
         m_now = found;
     }
 

@@ -199,7 +199,7 @@ struct Umpire {
 
     void areas(const std::string& line) {
         const std::string station = call(line);
-        if (station.size() == 5 && station.find("K3Y/") == 0 && station[4] >= '0' &&
+        if (station.size() == 5 && station.starts_with("K3Y/") && station[4] >= '0' &&
             station[4] <= '9')
             mark(station, line.substr(5, 5), line.substr(95, 6));
     }
@@ -210,7 +210,7 @@ struct Umpire {
         const std::string last2 = line.substr(line.size() - 2);
         const std::string last6 = line.substr(line.size() - 6);
         for (const char* area : {"KH", "KL", "KP"})
-            if (station.find(std::string("K3Y/") + area) == 0 &&
+            if (station.starts_with(std::string("K3Y/") + area) &&
                 mark(std::string("K3Y/") + area, khz, line.substr(95, 6)))
                 return;
         for (const std::string asks : {"NA", "SA", "EU", "AF", "AS", "OC"}) {

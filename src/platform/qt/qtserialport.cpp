@@ -101,7 +101,7 @@ QtSerialPort::QtSerialPort(const Files& files) : m_files(files) {
 }
 
 QtSerialPort::~QtSerialPort() {
-    close();
+    QtSerialPort::close();
 }
 
 void QtSerialPort::open(const std::string& name, const std::string& settings) {

@@ -37,7 +37,7 @@ public:
         : m_name(name),
           m_width(static_cast<std::size_t>(width)),
           m_lines("the table of " + m_name, capacity) {
-        m_places.reserve(static_cast<std::size_t>(capacity));
+        m_places.reserve(2 * static_cast<std::size_t>(capacity)); // a sparse index is a fast one
         LineReader reader(bytes);
         while (!reader.atEnd())
             append(reader.next());

@@ -38,13 +38,12 @@ std::string normalisedNumber(std::string_view number) {
 
 std::string memberRecord(std::string_view number, std::string_view call, std::string_view name,
                          std::string_view state) {
-    std::string record;
+    std::string record = fitLeft(trimLeft(call), member::call.width);
     record.reserve(member::width);
-    record += fitLeft(upper(left(trimLeft(call), member::call.width)), member::call.width);
     record += fitLeft(normalisedNumber(upper(trim(number))), member::number.width);
-    record += fitLeft(upper(trim(left(name, member::name.width))), member::name.width);
-    record += fitLeft(upper(trim(left(state, member::state.width))), member::state.width);
-    return record;
+    record += fitLeft(trim(left(name, member::name.width)), member::name.width);
+    record += fitLeft(trim(left(state, member::state.width)), member::state.width);
+    return upper(record);
 }
 
 std::string numberKey(std::string_view number) {

@@ -24,6 +24,7 @@ constexpr int bonusStationPoints = 25;
 
 constexpr std::string_view clubStation = "K9SKC";
 constexpr std::string_view noNumber = "NONE";
+constexpr char noMember = 'W'; // as the last character of a number
 
 // Different values of at most 7 characters, at most 400 of them: a small hash table of values
 // packed into numbers, since every contact of the log is looked up in one or two of these.
@@ -31,7 +32,6 @@ class DistinctValues {
 public:
     explicit DistinctValues(std::string_view name) : m_name(name) {}
 
-    // Throws RuntimeError 9 naming the list at the 401st different value.
     void add(std::string_view value) {
         const std::uint64_t key = packed(value);
         std::size_t slot = key * spreading >> slotShift;
@@ -40,15 +40,23 @@ public:
                 return;
             slot = (slot + 1) % m_slots.size();
         }
-        if (m_count == distinctValuesCapacity)
-            throw RuntimeError(ErrorCode::subscriptOutOfRange,
-                               std::string(m_name) + " holds at most " +
-                                   std::to_string(distinctValuesCapacity) + " entries");
+        if (m_count == distinctValuesCapacity) {
+            m_overflowed = true;
+            return;
+        }
         m_slots[slot] = key;
         ++m_count;
     }
     bool empty() const { return m_count == 0; }
-    Integer16 count() const { return m_count; }
+    // Throws RuntimeError 9 naming the list when there was a 401st different value: only here,
+    // so that one pass over the log can fill all lists and the figures before this one stand.
+    Integer16 count() const {
+        if (m_overflowed)
+            throw RuntimeError(ErrorCode::subscriptOutOfRange,
+                               std::string(m_name) + " holds at most " +
+                                   std::to_string(distinctValuesCapacity) + " entries");
+        return m_count;
+    }
 
 private:
     static constexpr int slotShift = 64 - 10; // 1,024 slots: never more than 40 % in use
@@ -65,7 +73,17 @@ private:
     std::string_view m_name;
     std::array<std::uint64_t, 1 << (64 - slotShift)> m_slots{}; // 0: free
     int m_count = 0;
+    bool m_overflowed = false;
 };
+
+std::string_view memberNumber(std::string_view contact) {
+    return trim(qso::hisNumber.of(contact));
+}
+
+// The last character of a trimmed number; a blank when there is none.
+char awardLetter(std::string_view number) {
+    return number.empty() ? ' ' : number.back();
+}
 
 // The numbers worked by award letter. Duplicates are not left out: a duplicate repeats a
 // number that is listed already.
@@ -75,17 +93,23 @@ struct AwardNumbers {
     DistinctValues senators{"the list of Senators"};
 
     void add(std::string_view number) {
-        if (number.ends_with('C'))
-            centurions.add(number);
-        else if (number.ends_with('T'))
-            tribunes.add(number);
-        else if (number.ends_with('S'))
-            senators.add(number);
+        switch (awardLetter(number)) {
+        case 'C':
+            return centurions.add(number);
+        case 'T':
+            return tribunes.add(number);
+        case 'S':
+            return senators.add(number);
+        default:
+            return;
+        }
     }
+    // All three figures or, when one list overflowed, none.
     void enter(Score& score) const {
-        score.centurions = centurions.count();
-        score.tribunes = tribunes.count();
-        score.senators = senators.count();
+        const std::array counts{centurions.count(), tribunes.count(), senators.count()};
+        score.centurions = counts[0];
+        score.tribunes = counts[1];
+        score.senators = counts[2];
     }
     Integer16 points() const {
         return centurionPoints * centurions.count() + tribunePoints * tribunes.count() +
@@ -93,56 +117,49 @@ struct AwardNumbers {
     }
 };
 
-std::string_view memberNumber(std::string_view contact) {
-    return trim(qso::hisNumber.of(contact));
-}
+class BonusStation {
+public:
+    explicit BonusStation(const OperatingSettings& settings)
+        : m_call(fitLeft(settings.bonusStation, callWidth)), m_isSet(!trim(m_call).empty()) {}
 
-template <typename Condition>
-Integer16 countWhere(const Contacts& contacts, Condition condition) {
-    return std::count_if(contacts.begin(), contacts.end(), condition);
-}
+    // No bonus station is ten blanks, which must not match a contact without a call.
+    bool worked(std::string_view contact) const {
+        return m_isSet && qso::hisCall.of(contact) == m_call;
+    }
 
-Integer16 countQsos(const Contacts& contacts) {
-    return countWhere(contacts, [](std::string_view contact) { return !isDupe(contact); });
-}
-
-// No bonus station is ten blanks, which must not match a contact without a call.
-Integer16 countBonusStation(const Contacts& contacts, const OperatingSettings& settings) {
-    const std::string station = fitLeft(settings.bonusStation, callWidth);
-    if (trim(station).empty())
-        return 0;
-    return countWhere(contacts, [&](std::string_view contact) {
-        return qso::hisCall.of(contact) == station && !isDupe(contact);
-    });
-}
+private:
+    std::string m_call;
+    bool m_isSet;
+};
 
 // --- All contests but the European sprint ---------------------------------------------------
 
-// A duplicate adds no S/P/C, except as the log's first contact: duplicates are told from new
-// values only while looking through the list, and an empty list is not looked through.
-Integer16 countRegions(const Contacts& contacts) {
-    DistinctValues regions("the list of S/P/Cs");
-    for (const std::string_view contact : contacts)
-        if (regions.empty() || !isDupe(contact))
-            regions.add(qso::hisState.of(contact));
-    return regions.count();
-}
-
-// Every contact with the club's station counts, on any band.
-Integer16 countClubStation(const Contacts& contacts) {
-    return countWhere(contacts, [](std::string_view contact) {
-        return qso::hisCall.of(contact).starts_with(clubStation) && !isDupe(contact);
-    });
-}
-
 void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Score& score) {
-    score.multipliers = countRegions(contacts);
+    const BonusStation bonusStation(settings);
+    DistinctValues regions("the list of S/P/Cs");
     AwardNumbers awards;
-    for (const std::string_view contact : contacts)
+    int qsos = 0;
+    int clubStationQsos = 0; // on any band
+    int bonusStationQsos = 0;
+    for (const std::string_view contact : contacts) {
         awards.add(memberNumber(contact));
+        const bool dupe = isDupe(contact);
+        // A duplicate adds no S/P/C, except as the log's first contact: duplicates are told
+        // from new values only while looking through the list, and an empty list is not
+        // looked through.
+        if (regions.empty() || !dupe)
+            regions.add(qso::hisState.of(contact));
+        if (dupe)
+            continue;
+        ++qsos;
+        clubStationQsos += begins(qso::hisCall.of(contact), clubStation) ? 1 : 0;
+        bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
+    }
+    score.qsos = qsos;
+    score.multipliers = regions.count();
     awards.enter(score);
-    score.k9skcQsos = countClubStation(contacts);
-    score.bonusStationQsos = countBonusStation(contacts, settings);
+    score.k9skcQsos = clubStationQsos;
+    score.bonusStationQsos = bonusStationQsos;
     score.bonusPoints = awards.points() + clubStationPoints * *score.k9skcQsos +
                         bonusStationPoints * *score.bonusStationQsos;
 }
@@ -164,49 +181,44 @@ std::string_view countryOf(std::string_view field) {
     return code == "HI" ? "HAW" : field;
 }
 
-Integer16 countCountries(const Contacts& contacts) {
-    DistinctValues countries("the list of DXCC countries");
-    for (const std::string_view contact : contacts)
-        if (!isDupe(contact))
-            countries.add(countryOf(qso::hisState.of(contact)));
-    return countries.count();
-}
-
-Integer16 countNoMembers(const Contacts& contacts) {
-    return countWhere(contacts, [](std::string_view contact) {
-        return memberNumber(contact).ends_with('W') ||
-               qso::hisNumber.of(contact).starts_with(noNumber);
-    });
-}
-
 // Senators are regular members too: a Senator gives his own 15 points and this one. A contact
 // without any number counts as one member, as it always has.
-Integer16 countRegularMembers(const Contacts& contacts) {
-    DistinctValues members("the list of regular members");
-    for (const std::string_view contact : contacts) {
-        const std::string_view number = memberNumber(contact);
-        const bool other = number.ends_with('T') || number.ends_with('C') ||
-                           number.ends_with('W') || number == noNumber;
-        if (!other)
-            members.add(number);
-    }
-    return members.count();
+bool isRegularMember(std::string_view number) {
+    const char award = awardLetter(number);
+    return award != 'T' && award != 'C' && award != noMember && !isExactly(number, noNumber);
 }
 
 void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& settings,
                          Score& score) {
+    const BonusStation bonusStation(settings);
     AwardNumbers awards;
-    for (const std::string_view contact : contacts)
-        awards.add(memberNumber(contact));
+    DistinctValues regularMembers("the list of regular members");
+    DistinctValues countries("the list of DXCC countries");
+    int qsos = 0;
+    int noMembers = 0;
+    int bonusStationQsos = 0;
+    for (const std::string_view contact : contacts) {
+        const std::string_view number = memberNumber(contact);
+        awards.add(number);
+        if (isRegularMember(number))
+            regularMembers.add(number);
+        if (awardLetter(number) == noMember || begins(qso::hisNumber.of(contact), noNumber))
+            ++noMembers;
+        if (isDupe(contact))
+            continue;
+        ++qsos;
+        countries.add(countryOf(qso::hisState.of(contact)));
+        bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
+    }
+    score.qsos = qsos;
     awards.enter(score);
-    const Integer16 noMembers = countNoMembers(contacts);
-    const Integer16 regularMembers = countRegularMembers(contacts);
-    score.bonusStationQsos = countBonusStation(contacts, settings);
-    score.multipliers = countCountries(contacts);
+    const Integer16 membersPoints = regularMembers.count();
+    score.bonusStationQsos = bonusStationQsos;
+    score.multipliers = countries.count();
     // What is shown as regular members worked: Senators are not taken off.
     score.regularMembersWorked = *score.qsos - *score.centurions - *score.tribunes - noMembers;
     score.bonusPoints =
-        awards.points() + bonusStationPoints * *score.bonusStationQsos + regularMembers;
+        awards.points() + bonusStationPoints * *score.bonusStationQsos + membersPoints;
 }
 
 } // namespace
@@ -216,7 +228,6 @@ Score computeScore(const std::vector<std::string_view>& contacts,
     Score score;
     score.european = settings.contestCode == contestSkse;
     try {
-        score.qsos = countQsos(contacts);
         if (score.european)
             scoreEuropeanSprint(contacts, settings, score);
         else

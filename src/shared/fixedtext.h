@@ -3,6 +3,7 @@
 // (ISO 8859-1); nothing here depends on the locale. Columns count from 1.
 #pragma once
 
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,15 @@ std::string_view midToEnd(std::string_view text, int first);
 // The first / last `count` bytes; the whole text when it is shorter.
 std::string_view left(std::string_view text, int count);
 std::string_view right(std::string_view text, int count);
+
+// Whether the text begins with the word / is the word. Here, so that a word of known length is
+// compared without a call into the library: a score asks this of every contact.
+inline bool begins(std::string_view text, std::string_view word) {
+    return text.size() >= word.size() && std::memcmp(text.data(), word.data(), word.size()) == 0;
+}
+inline bool isExactly(std::string_view text, std::string_view word) {
+    return text.size() == word.size() && begins(text, word);
+}
 
 // The text's length in columns.
 int length(std::string_view text);

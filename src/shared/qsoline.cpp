@@ -8,7 +8,7 @@ bool isContact(std::string_view line) {
 }
 
 bool isDupe(std::string_view line) {
-    return qso::dupeMark.of(line) == dupeMarker;
+    return isExactly(qso::dupeMark.of(line), dupeMarker);
 }
 
 std::string assembleLine(const Qso& qso) {

@@ -41,15 +41,22 @@ constexpr std::array<std::string_view, 64> unaccented{
     "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
     "d", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "th", "y"};
 
+bool isPlain(char character) {
+    return character >= ' ' && character <= '~';
+}
+
 // Trimmed and in printable ASCII; `?` for what has no plain letter.
 std::string plainText(std::string_view field) {
+    const std::string_view text = trim(field);
+    if (std::all_of(text.begin(), text.end(), isPlain))
+        return std::string(text);
     std::string result;
-    for (const char character : trim(field)) {
+    for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
         if (byte >= 0xC0)
             result += unaccented[byte - 0xC0U];
         else
-            result += byte >= ' ' && byte <= '~' ? character : '?';
+            result += isPlain(character) ? character : '?';
     }
     return result;
 }
@@ -153,13 +160,6 @@ std::string notesOf(std::string_view prefix, std::string_view number) {
     return notes;
 }
 
-void appendWhen(std::string& bytes, std::string_view contact) {
-    if (const auto day = contactDay(contact))
-        appendField(bytes, "<QSO_DATE:", dateText(*day));
-    if (contactTime(contact))
-        appendField(bytes, "<TIME_ON:", qso::time.of(contact));
-}
-
 void appendMarker(std::string& bytes, std::string_view contact) {
     const std::string marker = plainText(qso::marker.of(contact));
     if (isDupe(contact))
@@ -180,6 +180,37 @@ void appendHisSide(std::string& bytes, std::string_view contact, const std::stri
     appendField(bytes, "<NOTES:", notesOf(country.empty() ? state : std::string_view(), number));
 }
 
+// A text made from some of a contact's columns and kept as long as these do not change: the
+// operator's own side, the day and the frequency are what they were a contact ago.
+class KeptText {
+public:
+    using Append = void (*)(std::string& bytes, std::string_view contact);
+
+    const std::string& of(std::string_view columns, std::string_view contact, Append append) {
+        if (columns != m_columns) {
+            m_text.clear();
+            append(m_text, contact);
+            m_columns = columns;
+        }
+        return m_text;
+    }
+
+private:
+    std::string_view m_columns; // at first none, which give no text
+    std::string m_text;
+};
+
+void appendDay(std::string& bytes, std::string_view contact) {
+    if (const auto day = contactDay(contact))
+        appendField(bytes, "<QSO_DATE:", dateText(*day));
+}
+
+void appendFrequency(std::string& bytes, std::string_view contact) {
+    const std::string mhz = megahertz(qso::frequency.of(contact));
+    appendField(bytes, "<BAND:", bandName(mhz));
+    appendField(bytes, "<FREQ:", mhz);
+}
+
 void appendMySide(std::string& bytes, std::string_view contact) {
     const std::string call = plainText(qso::myCall.of(contact));
     const std::string state = plainText(qso::myState.of(contact));
@@ -191,19 +222,30 @@ void appendMySide(std::string& bytes, std::string_view contact) {
     appendField(bytes, "<MY_DXCC:", country);
 }
 
-void appendContact(std::string& bytes, std::string_view contact) {
-    const std::string call = plainText(qso::hisCall.of(contact));
-    const std::string mhz = megahertz(qso::frequency.of(contact));
-    appendField(bytes, "<CALL:", call);
-    appendWhen(bytes, contact);
-    appendField(bytes, "<BAND:", bandName(mhz));
-    appendField(bytes, "<FREQ:", mhz);
-    appendField(bytes, "<MODE:", plainText(qso::mode.of(contact)));
-    appendHisSide(bytes, contact, call);
-    appendMySide(bytes, contact);
-    appendMarker(bytes, contact);
-    bytes += "<EOR>\r\n";
-}
+class StrictAdifWriter {
+public:
+    // The contacts outlive the writer.
+    void append(std::string& bytes, std::string_view contact) {
+        const std::string call = plainText(qso::hisCall.of(contact));
+        appendField(bytes, "<CALL:", call);
+        bytes += m_day.of(qso::date.of(contact), contact, appendDay);
+        if (contactTime(contact))
+            appendField(bytes, "<TIME_ON:", qso::time.of(contact));
+        bytes += m_frequency.of(qso::frequency.of(contact), contact, appendFrequency);
+        appendField(bytes, "<MODE:", plainText(qso::mode.of(contact)));
+        appendHisSide(bytes, contact, call);
+        bytes += m_mySide.of(mySide.of(contact), contact, appendMySide);
+        appendMarker(bytes, contact);
+        bytes += "<EOR>\r\n";
+    }
+
+private:
+    static constexpr Column mySide{qso::myCall.first, qso::myNumber.last() - qso::myCall.first + 1};
+
+    KeptText m_day;
+    KeptText m_frequency;
+    KeptText m_mySide;
+};
 
 void appendHeader(std::string& bytes, std::string_view created) {
     bytes += "Contacts logged with Vantrel\r\n";
@@ -222,8 +264,9 @@ std::string strictAdifText(const std::vector<std::string_view>& contacts,
     std::string bytes;
     bytes.reserve((contacts.size() + 1) * typicalRecord);
     appendHeader(bytes, created);
+    StrictAdifWriter writer;
     for (const std::string_view contact : contacts)
-        appendContact(bytes, contact);
+        writer.append(bytes, contact);
     return bytes;
 }
 

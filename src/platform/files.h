@@ -53,9 +53,8 @@ public:
     // is the new one.
     void rewrite(std::string_view name, std::string_view bytes);
     // Replaces several files of the program folder, all or none, even when the machine stops
-    // in the middle: see recover(). between: called after each file that has been written
-    // beside, so that a window can live on while the disk works. A second one meanwhile is
-    // error 75 and changes nothing.
+    // in the middle: see recover(). between: called again and again, so that a window can live
+    // on while the disk works. A second one meanwhile is error 75 and changes nothing.
     void rewriteAll(const std::vector<FileContent>& contents,
                     const std::function<void()>& between = {});
     // Writes the bytes to a file that does not exist yet: `name`, or else `name` followed by
@@ -67,6 +66,8 @@ public:
     void recover();
 
 private:
+    class OpenFile;
+
     // One of several files being replaced together.
     struct Replacement {
         std::string name;
@@ -78,13 +79,17 @@ private:
     std::string targetPath(std::string_view name) const;
     std::string writablePath(std::string_view name) const;
     void writeAll(int file, std::string_view bytes, const std::string& path);
-    void create(const std::string& path, const std::string& target, std::string_view bytes);
-    void createBeside(const std::string& target, std::string_view bytes);
+    void syncFile(const OpenFile& file);
+    void syncMeanwhile(const std::vector<OpenFile>& files, const std::function<void()>& between);
+    OpenFile create(const std::string& path, const std::string& target, std::string_view bytes);
+    void createDurably(const std::string& path, const std::string& target, std::string_view bytes);
+    OpenFile createBeside(const std::string& target, std::string_view bytes);
+    void moveInPlace(const std::string& target);
     void replace(const std::string& target, std::string_view bytes);
     void syncFolder(int folder, const std::string& path);
     void syncFolderOf(const std::string& path);
     void keepOld(const std::string& target);
-    void writeJournal(const std::vector<Replacement>& replacements);
+    static std::string journalText(const std::vector<Replacement>& replacements);
     std::vector<Replacement> readJournal(std::string_view journal) const;
     void removeJournal(std::string_view journal);
     void syncFoldersOf(const std::vector<Replacement>& replacements);

@@ -16,6 +16,8 @@ frmFileFinder::frmFileFinder(const FormContext& context)
     layOut();
     using Finder = frmFileFinder;
     connectHandler(drvList, &QComboBox::currentIndexChanged, this, &Finder::drvList_Change);
+    // Chosen, not only changed: the drive that shows already leads back to its top.
+    connectHandler(drvList, &QComboBox::activated, this, &Finder::drvList_Change);
     connectHandler(dirList, &QListView::activated, this, &Finder::dirList_Change);
     connectHandler(filList, &QListView::clicked, this, &Finder::filList_Click);
     connectHandler(filList, &QListView::activated, this, &Finder::filList_Click);

@@ -126,7 +126,7 @@ void frmVantrelFiles::showAdifPath(const std::string& path) {
 
 void frmVantrelFiles::Option12_Click() {
     const std::string& log = module().settings.logFileName;
-    const Files& files = platform().files;
+    Files& files = platform().files;
     const std::string note = sendToPrinter(platform().printer, files,
                                            logPrintLines(log, files.read(log)), logPdfName(log));
     messages().show({"THE FILE HAS BEEN SENT TO THE PRINTER", BoxIcon::exclamation, note});

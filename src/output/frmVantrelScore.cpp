@@ -119,7 +119,7 @@ void frmVantrelScore::showPicture() {
 
 void frmVantrelScore::Command2_Click() {
     const std::string& log = module().settings.logFileName;
-    const Files& files = platform().files;
+    Files& files = platform().files;
     const std::string note = sendToPrinter(
         platform().printer, files, scoreReport(m_score, files.path(log)), scorePdfName(log));
     messages().show({"The File has been sent to the Printer!", BoxIcon::exclamation, note});

@@ -6,11 +6,12 @@
 
 namespace vantrel {
 
-std::string sendToPrinter(Printer& printer, const Files& files,
-                          const std::vector<std::string>& lines, const std::string& pdfName) {
-    const std::string written = printer.print(lines, files.nativePath(pdfName));
-    return written.empty() ? std::string()
-                           : "There is no printer: the PDF is at " + files.path(pdfName);
+std::string sendToPrinter(Printer& printer, Files& files, const std::vector<std::string>& lines,
+                          const std::string& pdfName) {
+    if (printer.print(lines))
+        return {};
+    files.rewrite(pdfName, printer.pdf(lines));
+    return "There is no printer: the PDF is at " + files.path(pdfName);
 }
 
 } // namespace vantrel

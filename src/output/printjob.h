@@ -12,8 +12,8 @@ class Printer;
 
 // Prints the lines; without a printer into the PDF `pdfName` (a name of the program folder).
 // Returns what to tell the operator besides: empty when a printer took the job. Throws as
-// Printer::print.
-std::string sendToPrinter(Printer& printer, const Files& files,
-                          const std::vector<std::string>& lines, const std::string& pdfName);
+// Printer::print and Files::rewrite.
+std::string sendToPrinter(Printer& printer, Files& files, const std::vector<std::string>& lines,
+                          const std::string& pdfName);
 
 } // namespace vantrel

@@ -11,11 +11,11 @@ namespace vantrel {
 class Printer {
 public:
     virtual ~Printer() = default;
-    // Prints the lines (ISO 8859-1) on the system's default printer; where there is none,
-    // into the file `pdfPath` (a real path of the machine). Returns the path of the PDF written,
-    // empty when a printer took it. Throws RuntimeError when the PDF cannot be written.
-    virtual std::string print(const std::vector<std::string>& lines,
-                              const std::string& pdfPath) = 0;
+    // Prints the lines (ISO 8859-1) on the system's default printer; false where there is
+    // none. Throws RuntimeError 75 when it takes no job.
+    virtual bool print(const std::vector<std::string>& lines) = 0;
+    // What it would print, as the bytes of a PDF file.
+    virtual std::string pdf(const std::vector<std::string>& lines) = 0;
 };
 
 } // namespace vantrel

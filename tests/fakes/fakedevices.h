@@ -32,14 +32,13 @@ public:
 
 class FakePrinter : public Printer {
 public:
-    std::string print(const std::vector<std::string>& lines, const std::string& pdfPath) override {
+    bool print(const std::vector<std::string>& lines) override {
         jobs.push_back(lines);
-        lastPdfPath = pdfPath;
-        return hasPrinter ? std::string() : pdfPath;
+        return hasPrinter;
     }
+    std::string pdf(const std::vector<std::string>&) override { return "a PDF"; }
     bool hasPrinter = true;
     std::vector<std::vector<std::string>> jobs;
-    std::string lastPdfPath;
 };
 
 class FakeLauncher : public Launcher {

@@ -57,12 +57,17 @@ TEST_F(FilesPage, WritesTheStrictAdifFileBesideIt) {
 }
 
 TEST_F(FilesPage, AFailedJobSaysWhichFileAndShowsNoPath) {
-    calls.failAt(Call::write, 1, ENOSPC);
-    messages.expect("Run-time error 61: Disk full");
-    click(page, "Option6");
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr("SKS"));
-    EXPECT_EQ(shown(page, "Text2"), "");
-    EXPECT_FALSE(folder.has("SKS.ADI"));
+    printer.hasPrinter = false;
+    for (const auto& [option, file] :
+         {std::pair{"Option6", "SKS.ADI"}, {"Option12", "SKS-LOG.PDF"}}) {
+        folder.write(file, "the one before");
+        calls.failAt(Call::write, 1, ENOSPC);
+        messages.expect("Run-time error 61: Disk full");
+        click(page, option);
+        EXPECT_THAT(messages.shown.back().informative, HasSubstr(file));
+        EXPECT_EQ(shown(page, "Text2"), "");
+        EXPECT_EQ(folder.read(file), "the one before");
+    }
 }
 
 TEST_F(FilesPage, PrintsTheWholeLog) {
@@ -72,7 +77,7 @@ TEST_F(FilesPage, PrintsTheWholeLog) {
     EXPECT_THAT(printer.jobs.back(),
                 ElementsAre("SKS.CBR", "", "Contest: SKS", "My Call: W1ABC", "My SKCC#: 1234T ",
                             "Count: 66 to HisCall", contacts[0], contacts[1]));
-    EXPECT_EQ(printer.lastPdfPath, folder.string() + "/SKS-LOG.PDF");
+    EXPECT_EQ(folder.read("SKS-LOG.PDF"), "a PDF");
     EXPECT_THAT(messages.shown.back().informative, HasSubstr(folder.string() + "/SKS-LOG.PDF"));
     EXPECT_EQ(messages.shown.back().icon, BoxIcon::exclamation);
 }

@@ -159,6 +159,13 @@ QFont enlargedFont(const QWidget* widget, double factor, bool bold) {
     return font;
 }
 
+QFont familyFont(const QWidget* widget, const char* family) {
+    QFont font = widget->font();
+    font.setFamily(QString::fromLatin1(family));
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
 void setColumns(QLineEdit* box, int columns) {
     const QFontMetrics metrics(box->font());
     // A digit is as wide as most capitals; a frame and the cursor need two more.

@@ -50,6 +50,8 @@ private:
 QFont fixedWidthFont();
 // The form's font enlarged by `factor`, for what is read across the desk.
 QFont enlargedFont(const QWidget* widget, double factor, bool bold = true);
+// The form's font in another family; where that is not installed, the system's nearest.
+QFont familyFont(const QWidget* widget, const char* family);
 // A box `columns` characters of its font wide (at least).
 void setColumns(QLineEdit* box, int columns);
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/qtprinter.h"
 
-#include "platform/filenames.h"
 #include "platform/qt/latin1.h"
 #include "shared/runtimeerror.h"
 
@@ -12,7 +11,6 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -102,15 +100,21 @@ void setMargins(QPagedPaintDevice& device) {
                           QPageLayout::Inch);
 }
 
-[[noreturn]] void failed(const std::string& path, const QSaveFile& file) {
-    const bool refused = file.error() == QFileDevice::PermissionsError;
-    throw RuntimeError(refused ? ErrorCode::permissionDenied : ErrorCode::pathFileAccess,
-                       shownText(path) + ": " + fromQt(file.errorString()));
-}
-
 } // namespace
 
-void printToPdf(const std::vector<std::string>& lines, const std::string& pdfPath) {
+bool QtPrinter::print(const std::vector<std::string>& lines) {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull())
+        return false;
+    QPrinter printer(info, QPrinter::HighResolution);
+    setMargins(printer);
+    if (!paintLines(lines, printer))
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           "the printer " + fromQt(info.printerName()) + " takes no job");
+    return true;
+}
+
+std::string QtPrinter::pdf(const std::vector<std::string>& lines) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -119,28 +123,9 @@ void printToPdf(const std::vector<std::string>& lines, const std::string& pdfPat
         const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
         writer.setPageSize(QPageSize(letter ? QPageSize::Letter : QPageSize::A4));
         setMargins(writer);
-        paintLines(lines, writer);
+        paintLines(lines, writer); // memory can always be painted on
     }
-    QSaveFile file(QString::fromStdString(pdfPath));
-    if (!file.open(QIODevice::WriteOnly))
-        failed(pdfPath, file);
-    file.write(bytes);
-    if (!file.commit())
-        failed(pdfPath, file);
-}
-
-std::string QtPrinter::print(const std::vector<std::string>& lines, const std::string& pdfPath) {
-    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
-    if (info.isNull()) {
-        printToPdf(lines, pdfPath);
-        return pdfPath;
-    }
-    QPrinter printer(info, QPrinter::HighResolution);
-    setMargins(printer);
-    if (!paintLines(lines, printer))
-        throw RuntimeError(ErrorCode::pathFileAccess,
-                           "the printer " + fromQt(info.printerName()) + " takes no job");
-    return {};
+    return bytes.toStdString();
 }
 
 } // namespace vantrel

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Prints lines on the system's default printer, or into a PDF where there is none.
+// Prints lines on the system's default printer, or draws them as a PDF.
 #pragma once
 
 #include "platform/printer.h"
@@ -8,11 +8,8 @@ namespace vantrel {
 
 class QtPrinter : public Printer {
 public:
-    std::string print(const std::vector<std::string>& lines, const std::string& pdfPath) override;
+    bool print(const std::vector<std::string>& lines) override;
+    std::string pdf(const std::vector<std::string>& lines) override;
 };
-
-// The same into a PDF in any case, replaced whole or not at all. Throws RuntimeError 70 or 75
-// naming the file when it cannot be written.
-void printToPdf(const std::vector<std::string>& lines, const std::string& pdfPath);
 
 } // namespace vantrel

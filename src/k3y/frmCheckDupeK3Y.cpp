@@ -38,10 +38,12 @@ void frmCheckDupeK3Y::createControls() {
     Label1->setPalette(red);
     Label1->setAutoFillBackground(true);
     Label2 = build.label("Label2", "THIS SAME CALL AND SKCC# IS ALREADY IN THE LOG ON THIS BAND");
-    Label2->setFont(enlargedFont(this, 1));
+    Label2->setFont(familyFont(this, "Arial Unicode MS"));
     Label2->setAlignment(Qt::AlignCenter);
     Command2 = build.command("Command2", "LOG THE DUPE");
     Command1 = build.command("Command1", "NO LOG");
+    for (QPushButton* button : {Command2, Command1})
+        button->setFont(familyFont(this, "Arial Rounded MT Bold"));
     // Unlike the other dupe screen's, this timer closes nothing: the operator has to decide.
     Timer1 = new QTimer(this);
     Timer1->setObjectName(QStringLiteral("Timer1"));

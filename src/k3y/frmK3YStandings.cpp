@@ -54,6 +54,7 @@ frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage
 }
 
 void frmK3YStandings::createControls() {
+    setFont(familyFont(this, "Arial Rounded MT Bold"));
     FormBuilder build(this);
     Label1 = build.label("Label1", "K3Y  Regions/Continents Worked");
     Label1->setFont(enlargedFont(this, headlineEnlargement));

@@ -18,6 +18,7 @@ frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K
 }
 
 void frmK3Ybox::createControls() {
+    setFont(familyFont(this, "Arial"));
     FormBuilder build(this);
     Label1 = build.label("Label1", "APPEND K3Y/xx TO ");
     Label2 = build.label("Label2", " K3Y DX STATIONS");

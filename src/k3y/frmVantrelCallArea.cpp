@@ -20,11 +20,8 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     Label4 = build.label("Label4", "CLICK ON THE CALL AREA SELECTED");
     Label2 = build.label("Label2", "CALL AREA SELECTED:");
     Label3 = build.label("Label3");
-    // The family asked for is seldom installed; the system then gives its nearest.
-    QFont rounded(font());
-    rounded.setFamily(QStringLiteral("Arial Rounded MT Bold"));
-    setFont(rounded);
-    List1->setFont(rounded); // its items are aligned for it
+    setFont(familyFont(this, "Arial Rounded MT Bold"));
+    List1->setFont(font()); // its items are aligned for it
     std::vector<std::string> items;
     for (const CallArea& area : callAreas)
         items.emplace_back(area.item);

@@ -98,14 +98,18 @@ void frmMemberImport::Command2_Click() {
         return;
     }
     enableButtons(false);
-    runHandler([this] { runImport(); });
+    bool finished = false;
+    runHandler([&] { finished = runImport(); });
     if (m_closed)
         return;
-    Label1->clear();
     enableButtons(true);
+    if (finished)
+        Command1->setFocus();
+    else
+        Label1->clear(); // nothing was saved
 }
 
-void frmMemberImport::runImport() {
+bool frmMemberImport::runImport() {
     for (QLabel* label : {Label2, Label3, Label4, Label5})
         if (label != nullptr)
             label->clear();
@@ -115,6 +119,7 @@ void frmMemberImport::runImport() {
                       [this](const ImportStep& step) { return showStep(step); });
     if (result.finished)
         showResult(result);
+    return result.finished;
 }
 
 // Shows a phase at once and the lines once a frame; false once the window has been closed.

@@ -48,7 +48,7 @@ private:
     void Command3_Click(); // browse
     void Command2_Click(); // add members
 
-    void runImport();
+    bool runImport();
     bool showStep(const ImportStep& step);
     void showResult(const ImportResult& result);
     void enableButtons(bool enabled);

@@ -22,7 +22,7 @@ frmSelectUpdateList::frmSelectUpdateList(const FormContext& context)
 
     auto* first = new QHBoxLayout;
     first->addWidget(Option3);
-    first->addWidget(build.caption("<-- DO THIS FIRST"));
+    first->addWidget(build.caption("DO THIS FIRST"));
     first->addStretch();
     auto* page = new QVBoxLayout(this);
     page->addLayout(first);

@@ -14,79 +14,41 @@ using namespace std::string_view_literals;
 using ::testing::_;
 using ::testing::ElementsAre;
 
-std::vector<std::string> itemsOf(std::string_view text) {
+template <typename Reader>
+std::vector<std::string> allOf(std::string_view text) {
     std::vector<std::string> result;
-    ItemReader reader(text);
+    Reader reader(text);
     while (!reader.atEnd())
         result.emplace_back(reader.next());
+    EXPECT_RUNTIME_ERROR(reader.next(), ErrorCode::inputPastEnd, _);
     return result;
 }
 
-std::vector<std::string> linesOf(std::string_view text) {
-    std::vector<std::string> result;
-    LineReader reader(text);
-    while (!reader.atEnd())
-        result.emplace_back(reader.next());
-    return result;
-}
-
-struct ItemsRow {
-    const char* name;
-    std::string_view text;
-    std::vector<std::string> items;
-};
-
-void PrintTo(const ItemsRow& row, std::ostream* out) {
-    *out << row.name;
-}
-
-class Items : public ::testing::TestWithParam<ItemsRow> {};
-
-TEST_P(Items, AreSplit) {
-    EXPECT_EQ(itemsOf(GetParam().text), GetParam().items);
-}
-
-const ItemsRow itemsRows[] = {
-    {"EmptyTextHasNone", "", {}},
-    {"EndAtCommasAndAtBothKindsOfLineEnd", "a,b\r\nc\nd", {"a", "b", "c", "d"}},
-    {"LoseLeadingBlanksAndKeepTrailingOnes", "  a ,  b  \r\n", {"a ", "b  "}},
-    {"KeepTabs", "\ta\t", {"\ta\t"}},
-    {"ABlankLineIsOneEmptyItem", "a\r\n\r\n   \r\nb\r\n", {"a", "", "", "b"}},
-    {"AnItemMayBeEmptyOnEitherSideOfAComma", ",\r\na,\r\n", {"", "", "a", ""}},
-    {"QuotedCommaDoesNotSplit", "\"a,b\",c\r\n", {"a,b", "c"}},
-    {"QuotedItemKeepsItsBlanks", "  \" a \"\r\n", {" a "}},
-    {"WhatFollowsTheClosingQuoteIsDropped", "\"a\"junk,b\r\n", {"a", "b"}},
-    {"UnclosedQuoteEndsWithItsLine", "\"a,b\r\nc\r\n", {"a,b", "c"}},
-    {"QuoteInsideAnItemIsAnOrdinaryCharacter", "a\"b,c\"\r\n", {"a\"b", "c\""}},
-    {"NulsAreOrdinaryCharacters", "a\0b,\0\r\n"sv, {"a\0b"s, "\0"s}},
-    {"ReturnInsideALineIsAnOrdinaryCharacter", "a\rb\r\n", {"a\rb"}},
-};
-
-INSTANTIATE_TEST_SUITE_P(ItemReader, Items, ::testing::ValuesIn(itemsRows),
-                         [](const auto& row) { return row.param.name; });
-
-TEST(ItemReader, TellsTheLineOfTheLastItem) {
-    ItemReader reader("a,b\r\n\r\nc");
-    std::vector<int> lines;
-    while (!reader.atEnd()) {
-        reader.next();
-        lines.push_back(reader.line());
-    }
-    EXPECT_THAT(lines, ElementsAre(1, 1, 2, 3));
-}
-
-TEST(ItemReader, ReadingPastTheEndIsAnError) {
-    ItemReader items("a");
-    items.next();
-    EXPECT_RUNTIME_ERROR(items.next(), ErrorCode::inputPastEnd, _);
-    LineReader lines("");
-    EXPECT_RUNTIME_ERROR(lines.next(), ErrorCode::inputPastEnd, _);
+TEST(ItemReader, SplitsAtCommasAndLineEndsOutsideQuotes) {
+    const struct {
+        const char* rule;
+        std::string_view text;
+        std::vector<std::string> items;
+    } rows[] = {
+        {"empty text has none", "", {}},
+        {"both kinds of line end, and none at the end", "a,b\r\nc\nd", {"a", "b", "c", "d"}},
+        {"leading blanks go, trailing ones and tabs stay", "  a ,\tb  \r\n", {"a ", "\tb  "}},
+        {"a blank line is one empty item", "a\r\n\r\n   \r\nb\r\n", {"a", "", "", "b"}},
+        {"empty on either side of a comma", ",\r\na,\r\n", {"", "", "a", ""}},
+        {"quotes keep commas and blanks", "  \" a,b \",c\r\n", {" a,b ", "c"}},
+        {"what follows the closing quote is dropped", "\"a\"junk,b\r\n", {"a", "b"}},
+        {"an unclosed quote ends with its line", "\"a,b\r\nc\r\n", {"a,b", "c"}},
+        {"a quote inside is ordinary", "a\"b,c\"\r\n", {"a\"b", "c\""}},
+        {"NUL and a lone CR are ordinary", "a\0b,\0\rc\r\n"sv, {"a\0b"s, "\0\rc"s}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(allOf<ItemReader>(row.text), row.items) << row.rule;
 }
 
 TEST(LineReader, GivesWholeLinesWithoutTheirEnds) {
-    EXPECT_THAT(linesOf("  a,\"b\" \r\n\r\nc\n\nd"), ElementsAre("  a,\"b\" ", "", "c", "", "d"));
-    EXPECT_THAT(linesOf("a\r\n"), ElementsAre("a"));
-    EXPECT_THAT(linesOf("a\r\r\nb\rc\n"), ElementsAre("a\r", "b\rc"));
+    EXPECT_THAT(allOf<LineReader>("  a,\"b\" \r\n\r\nc\n\nd"),
+                ElementsAre("  a,\"b\" ", "", "c", "", "d"));
+    EXPECT_THAT(allOf<LineReader>("a\r\r\nb\rc\n"), ElementsAre("a\r", "b\rc"));
 }
 
 } // namespace

@@ -7,90 +7,52 @@
 namespace vantrel::test {
 namespace {
 
-Qso exampleQso() {
-    return {"14050", "CW",         "2011-06-16", "0012",   "W1ABC     ",
-            "599",   "JOHN      ", "MA ",        "1234T ", "K9SKC     ",
-            "599",   "CLUB      ", "IL ",        "5000S ", "      "};
+// Fields as wide as they may be: some touch on my side, none does on his.
+const Qso fullQso{" 7040", "CW",         "2011-06-16", "0012",   "W1ABCDEF/P",
+                  "599",   "JOHNATHANX", "ONT",        "12345S", "K1ABCDEF/P",
+                  "579",   "BARTHOLOME", "BRI",        "54321T", "K3Y/EU"};
+
+const std::string fullLine = "QSO:  7040 CW 2011-06-16 0012 W1ABCDEF/P 599 JOHNATHANX "
+                             "ONT12345SK1ABCDEF/P 579 BARTHOLOME BRI 54321TK3Y/EU";
+
+TEST(QsoLine, IsAssembledByteForByteAndReadWhereItIsWritten) {
+    EXPECT_EQ(assembleLine(fullQso), fullLine);
+    std::string fields;
+    for (const Column column :
+         {qso::tag, qso::frequency, qso::bandTag, qso::mode, qso::date, qso::time, qso::myCall,
+          qso::rstSent, qso::myName, qso::myState, qso::myNumber, qso::hisCall, qso::rstReceived,
+          qso::hisName, qso::hisState, qso::hisNumber, qso::marker})
+        fields += std::string(column.of(fullLine)) + '|';
+    EXPECT_EQ(fields, "QSO: | 7040| 7|CW|2011-06-16|0012|W1ABCDEF/P|599|JOHNATHANX|ONT|12345S|"
+                      "K1ABCDEF/P|579|BARTHOLOME|BRI|54321T|K3Y/EU|");
 }
 
-const std::string exampleLine =
-    "QSO: 14050 CW 2011-06-16 0012 W1ABC      599 JOHN       MA 1234T K9SKC      599 CLUB       "
-    "IL  5000S       ";
+TEST(QsoLine, ContactBeginsWithTheTagAndADupeHasTheBareMarker) {
+    for (const char* contact : {"QSO", "QSO: 14050"})
+        EXPECT_TRUE(isContact(contact)) << contact;
+    for (const char* other : {"QS", " QSO:", "qso: 14050"})
+        EXPECT_FALSE(isContact(other)) << other;
 
-TEST(QsoLine, IsAssembledByteForByte) {
-    EXPECT_EQ(assembleLine(exampleQso()), exampleLine);
-    EXPECT_EQ(exampleLine.size(), 107U);
-}
-
-TEST(QsoLine, FullFieldsRunTogetherOnMySideOnly) {
-    Qso qso = exampleQso();
-    qso.frequency = " 7040";
-    qso.myState = "ONT";
-    qso.myNumber = "12345S";
-    qso.hisCall = "K1ABCDEF/P";
-    qso.hisState = "BRI";
-    qso.marker = "K3Y/EU";
-    EXPECT_EQ(assembleLine(qso),
-              "QSO:  7040 CW 2011-06-16 0012 W1ABC      599 JOHN       ONT12345SK1ABCDEF/P 599 "
-              "CLUB       BRI 5000S K3Y/EU");
-}
-
-TEST(QsoLine, DupeMarkerIsBare) {
-    Qso qso = exampleQso();
-    qso.marker = dupeMarker;
-    const std::string line = assembleLine(qso);
-    EXPECT_EQ(line, exampleLine.substr(0, 101) + "DUPE");
-    EXPECT_TRUE(isDupe(line));
-    EXPECT_TRUE(isDupe(line + "  "));
-    EXPECT_FALSE(isDupe(exampleLine));
-    EXPECT_FALSE(isDupe(exampleLine.substr(0, 101) + "DUP"));
-    EXPECT_FALSE(isDupe(exampleLine.substr(0, 101) + " DUPE"));
-}
-
-TEST(QsoLine, FieldsAreReadWhereTheyAreWritten) {
-    EXPECT_EQ(qso::tag.of(exampleLine), "QSO: ");
-    EXPECT_EQ(qso::frequency.of(exampleLine), "14050");
-    EXPECT_EQ(qso::bandTag.of(exampleLine), "14");
-    EXPECT_EQ(qso::mode.of(exampleLine), "CW");
-    EXPECT_EQ(qso::date.of(exampleLine), "2011-06-16");
-    EXPECT_EQ(qso::time.of(exampleLine), "0012");
-    EXPECT_EQ(qso::myCall.of(exampleLine), "W1ABC     ");
-    EXPECT_EQ(qso::rstSent.of(exampleLine), "599");
-    EXPECT_EQ(qso::myName.of(exampleLine), "JOHN      ");
-    EXPECT_EQ(qso::myState.of(exampleLine), "MA ");
-    EXPECT_EQ(qso::myNumber.of(exampleLine), "1234T ");
-    EXPECT_EQ(qso::hisCall.of(exampleLine), "K9SKC     ");
-    EXPECT_EQ(qso::rstReceived.of(exampleLine), "599");
-    EXPECT_EQ(qso::hisName.of(exampleLine), "CLUB      ");
-    EXPECT_EQ(qso::hisState.of(exampleLine), "IL ");
-    EXPECT_EQ(qso::hisNumber.of(exampleLine), "5000S ");
-    EXPECT_EQ(qso::marker.of(exampleLine), "      ");
-}
-
-TEST(QsoLine, ContactIsWhatBeginsWithTheTag) {
-    EXPECT_TRUE(isContact("QSO"));
-    EXPECT_TRUE(isContact("QSO:"));
-    EXPECT_FALSE(isContact("QS"));
-    EXPECT_FALSE(isContact(" QSO:"));
-    EXPECT_FALSE(isContact("qso: 14050"));
+    Qso dupe = fullQso;
+    dupe.marker = dupeMarker;
+    EXPECT_EQ(assembleLine(dupe), fullLine.substr(0, 101) + "DUPE");
+    EXPECT_TRUE(isDupe(assembleLine(dupe)));
+    EXPECT_TRUE(isDupe(assembleLine(dupe) + "  "));
+    for (const char* marker : {"", "DUP", " DUPE", "K3Y/EU"})
+        EXPECT_FALSE(isDupe(fullLine.substr(0, 101) + marker)) << marker;
 }
 
 TEST(QsoLine, ChangingOneFieldLeavesAllOtherColumns) {
-    std::string expected = exampleLine;
+    std::string expected = fullLine;
     expected.replace(65, 10, "W9XYZ     ");
-    EXPECT_EQ(withField(exampleLine, qso::hisCall, "W9XYZ"), expected);
+    EXPECT_EQ(withField(fullLine, qso::hisCall, "W9XYZ"), expected);
     expected.replace(65, 10, "K1ABCDEFGH");
-    EXPECT_EQ(withField(exampleLine, qso::hisCall, "K1ABCDEFGHIJ"), expected);
-
-    const std::string longer = exampleLine + "what somebody noted";
-    EXPECT_EQ(withField(longer, qso::marker, "DUPE"),
-              exampleLine.substr(0, 101) + "DUPE  what somebody noted");
-}
-
-TEST(QsoLine, ChangingAFieldOfAShortLineFillsUpToItOnly) {
+    EXPECT_EQ(withField(fullLine, qso::hisCall, "K1ABCDEFGHIJ"), expected);
+    EXPECT_EQ(withField(fullLine + "somebody's note", qso::marker, "DUPE"),
+              fullLine.substr(0, 101) + "DUPE  somebody's note");
+    // A short line is filled up to the field only.
     EXPECT_EQ(withField("QSO: 14050", qso::date, "2011-06-16"), "QSO: 14050    2011-06-16");
     EXPECT_EQ(withField("QSO: 14050 CW 2011", qso::date, "2012"), "QSO: 14050 CW 2012      ");
-    EXPECT_EQ(withField("", qso::tag, "QSO:"), "QSO: ");
 }
 
 } // namespace

@@ -29,69 +29,50 @@ struct SerialNames : ::testing::Test {
             fs::create_symlink("../dev/" + tty, machine.path() / "by-id" / byId);
     }
 
-    std::string deviceOf(std::string_view port) const {
-        const std::string device = serialDevice(program(), port, roots());
-        return device.empty() ? device : fs::path(device).filename().string();
-    }
-
-    std::string program() const { return (machine.path() / "program").string(); }
-    SerialRoots roots() const {
+    // The device's name, behind its links.
+    std::string shown(std::string_view port) const {
         const std::string root = machine.string() + '/';
-        return {root + "by-id", root + "tty", root + "dev"};
+        const std::string device =
+            serialDeviceShown(files, port, {root + "by-id", root + "tty", root + "dev"});
+        return device.starts_with(root + "dev/") ? device.substr(root.size() + 4) : device;
     }
 
     TempFolder machine;
     SystemCalls calls;
+    Files files{(machine.path() / "program").string(), calls};
 };
 
-TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPorts) {
-    plug("ttyUSB0", "usb-Z_adapter-if00-port0");
-    plug("ttyACM0", "usb-A_radio-if00");
-    plug("ttyS0");
-    EXPECT_EQ(deviceOf("com1"), "usb-A_radio-if00");
-    EXPECT_EQ(deviceOf("com2"), "usb-Z_adapter-if00-port0");
-    EXPECT_EQ(deviceOf("com3"), "ttyS0");
-    EXPECT_EQ(deviceOf("com4"), "");
-}
-
-TEST_F(SerialNames, OnlyPortsWithHardwareAreCounted) {
+TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
+    plug("ttyACM0", "usb-Z_radio-if00");
+    plug("ttyUSB0", "usb-A_adapter-if00-port0");
     fs::create_directories(machine.path() / "tty/tty1"); // a console
     plug("ttyS0");
     machine.write("tty/ttyS0/type", "0\n"); // a place kept free
     plug("ttyS1");
     machine.write("tty/ttyS1/type", "4\n");
-    EXPECT_EQ(deviceOf("com1"), "ttyS1");
-    EXPECT_EQ(deviceOf("com2"), "");
+    EXPECT_EQ(shown("com1"), "ttyUSB0");
+    EXPECT_EQ(shown("com2"), "ttyACM0");
+    EXPECT_EQ(shown("com3"), "ttyS1");
+    EXPECT_EQ(shown("com4"), "no such port");
+    for (const char* none : {"None", "com0", "com11", "com1x", ""})
+        EXPECT_EQ(shown(none), "") << none;
 }
 
 TEST_F(SerialNames, LinkInTheProgramFolderGoesFirstInAnyCase) {
     plug("ttyS0");
-    fs::create_symlink("../dev/ttyS0", machine.path() / "program/COM7");
-    EXPECT_EQ(deviceOf("com7"), "COM7");
-    EXPECT_EQ(deviceOf("com1"), "ttyS0");
-
-    machine.write("program/Com7", "");
-    EXPECT_RUNTIME_ERROR(deviceOf("com7"), ErrorCode::pathFileAccess, HasSubstr("COM7"));
-}
-
-TEST_F(SerialNames, StartPageShowsTheDeviceBehindTheLinks) {
-    const Files files(program(), calls);
-    plug("ttyUSB3", "usb-A_radio-if00");
+    plug("ttyS1");
+    fs::create_symlink("../dev/ttyS1", machine.path() / "program/COM1");
     fs::create_symlink("../dev/gone", machine.path() / "program/com2");
-    EXPECT_EQ(serialDeviceShown(files, "com1", roots()), machine.string() + "/dev/ttyUSB3");
-    EXPECT_EQ(serialDeviceShown(files, "com2", roots()), "no such port");
-    EXPECT_EQ(serialDeviceShown(files, "com3", roots()), "no such port");
-    for (const char* none : {"None", "com0", "com11", "com1x", ""})
-        EXPECT_EQ(serialDeviceShown(files, none, roots()), "") << none;
+    EXPECT_EQ(shown("com1"), "ttyS1");
+    EXPECT_EQ(shown("com2"), "no such port");
+    machine.write("program/Com1", "");
+    EXPECT_RUNTIME_ERROR(shown("com1"), ErrorCode::pathFileAccess, HasSubstr("COM1"));
 }
 
 TEST(LineSettingsText, IsTakenApartOrRefused) {
-    const std::optional<LineSettings> line = lineSettings("38400,n,8,2");
-    ASSERT_TRUE(line);
-    EXPECT_EQ(line->baud, 38400);
-    EXPECT_EQ(line->parity, 'n');
-    EXPECT_EQ(line->dataBits, 8);
-    EXPECT_EQ(line->stopBits, 2);
+    const LineSettings line = lineSettings("38400,e,7,2").value();
+    EXPECT_EQ(std::tuple(line.baud, line.parity, line.dataBits, line.stopBits),
+              std::tuple(38400, 'e', 7, 2));
     for (const char* bad : {"None,n,8,1", ",n,8,1", "9600,n,8", "9600,x,8,1", "9600,n,9,1",
                             "9600,n,8,3", "9600,n,8,1,", "9999999,n,8,1", ""})
         EXPECT_FALSE(lineSettings(bad)) << bad;

@@ -202,6 +202,7 @@ TEST_F(RealPort, SilenceEndsWithinTwoSecondsAndTheWindowStaysAlive) {
 }
 
 TEST_F(RealPort, ClosingThePortOrQuittingTheProgramEndsTheReadAtOnce) {
+    module.settings = settingsFor(radioNamed("TenTecAscii")); // which is asked several times
     for (const bool quits : {false, true}) {
         QTimer::singleShot(50, qApp, [&] { quits ? QCoreApplication::exit(0) : port.close(); });
         radio.answer = nullptr;

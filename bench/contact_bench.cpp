@@ -92,6 +92,12 @@ int main(int argc, char** argv) {
         },
         [&] { bench::bareRead(folder.path / "SKSDB2.TXT"); });
 
+    bench::single("first lookup in a file of 8,000", 5, [&] {
+        Roster fresh(files);
+        std::string rosterFile;
+        benchmark::DoNotOptimize(fresh.findByCall(call(members - 1), rosterFile));
+    });
+
     QsoTable table;
     table.refill(logOf(QsoTable::capacity));
     bench::single("dupe check over 12,000", 1,

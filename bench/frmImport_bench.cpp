@@ -7,15 +7,12 @@
 #include "roster/rosterrecord.h"
 #include "support/program.h"
 
-#include <QElapsedTimer>
 #include <QPushButton>
 #include <QTimer>
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <vector>
 
 namespace {
@@ -52,19 +49,6 @@ void fillRoster(bench::Program& program) {
     }
 }
 
-double millisecondsOf(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<long>(values.size() / 2),
-                     values.end());
-    return values[values.size() / 2];
-}
-
 // The longest time between two turns of the event loop while it lives.
 class HoldWatch {
 public:
@@ -83,16 +67,10 @@ private:
     QElapsedTimer m_since;
 };
 
-void print(const char* subject, double ours, double bound, double atMost) {
-    std::printf("%-44s %9.1f ms %9.1f ms %8.2f %8.1f\n", subject, ours, bound, ours / bound,
-                atMost);
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    bench::useNoDisplay();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     bench::Program program;
@@ -103,32 +81,31 @@ int main(int argc, char** argv) {
     const std::string sorting = "LC_ALL=C sort -o " + (program.folder.path / "sorted").string() +
                                 " " + (program.folder.path / list).string();
     program.screens.open(Screen::readData);
-    QWidget* page = QApplication::activeWindow();
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String("frmReadSKCCDATA"))
-            page = window;
-    auto* add = page->findChild<QPushButton*>(QStringLiteral("Command2"));
+    auto* add =
+        bench::windowNamed("frmReadSKCCDATA")->findChild<QPushButton*>(QStringLiteral("Command2"));
     QCoreApplication::processEvents();
 
     std::vector<double> without, sorted, inWindow, holds;
     for (int round = 0; round < rounds; ++round) {
-        without.push_back(millisecondsOf([&] {
+        without.push_back(bench::millisecondsOf([&] {
             importMembers(program.files, MemberList::data, list,
                           [](const ImportStep&) { return true; });
         }));
-        sorted.push_back(millisecondsOf([&] {
+        sorted.push_back(bench::millisecondsOf([&] {
             if (std::system(sorting.c_str()) != 0)
                 std::abort();
         }));
         HoldWatch watch;
-        inWindow.push_back(millisecondsOf([&] { add->click(); }));
+        inWindow.push_back(bench::millisecondsOf([&] { add->click(); }));
         QCoreApplication::processEvents();
         holds.push_back(watch.longest);
     }
-    std::printf("%-44s %12s %12s %8s %8s\n", "subject", "ours", "bound", "ratio", "at most");
-    print("import of 19,500, against sort", median(without), median(sorted), 2);
-    print("the same in its window, against without", median(inWindow), median(without), 2);
-    std::printf("%-44s %9.1f ms %12s %8s %5.0f ms\n", "longest hold of the event loop meanwhile",
-                *std::max_element(holds.begin(), holds.end()), "", "", 50.0);
+    bench::printHead();
+    bench::printRatio("import of 19,500, against sort", bench::median(without),
+                      bench::median(sorted), "ms", 2);
+    bench::printRatio("the same in its window, against without", bench::median(inWindow),
+                      bench::median(without), "ms", 2);
+    bench::printValue("longest hold of the event loop meanwhile",
+                      *std::max_element(holds.begin(), holds.end()), "ms", 50);
     return 0;
 }

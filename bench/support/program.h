@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Everything main makes, on a folder of its own that holds a full log, and the time until a
-// list of it is painted.
+// The program on a folder of its own that holds a full log, and the time until something of
+// it is painted.
 #pragma once
 
 #include "app/appscreens.h"
@@ -15,14 +15,16 @@
 #include "platform/qt/qtsound.h"
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
+#include "shared/settings.h"
 #include "support/contacts.h"
 #include "support/ratiotable.h"
+#include "support/table.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QListView>
 
-#include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,15 +37,12 @@ inline std::string fullLog() {
     return bytes;
 }
 
-struct Program {
-    Program() {
-        folder.write("FULL.CBR", fullLog());
-        module.settings.logFileName = "FULL.CBR";
-    }
+// Everything main makes.
+struct RunningProgram {
+    explicit RunningProgram(const std::string& folder) : files(folder, calls) {}
 
-    BenchFolder folder;
     SystemCalls calls;
-    Files files{folder.path.string(), calls};
+    Files files;
     SystemClock clock;
     QtMessages messages;
     QtEventLoop eventLoop;
@@ -54,6 +53,17 @@ struct Program {
     Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
     Module1 module;
     AppScreens screens{module, platform};
+};
+
+inline const std::string fullLogName = "FULL.CBR";
+
+struct FullFolder {
+    FullFolder() { folder.write(fullLogName, fullLog()); }
+    BenchFolder folder;
+};
+
+struct Program : FullFolder, RunningProgram {
+    Program() : RunningProgram(folder.path.string()) { module.settings.logFileName = fullLogName; }
 };
 
 // Tells when a widget has been painted for the first time.
@@ -69,27 +79,50 @@ protected:
     }
 };
 
-// Milliseconds from opening the screen (its form's objectName is `name`) on a full log to its
-// painted List1, the median of 15 openings.
-inline double openingMilliseconds(Screen screen, const char* name) {
+// Runs on no display unless one is asked for.
+inline void useNoDisplay() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+inline double millisecondsOf(const std::function<void()>& work) {
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+// The window with that objectName; ends the bench when there is none.
+inline QWidget* windowNamed(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String(name))
+            return window;
+    qFatal("there is no %s", name);
+}
+
+inline void waitUntilPainted(QWidget* widget) {
+    const PaintWatch watch(widget);
+    while (!watch.painted)
+        QCoreApplication::processEvents();
+}
+
+// Milliseconds of `open`, on a full log, until List1 of the form `name` is painted: the median
+// of 15 openings.
+inline double openingMilliseconds(const char* name, const std::function<void(Program&)>& open,
+                                  const std::function<void(Program&)>& prepare = {}) {
     constexpr int openings = 15;
     std::vector<double> times;
     for (int i = 0; i < openings; ++i) {
         Program program;
-        QElapsedTimer timer;
-        timer.start();
-        program.screens.open(screen);
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() != QLatin1String(name))
-                continue;
-            PaintWatch watch(window->findChild<QListView*>(QStringLiteral("List1"))->viewport());
-            while (!watch.painted)
-                QCoreApplication::processEvents();
-        }
-        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+        if (prepare)
+            prepare(program);
+        times.push_back(millisecondsOf([&] {
+            open(program);
+            const auto* list = windowNamed(name)->findChild<QListView*>(QStringLiteral("List1"));
+            waitUntilPainted(list->viewport());
+        }));
     }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+    return median(times);
 }
 
 } // namespace vantrel::bench

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/ratiotable.h"
 
-#include <algorithm>
+#include "support/table.h"
+
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
@@ -59,14 +59,7 @@ public:
             if (run.run_type == Run::RT_Iteration)
                 m_times[run.run_name.function_name].push_back(run.GetAdjustedRealTime() / 1000);
     }
-    double median(const std::string& name) {
-        std::vector<double>& times = m_times[name];
-        if (times.empty())
-            return 0;
-        std::nth_element(times.begin(), times.begin() + static_cast<long>(times.size() / 2),
-                         times.end());
-        return times[times.size() / 2];
-    }
+    double median(const std::string& name) { return bench::median(m_times[name]); }
 
 private:
     std::map<std::string, std::vector<double>> m_times;
@@ -96,19 +89,16 @@ int run(int argc, char** argv) {
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
 
-    std::printf("%-44s %12s %12s %8s %8s\n", "subject", "ours ms", "bound ms", "ratio", "at most");
+    printHead();
     for (const Subject& subject : subjects()) {
         const double ours = collector.median(subject.name + "/ours");
         if (ours == 0)
             continue;
-        if (!subject.isRatio) {
-            std::printf("%-44s %12.3f %12s %8s %8.1f ms\n", subject.name.c_str(), ours, "", "",
-                        subject.atMost);
-            continue;
-        }
-        const double bound = collector.median(subject.name + "/bound");
-        std::printf("%-44s %12.3f %12.3f %8.2f %8.1f\n", subject.name.c_str(), ours, bound,
-                    ours / bound, subject.atMost);
+        if (subject.isRatio)
+            printRatio(subject.name, ours, collector.median(subject.name + "/bound"), "ms",
+                       subject.atMost);
+        else
+            printValue(subject.name, ours, "ms", subject.atMost);
     }
     return 0;
 }

@@ -140,7 +140,7 @@ void QtSerialPort::close() {
         m_waiting->exit(givenUp);
     if (!m_port.isOpen())
         return;
-    m_port.clear();
+    m_port.clear(QSerialPort::Input); // what is still being sent goes out: it is a query, too
     closeQuietly(m_port);
 }
 

@@ -57,6 +57,18 @@ protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 };
 
+// Runs a job by each click, and stays chosen when it was.
+class JobButton : public OptionButton {
+public:
+    JobButton(const QString& caption, QWidget* form) : OptionButton(caption, form) {
+        // In an exclusive group the arrow keys would run every job they pass.
+        setAutoExclusive(false);
+    }
+
+protected:
+    void nextCheckState() override { setChecked(true); }
+};
+
 // Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is
 // typed meanwhile would still go into the contact being logged.
 class CommandButton : public QPushButton {
@@ -130,10 +142,7 @@ QRadioButton* FormBuilder::option(const char* name, const char* caption, const c
 }
 
 QRadioButton* FormBuilder::jobOption(const char* name, const char* caption, const char* toolTip) {
-    QRadioButton* button = option(name, caption, toolTip);
-    // In an exclusive group the arrow keys would run every job they pass.
-    button->setAutoExclusive(false);
-    return button;
+    return named(new JobButton(vantrel::text(caption), m_form), name, toolTip);
 }
 
 QListView* FormBuilder::list(const char* name, const char* toolTip) {

@@ -423,6 +423,7 @@ void frmVantrelMain::Command12_Click() {
 
 void frmVantrelMain::Option1_Click() {
     screens().open(Screen::k3yBox);
+    Option1->setChecked(fromQt(Label23->text()) != noTagLabel); // opened, nothing is chosen yet
 }
 
 void frmVantrelMain::Command6_Click() {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as comma-delimited items and as lines: written again as read they read the same.
 #include "fuzz/fuzztarget.h"
-#include "platform/files.h"
 #include "shared/itemreader.h"
 
+#include <utility>
 #include <vector>
 
 namespace vantrel::test {
@@ -33,32 +33,28 @@ std::vector<std::string> linesOf(std::string_view bytes) {
     return lines;
 }
 
-// Quoted where the reader would otherwise end it or drop its blanks.
-std::string written(const std::string& item) {
-    const bool bare = item.find(',') == std::string::npos && !item.starts_with(' ');
-    return bare ? item : '"' + item + '"';
-}
-
+// Items that the reader would end early or drop blanks of are quoted.
 std::string written(const Items& items) {
     std::string bytes;
     for (const std::vector<std::string>& line : items) {
-        for (std::size_t i = 0; i < line.size(); ++i)
-            bytes += (i == 0 ? "" : ",") + written(line[i]);
+        std::string comma;
+        for (const std::string& item : line) {
+            const bool bare = item.find(',') == std::string::npos && !item.starts_with(' ');
+            bytes += std::exchange(comma, ",") + (bare ? item : '"' + item + '"');
+        }
         bytes += "\r\n";
     }
     return bytes;
 }
 
 } // namespace
-} // namespace vantrel::test
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace vantrel::test;
-    const std::string bytes(data, data + size);
-    const Items items = itemsOf(bytes);
+void fuzz(Input input) {
+    const Items items = itemsOf(input.rest());
     require(itemsOf(written(items)) == items, "items survive being written and read");
-    const std::vector<std::string> lines = linesOf(bytes);
+    const std::vector<std::string> lines = linesOf(input.rest());
     require(lines.size() == items.size(), "both readers see the same lines");
-    require(linesOf(vantrel::joinLines(lines)) == lines, "lines survive being written and read");
-    return 0;
+    require(linesOf(joinLines(lines)) == lines, "lines survive being written and read");
 }
+
+} // namespace vantrel::test

@@ -7,22 +7,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
-#include <vector>
-
-namespace {
-
-void replay(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(stream),
-                                  std::istreambuf_iterator<char>()};
-    const std::vector<std::uint8_t> input(bytes.begin(), bytes.end());
-    // Told beforehand: when a property does not hold, this is the last line.
-    std::fprintf(stderr, "%s\n", file.c_str());
-    LLVMFuzzerTestOneInput(input.data(), input.size());
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -31,7 +15,11 @@ int main(int argc, char** argv) {
     }
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(argv[1])) {
-        replay(entry.path());
+        // Told beforehand: when a property does not hold, this is the last line.
+        std::fprintf(stderr, "%s\n", entry.path().c_str());
+        std::ifstream file(entry.path(), std::ios::binary);
+        vantrel::test::fuzz(vantrel::test::Input(
+            {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()}));
         ++count;
     }
     std::printf("%d inputs\n", count);

@@ -1,61 +1,49 @@
 // SPDX-License-Identifier: MIT
-#include "tour/k3yevent.h"
-
-#include "support/contacts.h"
+#include "tour/scenes.h"
 #include "tour/stage.h"
 
-#include <fstream>
+#include <array>
 
 namespace vantrel::test {
 
 namespace {
 
-constexpr const char* start = "frmVantrelStart";
-constexpr const char* mainPage = "frmVantrelMain";
 constexpr const char* tagBox = "frmK3Ybox";
 constexpr const char* dupeBox = "frmCheckDupeK3Y";
 constexpr const char* areas = "frmK3YStandings";
 constexpr const char* regions = "frmK3YStandings2";
 const std::string log = "K3Y.CBR";
+const Station eventStation{"GB0SKC", "IAN", "G", "77S", false};
 
 // What was worked before this evening.
 std::string workedBefore() {
     std::string bytes = logHeaderLines;
-    for (const ContactFields& contact :
-         {ContactFields{.frequency = " 7030", .hisCall = "K3Y/3", .hisNumber = "2820S"},
-          ContactFields{.frequency = "10120", .hisCall = "K3Y/0", .hisNumber = "8123C"},
-          ContactFields{.frequency = "21050", .hisCall = "K3Y/5", .hisNumber = "55C"},
-          ContactFields{.frequency = " 1820", .hisCall = "K3Y/KH6", .hisNumber = "4411T"}})
-        bytes += contactLine(contact) + "\r\n";
+    for (const auto& [khz, call, number] :
+         {std::array{" 7030", "K3Y/3", "2820S"}, std::array{"10120", "K3Y/0", "8123C"},
+          std::array{"21050", "K3Y/5", "55C"}, std::array{" 1820", "K3Y/KH6", "4411T"}})
+        bytes += contactWith({call, "CLUB", "IL", number}, khz);
     return bytes;
 }
 
-void openTheLog(Stage& stage) {
-    std::ofstream(stage.folder / log, std::ios::binary) << workedBefore();
-    stage.screens.open(Screen::start);
-    stage.type(start, "Text1", "k3y");
-    stage.type(start, "Text9", log);
-    stage.choose(start, "Combo6", "YES");
-    stage.click(start, "Command2");
-    stage.check("contacts in the event's log", stage.shown(mainPage, "Text1"), "04");
-}
-
 void enterTheStation(Stage& stage) {
-    stage.type(mainPage, "Text2", "gb0skc");
+    stage.type(mainPage, "Text2", eventStation.call);
     stage.press(mainPage, "Text2", Qt::Key_Return);
-    stage.type(mainPage, "Text3", "ian");
-    stage.type(mainPage, "Text4", "g");
-    stage.type(mainPage, "Text5", "77s");
-}
-
-ContactFields theContact() {
-    return {.hisCall = "GB0SKC", .hisName = "IAN", .hisState = "G", .hisNumber = "77S"};
+    stage.type(mainPage, "Text3", eventStation.name);
+    stage.type(mainPage, "Text4", eventStation.state);
+    stage.type(mainPage, "Text5", eventStation.number);
 }
 
 } // namespace
 
 void playK3yEvent(Stage& stage) {
-    openTheLog(stage);
+    std::string expected = workedBefore();
+    stage.write(log, expected);
+    stage.screens.open(Screen::start);
+    stage.type(startPage, "Text1", "k3y");
+    stage.type(startPage, "Text9", log);
+    stage.choose(startPage, "Combo6", "YES");
+    stage.click(startPage, "Command2");
+    stage.check("contacts in the event's log", stage.shown(mainPage, "Text1"), "04");
 
     // The tag is chosen when the station is known to be one, just before logging.
     enterTheStation(stage);
@@ -66,17 +54,14 @@ void playK3yEvent(Stage& stage) {
     stage.check("tag", stage.shown(mainPage, "Label23"), "-- K3Y/EU --");
     stage.picture(mainPage, "main-k3y-tag");
     stage.press(mainPage, "Text5", Qt::Key_Return);
-    ContactFields contact = theContact();
-    contact.marker = "K3Y/EU";
-    std::string expected = workedBefore() + contactLine(contact) + "\r\n";
+    expected += contactWith(eventStation, "14050", "K3Y/EU");
     stage.checkFile(log, expected);
 
     enterTheStation(stage);
     stage.press(mainPage, "Text5", Qt::Key_Return);
     stage.picture(dupeBox, "k3y-dupe");
     stage.click(dupeBox, "Command2");
-    contact.marker = "DUPE";
-    expected += contactLine(contact) + "\r\n";
+    expected += contactWith(eventStation, "14050", "DUPE");
     stage.checkFile(log, expected);
 
     enterTheStation(stage);
@@ -90,7 +75,7 @@ void playK3yEvent(Stage& stage) {
     stage.picture(areas, "k3y-standings");
     stage.click(areas, "Command2");
     stage.check("regions worked", stage.shown(regions, "Label2"), "TOTAL:  2");
-    stage.check("Europe on 20M", stage.shown(regions, "Text665"), "GB0SKC");
+    stage.check("Europe on 20M", stage.shown(regions, "Text665"), eventStation.call);
     stage.picture(regions, "k3y-standings-regions");
     stage.click(regions, "Command1");
 }

@@ -11,7 +11,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -38,32 +37,23 @@ fs::path emptied(const fs::path& folder) {
 
 Stage::Stage(const fs::path& where) : folder(emptied(where)), files(folder.string(), calls) {}
 
-void Stage::expectBox(const std::string& text, bool yes) {
-    m_boxCame = false;
-    m_boxText = text;
-    auto* watch = new QTimer(qApp);
-    watch->start(50);
-    QObject::connect(watch, &QTimer::timeout, qApp, [this, watch, yes] {
+void Stage::confirming(const std::string& text, const std::function<void()>& action) {
+    std::string came;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, qApp, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr)
             return;
-        watch->deleteLater();
-        watch->stop();
-        m_boxCame = fromQt(box->text()) == m_boxText;
-        if (!m_boxCame)
-            m_boxText = "got the box \"" + fromQt(box->text() + box->informativeText()) +
-                        "\" instead of \"" + m_boxText + '"';
+        watch.stop();
+        came = fromQt(box->text());
         save(box, "message");
         const bool question = box->standardButtons().testFlag(QMessageBox::Yes);
-        QAbstractButton* button =
-            box->button(!question ? QMessageBox::Ok : (yes ? QMessageBox::Yes : QMessageBox::No));
+        QAbstractButton* button = box->button(question ? QMessageBox::Yes : QMessageBox::Ok);
         QTest::mouseClick(button, Qt::LeftButton);
     });
-}
-
-void Stage::boxMustHaveCome() const {
-    if (!m_boxCame)
-        throw std::runtime_error("message box: " + m_boxText);
+    watch.start(50);
+    action();
+    check("message box", came, text);
 }
 
 void Stage::picture(const char* formName, const std::string& name) {
@@ -77,14 +67,23 @@ void Stage::save(QWidget* window, const std::string& name) {
         throw std::runtime_error("cannot save " + file);
 }
 
-void Stage::check(const std::string& what, const std::string& got, const std::string& expected) {
+void Stage::write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(folder / name, std::ios::binary) << bytes;
+}
+
+std::string Stage::read(const std::string& name) const {
+    std::ifstream file(folder / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void Stage::check(const std::string& what, const std::string& got,
+                  const std::string& expected) const {
     if (got != expected)
         throw std::runtime_error(what + ": got \"" + got + "\", expected \"" + expected + '"');
 }
 
-void Stage::checkFile(const std::string& name, const std::string& expected) {
-    std::ifstream file(folder / name, std::ios::binary);
-    check(name, {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()}, expected);
+void Stage::checkFile(const std::string& name, const std::string& expected) const {
+    check(name, read(name), expected);
 }
 
 } // namespace vantrel::test

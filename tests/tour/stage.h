@@ -18,6 +18,7 @@
 #include "support/qt/hands.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace vantrel::test {
@@ -29,21 +30,19 @@ public:
     explicit Stage(const std::filesystem::path& folder);
 
     // Runs `action`, which must bring up a message box with this text; takes a picture of
-    // it and presses Yes (or OK) or No.
-    template <typename Action>
-    void answering(const std::string& text, bool yes, Action&& action) {
-        expectBox(text, yes);
-        action();
-        boxMustHaveCome();
-    }
+    // it and presses Yes or OK.
+    void confirming(const std::string& text, const std::function<void()>& action);
 
     // Saves "NN-name.png" of the form as it looks now.
     void picture(const char* formName, const std::string& name);
 
-    // Throws with both texts unless they are equal.
-    void check(const std::string& what, const std::string& got, const std::string& expected);
-    // Compares a file of the folder byte for byte.
-    void checkFile(const std::string& name, const std::string& expected);
+    // A file of the folder.
+    void write(const std::string& name, const std::string& bytes) const;
+    std::string read(const std::string& name) const;
+
+    // Throw with both texts unless they are equal; a file byte for byte.
+    void check(const std::string& what, const std::string& got, const std::string& expected) const;
+    void checkFile(const std::string& name, const std::string& expected) const;
 
     std::filesystem::path folder;
     FakeClock clock;
@@ -60,13 +59,9 @@ public:
     AppScreens screens{module, platform};
 
 private:
-    void expectBox(const std::string& text, bool yes);
-    void boxMustHaveCome() const;
     void save(QWidget* window, const std::string& name);
 
     int m_pictures = 0;
-    bool m_boxCame = true;
-    std::string m_boxText;
 };
 
 } // namespace vantrel::test

@@ -1,38 +1,38 @@
 // SPDX-License-Identifier: MIT
-#include "tour/upkeep.h"
-
-#include "support/contacts.h"
+#include "tour/scenes.h"
 #include "tour/stage.h"
-
-#include <fstream>
-#include <iterator>
 
 namespace vantrel::test {
 
 namespace {
 
-constexpr const char* mainPage = "frmVantrelMain";
-constexpr const char* filesPage = "frmVantrelFiles";
-const std::string log = "SKS061611.CBR";
-
-std::string bytesOf(const Stage& stage, const std::string& name) {
-    std::ifstream file(stage.folder / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-void replaceFirst(std::string& text, const std::string& what, const std::string& by) {
-    text.replace(text.find(what), what.size(), by);
-}
+constexpr const char* correction = "frmVantrelCorrect";
+constexpr const char* deletion = "frmVantrelDelete";
+constexpr const char* editor = "frmVantrelEDITcbr";
+constexpr const char* backup = "frmVantrelBackup";
 
 void leave(Stage& stage, const char* page) {
     stage.click(page, "Command1");
     Stage::settle();
 }
 
+void search(Stage& stage, const char* page, const char* call) {
+    stage.type(page, "Text1", call);
+    stage.press(page, "Text1", Qt::Key_Return);
+}
+
+// The log must be as before but for one piece; returns what it is now.
+std::string changed(const Stage& stage, std::string log, const std::string& what,
+                    const std::string& by) {
+    log.replace(log.find(what), what.size(), by);
+    stage.checkFile(contestLog, log);
+    return log;
+}
+
 void importTheRoster(Stage& stage) {
-    std::ofstream(stage.folder / "skccdata.txt", std::ios::binary)
-        << "SKCCNR|CALL|NAME|QTH|SPC|OLDCALL|SKCC|DXCODE|JOINDATE|CENTDATE|TRIBDATE\r\n"
-           "123S|K1ABC|Joe|Town|CT||||||\r\n7|N7NEW|Nora|Town|AZ||||||\r\n";
+    stage.write("skccdata.txt",
+                "SKCCNR|CALL|NAME|QTH|SPC|OLDCALL|SKCC|DXCODE|JOINDATE|CENTDATE|TRIBDATE\r\n"
+                "123S|K1ABC|Joe|Town|CT||||||\r\n7|N7NEW|Nora|Town|AZ||||||\r\n");
     stage.click(mainPage, "Command9");
     stage.click(filesPage, "Option11");
     stage.picture("frmSelectUpdateList", "update-choice");
@@ -52,68 +52,65 @@ void importTheRoster(Stage& stage) {
 }
 
 void correctAndUndo(Stage& stage) {
-    const std::string before = bytesOf(stage, log);
+    const std::string before = stage.read(contestLog);
     stage.click(mainPage, "Command7");
-    stage.type("frmVantrelCorrect", "Text1", "w5new");
-    stage.press("frmVantrelCorrect", "Text1", Qt::Key_Return);
-    stage.type("frmVantrelCorrect", "Text2", "robert");
-    stage.click("frmVantrelCorrect", "Command2");
-    std::string expected = before;
-    replaceFirst(expected, "BOB       ", "ROBERT    ");
-    stage.checkFile(log, expected);
-    stage.picture("frmVantrelCorrect", "correction");
-    stage.click("frmVantrelCorrect", "Command5");
-    stage.checkFile(log, before);
-    stage.click("frmVantrelCorrect", "Command5");
-    stage.checkFile(log, expected);
-    leave(stage, "frmVantrelCorrect");
+    search(stage, correction, "w5new");
+    stage.type(correction, "Text2", "robert");
+    stage.click(correction, "Command2");
+    changed(stage, before, "BOB       ", "ROBERT    ");
+    stage.picture(correction, "correction");
+    stage.click(correction, "Command5");
+    stage.checkFile(contestLog, before);
+    stage.click(correction, "Command5");
+    changed(stage, before, "BOB       ", "ROBERT    ");
+    leave(stage, correction);
 }
 
 void deleteAContact(Stage& stage) {
-    std::string expected = bytesOf(stage, log);
+    const std::string before = stage.read(contestLog);
     stage.click(mainPage, "Command8");
-    stage.type("frmVantrelDelete", "Text1", "g4aaa");
-    stage.press("frmVantrelDelete", "Text1", Qt::Key_Return);
-    stage.picture("frmVantrelDelete", "deletion");
-    stage.click("frmVantrelDelete", "Command2");
-    replaceFirst(expected,
-                 contactLine({.frequency = "21050",
-                              .hisCall = "G4AAA/P",
-                              .hisName = "IAN",
-                              .hisState = "G",
-                              .hisNumber = "77S"}) +
-                     "\r\n",
-                 "");
-    stage.checkFile(log, expected);
-    leave(stage, "frmVantrelDelete");
+    search(stage, deletion, "g4aaa");
+    stage.picture(deletion, "deletion");
+    stage.click(deletion, "Command2");
+    changed(stage, before, contactWith(ian, "21050"), "");
+    leave(stage, deletion);
     stage.check("count after a deletion", stage.shown(mainPage, "Text1"), "11");
 }
 
 void editAReport(Stage& stage) {
+    const std::string before = stage.read(contestLog);
     stage.click(mainPage, "Command9");
     stage.click(filesPage, "Option9");
-    stage.type("frmVantrelEDITcbr", "Text1", "ve3abc");
-    stage.press("frmVantrelEDITcbr", "Text1", Qt::Key_Return);
-    stage.type("frmVantrelEDITcbr", "Text11", "579");
-    stage.click("frmVantrelEDITcbr", "Command2");
-    stage.picture("frmVantrelEDITcbr", "editor");
-    leave(stage, "frmVantrelEDITcbr");
+    search(stage, editor, "ve3abc");
+    stage.type(editor, "Text11", "579");
+    stage.click(editor, "Command2");
+    // The editor rebuilds the line, with its own idea of the report sent and a shorter marker.
+    changed(stage, before, contactWith(sue, " 3550"),
+            contactLine({.frequency = " 3550",
+                         .rstSent = "559",
+                         .hisCall = sue.call,
+                         .rstReceived = "579",
+                         .hisName = sue.name,
+                         .hisState = sue.state,
+                         .hisNumber = sue.number,
+                         .marker = "    "}) +
+                "\r\n");
+    stage.picture(editor, "editor");
+    leave(stage, editor);
     leave(stage, filesPage);
 }
 
 void backUp(Stage& stage) {
     std::filesystem::create_directory(stage.folder / "backup");
     stage.click(mainPage, "Command10");
-    stage.click("frmVantrelBackup", "Command3");
+    stage.click(backup, "Command3");
     stage.picture("frmFileFinder", "finder");
-    stage.click("frmFileFinder", "Command1");
-    Stage::settle();
-    stage.type("frmVantrelBackup", "Text1", (stage.folder / "backup").string());
-    stage.press("frmVantrelBackup", "Text1", Qt::Key_Return);
-    stage.check("backup", stage.shown("frmVantrelBackup", "Label3"), "DONE......CLICK EXIT");
-    stage.picture("frmVantrelBackup", "backup");
-    stage.checkFile("backup/" + log, bytesOf(stage, log));
-    leave(stage, "frmVantrelBackup");
+    leave(stage, "frmFileFinder");
+    search(stage, backup, (stage.folder / "backup").c_str());
+    stage.check("backup", stage.shown(backup, "Label3"), "DONE......CLICK EXIT");
+    stage.picture(backup, "backup");
+    stage.checkFile("backup/" + contestLog, stage.read(contestLog));
+    leave(stage, backup);
 }
 
 } // namespace

@@ -33,8 +33,6 @@ bool FakeSerialPort::wait(int milliseconds) {
     EXPECT_GT(milliseconds, 0);
     ++waits;
     ++m_passes;
-    if (onWait)
-        onWait();
     if (waits == closesOnWait || !m_open)
         return false;
     m_input += std::exchange(noise, {});

@@ -6,7 +6,6 @@
 #include "platform/serialport.h"
 
 #include <deque>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -39,7 +38,6 @@ public:
     std::optional<SerialPortError> refusal;
     std::string noise;    // arrives before the first query
     int closesOnWait = 0; // the program is closed in this wait (1 is the first); 0: never
-    std::function<void()> onWait;
 
     std::vector<std::string> opened; // "com1 9600,n,8,1"
     std::vector<std::string> sent;

@@ -3,58 +3,44 @@
 #include "fuzz/fuzztarget.h"
 #include "shared/itemreader.h"
 
-#include <utility>
+#include <algorithm>
 #include <vector>
 
 namespace vantrel::test {
 namespace {
 
-using Items = std::vector<std::vector<std::string>>; // of each line
-
-Items itemsOf(std::string_view bytes) {
-    Items items;
-    ItemReader reader(bytes);
-    while (!reader.atEnd()) {
-        const std::string item(reader.next());
-        require(item.find('\n') == std::string::npos, "an item ends with its line");
-        const auto line = static_cast<std::size_t>(reader.line());
-        require(line == items.size() || line == items.size() + 1, "lines are counted one by one");
-        items.resize(line);
-        items.back().push_back(item);
-    }
+template <typename Reader>
+std::vector<std::string> allOf(Reader& reader) {
+    std::vector<std::string> all;
+    while (!reader.atEnd())
+        all.emplace_back(reader.next());
     require(errorOf([&] { reader.next(); }).has_value(), "nothing is read past the end");
-    return items;
+    return all;
 }
 
-std::vector<std::string> linesOf(std::string_view bytes) {
-    std::vector<std::string> lines;
-    for (LineReader reader(bytes); !reader.atEnd();)
-        lines.emplace_back(reader.next());
-    return lines;
-}
-
-// Items that the reader would end early or drop blanks of are quoted.
-std::string written(const Items& items) {
-    std::string bytes;
-    for (const std::vector<std::string>& line : items) {
-        std::string comma;
-        for (const std::string& item : line) {
-            const bool bare = item.find(',') == std::string::npos && !item.starts_with(' ');
-            bytes += std::exchange(comma, ",") + (bare ? item : '"' + item + '"');
-        }
-        bytes += "\r\n";
-    }
-    return bytes;
+// Quoted where the reader would otherwise end it or drop its blanks.
+std::string written(const std::string& item) {
+    const bool bare = item.find(',') == std::string::npos && !item.starts_with(' ');
+    return bare ? item : '"' + item + '"';
 }
 
 } // namespace
 
 void fuzz(Input input) {
-    const Items items = itemsOf(input.rest());
-    require(itemsOf(written(items)) == items, "items survive being written and read");
-    const std::vector<std::string> lines = linesOf(input.rest());
-    require(lines.size() == items.size(), "both readers see the same lines");
-    require(linesOf(joinLines(lines)) == lines, "lines survive being written and read");
+    ItemReader items(input.rest());
+    const std::vector<std::string> read = allOf(items);
+    std::vector<std::string> again(read.size());
+    std::transform(read.begin(), read.end(), again.begin(), written);
+    const std::string bytes = joinLines(again);
+    ItemReader itemsAgain(bytes);
+    require(allOf(itemsAgain) == read, "items survive being written and read");
+
+    LineReader lines(input.rest());
+    const std::vector<std::string> readLines = allOf(lines);
+    require(static_cast<int>(readLines.size()) == items.line(), "both readers see the same lines");
+    const std::string sameLines = joinLines(readLines);
+    LineReader linesAgain(sameLines);
+    require(allOf(linesAgain) == readLines, "lines survive being written and read");
 }
 
 } // namespace vantrel::test

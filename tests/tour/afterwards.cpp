@@ -33,11 +33,11 @@ void playAfterContest(Stage& stage) {
     stage.picture(score, "score");
     print(stage, score, "Command2", "The File has been sent to the Printer!",
           "SKS061611-SCORE.PDF");
-    stage.click(score, "Command1");
+    stage.leave(score);
     stage.click(mainPage, "Command16");
     stage.check("bonus count", stage.shown(bonus, "Label1"), "Total: 0");
     stage.picture(bonus, "bonus");
-    stage.click(bonus, "Command1");
+    stage.leave(bonus);
 
     stage.click(mainPage, "Command9");
     stage.click(filesPage, "Option14");
@@ -49,15 +49,15 @@ void playAfterContest(Stage& stage) {
                 "<RST_SENT:3>599<CALL:5>K1ABC<RST_RCVD:3>599<NAME:3>JOE<STATE:2>CT"
                 "<SKCC_NR:5>0123T<COMMENT:15>SKCC NR: 0123T<EOR>");
     stage.picture(list, "list-adif");
-    stage.click(list, "Command1");
+    stage.leave(list);
     print(stage, filesPage, "Option12", "THE FILE HAS BEEN SENT TO THE PRINTER",
           "SKS061611-LOG.PDF");
     stage.click(filesPage, "Option3");
     stage.check("members", stage.lines(members, "List1").at(0),
                 "N4XYZ     8123C     ANN       NC ");
     stage.picture(members, "members");
-    stage.click(members, "Command1");
-    stage.click(filesPage, "Command1");
+    stage.leave(members);
+    stage.leave(filesPage);
 }
 
 } // namespace vantrel::test

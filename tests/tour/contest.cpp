@@ -35,15 +35,9 @@ void fillStartPage(Stage& stage) {
     stage.picture(mainPage, "main-empty");
 }
 
-void tune(Stage& stage, const char* typed) {
-    stage.type(mainPage, "Text7", typed);
-    stage.press(mainPage, "Text7", Qt::Key_Return);
-}
-
 // As the exchange is heard: the roster knows a member's, the others' is typed.
 void logContact(Stage& stage, const Station& station) {
-    stage.type(mainPage, "Text2", station.call);
-    stage.press(mainPage, "Text2", Qt::Key_Return);
+    stage.enter(mainPage, "Text2", station.call);
     if (!station.isMember) {
         stage.type(mainPage, "Text3", station.name);
         stage.type(mainPage, "Text4", station.state);
@@ -54,8 +48,7 @@ void logContact(Stage& stage, const Station& station) {
 
 // A duplicate on 20 m: the word comes up, and nothing is left in the boxes.
 void workADuplicate(Stage& stage) {
-    stage.type(mainPage, "Text2", "k1abc");
-    stage.press(mainPage, "Text2", Qt::Key_Return);
+    stage.enter(mainPage, "Text2", "k1abc");
     stage.picture("frmVantrelDupe", "dupe");
     stage.check("call after a dupe", stage.shown(mainPage, "Text2"), "");
 }
@@ -63,8 +56,7 @@ void workADuplicate(Stage& stage) {
 // His number came through, his call did not: the first Enter yields the call, the second
 // looks it up, the third logs.
 void workByNumber(Stage& stage) {
-    stage.type(mainPage, "Text2", "9010");
-    stage.press(mainPage, "Text2", Qt::Key_Return);
+    stage.enter(mainPage, "Text2", "9010");
     stage.check("call of 9010", stage.shown(mainPage, "Text2"), "DL1QRS    ");
     stage.press(mainPage, "Text2", Qt::Key_Return);
     stage.picture(mainPage, "main-looked-up");
@@ -91,17 +83,17 @@ void playContest(Stage& stage) {
                    {"1820", club, " 1820"}};
     for (const auto& heard : contest) {
         if (*heard.tuned != '\0')
-            tune(stage, heard.tuned);
+            stage.enter(mainPage, "Text7", heard.tuned);
         logContact(stage, heard.station);
         gained(contactWith(heard.station, heard.khz));
     }
-    tune(stage, "14");
+    stage.enter(mainPage, "Text7", "14");
     workADuplicate(stage);
     gained("");
-    tune(stage, "14050");
+    stage.enter(mainPage, "Text7", "14050");
     workByNumber(stage);
     gained(contactWith(klaus));
-    tune(stage, "14.055");
+    stage.enter(mainPage, "Text7", "14.055");
     logContact(stage, club);
     gained(contactWith(club, "14055"));
     stage.check("count", stage.shown(mainPage, "Text1"), "12");

@@ -26,8 +26,7 @@ std::string workedBefore() {
 }
 
 void enterTheStation(Stage& stage) {
-    stage.type(mainPage, "Text2", eventStation.call);
-    stage.press(mainPage, "Text2", Qt::Key_Return);
+    stage.enter(mainPage, "Text2", eventStation.call);
     stage.type(mainPage, "Text3", eventStation.name);
     stage.type(mainPage, "Text4", eventStation.state);
     stage.type(mainPage, "Text5", eventStation.number);

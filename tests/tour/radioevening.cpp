@@ -51,8 +51,7 @@ void playRadioEvening(Stage& stage) {
     std::string expected = logHeaderLines;
     for (const auto& worked : evening) {
         radio.hertz = worked.hertz;
-        stage.type(mainPage, "Text2", worked.station.call);
-        stage.press(mainPage, "Text2", Qt::Key_Return);
+        stage.enter(mainPage, "Text2", worked.station.call);
         stage.press(mainPage, "Text2", Qt::Key_Return);
         expected += contactWith(worked.station, worked.khz);
         stage.checkFile(log, expected);

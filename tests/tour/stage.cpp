@@ -67,6 +67,16 @@ void Stage::save(QWidget* window, const std::string& name) {
         throw std::runtime_error("cannot save " + file);
 }
 
+void Stage::enter(const char* formName, const char* name, std::string_view text) {
+    type(formName, name, text);
+    press(formName, name, Qt::Key_Return);
+}
+
+void Stage::leave(const char* formName) {
+    click(formName, "Command1");
+    settle();
+}
+
 void Stage::write(const std::string& name, const std::string& bytes) const {
     std::ofstream(folder / name, std::ios::binary) << bytes;
 }

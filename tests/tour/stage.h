@@ -20,6 +20,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace vantrel::test {
 
@@ -35,6 +36,11 @@ public:
 
     // Saves "NN-name.png" of the form as it looks now.
     void picture(const char* formName, const std::string& name);
+
+    // Types into a box and presses Enter there.
+    void enter(const char* formName, const char* name, std::string_view text);
+    // Leaves by the page's EXIT.
+    void leave(const char* formName);
 
     // A file of the folder.
     void write(const std::string& name, const std::string& bytes) const;

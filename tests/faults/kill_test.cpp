@@ -50,6 +50,8 @@ public:
             std::abort();
         const std::string number = std::to_string(run);
         m_process = ::fork();
+        if (m_process < 0) // killing it would mean everybody
+            std::abort();
         if (m_process == 0) {
             ::dup2(ends[1], STDOUT_FILENO);
             ::execl(VANTREL_FAULT_DRIVER, VANTREL_FAULT_DRIVER, folder.c_str(), number.c_str(),
@@ -60,20 +62,18 @@ public:
         m_pipe = ends[0];
     }
     ~Child() {
-        ::close(m_pipe);
         if (!m_ended)
             kill();
+        ::close(m_pipe);
     }
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;
 
-    // Reads what it tells for so long at most, or until it has said the word.
-    void listen(int milliseconds, std::string_view until = {}) {
+    // Reads what it tells until it has said the word, or nothing for so long.
+    void listen(int milliseconds, std::string_view until) {
         pollfd poll{m_pipe, POLLIN, 0};
-        while (until.empty() || m_told.find(until) == std::string::npos) {
-            if (::poll(&poll, 1, milliseconds) != 1)
-                return;
-            if (!readSome())
+        while (m_told.find(until) == std::string::npos) {
+            if (::poll(&poll, 1, milliseconds) != 1 || !readSome())
                 return;
         }
     }
@@ -115,8 +115,6 @@ struct Contents {
     std::string generation; // of the members
     std::string bonusStation{blanks(callWidth)};
     bool hasAdif = false;
-
-    bool operator==(const Contents&) const = default;
 };
 
 const Lines header = linesOf(logHeader("SKS", "W1ABC", ""));

@@ -58,6 +58,10 @@ def wait_for(what, condition):
         time.sleep(0.05)
 
 
+def active_window():
+    return xdotool("getactivewindow")
+
+
 def active_title():
     return xdotool("getactivewindow", "getwindowname")
 
@@ -146,9 +150,9 @@ def play(program, folder):
     wait_for_window("Vantrel")
     fill_start_page()
     wait_for("the log", log.exists)
+    start = active_window()
     keys("alt+s")
-    wait_for("the main page", (folder / "StnsWorked.TXT").exists)
-    wait_for_window("Vantrel")
+    wait_for("the main page", lambda: active_window() not in ("", start))  # of the same title
     log_contacts(log)
 
     type_text("w5new")  # on 40 m: not worked here yet, so NO LOG must leave no trace

@@ -21,6 +21,8 @@ OperatingSettings throughTheStartPage(OperatingSettings settings) {
     settings.civAddress = chosen(civList(), settings.civAddress);
     settings.gmtOffset = chosen(offsetList(), settings.gmtOffset, "0");
     settings.dupeMode = chosen(dupeModeList(), settings.dupeMode, "NO");
+    if (settings.contestCode != contestWes && settings.contestCode != contestK3y)
+        settings.contestCode = contestSks;
     return storedSettings(settings);
 }
 

@@ -20,7 +20,7 @@ import time
 
 PATIENCE = 30.0  # seconds
 STARTS = 7
-CONTACTS = 15
+CONTACTS = 41
 EXPORTS = 9
 FULL = 12000  # contacts
 CALLS = 900  # different ones among them, as in our benches; tlf crashes beyond 5,000

@@ -79,7 +79,7 @@ void customaryFileHasALineAContact(const QsoTable& table) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     // The offset comes from the settings file, where somebody may have written anything.
     const std::string offset = input.text();
     std::string created;

@@ -32,7 +32,7 @@ void everyReaderFindsIt(const std::string& line, const OperatingSettings& settin
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     Module1 module;
     OperatingSettings& settings = module.settings;
     settings.contestCode = input.choice(2) == 0 ? contestSks : contestK3y;

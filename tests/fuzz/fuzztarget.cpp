@@ -7,7 +7,8 @@
 
 // What the fuzzing engine calls.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    vantrel::test::fuzz(vantrel::test::Input(std::string(data, data + size)));
+    vantrel::test::Input input(std::string(data, data + size));
+    vantrel::test::fuzz(input);
     return 0;
 }
 

@@ -33,7 +33,7 @@ private:
 
 // The target: called with one input after the other, by the fuzzing engine or to replay the
 // corpus. A property that does not hold ends the program.
-void fuzz(Input input);
+void fuzz(Input& input);
 
 // Ends the program, telling `what`, unless `holds`.
 void require(bool holds, std::string_view what);

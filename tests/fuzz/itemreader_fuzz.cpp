@@ -26,7 +26,7 @@ std::string written(const std::string& item) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     ItemReader items(input.rest());
     const std::vector<std::string> read = allOf(items);
     std::vector<std::string> again(read.size());

@@ -29,7 +29,7 @@ void isFound(std::string_view line, const QsoTable& table) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     QsoTable table;
     table.refill(input.rest());
     for (const std::string_view line : table.lines())

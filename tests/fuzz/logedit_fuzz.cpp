@@ -63,7 +63,7 @@ void editorWritesItsBoxes(std::string_view line, Input input) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     const std::string line = "QSO" + input.text();
     if (line.find('\n') != std::string::npos)
         return;

@@ -20,7 +20,7 @@ void canBeLogged(std::string_view mhz) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     const Radio& radio = radios().at(input.choice(radios().size()));
     const int pieces = 1 + static_cast<int>(input.choice(40));
     FakeSerialPort port;

@@ -18,8 +18,9 @@ int main(int argc, char** argv) {
         // Told beforehand: when a property does not hold, this is the last line.
         std::fprintf(stderr, "%s\n", entry.path().c_str());
         std::ifstream file(entry.path(), std::ios::binary);
-        vantrel::test::fuzz(vantrel::test::Input(
-            {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()}));
+        vantrel::test::Input input(
+            {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()});
+        vantrel::test::fuzz(input);
         ++count;
     }
     std::printf("%d inputs\n", count);

@@ -45,7 +45,7 @@ void everyMemberIsFound(const Files& files, MemberList list, std::string_view by
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     const MemberList list = input.choice(2) == 0 ? MemberList::data : MemberList::members;
     const std::string roster = input.text();
     auto& [disk, calls, files] = fuzzFolder();

@@ -45,7 +45,7 @@ void findsByNumber(Roster& roster, const std::string& bytes, const std::string& 
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     const std::string typed = input.text();
     auto& [disk, calls, files] = fuzzFolder();
     for (const std::string_view name : rosterFiles)

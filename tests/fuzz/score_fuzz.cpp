@@ -32,7 +32,7 @@ void figuresAgree(const Score& score, const QsoTable& table) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     OperatingSettings settings;
     settings.contestCode = contests[input.choice(std::size(contests))];
     settings.bonusStation = input.text();

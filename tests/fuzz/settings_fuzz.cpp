@@ -28,7 +28,7 @@ OperatingSettings throughTheStartPage(OperatingSettings settings) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     Files& files = fuzzFolder().files;
     files.rewrite(configurationFile, input.rest());
     OperatingSettings settings;

@@ -30,7 +30,7 @@ void cellsAreFromTheLog(const Standings& standings, const QsoTable& table) {
 
 } // namespace
 
-void fuzz(Input input) {
+void fuzz(Input& input) {
     QsoTable table;
     table.refill(input.rest());
     cellsAreFromTheLog(areaStandings(table), table);

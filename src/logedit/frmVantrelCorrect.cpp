@@ -68,34 +68,13 @@ QWidget* frmVantrelCorrect::firstFocus() {
 void frmVantrelCorrect::Command3_Click() {
     say("");
     const std::string key = takeKey();
-    switch (m_log.search(key)) {
-    case SearchResult::found:
-        showBoxes(correctionBoxes(key, m_log.line()));
-        break;
-    case SearchResult::notFound:
-        say(notFoundText);
-        break;
-    case SearchResult::keyTooShort:
-        break;
-    }
-    followLog();
+    showOutcome(m_log.search(key), key, notFoundText);
 }
 
 void frmVantrelCorrect::Command4_Click() {
     say("");
     const std::string key = takeKey();
-    switch (m_log.searchNext(key)) {
-    case SearchResult::found:
-        showBoxes(correctionBoxes(key, m_log.line()));
-        break;
-    case SearchResult::notFound:
-        m_shown[0] = key; // searched for, so it is no correction of the call that stays
-        say(lastEntryText);
-        break;
-    case SearchResult::keyTooShort:
-        break;
-    }
-    followLog();
+    showOutcome(m_log.searchNext(key), key, lastEntryText);
 }
 
 void frmVantrelCorrect::Option1_Click() {
@@ -111,8 +90,7 @@ void frmVantrelCorrect::Command2_Click() {
         return;
     }
     const Correction correction = corrected(m_log.line(), m_shown, boxes());
-    const ChangeResult result = rewriteAtWork(correction.line);
-    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+    if (!reportChange(rewriteAtWork(correction.line), m_log, messages(), screens().mainPage()))
         return;
     showBoxes(correction.boxes);
     followLog();
@@ -122,8 +100,7 @@ void frmVantrelCorrect::Command2_Click() {
 }
 
 void frmVantrelCorrect::Command5_Click() {
-    const ChangeResult result = m_log.undo();
-    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.undo(), m_log, messages(), screens().mainPage()))
         return;
     CorrectionBoxes key{};
     key[0] = fromQt(m_boxes[0]->text());
@@ -136,6 +113,17 @@ std::string frmVantrelCorrect::takeKey() {
     const std::string key = tidied(fromQt(m_boxes[0]->text()));
     m_boxes[0]->setText(toQt(key));
     return key;
+}
+
+void frmVantrelCorrect::showOutcome(SearchResult result, const std::string& key,
+                                    std::string_view none) {
+    if (result == SearchResult::found) {
+        showBoxes(correctionBoxes(key, m_log.line()));
+    } else if (result == SearchResult::notFound) {
+        m_shown[0] = key; // searched for, so it is no correction of the call that stays
+        say(none);
+    }
+    followLog();
 }
 
 ChangeResult frmVantrelCorrect::rewriteAtWork(const std::string& line) {

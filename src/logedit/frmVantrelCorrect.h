@@ -37,6 +37,8 @@ private:
     void showBoxes(const CorrectionBoxes& boxes);
     // The call box's text tidied, put back into it.
     std::string takeKey();
+    // The contact that a search found, or that there is `none`.
+    void showOutcome(SearchResult result, const std::string& key, std::string_view none);
     // Rewrites the log while the message label tells so.
     ChangeResult rewriteAtWork(const std::string& line);
     // Shows what can be done and to whom; the next call may be typed.

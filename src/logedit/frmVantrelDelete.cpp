@@ -56,7 +56,7 @@ void frmVantrelDelete::connectHandlers() {
 }
 
 void frmVantrelDelete::Form_Load() {
-    showNothing(openingText);
+    say(openingText);
 }
 
 QWidget* frmVantrelDelete::firstFocus() {
@@ -66,64 +66,43 @@ QWidget* frmVantrelDelete::firstFocus() {
 void frmVantrelDelete::Command3_Click() {
     const std::string key = tidied(fromQt(Text1->text()));
     Text1->setText(toQt(key));
-    switch (m_log.search(key)) {
-    case SearchResult::found:
-        showContact();
-        break;
-    case SearchResult::notFound:
-        showNothing(notFoundText);
-        break;
-    case SearchResult::keyTooShort:
-        break;
-    }
-    followLog();
+    showOutcome(m_log.search(key), notFoundText);
 }
 
 void frmVantrelDelete::Command4_Click() {
-    switch (m_log.searchNext(tidied(fromQt(Text1->text())))) {
-    case SearchResult::found:
-        showContact();
-        break;
-    case SearchResult::notFound:
-        Label4->setText(toQt(lastEntryText));
-        break;
-    case SearchResult::keyTooShort:
-        break;
-    }
-    followLog();
+    showOutcome(m_log.searchNext(tidied(fromQt(Text1->text()))), lastEntryText);
 }
 
 void frmVantrelDelete::Command2_Click() {
-    const ChangeResult result = m_log.removeLine();
-    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.removeLine(), m_log, messages(), screens().mainPage()))
         return;
-    showNothing(deletedText);
+    say(deletedText);
     followLog();
 }
 
 void frmVantrelDelete::Command5_Click() {
-    const ChangeResult result = m_log.undo();
-    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.undo(), m_log, messages(), screens().mainPage()))
         return;
-    showNothing(m_log.undoText());
+    say(m_log.undoText());
     followLog();
 }
 
-void frmVantrelDelete::showContact() {
-    Label2->setText(toQt(deletionCallText(m_log.line())));
-    Label3->setText(toQt(deletionDetailText(m_log.line())));
-    Label4->clear();
+void frmVantrelDelete::showOutcome(SearchResult result, std::string_view none) {
+    if (result != SearchResult::keyTooShort)
+        say(result == SearchResult::found ? "" : none);
+    followLog();
 }
 
-void frmVantrelDelete::showNothing(std::string_view message) {
-    Label2->clear();
-    Label3->clear();
+void frmVantrelDelete::say(std::string_view message) {
     Label4->setText(toQt(message));
 }
 
 void frmVantrelDelete::followLog() {
+    const bool found = m_log.found();
+    Label2->setText(found ? toQt(deletionCallText(m_log.line())) : QString());
+    Label3->setText(found ? toQt(deletionDetailText(m_log.line())) : QString());
     // Not after a deletion: a second press would remove the contact that moved up, unseen.
-    Command2->setEnabled(m_log.found());
+    Command2->setEnabled(found);
     Command5->setEnabled(m_log.canUndo());
     Text1->setFocus();
     Text1->selectAll();

@@ -31,9 +31,10 @@ private:
     void Command2_Click(); // DELETE
     void Command5_Click(); // UNDO
 
-    void showContact();
-    void showNothing(std::string_view message);
-    // Shows what can be done; the next call may be typed.
+    // The contact that a search found, or that there is `none`.
+    void showOutcome(SearchResult result, std::string_view none);
+    void say(std::string_view message);
+    // Shows the contact found and what can be done; the next call may be typed.
     void followLog();
 
     QLineEdit* Text1;      // his call

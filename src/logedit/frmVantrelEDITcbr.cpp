@@ -63,31 +63,11 @@ QWidget* frmVantrelEDITcbr::firstFocus() {
 void frmVantrelEDITcbr::Command3_Click() {
     const std::string key = tidied(fromQt(Text1->text()));
     Text1->setText(toQt(key));
-    switch (m_log.search(key)) {
-    case SearchResult::found:
-        showContact();
-        break;
-    case SearchResult::notFound:
-        say(key + std::string(notFoundTail));
-        break;
-    case SearchResult::keyTooShort:
-        break;
-    }
-    followLog();
+    showOutcome(m_log.search(key), key + std::string(notFoundTail));
 }
 
 void frmVantrelEDITcbr::Command4_Click() {
-    switch (m_log.searchNext(tidied(fromQt(Text1->text())))) {
-    case SearchResult::found:
-        showContact();
-        break;
-    case SearchResult::notFound:
-        say(lastEntryText);
-        break;
-    case SearchResult::keyTooShort:
-        break;
-    }
-    followLog();
+    showOutcome(m_log.searchNext(tidied(fromQt(Text1->text()))), lastEntryText);
 }
 
 void frmVantrelEDITcbr::Option1_Click() {
@@ -108,8 +88,7 @@ void frmVantrelEDITcbr::Command2_Click() {
 }
 
 void frmVantrelEDITcbr::Command5_Click() {
-    const ChangeResult result = m_log.undo();
-    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.undo(), m_log, messages(), screens().mainPage()))
         return;
     showBoxes({});
     say(m_log.undoText());
@@ -128,9 +107,12 @@ void frmVantrelEDITcbr::showBoxes(const EditorBoxes& boxes) {
         m_boxes[i]->setText(toQt(boxes[i]));
 }
 
-void frmVantrelEDITcbr::showContact() {
-    showBoxes(editorBoxes(m_log.line()));
-    say(foundText);
+void frmVantrelEDITcbr::showOutcome(SearchResult result, std::string_view none) {
+    if (result == SearchResult::found)
+        showBoxes(editorBoxes(m_log.line()));
+    if (result != SearchResult::keyTooShort)
+        say(result == SearchResult::found ? foundText : none);
+    followLog();
 }
 
 void frmVantrelEDITcbr::followLog() {

@@ -35,7 +35,8 @@ private:
 
     EditorBoxes boxes() const;
     void showBoxes(const EditorBoxes& boxes);
-    void showContact();
+    // The contact that a search found, or that there is `none`.
+    void showOutcome(SearchResult result, std::string_view none);
     // Shows what can be done; the next call may be typed.
     void followLog();
     void say(std::string_view message);

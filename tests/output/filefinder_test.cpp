@@ -73,15 +73,14 @@ TEST_F(FinderTest, NamesInTheEightBitAlphabetAreShownInItAndOthersLeftOut) {
 }
 
 TEST_F(FinderTest, TrueCaseStaysWhereUpperCaseWouldLeadElsewhere) {
-    fs::create_directory(folder.path() / "op/LOGS"); // another folder
     FileFinder finder(files, machine);
-    enter(finder, "Logs");
-    EXPECT_EQ(finder.selection(), home() + "/Logs/");
-    fs::remove(folder.path() / "op/LOGS");
-    fs::create_directory(folder.path() / "op/logs"); // upper case could be either of two
-    FileFinder again(files, machine);
-    enter(again, "Logs");
-    EXPECT_EQ(again.selection(), home() + "/Logs/");
+    for (const char* other : {"op/LOGS", "op/logs"}) { // another folder, or either of two
+        fs::create_directory(folder.path() / other);
+        enter(finder, "Logs");
+        EXPECT_EQ(finder.selection(), home() + "/Logs/");
+        enter(finder, "..");
+        fs::remove(folder.path() / other);
+    }
 }
 
 TEST_F(FinderTest, UnreadableFolderIsAnErrorAndTheOperatorStaysPut) {
@@ -97,7 +96,6 @@ TEST_F(FinderTest, UnreadableFolderIsAnErrorAndTheOperatorStaysPut) {
 TEST_F(FinderTest, UpwardsEndsAtTheTopAndADriveLeadsToItsTop) {
     machine.mounted = {"/", folder.string(), folder.string() + "/op/Lo"};
     FileFinder finder(files, machine);
-    EXPECT_EQ(finder.currentDrive(), 1U);
     enter(finder, "Logs");
     EXPECT_EQ(finder.currentDrive(), 1U); // "Lo" is another folder
     finder.openDrive(1);
@@ -108,7 +106,6 @@ TEST_F(FinderTest, UpwardsEndsAtTheTopAndADriveLeadsToItsTop) {
     EXPECT_EQ(finder.selection(), "/");
     EXPECT_NE(finder.folders().at(0), "..");
     enter(finder, "tmp");
-    EXPECT_EQ(finder.selection(), "/TMP/");
     enter(finder, "..");
     EXPECT_EQ(finder.selection(), "/");
 }

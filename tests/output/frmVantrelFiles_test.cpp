@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "fakes/failingcalls.h"
 #include "output/adif.h"
 #include "output/contacts.h"
 #include "output/strictadif.h"
 #include "support/qt/formharness.h"
 
 #include <QApplication>
-#include <QRadioButton>
-#include <QTest>
 
 #include <cerrno>
 #include <gmock/gmock.h>
@@ -18,6 +15,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::SizeIs;
 
 constexpr const char* page = "frmVantrelFiles";
 constexpr const char* viewer = "frmVantrelShowDB";
@@ -31,46 +29,52 @@ protected:
         screens.open(Screen::files);
     }
 
+    static std::string itemFile(int items) {
+        std::string bytes;
+        while (items-- > 0)
+            bytes += "X\r\n";
+        return bytes;
+    }
+
     const std::vector<std::string> contacts{line({.number = "1234T"}),
                                             line({.frequency = "7045", .marker = "DUPE"})};
 };
 
-TEST_F(FilesPage, WritesTheAdifFileOnEachClick) {
-    EXPECT_EQ(shown(page, "Label5"), "");
+TEST_F(FilesPage, WritesBothAdifFilesAndSaysWhere) {
     click(page, "Option6");
     EXPECT_EQ(folder.read("SKS.ADI"), adifText(views(contacts)));
     EXPECT_EQ(shown(page, "Label5"), "ADIF FILE CREATED AT:");
     EXPECT_EQ(shown(page, "Text2"), folder.string() + "/SKS.ADI");
-    folder.write("SKS.CBR", logOf({}));
-    click(page, "Option6");
-    EXPECT_EQ(folder.read("SKS.ADI"), adifText({}));
-    EXPECT_TRUE(control<QRadioButton>(page, "Option6")->isChecked());
-}
 
-TEST_F(FilesPage, WritesTheStrictAdifFileBesideIt) {
     clock.time = {2011, 6, 16, 22, 12, 30};
     module.settings.gmtOffset = "5";
     click(page, "Option14");
     EXPECT_EQ(folder.read("SKS-STRICT.ADI"), strictAdifText(views(contacts), "20110617 031230"));
     EXPECT_EQ(shown(page, "Text2"), folder.string() + "/SKS-STRICT.ADI");
-    EXPECT_FALSE(folder.has("SKS.ADI"));
+
+    folder.write("SKS.CBR", logOf(std::vector<std::string>(12001, contacts[0])));
+    messages.expect("Run-time error 9: Subscript out of range");
+    click(page, "Option6");
+    folder.write("SKS.CBR", logOf({}));
+    calls.failAt(Call::write, 1, ENOSPC);
+    messages.expect("Run-time error 61: Disk full");
+    click(page, "Option6");
+    EXPECT_EQ(folder.read("SKS.ADI"), adifText(views(contacts)));
+    calls.heal();
+    click(page, "Option6"); // a job runs on each click
+    EXPECT_EQ(folder.read("SKS.ADI"), adifText({}));
 }
 
-TEST_F(FilesPage, AFailedJobSaysWhichFileAndShowsNoPath) {
-    printer.hasPrinter = false;
-    for (const auto& [option, file] :
-         {std::pair{"Option6", "SKS.ADI"}, {"Option12", "SKS-LOG.PDF"}}) {
-        folder.write(file, "the one before");
-        calls.failAt(Call::write, 1, ENOSPC);
-        messages.expect("Run-time error 61: Disk full");
-        click(page, option);
-        EXPECT_THAT(messages.shown.back().informative, HasSubstr(file));
-        EXPECT_EQ(shown(page, "Text2"), "");
-        EXPECT_EQ(folder.read(file), "the one before");
-    }
+TEST_F(FilesPage, ALogThatIsCalledLikeItsAdifFileIsNotWrittenOver) {
+    folder.write("sks.adi", logOf(contacts));
+    module.settings.logFileName = "SKS.ADI";
+    messages.expect("Run-time error 75: Path/File access error");
+    click(page, "Option6");
+    EXPECT_EQ(folder.read("sks.adi"), logOf(contacts));
+    EXPECT_EQ(shown(page, "Text2"), "");
 }
 
-TEST_F(FilesPage, PrintsTheWholeLog) {
+TEST_F(FilesPage, PrintsEveryItemOfTheLog) {
     printer.hasPrinter = false;
     messages.expect("THE FILE HAS BEEN SENT TO THE PRINTER");
     click(page, "Option12");
@@ -79,63 +83,62 @@ TEST_F(FilesPage, PrintsTheWholeLog) {
                             "Count: 66 to HisCall", contacts[0], contacts[1]));
     EXPECT_EQ(folder.read("SKS-LOG.PDF"), "a PDF");
     EXPECT_THAT(messages.shown.back().informative, HasSubstr(folder.string() + "/SKS-LOG.PDF"));
-    EXPECT_EQ(messages.shown.back().icon, BoxIcon::exclamation);
+
+    folder.write("SKS-LOG.PDF", "the one before");
+    calls.failAt(Call::write, 1, ENOSPC);
+    messages.expect("Run-time error 61: Disk full");
+    click(page, "Option12");
+    EXPECT_EQ(folder.read("SKS-LOG.PDF"), "the one before");
+    calls.heal();
+
+    folder.write("SKS.CBR", itemFile(12000));
+    messages.expect("THE FILE HAS BEEN SENT TO THE PRINTER");
+    click(page, "Option12");
+    EXPECT_THAT(printer.jobs.back(), SizeIs(12002));
+    folder.write("SKS.CBR", itemFile(12001));
+    messages.expect("Run-time error 9: Subscript out of range");
+    click(page, "Option12");
+    EXPECT_THAT(printer.jobs, SizeIs(3));
 }
 
 TEST_F(FilesPage, ShowsEachMemberFile) {
+    messages.expect("Run-time error 53: File not found");
+    click(page, "Option3");
+    folder.write("SKSDB3.TXT", itemFile(8001));
+    messages.expect("Run-time error 9: Subscript out of range");
+    click(page, "Option3");
+    EXPECT_FALSE(isOpen(viewer));
     for (const std::string number : {"1", "2", "3", "4", "5"}) {
         folder.write("SKSDB" + number + ".TXT", "CALL" + number + "     0002\r\nX, Y\r\n");
         click(page, ("Option" + number).c_str());
         EXPECT_THAT(lines(viewer, "List1"), ElementsAre("CALL" + number + "     0002", "X", "Y"));
         EXPECT_EQ(shown(viewer, "Label1"), folder.string() + "/SKSDB" + number + ".TXT   3 LINES");
-        EXPECT_EQ(module.rosterFile, "\\SKSDB" + number + ".TXT");
     }
 }
 
-TEST_F(FilesPage, AMemberFileThatIsMissingOrTooLongOpensNoViewer) {
-    messages.expect("Run-time error 53: File not found");
-    click(page, "Option3");
-    std::string tooLong;
-    for (int i = 0; i < 8001; ++i)
-        tooLong += "X\r\n";
-    folder.write("SKSDB3.TXT", tooLong);
-    messages.expect("Run-time error 9: Subscript out of range");
-    click(page, "Option3");
-    EXPECT_FALSE(isOpen(viewer));
-}
-
 TEST_F(FilesPage, SortsTheMemberFiles) {
-    messages.expect("Run-time error 53: File not found");
-    click(page, "Option13");
-    for (const char* number : {"1", "2", "3", "4", "5"})
-        folder.write(std::string("SKSDB") + number + ".TXT",
-                     "K2A       0002\r\nK1A       0001\r\n");
+    for (const char* name : {"SKSDB1.TXT", "SKSDB2.TXT", "SKSDB3.TXT", "SKSDB4.TXT", "SKSDB5.TXT"})
+        folder.write(name, "K2A       0002\r\nK1A       0001\r\n");
     messages.expect("THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s");
     click(page, "Option13");
-    for (const char* number : {"1", "2", "3", "4", "5"})
-        EXPECT_EQ(folder.read(std::string("SKSDB") + number + ".TXT"),
-                  "K1A       0001\r\nK2A       0002\r\n");
+    EXPECT_EQ(folder.read("SKSDB5.TXT"), "K1A       0001\r\nK2A       0002\r\n");
 }
 
 TEST_F(FilesPage, ListsTheAdifFileOrTheLogAndReturnsHere) {
     click(page, "Option6");
     click(page, "Option7");
-    EXPECT_THAT(lines(list, "List1"), ::testing::SizeIs(4));
     EXPECT_EQ(lines(list, "List1").front(), "<EOH>");
     click(page, "Option8");
     EXPECT_EQ(lines(list, "List1").front(), " Contest: SKS");
+    click(page, "Option7");
     click(list, "Command1");
     settle();
-    EXPECT_FALSE(isOpen(list));
     EXPECT_EQ(QApplication::activeWindow(), form(page));
     // Whoever opens it next gets the log.
     EXPECT_FALSE(module.listShowsAdif);
     EXPECT_FALSE(module.listFromFileScreen);
-}
 
-TEST_F(FilesPage, TheMainPageTakesTheListOverForTheLog) {
-    click(page, "Option6");
-    click(page, "Option7");
+    click(page, "Option7"); // the main page takes it over for the log
     screens.open(Screen::main);
     settle();
     click("frmVantrelMain", "Command6");
@@ -147,7 +150,6 @@ TEST_F(FilesPage, TheMainPageTakesTheListOverForTheLog) {
 
 TEST_F(FilesPage, ArrowKeysRunNoJob) {
     press(page, "Option5", Qt::Key_Down);
-    press(page, "Option5", Qt::Key_Right);
     settle();
     EXPECT_FALSE(folder.has("SKS.ADI"));
     EXPECT_TRUE(messages.shown.empty());

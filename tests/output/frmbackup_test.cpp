@@ -26,75 +26,84 @@ class BackupPage : public ::testing::Test, public FormHarness {
 protected:
     BackupPage() {
         module.settings.logFileName = "SKS.CBR";
+        for (int i = 0; i < 13000; ++i) // more than the program itself counts
+            log += "QSO: a, b\n";
         folder.write("SKS.CBR", log);
         std::filesystem::create_directory(folder.path() / "copies");
     }
 
-    const std::string log = logHeaderLines + contactLine({}) + "\r\n";
+    // Clicks a line of the finder's list; returns where.
+    QPoint clickLine(const char* list, const std::string& text) {
+        auto* view = control<QAbstractItemView>(finder, list);
+        const std::vector<std::string> all = lines(finder, list);
+        const auto row = static_cast<int>(std::find(all.begin(), all.end(), text) - all.begin());
+        const QPoint place = view->visualRect(view->model()->index(row, 0)).center();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        return place;
+    }
+
+    std::string log = logHeaderLines + contactLine({}) + "\r\n";
 };
 
-TEST_F(BackupPage, CopiesTheLogIntoTheFolderTyped) {
+TEST_F(BackupPage, CopiesEveryByteHoweverTheFolderIsTyped) {
+    module.settings.logFileName = folder.string() + "\\SKS.CBR"; // as the finder hands it back
     screens.open(Screen::backup);
-    EXPECT_EQ(shown(page, "Label5"), files.path("SKS.CBR"));
-    type(page, "Text1", " " + folder.string() + "/copies/ ");
+    EXPECT_EQ(shown(page, "Label5"), folder.string() + "/SKS.CBR");
+    for (const std::string& typed :
+         {std::string(" copies  "), std::string("COPIES\\"), folder.string() + "/Copies//"}) {
+        std::filesystem::remove(folder.path() / "copies/SKS.CBR");
+        type(page, "Text1", typed);
+        click(page, "Command2");
+        EXPECT_EQ(shown(page, "Label3"), "DONE......CLICK EXIT");
+        EXPECT_EQ(folder.read("copies/SKS.CBR"), log) << typed;
+    }
+    type(page, "Text1", folder.string()); // onto itself
     click(page, "Command2");
-    EXPECT_EQ(shown(page, "Label3"), "DONE......CLICK EXIT");
-    EXPECT_EQ(folder.read("copies/SKS.CBR"), log);
     EXPECT_EQ(folder.read("SKS.CBR"), log);
 }
 
-TEST_F(BackupPage, MissingFolderIsAnErrorAndTheTypingStays) {
+TEST_F(BackupPage, WithoutAFolderOrLogItIsAnErrorAndTheTypingStays) {
     screens.open(Screen::backup);
-    messages.expect("Run-time error 76: Path not found");
+    for (const char* typed : {"", " ", "nowhere"}) {
+        type(page, "Text1", typed);
+        messages.expect("Run-time error 76: Path not found");
+        click(page, "Command2");
+        EXPECT_EQ(shown(page, "Label3"), ""); // no longer at work
+        EXPECT_EQ(shown(page, "Text1"), typed);
+    }
+    EXPECT_FALSE(std::filesystem::exists("/SKS.CBR"));
+    module.settings.logFileName = "OTHER.CBR";
+    type(page, "Text1", "copies");
+    messages.expect("Run-time error 53: File not found");
     click(page, "Command2");
-    type(page, "Text1", folder.string() + "/nowhere");
-    messages.expect("Run-time error 76: Path not found");
-    click(page, "Command2");
-    EXPECT_EQ(shown(page, "Label3"), "");
-    EXPECT_EQ(shown(page, "Text1"), folder.string() + "/nowhere");
-    EXPECT_FALSE(folder.has("nowhere"));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path() / "copies"));
 }
 
 TEST_F(BackupPage, FinderHandsTheFolderBack) {
     folder.write(".hidden", "");
     screens.open(Screen::backup);
     click(page, "Command3");
-    EXPECT_EQ(module.finderMode, FinderMode::backup);
-    EXPECT_THAT(lines(finder, "filList"), Contains("SKS.CBR"));
     EXPECT_THAT(lines(finder, "filList"), Not(Contains(".hidden")));
     EXPECT_EQ(control<QComboBox>(finder, "drvList")->itemText(0), QStringLiteral("/"));
-    auto* folders = control<QAbstractItemView>(finder, "dirList");
-    const auto rowOf = [&](const std::string& name) {
-        const std::vector<std::string> all = lines(finder, "dirList");
-        return static_cast<int>(std::find(all.begin(), all.end(), name) - all.begin());
-    };
-    const QPoint place = folders->visualRect(folders->model()->index(rowOf("copies"), 0)).center();
-    QTest::mouseClick(folders->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(folders->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    EXPECT_THAT(shown(finder, "Label5"), EndsWith("/COPIES/"));
+    const QPoint place = clickLine("dirList", "copies");
+    QTest::mouseDClick(control<QAbstractItemView>(finder, "dirList")->viewport(), Qt::LeftButton,
+                       Qt::NoModifier, place);
     const std::string selected = shown(finder, "Label5");
+    EXPECT_THAT(selected, EndsWith("/COPIES/"));
     click(finder, "Command1");
     settle();
     EXPECT_FALSE(isOpen(finder));
     EXPECT_EQ(shown(page, "Text1"), selected);
     EXPECT_EQ(QApplication::focusWidget(), control(page, "Text1"));
-    click(page, "Command2");
-    EXPECT_EQ(folder.read("copies/SKS.CBR"), log);
 }
 
 TEST_F(BackupPage, FinderGivesTheStartPageALogFromAnywhere) {
     screens.open(Screen::start);
     click("frmVantrelStart", "Command3");
-    auto* list = control<QAbstractItemView>(finder, "filList");
-    const std::vector<std::string> all = lines(finder, "filList");
-    const int row = static_cast<int>(std::find(all.begin(), all.end(), "SKS.CBR") - all.begin());
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      list->visualRect(list->model()->index(row, 0)).center());
+    clickLine("filList", "SKS.CBR");
     click(finder, "Command1");
     settle();
     EXPECT_THAT(shown("frmVantrelStart", "Text9"), EndsWith("/SKS.CBR"));
-    click("frmVantrelStart", "Command2");
-    EXPECT_EQ(shown("frmVantrelMain", "Text1"), "01");
 }
 
 } // namespace

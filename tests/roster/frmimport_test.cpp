@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -44,16 +45,19 @@ TEST_F(ImportPages, DataListFillsTheRoster) {
     EXPECT_FALSE(isOpen(dataPage));
 }
 
-TEST_F(ImportPages, MissingListsAreReportedEachInItsWay) {
+TEST_F(ImportPages, MissingListsAreReportedEachInItsWayAndNothingIsLeftOfAnEarlierImport) {
+    folder.write("skccdata.txt", twoMembers);
     click(choice, "Option1");
+    click(dataPage, "Command2");
+    std::filesystem::remove(folder.path() / "skccdata.txt");
     messages.expect("Run-time error 53: File not found");
     click(dataPage, "Command2");
     EXPECT_THAT(messages.shown.back().informative, HasSubstr("skccdata.txt"));
+    EXPECT_EQ(shown(dataPage, "Label3"), "");
     click(choice, "Option2");
     messages.expect("SKCCLIST.TXT IS NOT FOUND");
     click(listPage, "Command2");
     EXPECT_EQ(messages.shown.back().icon, BoxIcon::exclamation);
-    EXPECT_FALSE(folder.has("SKSDB1.TXT"));
 }
 
 TEST_F(ImportPages, MemberListCountsWhatItFixedAndLeavesTheLogChosen) {

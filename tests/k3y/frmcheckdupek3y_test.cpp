@@ -21,11 +21,13 @@ class CheckDupeK3y : public ::testing::Test, protected FormHarness {
 protected:
     CheckDupeK3y() {
         OperatingSettings& settings = module.settings;
-        settings.contestCode = contestK3y;
         settings.contestText = contestK3y;
         settings.dupeMode = "YES";
         settings.logFileName = "K3Y.CBR";
         settings.myCall = "W1ABC";
+        settings.myName = "JOHN";
+        settings.myState = "MA";
+        settings.myNumber = "1234T";
         folder.write("K3Y.CBR", before);
         screens.open(Screen::main);
     }
@@ -33,16 +35,16 @@ protected:
     void logAgain() {
         type(mainPage, "Text2", "GB0SKC");
         type(mainPage, "Text3", "BILL");
-        type(mainPage, "Text4", "ENG");
+        type(mainPage, "Text4", "IL");
         type(mainPage, "Text5", "77T");
         click(mainPage, "Command3");
         ASSERT_TRUE(isOpen(box));
         EXPECT_EQ(folder.read("K3Y.CBR"), before); // nothing without the operator's word
     }
 
-    std::vector<std::string> boxes() const {
-        return {shown(mainPage, "Text2"), shown(mainPage, "Text3"), shown(mainPage, "Text4"),
-                shown(mainPage, "Text5")};
+    void expectInEachBox(const char* text) const {
+        for (const char* name : {"Text2", "Text3", "Text4", "Text5"})
+            EXPECT_EQ(shown(mainPage, name), text) << name;
     }
 
     const std::string before = k3yLog({k3yLine("GB0SKC", "14060", "77T", "K3Y/EU")});
@@ -63,25 +65,27 @@ TEST_F(CheckDupeK3y, SearchSaysSoForTheSameOperatorOnly) {
     EXPECT_EQ(messages.shown.size(), 1U);
 }
 
-TEST_F(CheckDupeK3y, LogTheDupe_LogsItMarkedAndEmptiesTheBoxes) {
+TEST_F(CheckDupeK3y, LogTheDupeLogsItMarkedAndEmptiesTheBoxes) {
     module.marker = "K3Y/EU";
     logAgain();
     EXPECT_TRUE(form(box)->isModal());
     click(box, "Command2");
     settle();
     EXPECT_FALSE(isOpen(box));
-    const std::string log = folder.read("K3Y.CBR");
-    EXPECT_EQ(log.substr(0, before.size()), before);
-    EXPECT_THAT(
-        log.substr(before.size()),
-        ::testing::MatchesRegex("QSO: 14050 .*GB0SKC     599 BILL       ENG 77T   DUPE\r\n"));
+    const std::string dupe = k3yLine("GB0SKC", "14050", "77T", "DUPE");
+    EXPECT_EQ(folder.read("K3Y.CBR"), before + dupe + "\r\n");
+    EXPECT_EQ(module.currentLine, dupe);
+    EXPECT_EQ(folder.read("StnsWorked.TXT"),
+              "GB0SKC    | BILL      |77T    | IL  | 14060 | 0012 | 2011-06-16|K3Y/EU\r\n"
+              "GB0SKC    | BILL      |77T    | IL  | 14050 | 0012 | 2011-06-16|DUPE\r\n");
+    EXPECT_EQ(module.marker, "K3Y/EU"); // the tag stays for the next contact
     EXPECT_EQ(shown(mainPage, "Text1"), "02");
     EXPECT_EQ(lines(mainPage, "List1").size(), 2U);
-    EXPECT_EQ(boxes(), (std::vector<std::string>{"", "", "", ""}));
+    expectInEachBox("");
     EXPECT_EQ(QApplication::focusWidget(), control(mainPage, "Text2"));
 }
 
-TEST_F(CheckDupeK3y, NoLog_ByButtonEscOrCross_LeavesOneBlankInEachBox) {
+TEST_F(CheckDupeK3y, NoLogByButtonEscOrCrossLeavesOneBlankInEachBox) {
     const std::vector<std::function<void()>> ways{
         [&] { click(box, "Command1"); },
         [&] { press(box, "Command1", Qt::Key_Escape); },
@@ -94,49 +98,35 @@ TEST_F(CheckDupeK3y, NoLog_ByButtonEscOrCross_LeavesOneBlankInEachBox) {
         settle();
         EXPECT_FALSE(isOpen(box));
         EXPECT_EQ(folder.read("K3Y.CBR"), before);
-        EXPECT_EQ(boxes(), (std::vector<std::string>{" ", " ", " ", " "}));
+        expectInEachBox(" ");
         EXPECT_EQ(module.marker, "K3Y/EU");
         EXPECT_EQ(QApplication::focusWidget(), control(mainPage, "Text2"));
     }
-}
-
-TEST_F(CheckDupeK3y, TheAlarmFollowsTheAudioSwitch) {
-    logAgain();
-    EXPECT_EQ(sound.alarms, 1);
-    click(box, "Command1");
-    settle();
+    EXPECT_EQ(sound.alarms, 3);
     click(mainPage, "Command12"); // AUDIO OFF
     logAgain();
-    EXPECT_EQ(sound.alarms, 1);
+    EXPECT_EQ(sound.alarms, 3);
 }
 
-TEST_F(CheckDupeK3y, AFullDiskKeepsTheBoxAndWhatWasTyped) {
+TEST_F(CheckDupeK3y, AFullDiskKeepsTheBoxUntilTheLineIsOnTheDisk) {
     logAgain();
-    calls.failAt(Call::sync, 1, ENOSPC);
-    messages.expect("Run-time error 61: Disk full");
-    click(box, "Command2");
-    settle();
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr("K3Y.CBR"));
+    const auto logItWhenFails = [&](Call call, int which) {
+        calls.failAt(call, which, ENOSPC);
+        messages.expect("Run-time error 61: Disk full");
+        click(box, "Command2");
+        settle();
+        calls.heal();
+        return messages.shown.back().informative;
+    };
+    EXPECT_THAT(logItWhenFails(Call::sync, 1), HasSubstr("K3Y.CBR"));
     EXPECT_EQ(folder.read("K3Y.CBR"), before);
     EXPECT_EQ(shown(mainPage, "Text2"), "GB0SKC");
     ASSERT_TRUE(isOpen(box));
 
-    calls.heal(); // space was made: the same box logs it
-    click(box, "Command2");
-    settle();
-    EXPECT_THAT(folder.read("K3Y.CBR"), HasSubstr("77T   DUPE\r\n"));
-}
-
-TEST_F(CheckDupeK3y, AFailureAfterTheLineIsOnTheDiskIsSaidAndTheBoxesAreCleared) {
-    logAgain();
-    calls.failAt(Call::write, 2, ENOSPC);
-    messages.expect("Run-time error 61: Disk full");
-    click(box, "Command2");
-    settle();
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr("StnsWorked.TXT"));
+    EXPECT_THAT(logItWhenFails(Call::write, 2), HasSubstr("StnsWorked.TXT"));
     EXPECT_FALSE(isOpen(box));
-    EXPECT_THAT(folder.read("K3Y.CBR"), HasSubstr("77T   DUPE\r\n"));
-    EXPECT_EQ(boxes(), (std::vector<std::string>{"", "", "", ""}));
+    EXPECT_EQ(folder.read("K3Y.CBR"), before + k3yLine("GB0SKC", "14050", "77T", "DUPE") + "\r\n");
+    expectInEachBox("");
 }
 
 } // namespace

@@ -12,48 +12,28 @@ namespace {
 constexpr const char* box = "frmK3Ybox";
 constexpr const char* mainPage = "frmVantrelMain";
 
-class K3yBox : public ::testing::Test, protected FormHarness {
-protected:
-    K3yBox() {
-        module.settings.logFileName = "K3Y.CBR";
-        folder.write("K3Y.CBR", k3yLog({}));
-        screens.open(Screen::main);
-        openBox();
+TEST(K3yBox, EachChoiceHoldsAtOnceAndOpeningTheBoxAgainClearsItButNotTheTag) {
+    FormHarness program;
+    program.module.settings.logFileName = "K3Y.CBR";
+    program.folder.write("K3Y.CBR", k3yLog({}));
+    program.screens.open(Screen::main);
+    const char* tags[] = {"K3Y/EU", "K3Y/AF", "K3Y/AS", "K3Y/OC", "K3Y/NA", "K3Y/SA", "      "};
+    for (int choice = 6; choice >= 0; --choice) {
+        const std::string tag = tags[choice];
+        const std::string label = choice == 6 ? "   None     " : "-- " + tag + " --";
+        program.click(mainPage, "Option1");
+        for (const QRadioButton* option : program.form(box)->findChildren<QRadioButton*>())
+            EXPECT_FALSE(option->isChecked()) << option->objectName().toStdString();
+        program.click(box, ("Option" + std::to_string(choice + 1)).c_str());
+        EXPECT_EQ(program.module.marker, tag);
+        EXPECT_EQ(program.shown(mainPage, "Label23"), label);
+        program.click(box, "Command1");
+        FormHarness::settle();
+        EXPECT_FALSE(program.isOpen(box));
     }
-
-    void openBox() {
-        click(mainPage, "Option1");
-        ASSERT_TRUE(isOpen(box));
-    }
-};
-
-TEST_F(K3yBox, EachChoiceHoldsAtOnceAndShowsOnTheMainPage) {
-    struct Choice {
-        const char* option;
-        const char* marker;
-        const char* label;
-    };
-    for (const Choice& choice :
-         {Choice{"Option1", "K3Y/EU", "-- K3Y/EU --"}, Choice{"Option2", "K3Y/AF", "-- K3Y/AF --"},
-          Choice{"Option3", "K3Y/AS", "-- K3Y/AS --"}, Choice{"Option4", "K3Y/OC", "-- K3Y/OC --"},
-          Choice{"Option5", "K3Y/NA", "-- K3Y/NA --"}, Choice{"Option6", "K3Y/SA", "-- K3Y/SA --"},
-          Choice{"Option7", "      ", "   None     "}}) {
-        click(box, choice.option);
-        EXPECT_EQ(module.marker, choice.marker) << choice.option;
-        EXPECT_EQ(shown(mainPage, "Label23"), choice.label) << choice.option;
-    }
-}
-
-TEST_F(K3yBox, OpeningItAgainClearsTheChoiceButNotTheTag) {
-    click(box, "Option1");
-    click(box, "Command1");
-    settle();
-    EXPECT_FALSE(isOpen(box));
-    openBox();
-    for (const QRadioButton* option : form(box)->findChildren<QRadioButton*>())
-        EXPECT_FALSE(option->isChecked()) << option->objectName().toStdString();
-    EXPECT_EQ(module.marker, "K3Y/EU");
-    EXPECT_EQ(shown(mainPage, "Label23"), "-- K3Y/EU --");
+    program.click(mainPage, "Option1");
+    EXPECT_EQ(program.module.marker, "K3Y/EU");
+    EXPECT_EQ(program.shown(mainPage, "Label23"), "-- K3Y/EU --");
 }
 
 } // namespace

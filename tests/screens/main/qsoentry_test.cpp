@@ -2,7 +2,6 @@
 #include "fakes/failingcalls.h"
 #include "fakes/fakeclock.h"
 #include "platform/files.h"
-#include "roster/rosterlookup.h"
 #include "screens/main/qsoentry.h"
 #include "shared/module1.h"
 #include "support/contacts.h"
@@ -38,13 +37,10 @@ protected:
     Files files{folder.string(), calls};
     FakeClock clock;
     Module1 module;
-    Roster roster{files};
 };
 
 TEST_F(QsoEntry, LineIsCutAndPaddedToItsColumns) {
-    EXPECT_EQ(lineFor({"k9skc", "CLUB", "IL", "5000S", "599", "599", "14.050"}),
-              "QSO: 14050 CW 2011-06-16 0012 W1ABC      599 JOHN       MA 1234T K9SKC      599 "
-              "CLUB       IL  5000S       ");
+    EXPECT_EQ(lineFor({"k9skc", "CLUB", "IL", "5000S", "599", "599", "14.050"}), contactLine({}));
     EXPECT_EQ(lineFor({" vk2/g4abcde ", "BARTHOLOMEW", "NSWX", "12345678", "59", "5999", "7"}),
               "QSO:  7000 CW 2011-06-16 0012 W1ABC      59  JOHN       MA 1234T VK2/G4ABCD 599 "
               "BARTHOLOME NSW 123456      ");
@@ -58,12 +54,6 @@ TEST_F(QsoEntry, SeparatorsNeverReachTheLine) {
                                  .hisName = "A B C",
                                  .hisState = "M A",
                                  .hisNumber = "1 2"}));
-}
-
-TEST_F(QsoEntry, SettingWiderThanItsFieldIsRefusedByName) {
-    module.settings.myName = "BARTHOLOMEW";
-    EXPECT_RUNTIME_ERROR(contactFrom({"K9SKC", {}, {}, {}, {}, {}, {}}, module, clock),
-                         ErrorCode::invalidCall, HasSubstr("my name"));
 }
 
 TEST_F(QsoEntry, OtherBandsAreLoggedInTheEventOnly) {
@@ -81,40 +71,6 @@ TEST_F(QsoEntry, OtherBandsAreLoggedInTheEventOnly) {
     }
 }
 
-TEST_F(QsoEntry, LookupFillsACallAndTurnsANumberIntoItsCall) {
-    folder.write("SKSDB2.TXT", "K1ABC     0123T     JOHN      MA \r\n");
-    Entry entry;
-    entry.call = "K1ABC";
-    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::found);
-    EXPECT_EQ(entry.name, "JOHN      ");
-    EXPECT_EQ(entry.state, "MA ");
-    EXPECT_EQ(entry.number, "0123T     ");
-
-    entry = {};
-    entry.call = "123C";
-    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::callOfNumber);
-    EXPECT_EQ(entry.call, "K1ABC     ");
-    EXPECT_EQ(entry.number, "");
-
-    entry.call = "9";
-    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::nobody);
-    EXPECT_EQ(entry.call, "");
-
-    entry.call = "4X1AB"; // a call, though it begins with a digit
-    EXPECT_EQ(lookUp(entry, module, roster), LookupOutcome::notFound);
-    EXPECT_EQ(entry.call, "4X1AB");
-}
-
-TEST_F(QsoEntry, ForgettingALookupKeepsWhatTheOperatorChanged) {
-    const Entry lookedUp{"K1ABC", "JOHN      ", "MA ", "0123T     ", {}, {}, {}};
-    Entry now = lookedUp;
-    now.state = "NH";
-    forgetLookup(now, lookedUp);
-    EXPECT_EQ(now.name, "");
-    EXPECT_EQ(now.state, "NH");
-    EXPECT_EQ(now.number, "");
-}
-
 TEST_F(QsoEntry, ShortCallsAreNotLookedUp) {
     EXPECT_FALSE(canLookUp(""));
     EXPECT_FALSE(canLookUp("K1"));
@@ -124,18 +80,6 @@ TEST_F(QsoEntry, ShortCallsAreNotLookedUp) {
     EXPECT_FALSE(canBeLogged({.call = "  K1  "}));
     EXPECT_TRUE(isComplete({.number = "99"}));
     EXPECT_FALSE(isComplete({.number = " "}));
-}
-
-TEST_F(QsoEntry, ContactIsOnTheDiskBeforeAnythingElse) {
-    openLog(module, files);
-    module.currentLine = contactLine({});
-    appendContact(module, files);
-    EXPECT_EQ(folder.read("SKS061611.CBR"), logHeaderLines + contactLine({}) + "\r\n");
-    bringUpToDate(module, files);
-    EXPECT_EQ(countText(module), "01");
-    EXPECT_EQ(folder.read("StnsWorked.TXT"),
-              "K9SKC     | CLUB      |5000S  | IL  | 14050 | 0012 | 2011-06-16|      \r\n");
-    EXPECT_THAT(module.workedStations.entries(), ::testing::SizeIs(1));
 }
 
 TEST_F(QsoEntry, LogBeyondTheTableIsReportedAndStillShown) {
@@ -151,7 +95,9 @@ TEST_F(QsoEntry, LogBeyondTheTableIsReportedAndStillShown) {
 }
 
 TEST_F(QsoEntry, LogThatVanishedLeavesAnEmptyTable) {
+    folder.write("SKS061611.CBR", logHeaderLines + contactLine({}) + "\r\n");
     openLog(module, files);
+    EXPECT_EQ(countText(module), "01");
     module.settings.logFileName = "GONE.CBR";
     EXPECT_RUNTIME_ERROR(openLog(module, files), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
     EXPECT_EQ(countText(module), "00");

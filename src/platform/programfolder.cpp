@@ -22,9 +22,10 @@ namespace {
 constexpr const char* lockName = ".vantrel-lock";
 
 bool holdsData(const std::string& folder) {
-    std::error_code ignored;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
-        const std::string name = upper(entry.path().filename().string());
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = upper(entry->path().filename().string());
         if (name == upper(configurationFile) || name.ends_with(".CBR"))
             return true;
     }

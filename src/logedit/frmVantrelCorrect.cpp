@@ -30,6 +30,7 @@ frmVantrelCorrect::frmVantrelCorrect(const FormContext& context)
       m_log(context.platform.files, context.module) {
     createControls();
     layOut();
+    openAtPageSize();
     connectHandlers();
 }
 

@@ -27,6 +27,7 @@ frmVantrelDelete::frmVantrelDelete(const FormContext& context)
       m_log(context.platform.files, context.module) {
     createControls();
     layOut();
+    openAtPageSize();
     connectHandlers();
 }
 

@@ -26,6 +26,7 @@ frmVantrelEDITcbr::frmVantrelEDITcbr(const FormContext& context)
       m_log(context.platform.files, context.module) {
     createControls();
     layOut();
+    openAtPageSize();
     connectHandlers();
 }
 

@@ -25,7 +25,7 @@ frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     createControls();
     layOut();
     connectHandlers();
-    resize(800, 600);
+    openAtPageSize();
 }
 
 void frmVantrelFiles::createControls() {

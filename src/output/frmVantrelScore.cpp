@@ -28,7 +28,7 @@ frmVantrelScore::frmVantrelScore(const FormContext& context)
     createControls();
     layOut();
     connectHandlers();
-    resize(800, 600);
+    openAtPageSize();
 }
 
 void frmVantrelScore::createControls() {

@@ -46,6 +46,9 @@ protected:
     // The control that has the focus after opening and after every message box.
     virtual QWidget* firstFocus() { return nullptr; }
 
+    // For screens that are worked on; boxes that ask or tell one thing open as small as they are.
+    void openAtPageSize() { resize(800, 600); }
+
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 

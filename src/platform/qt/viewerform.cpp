@@ -50,7 +50,7 @@ ViewerForm::ViewerForm(const FormContext& context, const char* name, const char*
     createControls();
     layOut();
     connectHandlers();
-    resize(800, 600);
+    openAtPageSize();
 }
 
 void ViewerForm::createControls() {

@@ -71,7 +71,7 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
     createControls();
     layOut();
     connectHandlers();
-    resize(800, 600);
+    openAtPageSize();
 }
 
 void frmVantrelMain::createControls() {

@@ -41,7 +41,7 @@ frmVantrelStart::frmVantrelStart(const FormContext& context)
     createControls();
     layOut();
     connectHandlers();
-    resize(800, 600);
+    openAtPageSize();
 }
 
 void frmVantrelStart::createControls() {

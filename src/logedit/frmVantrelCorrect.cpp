@@ -191,8 +191,8 @@ void frmVantrelCorrect::layOut() {
     page->addWidget(Label13);
     page->addWidget(Label11);
     page->addWidget(Label12);
-    page->addLayout(buttons);
     page->addStretch();
+    page->addLayout(buttons);
     for (QLabel* label : {Label11, Label13})
         label->setAlignment(Qt::AlignCenter);
     Label12->setWordWrap(true);

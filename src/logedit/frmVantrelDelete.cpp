@@ -131,8 +131,8 @@ void frmVantrelDelete::layOut() {
         page->addWidget(label);
     }
     page->addWidget(Label4);
-    page->addLayout(buttons);
     page->addStretch();
+    page->addLayout(buttons);
     Label4->setAlignment(Qt::AlignCenter);
 }
 

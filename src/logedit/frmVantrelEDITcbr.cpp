@@ -152,8 +152,8 @@ void frmVantrelEDITcbr::layOut() {
     page->addLayout(searching);
     page->addLayout(grid);
     page->addWidget(Label16);
-    page->addLayout(buttons);
     page->addStretch();
+    page->addLayout(buttons);
 }
 
 } // namespace vantrel

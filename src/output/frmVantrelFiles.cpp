@@ -12,7 +12,6 @@
 #include "platform/qt/formbuilder.h"
 #include "platform/qt/latin1.h"
 
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -163,8 +162,7 @@ void frmVantrelFiles::Option11_Click() {
 void frmVantrelFiles::layOut() {
     QWidget* before = nullptr; // in the tab order
     const auto group = [&](const char* title, std::initializer_list<std::size_t> numbers) {
-        auto* box = new QGroupBox(QString::fromLatin1(title), this);
-        auto* column = new QVBoxLayout(box);
+        auto* column = new QVBoxLayout;
         for (const std::size_t number : numbers) {
             column->addWidget(m_options[number - 1]);
             if (before != nullptr)
@@ -172,11 +170,11 @@ void frmVantrelFiles::layOut() {
             before = m_options[number - 1];
         }
         column->addStretch();
-        return box;
+        return FormBuilder(this).section(title, column);
     };
     auto* groups = new QHBoxLayout;
-    groups->addWidget(group("MEMBERS", {1, 2, 3, 4, 5, 13, 11}));
-    groups->addWidget(group("LOG", {6, 14, 7, 8, 9, 12, 10}));
+    groups->addLayout(group("MEMBERS", {1, 2, 3, 4, 5, 13, 11}));
+    groups->addLayout(group("LOG", {6, 14, 7, 8, 9, 12, 10}));
     setTabOrder(before, Command1);
 
     auto* page = new QVBoxLayout(this);

@@ -38,6 +38,8 @@ public:
     QRadioButton* jobOption(const char* name, const char* caption, const char* toolTip = "");
     // A list of lines in the fixed-width font.
     QListView* list(const char* name, const char* toolTip = "");
+    // A framed part of the page, under its title.
+    QLayout* section(const char* title, QLayout* content);
 
 private:
     template <typename Control>

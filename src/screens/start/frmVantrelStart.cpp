@@ -12,7 +12,6 @@
 
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -314,16 +313,12 @@ void frmVantrelStart::receivePath(const std::string& path) {
 // --- Layout ----------------------------------------------------------------------------------
 
 void frmVantrelStart::layOut() {
-    const auto box = [this](const char* title, QLayout* content) {
-        auto* group = new QGroupBox(QString::fromLatin1(title), this);
-        group->setLayout(content);
-        return group;
-    };
+    FormBuilder build(this);
     auto* columns = new QGridLayout;
-    columns->addWidget(box("CONTEST", contestBox()), 0, 0);
-    columns->addWidget(box("OPERATOR", operatorBox()), 0, 1);
-    columns->addWidget(box("LOG FILE", fileBox()), 1, 0);
-    columns->addWidget(box("RADIO", radioBox()), 1, 1);
+    columns->addLayout(build.section("CONTEST", contestBox()), 0, 0);
+    columns->addLayout(build.section("OPERATOR", operatorBox()), 0, 1);
+    columns->addLayout(build.section("LOG FILE", fileBox()), 1, 0);
+    columns->addLayout(build.section("RADIO", radioBox()), 1, 1);
     columns->setColumnStretch(0, 1);
     columns->setColumnStretch(1, 1);
 

@@ -524,16 +524,4 @@ void Files::recover() {
         m_calls.remove(stray);
 }
 
-std::string joinLines(const std::vector<std::string>& lines) {
-    constexpr std::string_view lineEnd = "\r\n";
-    std::size_t size = 0;
-    for (const std::string& line : lines)
-        size += line.size() + lineEnd.size();
-    std::string bytes;
-    bytes.reserve(size);
-    for (const std::string& line : lines)
-        bytes.append(line).append(lineEnd);
-    return bytes;
-}
-
 } // namespace vantrel

@@ -103,7 +103,18 @@ private:
     bool m_replacingSeveral = false;
 };
 
-// Each line followed by CR LF.
-std::string joinLines(const std::vector<std::string>& lines);
+// Each line followed by CR LF. Lines: a container of texts.
+template <typename Lines>
+std::string joinLines(const Lines& lines) {
+    constexpr std::string_view lineEnd = "\r\n";
+    std::size_t size = 0;
+    for (const std::string_view line : lines)
+        size += line.size() + lineEnd.size();
+    std::string bytes;
+    bytes.reserve(size);
+    for (const std::string_view line : lines)
+        bytes.append(line).append(lineEnd);
+    return bytes;
+}
 
 } // namespace vantrel

@@ -7,6 +7,7 @@
 #include "shared/itemreader.h"
 
 #include <algorithm>
+#include <deque>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -33,49 +34,53 @@ std::string_view mergingPhase(MemberList list) {
 class RosterTable {
 public:
     // width: shorter lines are padded with blanks to it.
-    RosterTable(std::string_view name, int capacity, int width, std::string_view bytes)
+    RosterTable(std::string_view name, int capacity, int width, std::string bytes)
         : m_name(name),
           m_width(static_cast<std::size_t>(width)),
+          m_bytes(std::move(bytes)),
           m_lines("the table of " + m_name, capacity) {
         m_places.reserve(2 * static_cast<std::size_t>(capacity)); // a sparse index is a fast one
-        LineReader reader(bytes);
-        while (!reader.atEnd())
-            append(reader.next());
+        LineReader reader(m_bytes);
+        while (!reader.atEnd()) {
+            const std::string_view line = reader.next();
+            append(line.size() < m_width ? kept(line) : line);
+        }
     }
+    RosterTable(const RosterTable&) = delete; // its lines point into its own bytes
+    RosterTable& operator=(const RosterTable&) = delete;
 
     // The place of the first line that begins with this call, padded to its columns; 0 for
     // none.
     int find(std::string_view call) const {
-        const auto place = m_places.find(std::string(call));
+        const auto place = m_places.find(call);
         return place == m_places.end() ? 0 : place->second;
     }
-    const std::string& line(int place) const { return m_lines.at(place); }
+    std::string_view line(int place) const { return m_lines.at(place); }
 
-    void append(std::string_view line) {
-        m_lines.append(padded(line));
-        std::string call(left(m_lines.at(m_lines.size()), member::call.width));
-        m_places.try_emplace(std::move(call), m_lines.size());
-    }
+    void add(std::string_view record) { append(kept(record)); }
+    void replace(int place, std::string_view record) { m_lines.at(place) = kept(record); }
 
-    void replace(int place, std::string_view record) {
-        std::string& line = m_lines.at(place);
-        line = record;
-        line.resize(std::max(line.size(), m_width), ' ');
-    }
-
-    FileContent content() const { return {m_name, joinLines(m_lines.entries())}; }
+    FileContent content() const { return {m_name, joinLines(m_lines)}; }
 
 private:
-    std::string padded(std::string_view line) const {
-        std::string result(line);
-        result.resize(std::max(result.size(), m_width), ' ');
-        return result;
+    void append(std::string_view line) {
+        m_lines.append(line);
+        m_places.try_emplace(left(line, member::call.width), m_lines.size());
+    }
+
+    // A copy of the line, padded, that lives as long as the table.
+    std::string_view kept(std::string_view line) {
+        std::string& copy = m_copies.emplace_back(line);
+        copy.resize(std::max(copy.size(), m_width), ' ');
+        return copy;
     }
 
     std::string m_name;
     std::size_t m_width;
-    BoundedTable<std::string> m_lines;
-    std::unordered_map<std::string, int> m_places;
+    std::string m_bytes;              // of the file, for the lines that stay what they are
+    std::deque<std::string> m_copies; // and of all others
+    BoundedTable<std::string_view> m_lines;
+    std::unordered_map<std::string_view, int> m_places;
 };
 
 class RosterTables {
@@ -91,7 +96,7 @@ public:
         RosterTable& table = m_tables[rosterFileOf(record)];
         const int place = table.find(member::call.of(record));
         if (place == 0) {
-            table.append(record);
+            table.add(record);
             ++result.added;
             return;
         }
@@ -109,7 +114,7 @@ public:
     }
 
 private:
-    std::vector<RosterTable> m_tables;
+    std::deque<RosterTable> m_tables; // which cannot be moved
 };
 
 BoundedTable<std::string_view> linesOf(std::string_view bytes, const std::string& path) {

@@ -32,9 +32,10 @@ std::string defaultLogName(std::string_view contestCode, const LocalTime& local)
 std::string logHeader(std::string_view contestText, std::string_view myCall,
                       std::string_view myNumber) {
     // The last line reminds whoever reads the file where the other station's call starts.
-    return joinLines({" Contest: " + std::string(contestText), " My Call: " + std::string(myCall),
-                      "My SKCC#: " + padRight(myNumber, numberWidth, "the SKCC number"),
-                      "   Count: 66 to HisCall"});
+    return joinLines(std::vector<std::string>{
+        " Contest: " + std::string(contestText), " My Call: " + std::string(myCall),
+        "My SKCC#: " + padRight(myNumber, numberWidth, "the SKCC number"),
+        "   Count: 66 to HisCall"});
 }
 
 std::string startNewLog(Files& files, const OperatingSettings& settings) {

@@ -41,25 +41,33 @@ constexpr std::array<std::string_view, 64> unaccented{
     "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
     "d", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "th", "y"};
 
-bool isPlain(char character) {
-    return character >= ' ' && character <= '~';
-}
-
-// Trimmed and in printable ASCII; `?` for what has no plain letter.
-std::string plainText(std::string_view field) {
-    const std::string_view text = trim(field);
-    if (std::all_of(text.begin(), text.end(), isPlain))
-        return std::string(text);
-    std::string result;
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte >= 0xC0)
-            result += unaccented[byte - 0xC0U];
-        else
-            result += isPlain(character) ? character : '?';
+// A field trimmed and in printable ASCII; `?` for what has no plain letter. Most fields are that
+// already and are not copied, so the contact must outlive it.
+class PlainText {
+public:
+    explicit PlainText(std::string_view field) : m_text(trim(field)) {
+        if (std::all_of(m_text.begin(), m_text.end(), isPlain))
+            return;
+        for (const char character : m_text) {
+            const auto byte = static_cast<unsigned char>(character);
+            if (byte >= 0xC0)
+                m_folded += unaccented[byte - 0xC0U];
+            else
+                m_folded += isPlain(character) ? character : '?';
+        }
+        m_text = m_folded;
     }
-    return result;
-}
+    PlainText(const PlainText&) = delete;
+    PlainText& operator=(const PlainText&) = delete;
+
+    operator std::string_view() const { return m_text; }
+
+private:
+    static bool isPlain(char character) { return character >= ' ' && character <= '~'; }
+
+    std::string_view m_text;
+    std::string m_folded;
+};
 
 std::string dateText(const chrono::year_month_day& date) {
     return zeroPadded(static_cast<int>(date.year()), 4) +
@@ -161,19 +169,19 @@ std::string notesOf(std::string_view prefix, std::string_view number) {
 }
 
 void appendMarker(std::string& bytes, std::string_view contact) {
-    const std::string marker = plainText(qso::marker.of(contact));
+    const PlainText marker(qso::marker.of(contact));
     if (isDupe(contact))
         appendField(bytes, "<APP_VANTREL_DUPE:", "Y");
-    else if (marker.starts_with("K3Y"))
+    else if (std::string_view(marker).starts_with("K3Y"))
         appendField(bytes, "<APP_VANTREL_K3Y:", marker);
 }
 
-void appendHisSide(std::string& bytes, std::string_view contact, const std::string& call) {
-    const std::string state = plainText(qso::hisState.of(contact));
-    const std::string number = plainText(qso::hisNumber.of(contact));
+void appendHisSide(std::string& bytes, std::string_view contact, std::string_view call) {
+    const PlainText state(qso::hisState.of(contact));
+    const PlainText number(qso::hisNumber.of(contact));
     const std::string_view country = countryOfState(state, call);
-    appendField(bytes, "<RST_RCVD:", plainText(qso::rstReceived.of(contact)));
-    appendField(bytes, "<NAME:", plainText(qso::hisName.of(contact)));
+    appendField(bytes, "<RST_RCVD:", PlainText(qso::rstReceived.of(contact)));
+    appendField(bytes, "<NAME:", PlainText(qso::hisName.of(contact)));
     appendField(bytes, "<STATE:", country.empty() ? std::string_view() : state);
     appendField(bytes, "<DXCC:", country);
     appendField(bytes, "<SKCC:", isMemberNumber(number) ? number : std::string_view());
@@ -212,10 +220,10 @@ void appendFrequency(std::string& bytes, std::string_view contact) {
 }
 
 void appendMySide(std::string& bytes, std::string_view contact) {
-    const std::string call = plainText(qso::myCall.of(contact));
-    const std::string state = plainText(qso::myState.of(contact));
+    const PlainText call(qso::myCall.of(contact));
+    const PlainText state(qso::myState.of(contact));
     const std::string_view country = countryOfState(state, call);
-    appendField(bytes, "<RST_SENT:", plainText(qso::rstSent.of(contact)));
+    appendField(bytes, "<RST_SENT:", PlainText(qso::rstSent.of(contact)));
     appendField(bytes, "<STATION_CALLSIGN:", call);
     appendField(bytes, "<OPERATOR:", call);
     appendField(bytes, "<MY_STATE:", country.empty() ? std::string_view() : state);
@@ -226,13 +234,13 @@ class StrictAdifWriter {
 public:
     // The contacts outlive the writer.
     void append(std::string& bytes, std::string_view contact) {
-        const std::string call = plainText(qso::hisCall.of(contact));
+        const PlainText call(qso::hisCall.of(contact));
         appendField(bytes, "<CALL:", call);
         bytes += m_day.of(qso::date.of(contact), contact, appendDay);
         if (contactTime(contact))
             appendField(bytes, "<TIME_ON:", qso::time.of(contact));
         bytes += m_frequency.of(qso::frequency.of(contact), contact, appendFrequency);
-        appendField(bytes, "<MODE:", plainText(qso::mode.of(contact)));
+        appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
         appendHisSide(bytes, contact, call);
         bytes += m_mySide.of(mySide.of(contact), contact, appendMySide);
         appendMarker(bytes, contact);

@@ -129,8 +129,7 @@ void mustRead(const std::string& reader) {
                        "VE3XYZ/W1||50.125|CW|20120301|2359|12345C\n");
 }
 
-const std::string scripts =
-    std::filesystem::path(VANTREL_GOLDEN_FOLDER).replace_filename("output").string();
+const std::string scripts = VANTREL_OUTPUT_TESTS;
 
 TEST(StrictAdif, AReaderThatIsStrictAboutValuesTakesEveryContact) {
     mustRead("command -v node npm >/dev/null || exit 77; NODE_PATH=$(npm root --global "

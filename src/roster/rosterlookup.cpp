@@ -19,6 +19,7 @@ Member memberOf(std::string_view record) {
 // The first record of each call, among those that are looked through.
 std::unordered_map<std::string_view, std::string_view> indexOf(std::string_view bytes) {
     std::unordered_map<std::string_view, std::string_view> index;
+    index.reserve(bytes.size() / member::width);
     ItemReader reader(bytes);
     for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k) {
         const std::string_view record = reader.next();

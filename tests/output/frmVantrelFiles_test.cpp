@@ -5,6 +5,7 @@
 #include "support/qt/formharness.h"
 
 #include <QApplication>
+#include <QRadioButton>
 
 #include <cerrno>
 #include <gmock/gmock.h>
@@ -146,6 +147,14 @@ TEST_F(FilesPage, ListsTheAdifFileOrTheLogAndReturnsHere) {
     click(list, "Command1");
     settle();
     EXPECT_EQ(QApplication::activeWindow(), form("frmVantrelMain"));
+}
+
+TEST_F(FilesPage, TheLastJobRunIsTheOneChosen) {
+    for (const std::string option : {"Option6", "Option14", "Option14"}) {
+        click(page, option.c_str());
+        for (const char* other : {"Option6", "Option14"})
+            EXPECT_EQ(control<QRadioButton>(page, other)->isChecked(), other == option);
+    }
 }
 
 TEST_F(FilesPage, ArrowKeysRunNoJob) {

@@ -59,7 +59,7 @@ protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 };
 
-// Runs a job by each click, and stays chosen when it was.
+// Runs a job by each click; the last one run is the one that is chosen.
 class JobButton : public OptionButton {
 public:
     JobButton(const QString& caption, QWidget* form) : OptionButton(caption, form) {
@@ -68,7 +68,11 @@ public:
     }
 
 protected:
-    void nextCheckState() override { setChecked(true); }
+    void nextCheckState() override {
+        for (QRadioButton* other : window()->findChildren<QRadioButton*>())
+            if (!other->autoExclusive())
+                other->setChecked(other == this);
+    }
 };
 
 // Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is

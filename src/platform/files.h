@@ -82,7 +82,6 @@ private:
     void syncFile(const OpenFile& file);
     void syncMeanwhile(const std::vector<OpenFile>& files, const std::function<void()>& between);
     OpenFile create(const std::string& path, const std::string& target, std::string_view bytes);
-    void createDurably(const std::string& path, const std::string& target, std::string_view bytes);
     OpenFile createBeside(const std::string& target, std::string_view bytes);
     void moveInPlace(const std::string& target);
     void replace(const std::string& target, std::string_view bytes);

@@ -95,6 +95,13 @@ TEST_F(BackupPage, FinderHandsTheFolderBack) {
     EXPECT_FALSE(isOpen(finder));
     EXPECT_EQ(shown(page, "Text1"), selected);
     EXPECT_EQ(QApplication::focusWidget(), control(page, "Text1"));
+
+    click(page, "Command3");
+    auto* drives = control<QComboBox>(finder, "drvList");
+    const std::string top = drives->currentText().toStdString();
+    EXPECT_NE(shown(finder, "Label5"), top);
+    drives->activated(drives->currentIndex()); // the drive that shows is chosen again
+    EXPECT_EQ(shown(finder, "Label5"), top);
 }
 
 TEST_F(BackupPage, FinderGivesTheStartPageALogFromAnywhere) {

@@ -159,6 +159,15 @@ TEST_F(FilesTest, LinkedLogIsWrittenAtItsTargetWhosePermissionsAreKept) {
     EXPECT_THAT(folder.names(), ElementsAre("Log.cbr", "OTHER"));
 }
 
+TEST_F(FilesTest, WindowLivesOnWhileTheDiskIsWaitedFor) {
+    struct SlowDisk : SystemCalls {
+        int sync(int) override { return ::usleep(50'000); }
+    } slowDisk;
+    int turns = 0;
+    Files(folder.string(), slowDisk).rewriteAll({{"A", "one"}, {"B", "two"}}, [&] { ++turns; });
+    EXPECT_GT(turns, 8); // one after each file and each folder would be three
+}
+
 TEST_F(FilesTest, SecondReplacingOfSeveralFilesMeanwhileIsRefused) {
     folder.write("LOG.CBR", "log");
     files.rewriteAll({{"SKSDB1.TXT", "one"}, {"SKSDB2.TXT", "two"}}, [&] {

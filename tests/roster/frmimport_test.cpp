@@ -2,7 +2,7 @@
 #include "roster/rosterimport.h"
 #include "support/qt/formharness.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QPointer>
 #include <QTimer>
 
@@ -40,6 +40,9 @@ TEST_F(ImportPages, DataListFillsTheRoster) {
     EXPECT_EQ(shown(dataPage, "Label3"), "DONE. . . . 2 MBRS ADDED. Click EXIT");
     EXPECT_EQ(shown(dataPage, "Label2"), "3                        ");
     EXPECT_EQ(shown(dataPage, "Label5"), "1 LINES SKIPPED");
+    EXPECT_EQ(shown(dataPage, "Label1"), "    SAVING THE FILES");
+    settle();
+    EXPECT_EQ(QApplication::focusWidget(), control(dataPage, "Command1"));
     click(dataPage, "Command1"); // enabled again
     settle();
     EXPECT_FALSE(isOpen(dataPage));
@@ -53,7 +56,7 @@ TEST_F(ImportPages, MissingListsAreReportedEachInItsWayAndNothingIsLeftOfAnEarli
     messages.expect("Run-time error 53: File not found");
     click(dataPage, "Command2");
     EXPECT_THAT(messages.shown.back().informative, HasSubstr("skccdata.txt"));
-    EXPECT_EQ(shown(dataPage, "Label3"), "");
+    EXPECT_EQ(shown(dataPage, "Label1") + shown(dataPage, "Label3"), "");
     click(choice, "Option2");
     messages.expect("SKCCLIST.TXT IS NOT FOUND");
     click(listPage, "Command2");

@@ -313,11 +313,11 @@ private:
 TEST_F(KilledProgram, LosesNothingItHasToldAndGoesOn) {
     const bool isLong = std::getenv("VANTREL_LONG") != nullptr;
     const int kills = isLong ? 500 : 20;
-    const unsigned seed = isLong ? std::random_device()() : 1;
-    std::mt19937 random(seed);
+    const unsigned dice = isLong ? std::random_device()() : 1; // the same moments in a short run
+    std::mt19937 random(dice);
     std::uniform_int_distribution microseconds(0, isLong ? 200'000 : 60'000);
     for (int run = 1; run <= kills; ++run) {
-        SCOPED_TRACE("life " + std::to_string(run) + ", seed " + std::to_string(seed));
+        SCOPED_TRACE("life " + std::to_string(run) + ", dice " + std::to_string(dice));
         liveAndDie(run, microseconds(random));
         everythingToldIsThere();
         theNextStartGoesOn();

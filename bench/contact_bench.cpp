@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Logging a contact, looking a member up, checking for duplicates.
+#include "log/log.h"
 #include "platform/files.h"
 #include "platform/systemcalls.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/qsoentry.h"
-#include "screens/main/workedstations.h"
 #include "shared/module1.h"
 #include "support/contacts.h"
 #include "support/ratiotable.h"
@@ -61,7 +61,7 @@ void logging(bench::BenchFolder& folder, Files& files, int contacts) {
         bench::bareAppend(folder.path / logName, line);
         bench::bareRead(folder.path / logName);
         if (worked)
-            bench::bareAppend(folder.path / workedStationsFile, workedEntry(line) + "\r\n");
+            bench::bareAppend(folder.path / workedStationsFile, workedLine(line) + "\r\n");
     };
     bench::pair("one contact into " + std::to_string(contacts), 1.5, ours, bound, prepare);
 }

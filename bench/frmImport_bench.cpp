@@ -44,7 +44,7 @@ void fillRoster(bench::Program& program) {
         std::string bytes = program.files.readOrEmpty(rosterFiles[i]);
         for (auto count = std::count(bytes.begin(), bytes.end(), '\n');
              count < rosterCapacities[i] - roomLeft; ++count)
-            bytes += fitLeft("Z9" + std::to_string(count), member::width) + "\r\n";
+            bytes += leftAligned("Z9" + std::to_string(count), member::width) + "\r\n";
         program.folder.write(std::string(rosterFiles[i]), bytes);
     }
 }

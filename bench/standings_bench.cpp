@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Both K3Y standings of a full log, and how what is done over the whole log grows with it.
 #include "k3y/standings.h"
-#include "output/adif.h"
-#include "output/score.h"
+#include "log/logfile.h"
+#include "output/adif/adif.h"
+#include "output/score/score.h"
 #include "platform/files.h"
 #include "platform/systemcalls.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/qsoentry.h"
-#include "shared/logfile.h"
 #include "shared/module1.h"
 #include "support/contacts.h"
 #include "support/ratiotable.h"

@@ -8,20 +8,22 @@
 #include "logedit/frmVantrelCorrect.h"
 #include "logedit/frmVantrelDelete.h"
 #include "logedit/frmVantrelEDITcbr.h"
-#include "output/frmCountBonus.h"
-#include "output/frmFileFinder.h"
-#include "output/frmVantrelBackup.h"
-#include "output/frmVantrelFiles.h"
-#include "output/frmVantrelList.h"
-#include "output/frmVantrelScore.h"
-#include "output/frmVantrelShowDB.h"
+#include "output/files/frmFileFinder.h"
+#include "output/files/frmVantrelBackup.h"
+#include "output/files/frmVantrelFiles.h"
+#include "output/files/frmVantrelList.h"
+#include "output/score/frmCountBonus.h"
+#include "output/score/frmVantrelScore.h"
 #include "roster/frmMemberImport.h"
 #include "roster/frmSelectUpdateList.h"
+#include "roster/frmVantrelShowDB.h"
 #include "screens/main/frmVantrelDupe.h"
 #include "screens/main/frmVantrelMain.h"
 #include "screens/start/frmVantrelStart.h"
 
 #include <QApplication>
+
+#include <utility>
 
 namespace vantrel {
 
@@ -31,7 +33,7 @@ AppScreens::~AppScreens() {
 }
 
 Form* AppScreens::make(Screen screen) {
-    const FormContext context{m_module, m_platform, *this};
+    const FormContext context{m_shared, m_platform, *this};
     switch (screen) {
     case Screen::start:
         return new frmVantrelStart(context);
@@ -79,6 +81,13 @@ Form* AppScreens::make(Screen screen) {
     return nullptr;
 }
 
+Form* AppScreens::formOf(Screen screen) {
+    QPointer<Form>& slot = m_slots[screen];
+    if (!slot || slot->isGone())
+        slot = make(screen);
+    return slot;
+}
+
 void AppScreens::open(Screen screen) {
     // Not every platform says at once which window is active.
     QWidget* active = QApplication::activeWindow();
@@ -93,18 +102,42 @@ void AppScreens::replace(Screen current, Screen next) {
 }
 
 void AppScreens::openFor(QWidget* opener, Screen screen) {
-    QPointer<Form>& slot = m_slots[screen];
-    if (slot && slot->isVisible() && !slot->loadsAgain()) {
-        slot->bringToFront();
+    Form* const form = formOf(screen);
+    if (form->isVisible() && !form->loadsAgain()) {
+        form->bringToFront();
         return;
     }
-    if (!slot || slot->isGone())
-        slot = make(screen);
-    if (!slot)
-        return;
-    if (slot->windowType() != Qt::ToolTip) // nothing returns to the dupe screen
-        m_lastOpened = slot;
-    slot->open(opener);
+    if (form->windowType() != Qt::ToolTip) // nothing returns to the dupe screen
+        m_lastOpened = form;
+    form->open(opener);
+}
+
+void AppScreens::openList(ListedFile file) {
+    static_cast<frmVantrelList*>(formOf(Screen::list))->choose(file);
+    open(Screen::list);
+}
+
+void AppScreens::openRoster(std::string path, std::vector<std::string> lines) {
+    static_cast<frmVantrelShowDB*>(formOf(Screen::showDb))->take(std::move(path), std::move(lines));
+    open(Screen::showDb);
+}
+
+void AppScreens::openFinder(Screen receiver) {
+    static_cast<frmFileFinder*>(formOf(Screen::finder))->handTo(receiver);
+    open(Screen::finder);
+}
+
+void AppScreens::askAboutDupe(DupeQuestion question) {
+    static_cast<frmCheckDupeK3Y*>(formOf(Screen::checkDupeK3y))->ask(std::move(question));
+    open(Screen::checkDupeK3y);
+}
+
+void AppScreens::handBackPath(Screen receiver, const std::string& path) {
+    Form* const form = m_slots[receiver];
+    if (auto* const taker = dynamic_cast<PathReceiver*>(form)) {
+        form->bringToFront();
+        taker->receivePath(path);
+    }
 }
 
 StartPage* AppScreens::startPage() {
@@ -113,20 +146,6 @@ StartPage* AppScreens::startPage() {
 
 MainPage* AppScreens::mainPage() {
     return dynamic_cast<MainPage*>(m_slots[Screen::main].data());
-}
-
-void AppScreens::handBackPath(FinderMode mode, const std::string& path) {
-    const std::map<FinderMode, Screen> receivers{{FinderMode::memberList, Screen::memberUpdate},
-                                                 {FinderMode::backup, Screen::backup},
-                                                 {FinderMode::start, Screen::start}};
-    const auto receiver = receivers.find(mode);
-    if (receiver == receivers.end())
-        return;
-    Form* const form = m_slots[receiver->second];
-    if (auto* const taker = dynamic_cast<PathReceiver*>(form)) {
-        form->bringToFront();
-        taker->receivePath(path);
-    }
 }
 
 void AppScreens::quit() {

@@ -2,7 +2,7 @@
 // One slot per screen: makes the forms, keeps each at most once, finds them for each other.
 #pragma once
 
-#include "platform/qt/form.h"
+#include "forms/form.h"
 #include "shared/screens.h"
 
 #include <QPointer>
@@ -13,23 +13,29 @@ namespace vantrel {
 
 class AppScreens : public Screens {
 public:
-    AppScreens(Module1& module, Platform& platform) : m_module(module), m_platform(platform) {}
+    AppScreens(Module1& shared, Platform& platform) : m_shared(shared), m_platform(platform) {}
     ~AppScreens() override;
     AppScreens(const AppScreens&) = delete;
     AppScreens& operator=(const AppScreens&) = delete;
 
     void open(Screen screen) override;
     void replace(Screen current, Screen next) override;
+    void openList(ListedFile file) override;
+    void openRoster(std::string path, std::vector<std::string> lines) override;
+    void openFinder(Screen receiver) override;
+    void askAboutDupe(DupeQuestion question) override;
+    void handBackPath(Screen receiver, const std::string& path) override;
     StartPage* startPage() override;
     MainPage* mainPage() override;
-    void handBackPath(FinderMode mode, const std::string& path) override;
     void quit() override;
 
 private:
     Form* make(Screen screen);
+    // The one there is, or a new one.
+    Form* formOf(Screen screen);
     void openFor(QWidget* opener, Screen screen);
 
-    Module1& m_module;
+    Module1& m_shared;
     Platform& m_platform;
     std::map<Screen, QPointer<Form>> m_slots;
     QPointer<Form> m_lastOpened;

@@ -49,9 +49,9 @@ int runProgram(QApplication& application, QtMessages& messages) {
     QtLauncher launcher;
     Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
 
-    Module1 module;
-    module.settings = loadSettings(files);
-    AppScreens screens(module, platform);
+    Module1 shared(files);
+    shared.settings = loadSettings(files);
+    AppScreens screens(shared, platform);
     screens.open(Screen::start);
     return application.exec();
 }

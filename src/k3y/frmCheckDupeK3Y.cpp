@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmCheckDupeK3Y.h"
 
-#include "k3y/dupecheckk3y.h"
-#include "platform/qt/formbuilder.h"
+#include "forms/formbuilder.h"
 #include "platform/sound.h"
 #include "screens/main/qsoentry.h"
 
@@ -58,9 +57,9 @@ void frmCheckDupeK3Y::createControls() {
     page->addLayout(commands);
 }
 
-void frmCheckDupeK3Y::Form_Load() {
+void frmCheckDupeK3Y::load() {
     stayAbove(opener());
-    if (module().audioOn)
+    if (shared().audioOn)
         platform().sound.playDupeAlarm();
     Timer1->start();
 }
@@ -77,19 +76,16 @@ QWidget* frmCheckDupeK3Y::firstFocus() {
     return Command1;
 }
 
+void frmCheckDupeK3Y::ask(DupeQuestion question) {
+    m_question = std::move(question);
+    m_logged = false;
+}
+
 // When the log cannot be written the box stays: the contact is still the operator's to log.
 void frmCheckDupeK3Y::Command2_Click() {
-    logTheDupe(module(), platform().files);
+    m_question.log();
     m_logged = true;
-    const std::optional<Message> failure = bringUpToDate(module(), platform().files);
-    if (MainPage* page = screens().mainPage()) {
-        page->showLog();
-        page->clearEntry(EntryBoxes::empty);
-    }
-    Messages& boxes = messages();
     close();
-    if (failure)
-        boxes.show(*failure);
 }
 
 void frmCheckDupeK3Y::Command1_Click() {
@@ -98,8 +94,8 @@ void frmCheckDupeK3Y::Command1_Click() {
 
 // Leaving without logging is NO LOG, by whichever way: button, Esc or the window's own cross.
 void frmCheckDupeK3Y::closeEvent(QCloseEvent* event) {
-    if (MainPage* page = screens().mainPage(); page != nullptr && !m_logged)
-        runHandler([&] { page->clearEntry(EntryBoxes::oneBlank); });
+    if (!m_logged)
+        runHandler(m_question.drop);
     Form::closeEvent(event);
 }
 

@@ -3,7 +3,7 @@
 // logged once more.
 #pragma once
 
-#include "platform/qt/form.h"
+#include "forms/form.h"
 
 class QLabel;
 class QPushButton;
@@ -17,8 +17,10 @@ class frmCheckDupeK3Y : public Form {
 public:
     explicit frmCheckDupeK3Y(const FormContext& context);
 
+    void ask(DupeQuestion question);
+
 protected:
-    void Form_Load() override;
+    void load() override;
     QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -35,6 +37,7 @@ private:
     QPushButton* Command1; // NO LOG
     QTimer* Timer1;        // runs, and closes nothing
 
+    DupeQuestion m_question;
     bool m_logged = false;
 };
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmK3YStandings.h"
 
-#include "platform/qt/formbuilder.h"
+#include "forms/formbuilder.h"
 #include "platform/qt/latin1.h"
-#include "shared/logfile.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -101,9 +100,9 @@ QWidget* frmK3YStandings::firstFocus() {
     return Command2;
 }
 
-void frmK3YStandings::Form_Load() {
-    loadLog(platform().files, module().settings.logFileName, module().qsoTable);
-    const Standings standings = m_page.tally(module().qsoTable);
+void frmK3YStandings::load() {
+    shared().log.reread();
+    const Standings standings = m_page.tally(shared().log.contacts());
     for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row)
         for (int column = 1; column <= bandCount; ++column)
             if (const StandingsCell& worked = standings.cell(row, column); worked.filled)

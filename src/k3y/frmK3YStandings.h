@@ -3,8 +3,8 @@
 // frmK3YStandings shows the call areas, frmK3YStandings2 the outlying areas and continents.
 #pragma once
 
+#include "forms/form.h"
 #include "k3y/standings.h"
-#include "platform/qt/form.h"
 
 #include <span>
 #include <string>
@@ -21,7 +21,7 @@ struct StandingsPage {
     Screen screen;
     const char* name;
     std::span<const StandingsRow> rows;
-    Standings (*tally)(const QsoTable& table);
+    Standings (*tally)(const Contacts& contacts);
     std::string (*cellName)(int row, int column); // row and column from 1
     Screen other;                                 // the other page
     const char* otherCaption;                     // of the button that leads there
@@ -46,7 +46,7 @@ public:
     frmK3YStandings(const FormContext& context, const StandingsPage& page);
 
 protected:
-    void Form_Load() override;
+    void load() override;
     QWidget* firstFocus() override;
 
 private:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmK3Ybox.h"
 
-#include "platform/qt/formbuilder.h"
+#include "forms/formbuilder.h"
 
 #include <QVBoxLayout>
 
@@ -43,7 +43,7 @@ void frmK3Ybox::createControls() {
 void frmK3Ybox::connectHandlers() {
     for (std::size_t index = 0; index < m_options.size(); ++index)
         connect(m_options[index], &QRadioButton::clicked, this,
-                [this, index] { runHandler([&] { choose(k3yTags[index]); }); });
+                [this, index] { runHandler([&] { choose(k3yStations[index]); }); });
     connectHandler(Command1, &QPushButton::clicked, this, &frmK3Ybox::Command1_Click);
 }
 
@@ -52,10 +52,10 @@ QWidget* frmK3Ybox::firstFocus() {
 }
 
 // A choice holds at once; OK only closes the box.
-void frmK3Ybox::choose(const K3yTag& tag) {
-    module().marker = tag.marker;
+void frmK3Ybox::choose(const K3yStation& station) {
+    shared().marker = station.marker;
     if (MainPage* page = screens().mainPage())
-        page->showTag(std::string(tag.label));
+        page->showStation(std::string(station.label));
 }
 
 void frmK3Ybox::Command1_Click() {

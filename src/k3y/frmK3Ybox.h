@@ -2,8 +2,8 @@
 // The K3Y box: the operator picks the event station the next contacts are with.
 #pragma once
 
-#include "k3y/k3ytag.h"
-#include "platform/qt/form.h"
+#include "forms/form.h"
+#include "screens/main/k3ystation.h"
 
 #include <array>
 
@@ -27,13 +27,13 @@ private:
     void createControls();
     void connectHandlers();
 
-    void choose(const K3yTag& tag);
+    void choose(const K3yStation& station);
     void Command1_Click();
 
-    std::array<QRadioButton*, k3yTags.size()> m_options; // Option1 to Option7
-    QLabel* Label1;                                      // headline
-    QLabel* Label2;                                      // its second line
-    QPushButton* Command1;                               // OK
+    std::array<QRadioButton*, k3yStations.size()> m_options; // Option1 to Option7
+    QLabel* Label1;                                          // headline
+    QLabel* Label2;                                          // its second line
+    QPushButton* Command1;                                   // OK
 };
 
 } // namespace vantrel

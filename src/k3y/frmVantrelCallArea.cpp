@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmVantrelCallArea.h"
 
+#include "forms/formbuilder.h"
+#include "forms/linelistmodel.h"
 #include "k3y/callarea.h"
-#include "platform/qt/formbuilder.h"
+#include "platform/clock.h"
+#include "shared/utctime.h"
 #include "platform/qt/latin1.h"
-#include "platform/qt/linelistmodel.h"
 
 #include <QGridLayout>
 
@@ -37,11 +39,11 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     connectHandler(Command2, &QPushButton::clicked, this, &Page::Command2_Click);
 }
 
-void frmVantrelCallArea::Form_Load() {
+void frmVantrelCallArea::load() {
     const StartPage* page = screens().startPage();
     if (page == nullptr)
         return;
-    module().utc = utcTime(platform().clock.now(), page->gmtOffset());
+    m_utcDate = utcTime(platform().clock.now(), page->gmtOffset()).date;
     m_savedName = page->logFileName();
 }
 
@@ -54,12 +56,11 @@ void frmVantrelCallArea::List1_Click(const QModelIndex& index) {
     if (!index.isValid() || page == nullptr)
         return;
     const CallArea& area = callAreas.at(static_cast<std::size_t>(index.row()));
-    module().callArea = area.code;
     Label3->setText(toQt(area.item));
-    page->setLogFileName(k3yLogName(module().utc.date, area.code, page->myCall()));
+    page->setLogFileName(k3yLogName(m_utcDate, area.code, page->myCall()));
 }
 
-// The name goes back to what it was; the area's code stays as chosen.
+// The name goes back to what it was.
 void frmVantrelCallArea::Command2_Click() {
     if (StartPage* page = screens().startPage())
         page->setLogFileName(m_savedName);

@@ -2,7 +2,7 @@
 // The choice of the call area or region that an event station signs from.
 #pragma once
 
-#include "platform/qt/form.h"
+#include "forms/form.h"
 
 class QLabel;
 class QListView;
@@ -18,7 +18,7 @@ public:
     explicit frmVantrelCallArea(const FormContext& context);
 
 protected:
-    void Form_Load() override;
+    void load() override;
     QWidget* firstFocus() override;
 
 private:
@@ -34,6 +34,7 @@ private:
     QPushButton* Command1; // OK
     QPushButton* Command2; // abort
 
+    std::string m_utcDate;   // when the screen opened
     std::string m_savedName; // of the log, as it stood when the screen opened
 };
 

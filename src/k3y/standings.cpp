@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/standings.h"
 
-#include "shared/fixedtext.h"
-#include "shared/qsoline.h"
-#include "shared/qsotable.h"
+#include "base/fixedtext.h"
+#include "log/qsoline.h"
 
 #include <algorithm>
 
@@ -63,9 +62,9 @@ bool Standings::fill(int row, std::string_view khzField, std::string_view text) 
     return true;
 }
 
-Standings areaStandings(const QsoTable& table) {
+Standings areaStandings(const Contacts& contacts) {
     Standings result(areaRows);
-    for (const std::string_view line : table.lines()) {
+    for (const std::string_view line : contacts) {
         const std::string_view call = trim(qso::hisCall.of(line));
         if (length(call) == areaCode.last() && call.starts_with(eventPrefix))
             result.fill(rowOf(areaRows, 1, areaRows.size(), areaCode.of(call)),
@@ -74,9 +73,9 @@ Standings areaStandings(const QsoTable& table) {
     return result;
 }
 
-Standings regionStandings(const QsoTable& table) {
+Standings regionStandings(const Contacts& contacts) {
     Standings result(regionRows);
-    for (const std::string_view line : table.lines()) {
+    for (const std::string_view line : contacts) {
         const std::string_view call = trim(qso::hisCall.of(line));
         const std::string_view khz = qso::frequency.of(line);
         const bool counted = isOutlyingCall(call) && result.fill(outlyingRow(outlyingCode.of(call)),

@@ -2,8 +2,9 @@
 // The K3Y standings: which event stations were worked on which band, as two grids.
 #pragma once
 
-#include "shared/bands.h"
-#include "shared/integer16.h"
+#include "base/integer16.h"
+#include "log/bands.h"
+#include "log/log.h"
 
 #include <array>
 #include <cstddef>
@@ -13,8 +14,6 @@
 #include <vector>
 
 namespace vantrel {
-
-class QsoTable;
 
 // A row of a grid. Its columns are the bands of the one band table, from 160M to 10M.
 struct StandingsRow {
@@ -92,11 +91,11 @@ private:
 
 // The first page: stations signing K3Y/0 to K3Y/9; a cell shows the number (6 columns) of the
 // first contact, untrimmed.
-Standings areaStandings(const QsoTable& table);
+Standings areaStandings(const Contacts& contacts);
 
 // The second page: K3Y/KH.., /KL.., /KP.. by their calls (the cell shows the number), and the
 // continents by the tag that closes the line (the cell shows the call). A contact counts at
 // most once.
-Standings regionStandings(const QsoTable& table);
+Standings regionStandings(const Contacts& contacts);
 
 } // namespace vantrel

@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/changereport.h"
 
-#include "shared/screens.h"
-
 namespace vantrel {
 
-bool reportChange(const ChangeResult& result, LogEdit& log, Messages& messages,
-                  MainPage* mainPage) {
+bool reportChange(const ChangeResult& result, LogEdit& log, Messages& messages) {
     if (result.made) {
-        const std::optional<RuntimeError> failed = log.reloadLog();
-        if (mainPage != nullptr)
-            mainPage->showLog();
+        const std::optional<RuntimeError> failed = log.followChange();
         if (failed)
             messages.show({failed->headline(), BoxIcon::critical, failed->detail()});
     }

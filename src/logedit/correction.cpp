@@ -11,8 +11,8 @@ constexpr std::size_t callBox = 0;
 
 std::string inColumns(std::string_view value, Column column) {
     // kHz stand to the right: a four-digit value leaves the first column blank.
-    return column.first == qso::frequency.first ? fitRight(value, column.width)
-                                                : fitLeft(value, column.width);
+    return column.first == qso::frequency.first ? rightAligned(value, column.width)
+                                                : leftAligned(value, column.width);
 }
 
 } // namespace

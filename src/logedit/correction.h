@@ -2,7 +2,7 @@
 // Correcting one contact: which box is which field, and the line with its changed boxes.
 #pragma once
 
-#include "shared/qsoline.h"
+#include "log/qsoline.h"
 
 #include <array>
 #include <string>

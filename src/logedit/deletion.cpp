@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/deletion.h"
 
-#include "shared/qsoline.h"
+#include "log/qsoline.h"
 
 namespace vantrel {
 

@@ -12,11 +12,11 @@ std::string tidiedFrequency(std::string_view typed) {
     std::string khz = upper(left(typed, qso::frequency.width));
     if (length(khz) == shortFrequency)
         khz.insert(khz.begin(), ' ');
-    return fitLeft(khz, qso::frequency.width);
+    return leftAligned(khz, qso::frequency.width);
 }
 
 std::string tidiedBox(std::string_view typed, int width) {
-    return fitLeft(trim(upper(left(typed, width))), width);
+    return leftAligned(trim(upper(left(typed, width))), width);
 }
 
 } // namespace
@@ -53,7 +53,7 @@ std::string rebuiltLine(std::string_view line, const EditorBoxes& boxes) {
                                qso::rstSent, qso::myName, myStateKept, myNumberKept, qso::hisCall,
                                qso::rstReceived, qso::hisName, qso::hisState, qso::hisNumber})
         rebuilt += ' ' + std::string(piece.of(edited));
-    return rebuilt + std::string(qso::dupeMark.of(edited));
+    return rebuilt + std::string(qso::dupeColumns.of(edited));
 }
 
 } // namespace vantrel

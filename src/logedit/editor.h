@@ -3,7 +3,7 @@
 // and the line it rebuilds from them.
 #pragma once
 
-#include "shared/qsoline.h"
+#include "log/qsoline.h"
 
 #include <array>
 #include <string>
@@ -36,7 +36,7 @@ inline constexpr std::array<EditorField, 15> editorFields{{
     {"Text12", "HIS NAME", qso::hisName, qso::hisName},
     {"Text13", "HIS STATE", qso::hisState, qso::hisState},
     {"Text14", "HIS SKCC#", qso::hisNumber, qso::hisNumber},
-    {"Text16", "DUPE NOTE", qso::dupeMark, qso::dupeMark},
+    {"Text16", "DUPE NOTE", qso::dupeColumns, qso::dupeColumns},
 }};
 
 // What the boxes hold, in that order.

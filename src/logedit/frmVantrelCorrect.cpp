@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmVantrelCorrect.h"
 
+#include "forms/formbuilder.h"
 #include "logedit/changereport.h"
-#include "platform/qt/formbuilder.h"
 #include "platform/qt/latin1.h"
 
 #include <QGridLayout>
@@ -27,7 +27,7 @@ constexpr double headingEnlargement = 1.5;
 
 frmVantrelCorrect::frmVantrelCorrect(const FormContext& context)
     : Form(context, "frmVantrelCorrect", "CORRECTION PAGE"),
-      m_log(context.platform.files, context.module) {
+      m_log(context.platform.files, context.shared.log) {
     createControls();
     layOut();
     openAtPageSize();
@@ -91,7 +91,7 @@ void frmVantrelCorrect::Command2_Click() {
         return;
     }
     const Correction correction = corrected(m_log.line(), m_shown, boxes());
-    if (!reportChange(rewriteAtWork(correction.line), m_log, messages(), screens().mainPage()))
+    if (!reportChange(rewriteAtWork(correction.line), m_log, messages()))
         return;
     showBoxes(correction.boxes);
     followLog();
@@ -101,7 +101,7 @@ void frmVantrelCorrect::Command2_Click() {
 }
 
 void frmVantrelCorrect::Command5_Click() {
-    if (!reportChange(m_log.undo(), m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.undo(), m_log, messages()))
         return;
     CorrectionBoxes key{};
     key[0] = fromQt(m_boxes[0]->text());

@@ -2,9 +2,9 @@
 // The correction page: finds a contact by its call, changes any of its fields.
 #pragma once
 
+#include "forms/form.h"
 #include "logedit/correction.h"
 #include "logedit/logedit.h"
-#include "platform/qt/form.h"
 
 class QLabel;
 class QLineEdit;

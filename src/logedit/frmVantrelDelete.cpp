@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmVantrelDelete.h"
 
+#include "forms/formbuilder.h"
 #include "logedit/changereport.h"
 #include "logedit/deletion.h"
-#include "platform/qt/formbuilder.h"
 #include "platform/qt/latin1.h"
 
 #include <QHBoxLayout>
@@ -24,7 +24,7 @@ constexpr int openingColumns = 50; // room for the contact shown
 
 frmVantrelDelete::frmVantrelDelete(const FormContext& context)
     : Form(context, "frmVantrelDelete", "DELETE AN ENTRY FROM THE CABRILLO FILE"),
-      m_log(context.platform.files, context.module) {
+      m_log(context.platform.files, context.shared.log) {
     createControls();
     layOut();
     openAtPageSize();
@@ -56,7 +56,7 @@ void frmVantrelDelete::connectHandlers() {
     connect(Command1, &QPushButton::clicked, this, [this] { close(); });
 }
 
-void frmVantrelDelete::Form_Load() {
+void frmVantrelDelete::load() {
     say(openingText);
 }
 
@@ -75,14 +75,14 @@ void frmVantrelDelete::Command4_Click() {
 }
 
 void frmVantrelDelete::Command2_Click() {
-    if (!reportChange(m_log.removeLine(), m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.removeLine(), m_log, messages()))
         return;
     say(deletedText);
     followLog();
 }
 
 void frmVantrelDelete::Command5_Click() {
-    if (!reportChange(m_log.undo(), m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.undo(), m_log, messages()))
         return;
     say(m_log.undoText());
     followLog();

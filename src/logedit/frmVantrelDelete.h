@@ -2,8 +2,8 @@
 // The deletion page: steps through the contacts with a call and removes the one shown.
 #pragma once
 
+#include "forms/form.h"
 #include "logedit/logedit.h"
-#include "platform/qt/form.h"
 
 class QLabel;
 class QLineEdit;
@@ -18,7 +18,7 @@ public:
     explicit frmVantrelDelete(const FormContext& context);
 
 protected:
-    void Form_Load() override;
+    void load() override;
     QWidget* firstFocus() override;
 
 private:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmVantrelEDITcbr.h"
 
+#include "forms/formbuilder.h"
 #include "logedit/changereport.h"
-#include "platform/qt/formbuilder.h"
 #include "platform/qt/latin1.h"
 
 #include <QGridLayout>
@@ -23,7 +23,7 @@ constexpr int rowsInAColumn = 8;
 
 frmVantrelEDITcbr::frmVantrelEDITcbr(const FormContext& context)
     : Form(context, "frmVantrelEDITcbr", "EDIT THE CABRILLO FILE"),
-      m_log(context.platform.files, context.module) {
+      m_log(context.platform.files, context.shared.log) {
     createControls();
     layOut();
     openAtPageSize();
@@ -81,7 +81,7 @@ void frmVantrelEDITcbr::Command2_Click() {
         return;
     const EditorBoxes tidy = tidiedBoxes(boxes());
     const ChangeResult result = m_log.replaceLine(rebuiltLine(m_log.line(), tidy));
-    if (!reportChange(result, m_log, messages(), screens().mainPage()))
+    if (!reportChange(result, m_log, messages()))
         return;
     showBoxes(tidy);
     say(doneText);
@@ -89,7 +89,7 @@ void frmVantrelEDITcbr::Command2_Click() {
 }
 
 void frmVantrelEDITcbr::Command5_Click() {
-    if (!reportChange(m_log.undo(), m_log, messages(), screens().mainPage()))
+    if (!reportChange(m_log.undo(), m_log, messages()))
         return;
     showBoxes({});
     say(m_log.undoText());

@@ -2,9 +2,9 @@
 // The log file editor: every field of a contact's line in a box of its own.
 #pragma once
 
+#include "forms/form.h"
 #include "logedit/editor.h"
 #include "logedit/logedit.h"
-#include "platform/qt/form.h"
 
 class QLabel;
 class QLineEdit;

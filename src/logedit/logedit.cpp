@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/logedit.h"
 
+#include "base/itemreader.h"
+#include "log/log.h"
+#include "log/qsoline.h"
 #include "platform/files.h"
-#include "screens/main/workedstations.h"
-#include "shared/itemreader.h"
-#include "shared/logfile.h"
-#include "shared/module1.h"
-#include "shared/qsoline.h"
 
 #include <utility>
 
@@ -53,7 +51,7 @@ std::string tidied(std::string_view typed) {
 SearchResult LogEdit::search(std::string_view key) {
     if (length(key) < shortestCall)
         return SearchResult::keyTooShort;
-    const std::string& name = m_module.settings.logFileName;
+    const std::string& name = m_log.name();
     take(name, m_files.read(name));
     m_found = false;
     return searchFrom(1, key);
@@ -103,7 +101,7 @@ ChangeResult LogEdit::removeLine() {
 }
 
 ChangeResult LogEdit::change(const std::vector<std::string>& lines) {
-    if (m_module.settings.logFileName != m_logName || !isOnDisk(m_logName, m_logBytes))
+    if (m_log.name() != m_logName || !isOnDisk(m_logName, m_logBytes))
         return {false, logChangedNotice(m_files.path(m_logName))};
     Change change{m_logName, m_logBytes, joinLines(lines), m_droppedLines};
     // A save that changes nothing must not cost the operator the copy of his last change.
@@ -134,8 +132,7 @@ ChangeResult LogEdit::undo() {
     if (!m_change)
         return {};
     const std::string backup = withSuffix(m_change->logName, backupSuffix);
-    if (m_module.settings.logFileName != m_change->logName ||
-        !isOnDisk(m_change->logName, m_change->after))
+    if (m_log.name() != m_change->logName || !isOnDisk(m_change->logName, m_change->after))
         return {false, noUndoNotice(m_files.path(m_change->logName))};
     if (!isOnDisk(backup, m_change->before))
         return {false, noUndoNotice(m_files.path(backup))};
@@ -169,10 +166,9 @@ bool LogEdit::isOnDisk(const std::string& name, std::string_view bytes) const {
     return m_files.readOrEmpty(name) == bytes;
 }
 
-std::optional<RuntimeError> LogEdit::reloadLog() {
+std::optional<RuntimeError> LogEdit::followChange() {
     try {
-        loadLog(m_files, m_module.settings.logFileName, m_module.qsoTable);
-        rebuildWorkedStations(m_module, m_files);
+        m_log.reread();
     } catch (const RuntimeError& error) {
         return error;
     }

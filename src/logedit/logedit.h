@@ -3,9 +3,9 @@
 // rewrite with its undo.
 #pragma once
 
+#include "base/boundedtable.h"
+#include "base/runtimeerror.h"
 #include "platform/messages.h"
-#include "shared/boundedtable.h"
-#include "shared/runtimeerror.h"
 
 #include <optional>
 #include <string>
@@ -15,7 +15,7 @@
 namespace vantrel {
 
 class Files;
-struct Module1;
+class Log;
 
 // What a page's message label reads after an undo and after the next one, which redoes.
 inline constexpr std::string_view undoneText = " Undone....Click EXIT ";
@@ -37,7 +37,7 @@ public:
     static constexpr int lineCapacity = 2000; // a rewrite drops the lines beyond, see change
     static constexpr int shortestCall = 3;    // a shorter key finds nothing
 
-    LogEdit(Files& files, Module1& module) : m_files(files), m_module(module) {}
+    LogEdit(Files& files, Log& log) : m_files(files), m_log(log) {}
 
     // Reads the log and finds the first contact whose call begins with the key (tidied). A key
     // that is too short leaves everything as it was. Throws as Files::read.
@@ -68,9 +68,9 @@ public:
     // The message label's text after an undo().
     std::string_view undoText() const { return m_change->undone ? undoneText : redoneText; }
 
-    // The QSO table, the worked-stations list and its file follow the log on the disk. Returns
-    // what failed, if anything: the change itself is made all the same.
-    std::optional<RuntimeError> reloadLog();
+    // Contacts and worked stations follow the log on the disk. Returns what failed, if
+    // anything: the change itself is made all the same.
+    std::optional<RuntimeError> followChange();
 
 private:
     // A change made here, or its undo; `before` and `after` are whole logs.
@@ -89,7 +89,7 @@ private:
     bool isOnDisk(const std::string& name, std::string_view bytes) const;
 
     Files& m_files;
-    Module1& m_module;
+    Log& m_log;
     BoundedTable<std::string> m_lines{"the table of log lines", lineCapacity};
     std::string m_logName;  // the log that the table was read from
     std::string m_logBytes; // all of it

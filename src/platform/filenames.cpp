@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/filenames.h"
 
-#include "shared/fixedtext.h"
-#include "shared/runtimeerror.h"
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
 
 #include <algorithm>
 #include <filesystem>

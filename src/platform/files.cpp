@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files.h"
 
+#include "base/fixedtext.h"
+#include "base/itemreader.h"
+#include "base/runtimeerror.h"
 #include "platform/filenames.h"
 #include "platform/systemcalls.h"
-#include "shared/fixedtext.h"
-#include "shared/itemreader.h"
-#include "shared/runtimeerror.h"
 
 #include <cerrno>
 #include <chrono>

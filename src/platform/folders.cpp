@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/folders.h"
 
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
 #include "platform/filenames.h"
-#include "shared/fixedtext.h"
-#include "shared/runtimeerror.h"
 
 #include <algorithm>
 #include <filesystem>

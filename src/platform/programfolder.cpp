@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/programfolder.h"
 
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
 #include "platform/filenames.h"
-#include "shared/fixedtext.h"
-#include "shared/runtimeerror.h"
-#include "shared/settings.h"
 
 #include <cerrno>
 #include <cstring>

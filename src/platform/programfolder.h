@@ -4,8 +4,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace vantrel {
+
+// The settings; where this file lies is a program folder.
+inline constexpr std::string_view configurationFile = "Vantrel.CFG";
 
 // The name by which a desktop knows the program.
 inline constexpr const char* desktopEntry = "org.vantrel.Vantrel";

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/serialnames.h"
 
+#include "base/fixedtext.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "shared/fixedtext.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "rig/catlink.h"
 
+#include "base/runtimeerror.h"
 #include "platform/serialport.h"
 #include "rig/radiofamily.h"
-#include "shared/bands.h"
-#include "shared/module1.h"
-#include "shared/runtimeerror.h"
+#include "shared/settings.h"
 
 #include <algorithm>
 #include <array>
@@ -104,7 +103,8 @@ Message badReply(const RadioFamily& family, const OperatingSettings& settings,
                                  : who + " sent no frequency. Is it the right rig and baud rate?");
 }
 
-ReadResult askRadio(const RadioFamily& family, Module1& module, SerialPort& port) {
+ReadResult askRadio(const RadioFamily& family, const OperatingSettings& settings,
+                    SerialPort& port) {
     std::string reply;
     std::optional<std::string> frequency;
     for (int attempt = 0; attempt < family.attempts && !frequency; ++attempt) {
@@ -112,15 +112,13 @@ ReadResult askRadio(const RadioFamily& family, Module1& module, SerialPort& port
         // the attempts that are left: a radio that talks nonsense costs no more waiting.
         if (attempt > 0 && !family.complete(reply))
             reply.clear();
-        if (!exchange(family, module.settings, port, reply))
+        if (!exchange(family, settings, port, reply))
             return {ReadOutcome::cancelled};
         frequency = family.parse(reply);
     }
     if (!frequency)
-        return {ReadOutcome::failed, badReply(family, module.settings, reply)};
-    module.frequency = *frequency;
-    module.bandText = bandTextOf(*frequency, module.bandText);
-    return {ReadOutcome::read};
+        return {ReadOutcome::failed, "", badReply(family, settings, reply)};
+    return {ReadOutcome::read, *frequency};
 }
 
 } // namespace
@@ -133,17 +131,17 @@ const RadioFamily* familyOf(std::string_view rig) {
     return rig.starts_with(icomPrefix) ? &icomCiv : nullptr;
 }
 
-ReadResult readFrequency(Module1& module, SerialPort& port) {
-    if (!module.settings.hasRadio())
+ReadResult readFrequency(const OperatingSettings& settings, SerialPort& port) {
+    if (!settings.hasRadio())
         return {ReadOutcome::noRadio};
-    const RadioFamily* const family = familyOf(module.settings.rig);
+    const RadioFamily* const family = familyOf(settings.rig);
     if (family == nullptr)
         return {ReadOutcome::noReader};
     try {
-        return askRadio(*family, module, port);
+        return askRadio(*family, settings, port);
     } catch (const SerialPortError& error) {
         const bool refused = error.reason() == SerialPortError::Reason::notThere;
-        return {ReadOutcome::failed,
+        return {ReadOutcome::failed, "",
                 failure(*family, refused ? family->refusedMessage : family->errorMessage,
                         error.what())};
     }

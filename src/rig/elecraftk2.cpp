@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Elecraft K2: four queries in one, which VFO transmits and what each is tuned to:
 // "FT0;FA00014025000;FB00007025000;MD3;". Sending and answering take 150 ms at its 4,800 baud.
+#include "base/fixedtext.h"
 #include "rig/radiofamily.h"
 #include "rig/reply.h"
-#include "shared/fixedtext.h"
 #include "shared/settings.h"
 
 #include <algorithm>

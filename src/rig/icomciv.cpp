@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Icom CI-V: one wire for both directions, so the query comes back first, then the reply.
 // FE FE addr E0 03 FD, FE FE E0 addr 03, the frequency in pairs of digits from 1 Hz up, FD.
+#include "base/fixedtext.h"
 #include "rig/radiofamily.h"
 #include "rig/reply.h"
-#include "shared/fixedtext.h"
 #include "shared/settings.h"
 
 #include <algorithm>

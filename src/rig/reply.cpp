@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rig/reply.h"
 
-#include "shared/fixedtext.h"
+#include "base/fixedtext.h"
 
 #include <algorithm>
 

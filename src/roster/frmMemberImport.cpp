@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmMemberImport.h"
 
+#include "forms/formbuilder.h"
 #include "platform/eventloop.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "platform/qt/formbuilder.h"
 #include "platform/qt/latin1.h"
 
 #include <QCloseEvent>
@@ -64,7 +64,7 @@ void frmMemberImport::createControls() {
     ProgressBar1->setObjectName(QStringLiteral("ProgressBar1"));
 }
 
-void frmMemberImport::Form_Load() {
+void frmMemberImport::load() {
     // A folder whose name the box cannot show is left out: the name alone is found there too.
     const Files& files = platform().files;
     const bool sayable = latin1Text(files.programFolder()).has_value();
@@ -86,8 +86,7 @@ void frmMemberImport::receivePath(const std::string& path) {
 }
 
 void frmMemberImport::Command3_Click() {
-    module().finderMode = FinderMode::memberList;
-    screens().open(Screen::finder);
+    screens().openFinder(Screen::memberUpdate);
 }
 
 void frmMemberImport::Command2_Click() {
@@ -143,11 +142,8 @@ bool frmMemberImport::showStep(const ImportStep& step) {
 void frmMemberImport::showResult(const ImportResult& result) {
     Label3->setText(toQt(addedText(m_page.list, result.added)));
     Label5->setText(toQt(skippedText(result.skipped)));
-    if (Label4 == nullptr)
-        return;
-    Label4->setText(toQt(fixedText(result.fixed)));
-    // The roster file used last has a variable of its own: the log file stays chosen.
-    module().memberListPath = result.rosterFile;
+    if (Label4 != nullptr)
+        Label4->setText(toQt(fixedText(result.fixed)));
 }
 
 void frmMemberImport::enableButtons(bool enabled) {

@@ -2,7 +2,7 @@
 // The two import screens, frmReadSKCCDATA and frmVantrelUpdate: one page in two editions.
 #pragma once
 
-#include "platform/qt/form.h"
+#include "forms/form.h"
 #include "roster/rosterimport.h"
 
 #include <QElapsedTimer>
@@ -37,7 +37,7 @@ public:
     void receivePath(const std::string& path) override;
 
 protected:
-    void Form_Load() override;
+    void load() override;
     QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmSelectUpdateList.h"
 
+#include "forms/formbuilder.h"
 #include "platform/files.h"
 #include "platform/launcher.h"
-#include "platform/qt/formbuilder.h"
 #include "roster/memberlist.h"
 
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 // The choice of how to bring the roster up to date.
 #pragma once
 
-#include "platform/qt/form.h"
+#include "forms/form.h"
 
 class QPushButton;
 class QRadioButton;

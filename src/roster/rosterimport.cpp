@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "roster/rosterimport.h"
 
+#include "base/boundedtable.h"
+#include "base/itemreader.h"
 #include "platform/files.h"
 #include "roster/rosterrecord.h"
-#include "shared/boundedtable.h"
-#include "shared/itemreader.h"
 
 #include <algorithm>
 #include <deque>
@@ -101,7 +101,7 @@ public:
             return;
         }
         const std::string_view stored = member::number.of(table.line(place));
-        if (fitLeft(stored, member::number.width) != member::number.of(record))
+        if (leftAligned(stored, member::number.width) != member::number.of(record))
             ++result.fixed;
         table.replace(place, record);
     }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "roster/rosterlookup.h"
 
+#include "base/itemreader.h"
 #include "platform/files.h"
 #include "roster/rosterrecord.h"
-#include "shared/itemreader.h"
 
 namespace vantrel {
 
@@ -30,24 +30,22 @@ std::unordered_map<std::string_view, std::string_view> indexOf(std::string_view 
 
 } // namespace
 
-const Roster::Kept& Roster::current(std::size_t file) {
-    Kept& kept = m_kept[file];
+const Roster::IndexedFile& Roster::current(std::size_t file) {
+    IndexedFile& indexed = m_indexed[file];
     const std::string stamp = m_files.stamp(rosterFiles[file]);
-    if (stamp.empty() || stamp != kept.stamp) {
-        kept = {};
-        kept.bytes = m_files.readOrEmpty(rosterFiles[file]);
-        kept.recordOfCall = indexOf(kept.bytes);
-        kept.stamp = stamp;
+    if (stamp.empty() || stamp != indexed.stamp) {
+        indexed = {};
+        indexed.bytes = m_files.readOrEmpty(rosterFiles[file]);
+        indexed.recordOfCall = indexOf(indexed.bytes);
+        indexed.stamp = stamp;
     }
-    return kept;
+    return indexed;
 }
 
-std::optional<Member> Roster::findByCall(std::string_view callBoxText, std::string& rosterFile) {
-    const std::size_t file = rosterFileOf(callBoxText);
-    rosterFile = m_files.path(rosterFiles[file]);
-    const Kept& kept = current(file);
-    const auto found = kept.recordOfCall.find(callBoxText);
-    if (found == kept.recordOfCall.end())
+std::optional<Member> Roster::findByCall(std::string_view callBoxText) {
+    const IndexedFile& file = current(rosterFileOf(callBoxText));
+    const auto found = file.recordOfCall.find(callBoxText);
+    if (found == file.recordOfCall.end())
         return std::nullopt;
     return memberOf(found->second);
 }

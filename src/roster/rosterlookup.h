@@ -39,9 +39,8 @@ public:
 
     // The first member with exactly this call, among the first 8,000 records of the file for
     // its first letter; the text is compared as it stands, so lower case or a blank behind it
-    // finds nobody. rosterFile receives the path looked into. A missing file is an empty one.
-    // Throws as Files::read.
-    std::optional<Member> findByCall(std::string_view callBoxText, std::string& rosterFile);
+    // finds nobody. A missing file is an empty one. Throws as Files::read.
+    std::optional<Member> findByCall(std::string_view callBoxText);
 
     // The first member, in the order of the files and of their lines, whose number begins
     // with the one typed: four digits also find a five-digit number that comes first. Case,
@@ -51,16 +50,16 @@ public:
     NumberMatch findByNumber(std::string_view callBoxText);
 
 private:
-    struct Kept {
+    struct IndexedFile {
         std::string stamp; // of the file that was read; empty: read it again
         std::string bytes;
         std::unordered_map<std::string_view, std::string_view> recordOfCall;
     };
 
-    const Kept& current(std::size_t file);
+    const IndexedFile& current(std::size_t file);
 
     const Files& m_files;
-    std::array<Kept, rosterFiles.size()> m_kept;
+    std::array<IndexedFile, rosterFiles.size()> m_indexed;
 };
 
 } // namespace vantrel

@@ -38,11 +38,11 @@ std::string normalisedNumber(std::string_view number) {
 
 std::string memberRecord(std::string_view number, std::string_view call, std::string_view name,
                          std::string_view state) {
-    std::string record = fitLeft(trimLeft(call), member::call.width);
+    std::string record = leftAligned(trimLeft(call), member::call.width);
     record.reserve(member::width);
-    record += fitLeft(normalisedNumber(upper(trim(number))), member::number.width);
-    record += fitLeft(trim(left(name, member::name.width)), member::name.width);
-    record += fitLeft(trim(left(state, member::state.width)), member::state.width);
+    record += leftAligned(normalisedNumber(upper(trim(number))), member::number.width);
+    record += leftAligned(trim(left(name, member::name.width)), member::name.width);
+    record += leftAligned(trim(left(state, member::state.width)), member::state.width);
     return upper(record);
 }
 

@@ -3,7 +3,7 @@
 // five roster files holds it.
 #pragma once
 
-#include "shared/qsoline.h"
+#include "log/qsoline.h"
 
 #include <array>
 #include <cstddef>

@@ -2,9 +2,9 @@
 // How screens reach each other: one slot per screen, and the few things two of them share.
 #pragma once
 
-#include "shared/module1.h"
-
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
@@ -18,17 +18,17 @@ enum class Screen {
     score,        // frmVantrelScore
     bonus,        // frmCountBonus
     files,        // frmVantrelFiles
-    list,         // frmVantrelList
-    showDb,       // frmVantrelShowDB
+    list,         // frmVantrelList: openList
+    showDb,       // frmVantrelShowDB: openRoster
     backup,       // frmVantrelBackup
-    finder,       // frmFileFinder
+    finder,       // frmFileFinder: openFinder
     updateList,   // frmSelectUpdateList
     readData,     // frmReadSKCCDATA
     memberUpdate, // frmVantrelUpdate
     callArea,     // frmVantrelCallArea
     standings,    // frmK3YStandings
     standings2,   // frmK3YStandings2
-    checkDupeK3y, // frmCheckDupeK3Y
+    checkDupeK3y, // frmCheckDupeK3Y: askAboutDupe
     k3yBox,       // frmK3Ybox
 };
 
@@ -42,19 +42,12 @@ public:
     virtual std::string gmtOffset() const = 0; // as chosen on the page
 };
 
-// What the boxes hold after a contact is dropped: nothing, or a single blank each.
-enum class EntryBoxes { empty, oneBlank };
-
 // What other screens do to the main page.
 class MainPage {
 public:
     virtual ~MainPage() = default;
-    // Empties call, name, state and number, resets both RST boxes, focus to the call box.
-    virtual void clearEntry(EntryBoxes boxes) = 0;
     // The K3Y tag label.
-    virtual void showTag(const std::string& text) = 0;
-    // Shows the count and the worked-stations list as Module1 holds them now.
-    virtual void showLog() = 0;
+    virtual void showStation(const std::string& text) = 0;
     // Loads the page as if it had just been opened (START pressed again).
     virtual void loadAfresh() = 0;
 };
@@ -67,6 +60,15 @@ public:
     virtual void receivePath(const std::string& path) = 0;
 };
 
+enum class ListedFile { log, adif };
+
+// What the K3Y dupe box asks: log the contact as a duplicate, or drop it. When `log` throws,
+// the question stays.
+struct DupeQuestion {
+    std::function<void()> log;
+    std::function<void()> drop;
+};
+
 class Screens {
 public:
     virtual ~Screens() = default;
@@ -75,11 +77,18 @@ public:
     // Closes `current` and opens `next` in its place: closing that one leads to where closing
     // `current` would have led.
     virtual void replace(Screen current, Screen next) = 0;
+    // The lines of the log or of its ADIF file.
+    virtual void openList(ListedFile file) = 0;
+    // The lines of a roster file; path: as text to show.
+    virtual void openRoster(std::string path, std::vector<std::string> lines) = 0;
+    // The file finder; `receiver` gets the path chosen there.
+    virtual void openFinder(Screen receiver) = 0;
+    virtual void askAboutDupe(DupeQuestion question) = 0;
+    // Hands the finder's choice to the screen that asked for it, if it is still there.
+    virtual void handBackPath(Screen receiver, const std::string& path) = 0;
     // nullptr while there is none.
     virtual StartPage* startPage() = 0;
     virtual MainPage* mainPage() = 0;
-    // Hands the finder's choice to the screen that asked for it, if it is still there.
-    virtual void handBackPath(FinderMode mode, const std::string& path) = 0;
     // Ends the program.
     virtual void quit() = 0;
 };

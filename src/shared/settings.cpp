@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shared/settings.h"
 
+#include "base/fixedtext.h"
+#include "base/itemreader.h"
+#include "base/runtimeerror.h"
 #include "platform/files.h"
-#include "shared/fixedtext.h"
-#include "shared/itemreader.h"
-#include "shared/runtimeerror.h"
 
 #include <array>
 
@@ -43,12 +43,12 @@ std::string stored(std::string_view typed) {
 
 OperatingSettings storedSettings(const OperatingSettings& typed) {
     OperatingSettings settings = typed;
-    settings.myCall = padRight(stored(typed.myCall), callWidth, "the call");
+    settings.myCall = padded(stored(typed.myCall), callWidth, "the call");
     settings.myCall = trimRight(settings.myCall); // the call alone is kept unpadded
-    settings.myName = padRight(stored(typed.myName), nameWidth, "the name");
-    settings.myState = padRight(stored(typed.myState), stateWidth, "the state");
-    settings.myNumber = padRight(stored(typed.myNumber), numberWidth, "the SKCC number");
-    settings.bonusStation = padRight(stored(typed.bonusStation), callWidth, "the bonus station");
+    settings.myName = padded(stored(typed.myName), nameWidth, "the name");
+    settings.myState = padded(stored(typed.myState), stateWidth, "the state");
+    settings.myNumber = padded(stored(typed.myNumber), numberWidth, "the SKCC number");
+    settings.bonusStation = padded(stored(typed.bonusStation), callWidth, "the bonus station");
     settings.contestText = stored(typed.contestText);
     settings.logFileName = stored(typed.logFileName);
     return settings;

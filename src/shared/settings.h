@@ -2,6 +2,8 @@
 // The operating settings and their file "Vantrel.CFG".
 #pragma once
 
+#include "platform/programfolder.h"
+
 #include <string>
 #include <string_view>
 
@@ -9,7 +11,6 @@ namespace vantrel {
 
 class Files;
 
-inline constexpr std::string_view configurationFile = "Vantrel.CFG";
 inline constexpr std::string_view contestSks = "SKS";
 inline constexpr std::string_view contestSkse = "SKSE";
 inline constexpr std::string_view contestWes = "WES";

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utctime.h"
 
-#include "shared/fixedtext.h"
+#include "base/fixedtext.h"
 
 #include <array>
 
@@ -38,19 +38,15 @@ std::string sameDate(const LocalTime& local) {
 
 UtcTime utcTime(const LocalTime& local, std::string_view gmtOffset) {
     const Integer16 unwrapped = Integer16(local.hour) + Integer16(numericValue(gmtOffset));
-    UtcTime utc;
-    utc.hour = unwrapped;
+    Integer16 hour = unwrapped;
     if (unwrapped > 23)
-        utc.hour -= 24;
+        hour -= 24;
     else if (unwrapped < 0)
-        utc.hour += 24;
-    utc.hourText = zeroPadded(utc.hour.value(), 2);
-    utc.minuteText = zeroPadded(local.minute, 2);
-    utc.time = utc.hourText + utc.minuteText;
+        hour += 24;
     // Before local midnight the date is deliberately not rolled back: such contacts carry
     // the local date.
-    utc.date = unwrapped > 23 ? rolledDate(local) : sameDate(local);
-    return utc;
+    return {zeroPadded(hour.value(), 2) + zeroPadded(local.minute, 2),
+            unwrapped > 23 ? rolledDate(local) : sameDate(local)};
 }
 
 } // namespace vantrel

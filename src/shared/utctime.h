@@ -2,8 +2,8 @@
 // UTC time and date of a contact, from the PC's local clock and the operator's offset.
 #pragma once
 
+#include "base/integer16.h"
 #include "platform/clock.h"
-#include "shared/integer16.h"
 
 #include <string>
 #include <string_view>
@@ -11,11 +11,8 @@
 namespace vantrel {
 
 struct UtcTime {
-    Integer16 hour;
-    std::string hourText;   // 2 digits
-    std::string minuteText; // 2 digits
-    std::string time;       // HHMM
-    std::string date;       // YYYY-MM-DD; MM-01-YYYY on a month-end roll
+    std::string time; // HHMM
+    std::string date; // YYYY-MM-DD; MM-01-YYYY on a month-end roll
 };
 
 // gmtOffset: whole hours to add to local time, "-12" to "12".

@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: MIT
 // Works on a program folder through the rules as the forms do, without end, and tells of each
 // operation in its diary (standard output). It is there to be killed.
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
 #include "fakes/fakeclock.h"
 #include "faults/diary.h"
+#include "log/logfile.h"
 #include "logedit/correction.h"
 #include "logedit/logedit.h"
-#include "output/adif.h"
-#include "output/backup.h"
-#include "output/rostersort.h"
+#include "output/adif/adif.h"
+#include "output/files/backup.h"
 #include "platform/files.h"
 #include "platform/programfolder.h"
 #include "platform/systemcalls.h"
 #include "roster/rosterimport.h"
+#include "roster/rostersort.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/qsoentry.h"
-#include "shared/fixedtext.h"
-#include "shared/logfile.h"
 #include "shared/module1.h"
-#include "shared/runtimeerror.h"
 
 #include <array>
 #include <cstdio>
@@ -92,7 +92,7 @@ private:
         Entry entry{"K" + fresh(), "NAME", "MA", "1234T", "599", "599", "14.050"};
         if (isDuplicate(m_module.qsoTable, entry.call, "14"))
             std::abort();
-        Qso contact = contactFrom(entry, m_module, m_clock);
+        ContactFields contact = contactFrom(entry, m_module, m_clock);
         if (enterFrequency(contact, entry.frequency, m_module) != FrequencyCheck::good)
             std::abort();
         m_module.currentLine = assembleLine(contact);
@@ -171,7 +171,7 @@ private:
     }
 
     void save() {
-        m_module.settings.bonusStation = fitLeft("B" + fresh(), callWidth);
+        m_module.settings.bonusStation = leftAligned("B" + fresh(), callWidth);
         rewrite(
             diary::save, [this] { saveSettings(m_files, m_module.settings); },
             m_module.settings.bonusStation);

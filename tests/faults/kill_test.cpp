@@ -2,17 +2,17 @@
 // The program killed in the middle of its work, again and again on one folder: what it had told
 // the operator is there, whole, once; every file is the old or the new one; the next start
 // goes on. And two programs on one folder.
+#include "base/fixedtext.h"
+#include "base/itemreader.h"
 #include "faults/diary.h"
-#include "output/outputfiles.h"
+#include "log/logfile.h"
+#include "log/outputfiles.h"
+#include "log/log.h"
 #include "platform/files.h"
 #include "platform/programfolder.h"
 #include "platform/systemcalls.h"
 #include "roster/rosterrecord.h"
 #include "screens/main/qsoentry.h"
-#include "screens/main/workedstations.h"
-#include "shared/fixedtext.h"
-#include "shared/itemreader.h"
-#include "shared/logfile.h"
 #include "shared/module1.h"
 #include "support/tempfolder.h"
 
@@ -223,7 +223,7 @@ protected:
         Lines worked;
         for (const std::string_view line : module.qsoTable.lines())
             if (static_cast<int>(worked.size()) < Module1::workedCapacity)
-                worked.push_back(workedEntry(line));
+                worked.push_back(workedLine(line));
         EXPECT_EQ(m_folder.read(std::string(workedStationsFile)), joinLines(worked));
     }
 
@@ -262,7 +262,7 @@ private:
             contents.kept.push_back(linesOf(m_folder.read(name)));
         }
         contents.generation = generation();
-        contents.bonusStation = fitLeft(loadSettings(m_files).bonusStation, callWidth);
+        contents.bonusStation = leftAligned(loadSettings(m_files).bonusStation, callWidth);
         contents.hasAdif = hasWholeAdif();
         return contents;
     }

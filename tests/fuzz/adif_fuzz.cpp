@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a log, exported as ADIF both ways: every contact is one record, and a reader
 // of the strict file that goes by the lengths gets back what stands in the log.
+#include "base/fixedtext.h"
+#include "base/itemreader.h"
 #include "fakes/fakeclock.h"
 #include "fuzz/fuzztarget.h"
-#include "output/adif.h"
-#include "output/strictadif.h"
-#include "shared/bands.h"
-#include "shared/fixedtext.h"
-#include "shared/itemreader.h"
-#include "shared/qsoline.h"
-#include "shared/qsotable.h"
+#include "log/bands.h"
+#include "log/qsoline.h"
+#include "log/log.h"
+#include "output/adif/adif.h"
+#include "output/adif/strictadif.h"
 
 #include <algorithm>
 #include <map>

@@ -3,14 +3,14 @@
 // every field in its columns, and every reader finds it there.
 #include "fakes/fakeclock.h"
 #include "fuzz/fuzztarget.h"
-#include "k3y/dupecheckk3y.h"
-#include "k3y/k3ytag.h"
+#include "log/logfile.h"
+#include "log/log.h"
 #include "screens/main/dupecheck.h"
+#include "screens/main/dupecheckk3y.h"
 #include "screens/main/frequency.h"
+#include "screens/main/k3ystation.h"
 #include "screens/main/qsoentry.h"
-#include "screens/main/workedstations.h"
 #include "screens/start/startlists.h"
-#include "shared/logfile.h"
 #include "shared/module1.h"
 #include "support/contacts.h"
 
@@ -26,8 +26,8 @@ void everyReaderFindsIt(const std::string& line, const OperatingSettings& settin
     const std::string_view call = trim(qso::hisCall.of(line));
     require(isDuplicate(table, call, qso::bandTag.of(line)), "the dupe check finds it");
     require(isK3yDupe(table, line), "the event's dupe check finds it");
-    require(length(workedEntry(line)) == (isDupe(line) ? 68 : 70), "entries have one width");
-    require(workedEntry(line).find(',') == std::string::npos, "an entry is one item");
+    require(length(workedLine(line)) == (isDupe(line) ? 68 : 70), "entries have one width");
+    require(workedLine(line).find(',') == std::string::npos, "an entry is one item");
 }
 
 } // namespace
@@ -37,8 +37,8 @@ void fuzz(Input& input) {
     OperatingSettings& settings = module.settings;
     settings.contestCode = input.choice(2) == 0 ? contestSks : contestK3y;
     settings.gmtOffset = offsetList()[input.choice(offsetList().size())].stored;
-    const std::size_t tag = input.choice(k3yTags.size() + 1);
-    module.marker = tag == k3yTags.size() ? dupeMarker : k3yTags[tag].marker;
+    const std::size_t tag = input.choice(k3yStations.size() + 1);
+    module.marker = tag == k3yStations.size() ? dupeMarker : k3yStations[tag].marker;
     FakeClock clock;
     clock.time.day = 1 + static_cast<int>(input.choice(31));
     for (std::string* setting : {&settings.myCall, &settings.myName, &settings.myState,
@@ -51,7 +51,7 @@ void fuzz(Input& input) {
 
     if (errorOf([&] { settings = storedSettings(settings); }) || !canBeLogged(entry))
         return;
-    Qso contact = contactFrom(entry, module, clock);
+    ContactFields contact = contactFrom(entry, module, clock);
     std::string mhz = frequencyAsEntered(entry.frequency);
     requireEqual(frequencyAsEntered(mhz), mhz, "the frequency box settles at once");
     if (enterFrequency(contact, mhz, module) != FrequencyCheck::good)

@@ -3,9 +3,9 @@
 // files, and the one way to say that a property does not hold.
 #pragma once
 
+#include "base/runtimeerror.h"
 #include "fakes/failingcalls.h"
 #include "platform/files.h"
-#include "shared/runtimeerror.h"
 #include "support/tempfolder.h"
 
 #include <optional>

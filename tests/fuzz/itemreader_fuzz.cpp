@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as comma-delimited items and as lines: written again as read they read the same.
+#include "base/itemreader.h"
 #include "fuzz/fuzztarget.h"
-#include "shared/itemreader.h"
 
 #include <algorithm>
 #include <vector>

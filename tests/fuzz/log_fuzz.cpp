@@ -2,15 +2,15 @@
 // Any bytes as a log, read by everything that only looks at contacts: table, worked stations,
 // dupe check, bonus count, picture of the hours, print.
 #include "fuzz/fuzztarget.h"
-#include "output/bonuscount.h"
-#include "output/contactdate.h"
-#include "output/contestpicture.h"
-#include "output/printlog.h"
+#include "log/qsoline.h"
+#include "log/log.h"
+#include "log/log.h"
+#include "output/files/printlog.h"
+#include "output/score/bonuscount.h"
+#include "output/score/contactdate.h"
+#include "output/score/contestpicture.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/workedbefore.h"
-#include "screens/main/workedstations.h"
-#include "shared/qsoline.h"
-#include "shared/qsotable.h"
 
 namespace vantrel::test {
 namespace {
@@ -20,7 +20,7 @@ void isFound(std::string_view line, const QsoTable& table) {
     require(isDuplicate(table, call, qso::bandTag.of(line)), "a contact is its own duplicate");
     require(length(call) < 2 || !workedBefore(table, call, 1000).empty(),
             "whoever is in the log was worked before");
-    require(length(workedEntry(line)) <= 70, "entries have at most one width");
+    require(length(workedLine(line)) <= 70, "entries have at most one width");
     if (const auto day = contactDay(line))
         require(day->ok(), "a day is one of the calendar");
     if (const auto time = contactTime(line))

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Anything typed into the correction page and the editor over any contact line: what was
 // changed stands in its columns, the rest is as it was, and the line stays a contact.
+#include "base/fixedtext.h"
 #include "fuzz/fuzztarget.h"
 #include "logedit/correction.h"
 #include "logedit/deletion.h"
 #include "logedit/editor.h"
 #include "logedit/logedit.h"
-#include "shared/fixedtext.h"
 
 #include <algorithm>
 
@@ -47,7 +47,7 @@ void correctionChangesWhatWasTyped(std::string_view line, Input input) {
                      "a changed box stands in its columns");
         others = withField(others, column, column.of(line));
     }
-    requireEqual(others, fitLeft(line, length(others)), "all other columns stay");
+    requireEqual(others, leftAligned(line, length(others)), "all other columns stay");
     requireEqual(corrected(result.line, result.boxes, result.boxes).line, result.line,
                  "saving once more changes nothing");
 }
@@ -57,7 +57,7 @@ void editorWritesItsBoxes(std::string_view line, Input input) {
     require(tidiedBoxes(boxes) == boxes, "tidied boxes stay as they are");
     const std::string rebuilt = rebuiltLine(line, boxes);
     staysOneContact(rebuilt, line);
-    require(length(rebuilt) == qso::dupeMark.last(), "a rebuilt line has its length");
+    require(length(rebuilt) == qso::dupeColumns.last(), "a rebuilt line has its length");
     requireEqual(qso::hisCall.of(rebuilt), boxes[hisCallBox], "his call stands in its columns");
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as one of the club's lists, merged into any roster: whoever is on the list is found
 // afterwards, and merging it once more changes nothing.
+#include "base/itemreader.h"
 #include "fuzz/fuzztarget.h"
 #include "roster/memberlist.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterlookup.h"
-#include "shared/itemreader.h"
 
 #include <algorithm>
 

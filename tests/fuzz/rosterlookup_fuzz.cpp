@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a roster file, any text in the call box: the lookups find what a plain look
 // through the file finds.
+#include "base/fixedtext.h"
+#include "base/itemreader.h"
 #include "fuzz/fuzztarget.h"
 #include "roster/rosterlookup.h"
-#include "shared/fixedtext.h"
-#include "shared/itemreader.h"
 
 namespace vantrel::test {
 namespace {

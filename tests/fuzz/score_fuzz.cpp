@@ -2,10 +2,10 @@
 // Any bytes as a log, scored by each contest's rules: figures that agree with each other, or
 // the reason why they end.
 #include "fuzz/fuzztarget.h"
-#include "output/score.h"
-#include "output/scorereport.h"
-#include "shared/qsoline.h"
-#include "shared/qsotable.h"
+#include "log/qsoline.h"
+#include "log/log.h"
+#include "output/score/score.h"
+#include "output/score/scorereport.h"
 #include "shared/settings.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 // they fill.
 #include "fuzz/fuzztarget.h"
 #include "k3y/standings.h"
-#include "shared/qsotable.h"
+#include "log/log.h"
 
 #include <algorithm>
 

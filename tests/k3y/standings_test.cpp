@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/k3ylines.h"
 #include "k3y/standings.h"
-#include "shared/qsotable.h"
+#include "log/log.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "fakes/failingcalls.h"
+#include "log/log.h"
 #include "logedit/logedit.h"
 #include "logedit/loglines.h"
 #include "platform/files.h"
-#include "screens/main/workedstations.h"
 #include "shared/module1.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
@@ -211,8 +211,8 @@ TEST_F(LogEditTest, LinesBeyondTheTableAreKeptInAFullCopyAndUndoBringsThemBack) 
 }
 
 TEST_F(LogEditTest, TheWorkedStationsFollowAChangeAndItsUndoEvenOnAFullDisk) {
-    const std::string removed = workedEntry(contact("K1ABC"));
-    const std::string kept = workedEntry(contact("K9SKC"));
+    const std::string removed = workedLine(contact("K1ABC"));
+    const std::string kept = workedLine(contact("K9SKC"));
     writeLog(logOf({contact("K1ABC"), contact("K9SKC")}));
     edit.search("K1ABC");
     edit.removeLine();

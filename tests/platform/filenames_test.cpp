@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // From names without case and with backslashes to what is really on the disk.
+#include "base/fixedtext.h"
 #include "platform/filenames.h"
-#include "shared/fixedtext.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // UTC of a contact from the local clock: hour wrap and the date on the days that matter.
-#include "shared/fixedtext.h"
+#include "base/fixedtext.h"
 #include "shared/utctime.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // Asserting a run-time error: its number and what its detail says.
 #pragma once
 
-#include "shared/runtimeerror.h"
+#include "base/runtimeerror.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tour/stage.h"
 
+#include "base/fixedtext.h"
 #include "platform/qt/latin1.h"
-#include "shared/fixedtext.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -61,7 +61,7 @@ public:
     QtPrinter printer;
     QtLauncher launcher;
     Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
-    Module1 module;
+    Module1 module{files};
     AppScreens screens{module, platform};
 
 private:

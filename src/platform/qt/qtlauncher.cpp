@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/qtlauncher.h"
 
+#include "base/runtimeerror.h"
 #include "platform/filenames.h"
-#include "shared/runtimeerror.h"
 
 #include <QFileInfo>
 #include <QProcess>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/qtprinter.h"
 
+#include "base/runtimeerror.h"
 #include "platform/qt/latin1.h"
-#include "shared/runtimeerror.h"
 
 #include <QBuffer>
 #include <QFontMetricsF>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/qtserialport.h"
 
+#include "base/runtimeerror.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/serialnames.h"
-#include "shared/runtimeerror.h"
 
 #include <QEventLoop>
 #include <QTimer>

@@ -2,7 +2,7 @@
 // The ring of the six sprint bands that the band buttons walk.
 #pragma once
 
-#include "shared/bands.h"
+#include "log/bands.h"
 
 #include <string_view>
 

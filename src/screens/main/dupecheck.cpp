@@ -1,33 +1,44 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/dupecheck.h"
 
-#include "shared/module1.h"
+#include "log/qsoline.h"
 
 #include <algorithm>
 
 namespace vantrel {
 
-bool isDuplicate(const QsoTable& table, std::string_view call, std::string_view bandTag) {
-    return std::any_of(table.lines().begin(), table.lines().end(), [&](std::string_view line) {
+namespace {
+
+// Equal as columns: a line that lost its last blanks in an editor is still the same contact.
+bool sameField(Column column, std::string_view line, std::string_view value) {
+    return trimRight(column.of(line)) == trimRight(left(value, column.width));
+}
+
+} // namespace
+
+bool isDuplicate(const Contacts& contacts, std::string_view call, std::string_view bandTag) {
+    return std::any_of(contacts.begin(), contacts.end(), [&](std::string_view line) {
         return qso::bandTag.of(line) == bandTag &&
                mid(line, qso::hisCall.first, length(call)) == call;
     });
 }
 
-bool settleDupe(Module1& module) {
-    module.marker = noMarker;
-    if (!module.dupeFlag)
-        return true;
-    module.dupeFlag = false;
-    if (!module.settings.logsDupes())
-        return false;
-    module.marker = dupeMarker;
-    return true;
+bool isK3yDupe(const Contacts& contacts, std::string_view contactLine) {
+    return isK3yDupe(contacts, qso::hisCall.of(contactLine), qso::hisNumber.of(contactLine),
+                     qso::bandTag.of(contactLine));
 }
 
-void resetDupeMarker(Module1& module) {
-    if (module.marker == dupeMarker)
-        module.marker = noMarker;
+bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view number,
+               std::string_view bandTag) {
+    return std::any_of(contacts.begin(), contacts.end(), [&](std::string_view line) {
+        return sameField(qso::hisCall, line, call) && qso::bandTag.of(line) == bandTag &&
+               sameField(qso::hisNumber, line, number);
+    });
+}
+
+std::string asDupe(std::string_view contactLine) {
+    // A region tag gives way to "DUPE": a duplicate counts for no region.
+    return std::string(left(contactLine, qso::hisNumber.last())) + std::string(dupeMarker);
 }
 
 } // namespace vantrel

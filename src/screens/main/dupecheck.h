@@ -1,24 +1,29 @@
 // SPDX-License-Identifier: MIT
-// The duplicate test by call and band, and what a duplicate does to the contact.
+// The duplicate tests: by call and band in a sprint; in the K3Y event by call, member number
+// and band.
 #pragma once
 
+#include "log/log.h"
+
+#include <string>
 #include <string_view>
 
 namespace vantrel {
 
-class QsoTable;
-struct Module1;
-
 // True when a logged contact has the band tag and its call begins with `call` as it stands:
 // K1AB is a duplicate of K1ABC, K1ABCD is not.
-bool isDuplicate(const QsoTable& table, std::string_view call, std::string_view bandTag);
+bool isDuplicate(const Contacts& contacts, std::string_view call, std::string_view bandTag);
 
-// Ends the check: sets the marker to six blanks, or to "DUPE" when the dupe flag is set and
-// duplicates are logged; clears the flag. False when the contact must not be logged.
-bool settleDupe(Module1& module);
+// LOG's test in the event: true when a logged contact has the call, the number and the band tag
+// of the assembled contact line.
+bool isK3yDupe(const Contacts& contacts, std::string_view contactLine);
 
-// After a contact is logged or dropped: a "DUPE" marker goes back to six blanks, a K3Y tag
-// stays.
-void resetDupeMarker(Module1& module);
+// SEARCH's test in the event, before there is a line: the call and the number as the boxes hold
+// them (what exceeds their columns does not count), the band tag (2) of the completed frequency.
+bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view number,
+               std::string_view bandTag);
+
+// The contact line as an event's duplicate is logged: its first 101 columns and "DUPE".
+std::string asDupe(std::string_view contactLine);
 
 } // namespace vantrel

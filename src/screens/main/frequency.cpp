@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frequency.h"
 
-#include "shared/bands.h"
-#include "shared/fixedtext.h"
+#include "base/fixedtext.h"
+#include "log/bands.h"
 
 #include <algorithm>
 
@@ -92,7 +92,7 @@ bool isLoggableKhz(std::string_view field) {
 
 std::string bandTagOf(std::string_view mhz) {
     const Band* band = bandOfMhz(mhz);
-    return std::string(band == nullptr ? left(mhz, 2) : band->tag);
+    return std::string(band == nullptr ? left(mhz, 2) : band->bandTag);
 }
 
 } // namespace vantrel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmVantrelDupe.h"
 
-#include "platform/qt/formbuilder.h"
+#include "forms/formbuilder.h"
 #include "platform/sound.h"
 
 #include <QTimer>
@@ -38,14 +38,10 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     connectHandler(Timer1, &QTimer::timeout, this, &frmVantrelDupe::Timer1_Timer);
 }
 
-void frmVantrelDupe::Form_Load() {
+void frmVantrelDupe::load() {
     Timer1->start();
-    if (module().audioOn)
+    if (shared().audioOn)
         platform().sound.playDupeAlarm();
-    module().dupeFlag = true;
-    // A refused contact leaves nothing behind in the boxes.
-    if (MainPage* page = screens().mainPage(); page != nullptr && !module().settings.logsDupes())
-        page->clearEntry(EntryBoxes::empty);
     if (const QWidget* above = opener()) {
         adjustSize();
         move(above->geometry().center() - rect().center());

@@ -2,7 +2,7 @@
 // The word "DUPE", large and red, for two seconds; it never takes the keyboard.
 #pragma once
 
-#include "platform/qt/form.h"
+#include "forms/form.h"
 
 class QLabel;
 class QTimer;
@@ -20,7 +20,7 @@ public:
     void bringToFront() override;
 
 protected:
-    void Form_Load() override;
+    void load() override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

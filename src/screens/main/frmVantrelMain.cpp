@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmVantrelMain.h"
 
-#include "k3y/dupecheckk3y.h"
-#include "k3y/k3ytag.h"
+#include "base/fixedtext.h"
+#include "forms/controltext.h"
+#include "forms/formbuilder.h"
+#include "forms/linelistmodel.h"
 #include "platform/files.h"
-#include "platform/qt/formbuilder.h"
-#include "platform/qt/latin1.h"
-#include "platform/qt/linelistmodel.h"
 #include "platform/serialport.h"
 #include "rig/catlink.h"
 #include "screens/main/bandring.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
+#include "screens/main/k3ystation.h"
 #include "screens/main/workedbefore.h"
-#include "shared/fixedtext.h"
+#include "shared/utctime.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -32,7 +32,6 @@ constexpr double entryEnlargement = 1.5;
 constexpr double workedBeforeEnlargement = 1.1;
 constexpr int workedBeforeColumns = 80;
 constexpr std::string_view startFrequency = "14.050";
-constexpr std::string_view startBand = "20 Meters ";
 constexpr const char* reports[] = {"599", "589", "579", "569", "559", "549",
                                    "539", "529", "519", "449", "339"};
 
@@ -71,49 +70,56 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
     createControls();
     layOut();
     connectHandlers();
+    shared().log.watch([this] { showLog(); });
     openAtPageSize();
+}
+
+frmVantrelMain::~frmVantrelMain() {
+    shared().log.watch({});
 }
 
 void frmVantrelMain::createControls() {
     FormBuilder build(this);
     // The tab order follows the exchange as it is heard.
-    Text2 = build.text("Text2", callWidth, "ENTER HIS CALL OR HIS SKCC#=10 CHARACTERS & DIGITS");
-    Combo1 = reportBox(build, "Combo1");
-    Combo2 = reportBox(build, "Combo2");
-    Text3 = build.text("Text3", nameWidth, "10 CHARACTERS");
-    Text4 = build.text("Text4", stateWidth, "3 CHARACTERS");
-    Text5 = build.text("Text5", numberBoxWidth, "Enter as: 1234T or 100W or NONE");
-    Text7 = build.text("Text7", frequencyBoxWidth,
-                       "THIS FREQ WILL BE PUT INTO THE LOG-->TYPE OVER TO CHANGE - 4 OR 5 DIGITS ");
-    Command15 = build.command("Command15", "Enter",
-                              "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON");
-    Command2 = build.command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE");
-    Command3 = build.command("Command3", "&LOG", "SAVES THE QSO TO CABRILLO FILE");
-    Command4 = build.command("Command4", "&NO LOG", "DOES NOT SAVE QSO TO FILE");
-    Command5 = build.command("Command5", "&FREQ", "READS FREQ FROM RADIO");
-    Command13 = build.command("Command13", "&Up", "TOGGELS BAND UP ONE");
-    Command14 = build.command("Command14", "&Down", "TOGGLES BAND DOWN ONE");
-    Option1 = build.jobOption("Option1", "ADD K3Y/xx",
-                              "CLICK TO ADD K3Y/xx  TO FILE - BEFORE LOGGING DX K3Y STATIONS");
-    Command12 = build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ");
-    Command6 = build.command("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE");
-    Command7 = build.command("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE");
-    Command8 = build.command("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE");
-    Command9 = build.command("Command9", "F&ILES", "FILE MAINTENANCE PAGE");
-    Command10 = build.command("Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK");
-    Command11 = build.command("Command11", "S&CORE", "CALCULATES CURRENT SCORE ");
-    Command16 = build.command("Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD");
-    Command1 = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
-    Text1 = build.output("Text1");
-    List1 = build.list("List1");
-    Label10 = build.label("Label10");
-    Label11 = build.label("Label11");
-    Label12 = build.label("Label12");
-    Label13 = build.label("Label13");
-    Label23 = build.label("Label23");
-    Label24 = build.label("Label24");
-    m_worked = new LineListModel(this);
-    List1->setModel(m_worked);
+    m_callBox =
+        build.text("Text2", callWidth, "ENTER HIS CALL OR HIS SKCC#=10 CHARACTERS & DIGITS");
+    m_rstSentBox = reportBox(build, "Combo1");
+    m_rstReceivedBox = reportBox(build, "Combo2");
+    m_nameBox = build.text("Text3", nameWidth, "10 CHARACTERS");
+    m_stateBox = build.text("Text4", stateWidth, "3 CHARACTERS");
+    m_numberBox = build.text("Text5", numberBoxWidth, "Enter as: 1234T or 100W or NONE");
+    m_frequencyBox =
+        build.text("Text7", frequencyBoxWidth,
+                   "THIS FREQ WILL BE PUT INTO THE LOG-->TYPE OVER TO CHANGE - 4 OR 5 DIGITS ");
+    m_frequencyButton = build.command("Command15", "Enter",
+                                      "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON");
+    m_searchButton = build.command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE");
+    m_logButton = build.command("Command3", "&LOG", "SAVES THE QSO TO CABRILLO FILE");
+    m_noLogButton = build.command("Command4", "&NO LOG", "DOES NOT SAVE QSO TO FILE");
+    m_readButton = build.command("Command5", "&FREQ", "READS FREQ FROM RADIO");
+    m_upButton = build.command("Command13", "&Up", "TOGGELS BAND UP ONE");
+    m_downButton = build.command("Command14", "&Down", "TOGGLES BAND DOWN ONE");
+    m_stationOption = build.jobOption(
+        "Option1", "ADD K3Y/xx", "CLICK TO ADD K3Y/xx  TO FILE - BEFORE LOGGING DX K3Y STATIONS");
+    m_audioButton = build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ");
+    m_listButton = build.command("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE");
+    m_correctButton = build.command("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE");
+    m_deleteButton = build.command("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE");
+    m_filesButton = build.command("Command9", "F&ILES", "FILE MAINTENANCE PAGE");
+    m_backupButton = build.command("Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK");
+    m_scoreButton = build.command("Command11", "S&CORE", "CALCULATES CURRENT SCORE ");
+    m_bonusButton = build.command("Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD");
+    m_exitButton = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
+    m_countBox = build.output("Text1");
+    m_workedList = build.list("List1");
+    m_bandLabel = build.label("Label10");
+    m_autoReadLabel = build.label("Label11");
+    m_fileLabel = build.label("Label12");
+    m_dupeModeLabel = build.label("Label13");
+    m_stationLabel = build.label("Label23");
+    m_workedBeforeLabel = build.label("Label24");
+    m_workedLines = new LineListModel(this);
+    m_workedList->setModel(m_workedLines);
 }
 
 void frmVantrelMain::connectHandlers() {
@@ -122,68 +128,65 @@ void frmVantrelMain::connectHandlers() {
     const auto onClick = [this](QPushButton* button, void (Main::*handler)()) {
         connectHandler(button, &QPushButton::clicked, this, handler);
     };
-    onClick(Command2, &Main::Command2_Click);
-    onClick(Command3, &Main::Command3_Click);
-    onClick(Command4, &Main::Command4_Click);
-    onClick(Command5, &Main::Command5_Click);
-    onClick(Command6, &Main::Command6_Click);
-    onClick(Command11, &Main::Command11_Click);
-    onClick(Command12, &Main::Command12_Click);
-    onClick(Command13, &Main::Command13_Click);
-    onClick(Command14, &Main::Command14_Click);
-    onClick(Command15, &Main::Command15_Click);
-    connectHandler(Option1, &QRadioButton::clicked, this, &Main::Option1_Click);
+    onClick(m_searchButton, &Main::searchClicked);
+    onClick(m_logButton, &Main::logClicked);
+    onClick(m_noLogButton, &Main::noLogClicked);
+    onClick(m_readButton, &Main::readClicked);
+    onClick(m_listButton, &Main::listClicked);
+    onClick(m_scoreButton, &Main::scoreClicked);
+    onClick(m_audioButton, &Main::audioClicked);
+    onClick(m_upButton, &Main::upClicked);
+    onClick(m_downButton, &Main::downClicked);
+    onClick(m_frequencyButton, &Main::frequencyClicked);
+    connectHandler(m_stationOption, &QRadioButton::clicked, this, &Main::stationClicked);
     const auto opens = [this](QPushButton* button, Screen screen) {
         connect(button, &QPushButton::clicked, this,
                 [this, screen] { runHandler([&] { screens().open(screen); }); });
     };
-    opens(Command7, Screen::correct);
-    opens(Command8, Screen::deletion);
-    opens(Command9, Screen::files);
-    opens(Command10, Screen::backup);
-    opens(Command16, Screen::bonus);
-    connect(Command1, &QPushButton::clicked, this, [this] { screens().quit(); });
+    opens(m_correctButton, Screen::correct);
+    opens(m_deleteButton, Screen::deletion);
+    opens(m_filesButton, Screen::files);
+    opens(m_backupButton, Screen::backup);
+    opens(m_bonusButton, Screen::bonus);
+    connect(m_exitButton, &QPushButton::clicked, this, [this] { screens().quit(); });
 }
 
 void frmVantrelMain::connectEntryBoxes() {
     using Main = frmVantrelMain;
-    for (QLineEdit* box :
-         {Text2, Combo1->lineEdit(), Combo2->lineEdit(), Text3, Text4, Text5, Text7})
+    for (QLineEdit* box : {m_callBox, m_rstSentBox->lineEdit(), m_rstReceivedBox->lineEdit(),
+                           m_nameBox, m_stateBox, m_numberBox, m_frequencyBox})
         keepUpperCase(box);
-    connectHandler(Text2, &QLineEdit::textEdited, this, &Main::Text2_Change);
-    connectHandler(Text2, &QLineEdit::returnPressed, this, &Main::Command2_Click);
+    connectHandler(m_callBox, &QLineEdit::textEdited, this, &Main::callEdited);
+    connectHandler(m_callBox, &QLineEdit::returnPressed, this, &Main::searchClicked);
     const auto nextOnEnter = [this](QLineEdit* box, QWidget* next) {
         // As Tab would: what the box holds is selected, and typing replaces it.
         connect(box, &QLineEdit::returnPressed, next,
                 [next] { next->setFocus(Qt::TabFocusReason); });
     };
-    nextOnEnter(Combo1->lineEdit(), Combo2);
-    nextOnEnter(Combo2->lineEdit(), Text3);
-    nextOnEnter(Text3, Text4);
-    nextOnEnter(Text4, Text5);
-    connectHandler(Text5, &QLineEdit::returnPressed, this, &Main::Command3_Click);
-    connectHandler(Text7, &QLineEdit::returnPressed, this, &Main::Command15_Click);
-    connectHandler(Text7, &QLineEdit::editingFinished, this, &Main::frequencyEntered);
+    nextOnEnter(m_rstSentBox->lineEdit(), m_rstReceivedBox);
+    nextOnEnter(m_rstReceivedBox->lineEdit(), m_nameBox);
+    nextOnEnter(m_nameBox, m_stateBox);
+    nextOnEnter(m_stateBox, m_numberBox);
+    connectHandler(m_numberBox, &QLineEdit::returnPressed, this, &Main::logClicked);
+    connectHandler(m_frequencyBox, &QLineEdit::returnPressed, this, &Main::frequencyClicked);
+    connectHandler(m_frequencyBox, &QLineEdit::editingFinished, this, &Main::frequencyEntered);
 }
 
 // --- Opening ---------------------------------------------------------------------------------
 
-void frmVantrelMain::Form_Load() {
-    const OperatingSettings& settings = module().settings;
-    Label12->setText(toQt("FILE NAME:  " + settings.logFileName));
-    Label13->setText(toQt(settings.logsDupes() ? "Dupes Are Logged" : "Dupes Not Logged"));
-    module().bandText = startBand;
-    Label10->setText(toQt(module().bandText));
+void frmVantrelMain::load() {
+    const OperatingSettings& settings = shared().settings;
+    put(m_fileLabel, "FILE NAME:  " + settings.logFileName);
+    put(m_dupeModeLabel, settings.logsDupes() ? "Dupes Are Logged" : "Dupes Not Logged");
     showFrequency(std::string(startFrequency));
-    Label11->setText(
-        toQt(autoReadText(settings.hasRadio() ? ReadOutcome::read : ReadOutcome::noRadio)));
-    module().marker = noMarker;
+    put(m_autoReadLabel,
+        autoReadText(settings.hasRadio() ? ReadOutcome::read : ReadOutcome::noRadio));
+    shared().marker = noMarker;
     clearEntry(EntryBoxes::empty);
-    showTag(std::string(noTagLabel));
-    module().audioOn = true;
-    Command12->setText(QStringLiteral("AUDIO ON"));
-    runHandler([this] { openLog(module(), platform().files); });
-    showLog();
+    showStation(std::string(noStationLabel));
+    shared().audioOn = true;
+    put(m_audioButton, "AUDIO ON");
+    runHandler([this] { shared().log.open(shared().settings.logFileName); });
     m_radioReadDue = settings.hasRadio();
     update();
 }
@@ -193,11 +196,11 @@ void frmVantrelMain::paintEvent(QPaintEvent* event) {
     if (!m_radioReadDue)
         return;
     m_radioReadDue = false;
-    QTimer::singleShot(0, this, [this] { runHandler([this] { Command5_Click(); }); });
+    QTimer::singleShot(0, this, [this] { runHandler([this] { readClicked(); }); });
 }
 
 QWidget* frmVantrelMain::firstFocus() {
-    return Text2;
+    return m_callBox;
 }
 
 void frmVantrelMain::closeEvent(QCloseEvent* event) {
@@ -208,96 +211,104 @@ void frmVantrelMain::closeEvent(QCloseEvent* event) {
 // --- SEARCH ----------------------------------------------------------------------------------
 
 // What a lookup filled in belongs to the call it was looked up for, and so does a mark.
-void frmVantrelMain::Text2_Change() {
-    resetDupeMarker(module());
+void frmVantrelMain::callEdited() {
+    resetDupeMarker();
     showWorkedBefore();
     if (!m_lookedUp)
         return;
-    Entry now = entry();
-    forgetLookup(now, *m_lookedUp);
+    Entry typed = entry();
+    forgetLookup(typed, *m_lookedUp);
     m_lookedUp.reset();
-    const int cursor = Text2->cursorPosition();
-    showEntry(now);
-    Text2->setCursorPosition(cursor);
+    const int cursor = m_callBox->cursorPosition();
+    showEntry(typed);
+    m_callBox->setCursorPosition(cursor);
 }
 
 // Only shows, in red where SEARCH would call it a duplicate on the present band.
 void frmVantrelMain::showWorkedBefore() {
-    const std::string typed = fromQt(Text2->text());
-    const std::string mhz = completedFrequency(frequencyAsEntered(fromQt(Text7->text())));
-    const std::string text = workedBefore(module().qsoTable, typed, workedBeforeColumns);
-    const bool duplicate = !text.empty() && isDuplicate(module().qsoTable, typed, bandTagOf(mhz));
+    const std::string typed = textOf(m_callBox);
+    const std::string mhz = completedFrequency(frequencyAsEntered(textOf(m_frequencyBox)));
+    const std::string text = workedBefore(shared().log.contacts(), typed, workedBeforeColumns);
+    const bool duplicate =
+        !text.empty() && isDuplicate(shared().log.contacts(), typed, bandTagOf(mhz));
     QPalette colours(palette());
     if (duplicate)
         colours.setColor(QPalette::WindowText, warningColour(colours));
-    Label24->setPalette(colours);
-    Label24->setText(toQt(text));
+    m_workedBeforeLabel->setPalette(colours);
+    put(m_workedBeforeLabel, text);
 }
 
-void frmVantrelMain::Command2_Click() {
+void frmVantrelMain::searchClicked() {
     const InputHold::Scope hold(m_hold);
     frequencyEntered();
-    Entry now = entry();
-    if (isComplete(now)) {
-        Command3_Click();
+    Entry typed = entry();
+    if (isComplete(typed)) {
+        logClicked();
         return;
     }
-    module().dupeFlag = false;
-    now.call = callAsEntered(now.call);
-    Text2->setText(toQt(now.call));
-    if (!lookedUpAndShown(now)) {
+    typed.call = callAsEntered(typed.call);
+    put(m_callBox, typed.call);
+    if (!lookUpAndShow(typed)) {
         toCallBox();
         return;
     }
-    if (!readRadio(now))
+    if (!readRadio(typed))
         return;
-    if (trim(now.frequency).empty()) {
+    if (trim(typed.frequency).empty()) {
         messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
-        Text2->clear();
+        m_callBox->clear();
         toCallBox();
         return;
     }
-    now.frequency = completedFrequency(now.frequency);
-    showFrequency(now.frequency);
-    checkForDupes(now);
+    typed.frequency = completedFrequency(typed.frequency);
+    showFrequency(typed.frequency);
+    checkForDupes(typed);
     toCallBox();
 }
 
 // Looks the call up and shows what it gave; false when the check ends here.
-bool frmVantrelMain::lookedUpAndShown(Entry& now) {
-    if (!canLookUp(now.call))
+bool frmVantrelMain::lookUpAndShow(Entry& typed) {
+    if (!canLookUp(typed.call))
         return false;
-    const LookupOutcome outcome = lookUp(now, module(), m_roster);
-    showEntry(now);
+    const LookupOutcome outcome = lookUp(typed, m_roster);
+    showEntry(typed);
     if (outcome == LookupOutcome::found)
-        m_lookedUp = now;
+        m_lookedUp = typed;
     return outcome != LookupOutcome::nobody;
 }
 
-void frmVantrelMain::checkForDupes(const Entry& now) {
-    const std::string bandTag = bandTagOf(now.frequency);
-    if (isDuplicate(module().qsoTable, now.call, bandTag))
+// In a sprint a duplicate is logged and marked, or refused; in the event a K3Y duplicate is
+// told besides.
+void frmVantrelMain::checkForDupes(const Entry& typed) {
+    const OperatingSettings& settings = shared().settings;
+    const Contacts& contacts = shared().log.contacts();
+    const std::string bandTag = bandTagOf(typed.frequency);
+    const bool duplicate = isDuplicate(contacts, typed.call, bandTag);
+    const bool refused = duplicate && !settings.logsDupes();
+    const bool k3yDupe = settings.isK3y() && isK3yDupe(contacts, typed.call, typed.number, bandTag);
+    if (refused)
+        clearEntry(EntryBoxes::empty);
+    shared().marker = duplicate && !refused ? dupeMarker : noMarker;
+    showStation(std::string(noStationLabel));
+    if (duplicate)
         screens().open(Screen::dupe);
-    const bool goesOn = settleDupe(module());
-    showTag(std::string(noTagLabel));
-    if (goesOn && module().settings.isK3y() &&
-        isK3yDupe(module().qsoTable, now.call, now.number, bandTag))
+    if (k3yDupe && !refused)
         messages().show({std::string(duplicateQsoText), BoxIcon::exclamation});
 }
 
 // --- LOG -------------------------------------------------------------------------------------
 
-void frmVantrelMain::Command3_Click() {
+void frmVantrelMain::logClicked() {
     const InputHold::Scope hold(m_hold);
     frequencyEntered();
-    Entry now = entry();
-    if (!canBeLogged(now)) {
+    Entry typed = entry();
+    if (!canBeLogged(typed)) {
         toCallBox();
         return;
     }
+    std::optional<std::string> line;
     try {
-        if (!assembleContact(now))
-            return;
+        line = assembledLine(typed);
     } catch (const RuntimeError& error) {
         if (error.code() != ErrorCode::invalidCall)
             throw;
@@ -305,107 +316,115 @@ void frmVantrelMain::Command3_Click() {
         clearEntry(EntryBoxes::empty);
         return;
     }
-    if (module().settings.isK3y() && isK3yDupe(module().qsoTable, module().currentLine)) {
-        screens().open(Screen::checkDupeK3y);
+    if (!line)
+        return;
+    if (shared().settings.isK3y() && isK3yDupe(shared().log.contacts(), *line)) {
+        screens().askAboutDupe({[this, dupe = asDupe(*line)] { logLine(dupe); },
+                                [this] { clearEntry(EntryBoxes::oneBlank); }});
         return;
     }
-    logContact();
+    logLine(*line);
+    showStation(std::string(noStationLabel));
 }
 
-// Assembles the log line; false, after saying why, when its frequency cannot be logged.
-bool frmVantrelMain::assembleContact(Entry& now) {
-    Qso contact = contactFrom(now, module(), platform().clock);
-    if (!readRadio(now))
-        return false;
-    const FrequencyCheck check = enterFrequency(contact, now.frequency, module());
-    showFrequency(now.frequency);
+// The contact line; nothing, after saying why, when its frequency cannot be logged.
+std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
+    const OperatingSettings& settings = shared().settings;
+    ContactFields contact = contactFrom(typed, settings, shared().marker,
+                                        utcTime(platform().clock.now(), settings.gmtOffset));
+    if (!readRadio(typed))
+        return std::nullopt;
+    const FrequencyCheck check = enterFrequency(contact, typed.frequency, settings);
+    showFrequency(typed.frequency);
     switch (check) {
     case FrequencyCheck::outsideSprintBands:
-        messages().show({now.frequency + std::string(wrongBandText), BoxIcon::critical});
+        messages().show({typed.frequency + std::string(wrongBandText), BoxIcon::critical});
         clearEntry(EntryBoxes::empty);
-        return false;
+        return std::nullopt;
     case FrequencyCheck::missing:
         messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
         toCallBox();
-        return false;
+        return std::nullopt;
     case FrequencyCheck::good:
         break;
     }
-    module().currentLine = assembleLine(contact);
-    return true;
+    return assembleLine(contact);
 }
 
-void frmVantrelMain::logContact() {
-    const bool logWasThere = platform().files.present(module().settings.logFileName);
-    appendContact(module(), platform().files);
-    // The contact is on the disk: whatever fails from here on is shown, but the boxes are
-    // cleared first, so that nobody logs it twice.
-    const std::optional<Message> failure = bringUpToDate(module(), platform().files);
-    showLog();
+// The contact is in the log once its line is on the disk: whatever fails from then on is told,
+// but the boxes are cleared first, so that nobody logs it twice.
+void frmVantrelMain::logLine(const std::string& line) {
+    Log& log = shared().log;
+    const bool logWasThere = platform().files.present(log.name());
+    log.append(line);
+    std::optional<Message> failure;
+    try {
+        log.reread();
+    } catch (const RuntimeError& error) {
+        failure = failureOnceLogged(error);
+    }
     clearEntry(EntryBoxes::empty);
-    showTag(std::string(noTagLabel));
     if (failure)
         messages().show(*failure);
     if (!logWasThere)
         messages().show({std::string(logStartedAgainText), BoxIcon::exclamation,
-                         platform().files.path(module().settings.logFileName)});
+                         platform().files.path(log.name())});
 }
 
-void frmVantrelMain::Command4_Click() {
+void frmVantrelMain::noLogClicked() {
     clearEntry(EntryBoxes::empty);
-    showTag(std::string(noTagLabel));
+    showStation(std::string(noStationLabel));
 }
 
 // --- Frequency and band ----------------------------------------------------------------------
 
-void frmVantrelMain::Command15_Click() {
+void frmVantrelMain::frequencyClicked() {
     frequencyEntered();
     toCallBox();
 }
 
 void frmVantrelMain::frequencyEntered() {
-    showFrequency(frequencyAsEntered(fromQt(Text7->text())));
+    showFrequency(frequencyAsEntered(textOf(m_frequencyBox)));
 }
 
 // Shows the frequency and the band that follows from it.
 void frmVantrelMain::showFrequency(const std::string& mhz) {
-    if (fromQt(Text7->text()) != mhz)
-        Text7->setText(toQt(mhz));
-    module().bandText = bandTextOf(mhz, module().bandText);
-    Label10->setText(toQt(module().bandText));
+    if (textOf(m_frequencyBox) != mhz)
+        put(m_frequencyBox, mhz);
+    put(m_bandLabel, bandTextOf(mhz, textOf(m_bandLabel)));
     showWorkedBefore();
 }
 
-void frmVantrelMain::Command5_Click() {
+void frmVantrelMain::readClicked() {
     const InputHold::Scope hold(m_hold);
-    Entry now = entry();
-    if (readRadio(now))
+    Entry typed = entry();
+    if (readRadio(typed))
         toCallBox();
 }
 
 // Reads the radio's frequency, if there is a radio, into the box and the entry. A radio that
 // does not answer is reported and the frequency in the box stands. False when the program is
 // being closed: the handler then ends at once.
-bool frmVantrelMain::readRadio(Entry& now) {
-    const ReadResult result = readFrequency(module(), platform().serialPort);
+bool frmVantrelMain::readRadio(Entry& typed) {
+    const ReadResult result = readFrequency(shared().settings, platform().serialPort);
     if (result.outcome == ReadOutcome::cancelled)
         return false;
-    Label11->setText(toQt(autoReadText(result.outcome)));
+    put(m_autoReadLabel, autoReadText(result.outcome));
     if (result.outcome == ReadOutcome::read) {
-        now.frequency = module().frequency;
-        showFrequency(now.frequency);
+        typed.frequency = result.frequency;
+        showFrequency(typed.frequency);
     }
     if (result.outcome == ReadOutcome::failed)
         messages().show(result.message);
     return true;
 }
 
-void frmVantrelMain::Command13_Click() {
-    stepTo(bandUp(fromQt(Label10->text())));
+void frmVantrelMain::upClicked() {
+    stepTo(bandUp(textOf(m_bandLabel)));
 }
 
-void frmVantrelMain::Command14_Click() {
-    stepTo(bandDown(fromQt(Label10->text())));
+void frmVantrelMain::downClicked() {
+    stepTo(bandDown(textOf(m_bandLabel)));
 }
 
 void frmVantrelMain::stepTo(const Band& band) {
@@ -415,89 +434,96 @@ void frmVantrelMain::stepTo(const Band& band) {
 
 // --- The other commands ----------------------------------------------------------------------
 
-void frmVantrelMain::Command12_Click() {
-    module().audioOn = !module().audioOn;
-    Command12->setText(toQt(module().audioOn ? "AUDIO ON" : "AUDIO OFF"));
+void frmVantrelMain::audioClicked() {
+    shared().audioOn = !shared().audioOn;
+    put(m_audioButton, shared().audioOn ? "AUDIO ON" : "AUDIO OFF");
     toCallBox();
 }
 
-void frmVantrelMain::Option1_Click() {
+void frmVantrelMain::stationClicked() {
     screens().open(Screen::k3yBox);
-    Option1->setChecked(fromQt(Label23->text()) != noTagLabel); // opened, nothing is chosen yet
+    m_stationOption->setChecked(textOf(m_stationLabel) !=
+                                noStationLabel); // opened, nothing is chosen yet
 }
 
-void frmVantrelMain::Command6_Click() {
-    module().listShowsAdif = false;
-    module().listFromFileScreen = false;
-    screens().open(Screen::list);
+void frmVantrelMain::listClicked() {
+    screens().openList(ListedFile::log);
 }
 
 // In the event month the standings take the place of the score.
-void frmVantrelMain::Command11_Click() {
-    screens().open(module().settings.isK3y() ? Screen::standings : Screen::score);
+void frmVantrelMain::scoreClicked() {
+    screens().open(shared().settings.isK3y() ? Screen::standings : Screen::score);
 }
 
 // --- Boxes -----------------------------------------------------------------------------------
 
 Entry frmVantrelMain::entry() const {
-    return {fromQt(Text2->text()), fromQt(Text3->text()),         fromQt(Text4->text()),
-            fromQt(Text5->text()), fromQt(Combo1->currentText()), fromQt(Combo2->currentText()),
-            fromQt(Text7->text())};
+    return {textOf(m_callBox),     textOf(m_nameBox),    textOf(m_stateBox),
+            textOf(m_numberBox),   textOf(m_rstSentBox), textOf(m_rstReceivedBox),
+            textOf(m_frequencyBox)};
 }
 
 void frmVantrelMain::showEntry(const Entry& entry) {
-    Text2->setText(toQt(entry.call));
-    Text3->setText(toQt(entry.name));
-    Text4->setText(toQt(entry.state));
-    Text5->setText(toQt(entry.number));
+    put(m_callBox, entry.call);
+    put(m_nameBox, entry.name);
+    put(m_stateBox, entry.state);
+    put(m_numberBox, entry.number);
     showWorkedBefore();
 }
 
 void frmVantrelMain::clearEntry(EntryBoxes boxes) {
     const std::string left = boxes == EntryBoxes::oneBlank ? " " : "";
     showEntry({left, left, left, left, {}, {}, {}});
-    for (QComboBox* report : {Combo1, Combo2}) {
+    for (QComboBox* report : {m_rstSentBox, m_rstReceivedBox}) {
         report->setCurrentIndex(0);
         report->setEditText(report->itemText(0));
     }
     m_lookedUp.reset();
-    resetDupeMarker(module());
+    resetDupeMarker();
     toCallBox();
 }
 
-void frmVantrelMain::showTag(const std::string& text) {
-    Label23->setText(toQt(text));
-    Option1->setChecked(text != noTagLabel);
+void frmVantrelMain::showStation(const std::string& text) {
+    put(m_stationLabel, text);
+    m_stationOption->setChecked(text != noStationLabel);
 }
 
 void frmVantrelMain::showLog() {
-    Text1->setText(toQt(countText(module())));
-    m_worked->setLines(module().workedStations.entries());
-    List1->scrollToBottom();
+    put(m_countBox, countText(shared().log.count()));
+    m_workedLines->setLines(shared().log.worked());
+    m_workedList->scrollToBottom();
+}
+
+// After a contact is logged or dropped: a "DUPE" marker goes back to six blanks, a K3Y tag
+// stays.
+void frmVantrelMain::resetDupeMarker() {
+    if (shared().marker == dupeMarker)
+        shared().marker = noMarker;
 }
 
 void frmVantrelMain::toCallBox() {
     activateWindow();
-    Text2->setFocus();
+    m_callBox->setFocus();
 }
 
 // --- Layout ----------------------------------------------------------------------------------
 
 void frmVantrelMain::layOut() {
     // Long texts are cut at the window's edge; they must not widen it.
-    for (QLabel* label : {Label12, Label24})
+    for (QLabel* label : {m_fileLabel, m_workedBeforeLabel})
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    Label24->setFont(enlargedFont(this, workedBeforeEnlargement));
+    m_workedBeforeLabel->setFont(enlargedFont(this, workedBeforeEnlargement));
     auto* page = new QVBoxLayout(this);
     page->addLayout(statusRow());
     page->addLayout(exchangeRow());
-    page->addWidget(Label24);
+    page->addWidget(m_workedBeforeLabel);
     page->addLayout(frequencyRow());
-    page->addLayout(rowOf({Command2, Command3, Command4, Command5, Command12, Option1, Label23}));
+    page->addLayout(rowOf({m_searchButton, m_logButton, m_noLogButton, m_readButton, m_audioButton,
+                           m_stationOption, m_stationLabel}));
     page->addWidget(workedHeadings());
-    page->addWidget(List1, 1);
-    page->addLayout(
-        rowOf({Command7, Command8, Command6, Command9, Command10, Command11, Command16, Command1}));
+    page->addWidget(m_workedList, 1);
+    page->addLayout(rowOf({m_correctButton, m_deleteButton, m_listButton, m_filesButton,
+                           m_backupButton, m_scoreButton, m_bonusButton, m_exitButton}));
 }
 
 QHBoxLayout* frmVantrelMain::rowOf(std::initializer_list<QWidget*> controls) {
@@ -508,7 +534,7 @@ QHBoxLayout* frmVantrelMain::rowOf(std::initializer_list<QWidget*> controls) {
 }
 
 QHBoxLayout* frmVantrelMain::statusRow() {
-    QHBoxLayout* row = rowOf({Label12, Label13, Label11});
+    QHBoxLayout* row = rowOf({m_fileLabel, m_dupeModeLabel, m_autoReadLabel});
     row->setStretch(0, 1);
     row->setSpacing(fontMetrics().averageCharWidth() * 4);
     return row;
@@ -521,9 +547,9 @@ QGridLayout* frmVantrelMain::exchangeRow() {
         QWidget* box;
         int columns;
     };
-    const Box boxes[] = {{"HIS CALL", Text2, callWidth}, {"RST SENT", Combo1, 0},
-                         {"RST RCVD", Combo2, 0},        {"NAME", Text3, nameWidth},
-                         {"STATE", Text4, stateWidth},   {"SKCC#", Text5, numberWidth}};
+    const Box boxes[] = {{"HIS CALL", m_callBox, callWidth}, {"RST SENT", m_rstSentBox, 0},
+                         {"RST RCVD", m_rstReceivedBox, 0},  {"NAME", m_nameBox, nameWidth},
+                         {"STATE", m_stateBox, stateWidth},  {"SKCC#", m_numberBox, numberWidth}};
     FormBuilder build(this);
     auto* grid = new QGridLayout;
     int column = 0;
@@ -541,16 +567,17 @@ QGridLayout* frmVantrelMain::exchangeRow() {
 
 QHBoxLayout* frmVantrelMain::frequencyRow() {
     FormBuilder build(this);
-    for (QWidget* control : {static_cast<QWidget*>(Text7), static_cast<QWidget*>(Text1),
-                             static_cast<QWidget*>(Label10)})
+    for (QWidget* control : {static_cast<QWidget*>(m_frequencyBox),
+                             static_cast<QWidget*>(m_countBox), static_cast<QWidget*>(m_bandLabel)})
         control->setFont(enlargedFont(this, entryEnlargement));
-    setColumns(Text7, 6);
-    setColumns(Text1, 5);
-    Text1->setAlignment(Qt::AlignCenter);
-    QHBoxLayout* row = rowOf({build.caption("FREQ MHz"), Text7, Command15, Command13, Command14,
-                              Label10, build.caption("QSOs"), Text1});
+    setColumns(m_frequencyBox, 6);
+    setColumns(m_countBox, 5);
+    m_countBox->setAlignment(Qt::AlignCenter);
+    QHBoxLayout* row =
+        rowOf({build.caption("FREQ MHz"), m_frequencyBox, m_frequencyButton, m_upButton,
+               m_downButton, m_bandLabel, build.caption("QSOs"), m_countBox});
     row->setStretch(5, 1);
-    Label10->setAlignment(Qt::AlignCenter);
+    m_bandLabel->setAlignment(Qt::AlignCenter);
     return row;
 }
 
@@ -565,11 +592,12 @@ QLabel* frmVantrelMain::workedHeadings() {
                                     {54, "DATE"},          {65, "DUPE"}};
     std::string line;
     for (const Heading& heading : headings)
-        line = fitLeft(line, heading.column - 1) + std::string(heading.text);
+        line = leftAligned(line, heading.column - 1) + std::string(heading.text);
     FormBuilder build(this);
     QLabel* label = build.caption(line.c_str());
     label->setFont(fixedWidthFont());
-    label->setIndent(List1->frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    label->setIndent(m_workedList->frameWidth() +
+                     style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     return label;
 }
 

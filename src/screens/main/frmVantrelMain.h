@@ -3,8 +3,8 @@
 // other screen.
 #pragma once
 
-#include "platform/qt/form.h"
-#include "platform/qt/inputhold.h"
+#include "forms/form.h"
+#include "forms/inputhold.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/qsoentry.h"
 
@@ -30,22 +30,24 @@ class frmVantrelMain : public Form, public MainPage {
 
 public:
     explicit frmVantrelMain(const FormContext& context);
+    ~frmVantrelMain() override;
 
-    void clearEntry(EntryBoxes boxes) override;
-    void showTag(const std::string& text) override;
-    void showLog() override;
+    void showStation(const std::string& text) override;
     void loadAfresh() override {
-        runHandler([this] { Form_Load(); });
+        runHandler([this] { load(); });
     }
 
 protected:
-    void Form_Load() override;
-    void Form_Escape() override { Command4_Click(); }
+    void load() override;
+    void escapePressed() override { noLogClicked(); }
     QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // What the boxes hold after a contact is dropped: nothing, or a single blank each.
+    enum class EntryBoxes { empty, oneBlank };
+
     void createControls();
     void layOut();
     QHBoxLayout* rowOf(std::initializer_list<QWidget*> controls);
@@ -57,68 +59,71 @@ private:
     void connectEntryBoxes();
 
     // In the order in which the operator meets them.
-    void Text2_Change();    // his call typed in
-    void Command2_Click();  // SEARCH, and Enter in the call box
-    void Command3_Click();  // LOG, and Enter in the number box
-    void Command4_Click();  // NO LOG
-    void Command15_Click(); // band from frequency, and Enter in its box
-    void Command5_Click();  // FREQ
-    void Command13_Click(); // band up
-    void Command14_Click(); // band down
-    void Command12_Click(); // audio
-    void Option1_Click();   // K3Y box
-    void Command6_Click();  // list the log
-    void Command11_Click(); // score
+    void callEdited();       // his call typed in
+    void searchClicked();    // SEARCH, and Enter in the call box
+    void logClicked();       // LOG, and Enter in the number box
+    void noLogClicked();     // NO LOG
+    void frequencyClicked(); // band from frequency, and Enter in its box
+    void readClicked();      // FREQ
+    void upClicked();        // band up
+    void downClicked();      // band down
+    void audioClicked();     // audio
+    void stationClicked();   // K3Y box
+    void listClicked();      // list the log
+    void scoreClicked();     // score
 
     Entry entry() const;
     void showEntry(const Entry& entry);
     void showFrequency(const std::string& mhz);
     void showWorkedBefore();
     void frequencyEntered();
-    bool lookedUpAndShown(Entry& now);
-    void checkForDupes(const Entry& now);
-    bool assembleContact(Entry& now);
-    void logContact();
-    bool readRadio(Entry& now);
+    bool lookUpAndShow(Entry& typed);
+    void checkForDupes(const Entry& typed);
+    std::optional<std::string> assembledLine(Entry& typed);
+    void logLine(const std::string& line);
+    bool readRadio(Entry& typed);
     void stepTo(const Band& band);
+    void clearEntry(EntryBoxes boxes);
+    void resetDupeMarker();
+    void showLog();
     void toCallBox();
 
-    QLineEdit* Text2;       // his call, or his SKCC number
-    QComboBox* Combo1;      // RST sent
-    QComboBox* Combo2;      // RST received
-    QLineEdit* Text3;       // his name
-    QLineEdit* Text4;       // his state
-    QLineEdit* Text5;       // his SKCC number
-    QLineEdit* Text7;       // frequency, MHz
-    QLineEdit* Text1;       // QSO counter
-    QListView* List1;       // worked stations
-    QLabel* Label10;        // band
-    QLabel* Label11;        // auto read on or off
-    QLabel* Label12;        // log file
-    QLabel* Label13;        // dupes logged or not
-    QLabel* Label24;        // worked before, as one types
-    QLabel* Label23;        // K3Y station tag
-    QRadioButton* Option1;  // ADD K3Y/xx
-    QPushButton* Command1;  // exit
-    QPushButton* Command2;  // SEARCH
-    QPushButton* Command3;  // LOG
-    QPushButton* Command4;  // NO LOG
-    QPushButton* Command5;  // FREQ
-    QPushButton* Command6;  // list
-    QPushButton* Command7;  // correct
-    QPushButton* Command8;  // delete
-    QPushButton* Command9;  // files
-    QPushButton* Command10; // backup
-    QPushButton* Command11; // score
-    QPushButton* Command12; // audio
-    QPushButton* Command13; // band up
-    QPushButton* Command14; // band down
-    QPushButton* Command15; // band from frequency
-    QPushButton* Command16; // bonus
+    QLineEdit* m_callBox;
+    QComboBox* m_rstSentBox;
+    QComboBox* m_rstReceivedBox;
+    QLineEdit* m_nameBox;
+    QLineEdit* m_stateBox;
+    QLineEdit* m_numberBox;
+    QLineEdit* m_frequencyBox;
+    QLineEdit* m_countBox;
+    QListView* m_workedList;
+    QLabel* m_bandLabel;
+    QLabel* m_autoReadLabel;
+    QLabel* m_fileLabel;
+    QLabel* m_dupeModeLabel;
+    QLabel* m_workedBeforeLabel;
+    QLabel* m_stationLabel;
+    QRadioButton* m_stationOption;
+    QPushButton* m_exitButton;
+    QPushButton* m_searchButton;
+    QPushButton* m_logButton;
+    QPushButton* m_noLogButton;
+    QPushButton* m_readButton;
+    QPushButton* m_listButton;
+    QPushButton* m_correctButton;
+    QPushButton* m_deleteButton;
+    QPushButton* m_filesButton;
+    QPushButton* m_backupButton;
+    QPushButton* m_scoreButton;
+    QPushButton* m_audioButton;
+    QPushButton* m_upButton;
+    QPushButton* m_downButton;
+    QPushButton* m_frequencyButton;
+    QPushButton* m_bonusButton;
 
     InputHold m_hold; // what is typed while the radio is read
     Roster m_roster;
-    LineListModel* m_worked;         // behind List1
+    LineListModel* m_workedLines;
     std::optional<Entry> m_lookedUp; // what the last lookup filled in
     bool m_radioReadDue = false;     // the radio is read once after the first paint
 };

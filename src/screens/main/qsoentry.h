@@ -3,8 +3,10 @@
 // step, without a window.
 #pragma once
 
+#include "base/integer16.h"
+#include "base/runtimeerror.h"
+#include "log/qsoline.h"
 #include "platform/messages.h"
-#include "shared/qsoline.h"
 
 #include <optional>
 #include <string>
@@ -12,10 +14,9 @@
 
 namespace vantrel {
 
-class Clock;
-class Files;
 class Roster;
-struct Module1;
+struct OperatingSettings;
+struct UtcTime;
 
 // What the entry boxes hold.
 struct Entry {
@@ -61,7 +62,7 @@ enum class LookupOutcome {
 };
 
 // Looks the trimmed call, or member number, up in the roster. Throws as Files::read.
-LookupOutcome lookUp(Entry& entry, Module1& module, Roster& roster);
+LookupOutcome lookUp(Entry& entry, Roster& roster);
 
 // The values a lookup filled in and that the operator has not changed are cleared again:
 // they belong to the call they were looked up for.
@@ -70,30 +71,23 @@ void forgetLookup(Entry& entry, const Entry& lookedUp);
 // False when the call has fewer than three characters: LOG then does nothing.
 bool canBeLogged(const Entry& entry);
 
-// The contact's fields from the boxes and the settings, cut and padded to their widths, at the
-// UTC time of `clock` (kept in module.utc); the frequency still missing. Commas and control
-// characters become blanks. Throws RuntimeError 5 when a setting is wider than its field.
-Qso contactFrom(const Entry& entry, Module1& module, const Clock& clock);
+// The contact's fields from the boxes and the settings, cut and padded to their widths; the
+// frequency still missing. Commas and control characters become blanks. Throws RuntimeError 5
+// when a setting is wider than its field.
+ContactFields contactFrom(const Entry& entry, const OperatingSettings& settings,
+                          std::string_view marker, const UtcTime& utc);
 
 enum class FrequencyCheck { good, outsideSprintBands, missing };
 
 // Completes `mhz` in place and puts it into the contact's kHz field.
-FrequencyCheck enterFrequency(Qso& contact, std::string& mhz, const Module1& module);
+FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
+                              const OperatingSettings& settings);
 
-// Reads the log into the table from nothing and rebuilds the worked-stations list and file.
-// Throws RuntimeError 9 for a log beyond the table, what fits being there, and as Files.
-void openLog(Module1& module, Files& files);
-
-// Appends module.currentLine to the log: on the disk when this returns. Throws as
-// Files::appendLine.
-void appendContact(const Module1& module, Files& files);
-
-// Reloads the log and adds the contact to the worked-stations list and file. The contact is
-// logged whatever fails here (a full table, a file): returned is what to tell the operator
-// then, once his boxes are cleared.
-std::optional<Message> bringUpToDate(Module1& module, Files& files);
+// What to tell the operator when something fails although the contact is in the log (a full
+// table, a file), once his boxes are cleared.
+Message failureOnceLogged(const RuntimeError& error);
 
 // The count box: "00", "09", "10", "12000".
-std::string countText(const Module1& module);
+std::string countText(Integer16 contacts);
 
 } // namespace vantrel

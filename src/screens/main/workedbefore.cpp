@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/workedbefore.h"
 
-#include "shared/bands.h"
-#include "shared/qsoline.h"
-#include "shared/qsotable.h"
+#include "log/bands.h"
+#include "log/qsoline.h"
 
 #include <algorithm>
 #include <vector>
@@ -27,9 +26,9 @@ std::string_view bandName(std::string_view line) {
     return band == nullptr ? trim(khz) : band->label.substr(0, band->label.size() - 1);
 }
 
-std::vector<Worked> workedWith(const QsoTable& table, std::string_view typed) {
+std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed) {
     std::vector<Worked> result;
-    for (const std::string_view line : table.lines()) {
+    for (const std::string_view line : contacts) {
         if (mid(line, qso::hisCall.first, length(typed)) != typed)
             continue;
         const std::string_view call = trim(qso::hisCall.of(line));
@@ -53,11 +52,11 @@ std::string textOf(const Worked& worked) {
 
 } // namespace
 
-std::string workedBefore(const QsoTable& table, std::string_view typed, int columns) {
+std::string workedBefore(const Contacts& contacts, std::string_view typed, int columns) {
     if (length(typed) < fewestTyped)
         return {};
     std::string result;
-    for (const Worked& worked : workedWith(table, typed)) {
+    for (const Worked& worked : workedWith(contacts, typed)) {
         std::string next = result.empty() ? "" : "  ";
         next += textOf(worked);
         if (length(result) + length(next) > columns)

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "screens/start/frmVantrelStart.h"
 
+#include "base/fixedtext.h"
+#include "forms/formbuilder.h"
+#include "log/logfile.h"
+#include "platform/clock.h"
 #include "platform/files.h"
-#include "platform/qt/formbuilder.h"
+#include "shared/utctime.h"
 #include "platform/qt/latin1.h"
 #include "platform/serialnames.h"
 #include "screens/start/startlists.h"
 #include "screens/start/startlog.h"
-#include "shared/fixedtext.h"
-#include "shared/logfile.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -105,8 +107,8 @@ void frmVantrelStart::connectHandlers() {
 
 // --- Opening ---------------------------------------------------------------------------------
 
-void frmVantrelStart::Form_Load() {
-    const OperatingSettings& settings = module().settings;
+void frmVantrelStart::load() {
+    const OperatingSettings& settings = shared().settings;
     const auto select = [](QComboBox* combo, const std::vector<ListEntry>& list,
                            std::string_view value, std::string_view otherwise) {
         combo->setCurrentIndex(positionOf(list, value, otherwise));
@@ -179,8 +181,7 @@ void frmVantrelStart::Command4_Click() {
 }
 
 void frmVantrelStart::Command3_Click() {
-    module().finderMode = FinderMode::start;
-    screens().open(Screen::finder);
+    screens().openFinder(Screen::start);
 }
 
 void frmVantrelStart::Combo7_Change() {
@@ -196,18 +197,20 @@ void frmVantrelStart::Combo7_Change() {
 }
 
 void frmVantrelStart::startNewFile() {
-    OperatingSettings settings = storedSettings(pageSettings());
+    const OperatingSettings settings = storedSettings(pageSettings());
     // The file gets the name as it was typed; START finds it whatever its case.
-    settings.logFileName = trim(withoutSeparatorsAndQuotes(fromQt(Text9->text())));
+    const std::string name(trim(withoutSeparatorsAndQuotes(fromQt(Text9->text()))));
     Label14->clear();
-    refuseOwnFile(platform().files, settings.logFileName);
-    const std::string kept = startNewLog(platform().files, settings);
+    refuseOwnFile(platform().files, name);
+    const std::string kept =
+        startNewLog(platform().files, name,
+                    logHeader(settings.contestText, settings.myCall, settings.myNumber));
     Label14->setText(toQt(kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept));
 }
 
 void frmVantrelStart::Combo5_Change() {
-    module().utc = utcTime(platform().clock.now(), stored(Combo5));
-    Label12->setText(toQt(module().utc.time + " UTC   " + module().utc.date));
+    const UtcTime utc = utcTime(platform().clock.now(), stored(Combo5));
+    Label12->setText(toQt(utc.time + " UTC   " + utc.date));
 }
 
 void frmVantrelStart::Combo2_Change() {
@@ -231,7 +234,7 @@ void frmVantrelStart::Command2_Click() {
     switch (probeLog(platform().files, settings.logFileName)) {
     case LogProbe::opened:
         // Not before: a main page behind this one goes on with the log that it shows.
-        module().settings = settings;
+        shared().settings = settings;
         openMainPage();
         break;
     case LogProbe::fileNotFound:

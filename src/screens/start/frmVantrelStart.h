@@ -2,7 +2,7 @@
 // The start page: contest, operator, log file, radio; START saves them and opens the log.
 #pragma once
 
-#include "platform/qt/form.h"
+#include "forms/form.h"
 
 class QComboBox;
 class QGridLayout;
@@ -28,8 +28,8 @@ public:
     bool loadsAgain() const override { return true; }
 
 protected:
-    void Form_Load() override;
-    void Form_Escape() override {}
+    void load() override;
+    void escapePressed() override {}
     QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "screens/start/startlog.h"
 
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
+#include "log/log.h"
 #include "platform/files.h"
 #include "roster/rosterrecord.h"
-#include "screens/main/workedstations.h"
-#include "shared/fixedtext.h"
-#include "shared/runtimeerror.h"
 #include "shared/settings.h"
 
 #include <vector>

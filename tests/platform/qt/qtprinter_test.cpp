@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "base/fixedtext.h"
 #include "platform/qt/qtprinter.h"
-#include "shared/fixedtext.h"
 #include "support/contacts.h"
 #include "support/tempfolder.h"
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // An independent witness: the radio library's own command, where it is installed, must read
 // the same frequency from the simulated radio as the program does.
+#include "base/fixedtext.h"
 #include "fakes/qt/ptyradio.h"
 #include "platform/files.h"
 #include "platform/qt/qtserialport.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
-#include "shared/fixedtext.h"
 #include "shared/module1.h"
 #include "support/tempfolder.h"
 

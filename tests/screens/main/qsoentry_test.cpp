@@ -26,7 +26,7 @@ protected:
     }
 
     std::string lineFor(const Entry& entry) {
-        Qso contact = contactFrom(entry, module, clock);
+        ContactFields contact = contactFrom(entry, module, clock);
         std::string mhz = entry.frequency;
         EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::good);
         return assembleLine(contact);
@@ -57,7 +57,7 @@ TEST_F(QsoEntry, SeparatorsNeverReachTheLine) {
 }
 
 TEST_F(QsoEntry, OtherBandsAreLoggedInTheEventOnly) {
-    Qso contact;
+    ContactFields contact;
     std::string mhz = "10";
     EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::outsideSprintBands);
     EXPECT_EQ(mhz, "10.000");

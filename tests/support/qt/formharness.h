@@ -29,7 +29,7 @@ public:
     FakePrinter printer;
     FakeLauncher launcher;
     Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
-    Module1 module;
+    Module1 module{files};
     AppScreens screens{module, platform};
 };
 

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// Fixed-width text: columns, trimming, padding, upper case. One byte is one column
+// (ISO 8859-1); nothing here depends on the locale. Columns count from 1.
+#pragma once
+
+#include <cstring>
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+// `count` bytes from column `first`; shorter or empty when the text ends before.
+std::string_view mid(std::string_view text, int first, int count);
+// From column `first` to the end of the text.
+std::string_view midToEnd(std::string_view text, int first);
+// The first / last `count` bytes; the whole text when it is shorter.
+std::string_view left(std::string_view text, int count);
+std::string_view right(std::string_view text, int count);
+
+// Whether the text begins with the word / is the word. Here, so that a word of known length is
+// compared without a call into the library: a score asks this of every contact.
+inline bool begins(std::string_view text, std::string_view word) {
+    return text.size() >= word.size() && std::memcmp(text.data(), word.data(), word.size()) == 0;
+}
+inline bool isExactly(std::string_view text, std::string_view word) {
+    return text.size() == word.size() && begins(text, word);
+}
+
+// The text's length in columns.
+int length(std::string_view text);
+
+// Without leading and trailing blanks (blanks only: no tabs, no other white space).
+std::string_view trim(std::string_view text);
+std::string_view trimLeft(std::string_view text);
+std::string_view trimRight(std::string_view text);
+
+// Upper case of ISO 8859-1: a-z and the accented letters that have a capital there
+// (not the sharp s, not y with diaeresis).
+char upper(char character);
+std::string upper(std::string_view text);
+
+bool isDigit(char character);
+// A capital A-Z.
+bool isCapital(char character);
+// How many characters of the text are capitals A-Z.
+int countCapitals(std::string_view text);
+
+// Blanks on the right up to `width`. Throws RuntimeError 5 naming `field` when the text is
+// longer: there is no negative number of blanks.
+std::string padded(std::string_view text, int width, std::string_view field);
+// Cut to `width`, then padded on the right with blanks to it. Never throws.
+std::string leftAligned(std::string_view text, int width);
+// Cut to the first `width`, then padded on the left with blanks to it. Never throws.
+std::string rightAligned(std::string_view text, int width);
+std::string blanks(int count);
+
+// Commas and control characters become blanks: a line's readers split at commas.
+std::string withoutSeparators(std::string_view text);
+// The same, and double quotes too: what may stand in the configuration file.
+std::string withoutSeparatorsAndQuotes(std::string_view text);
+
+// The numeric reading: skips leading blanks, takes an optional sign and the digits that
+// follow; 0 without any. Throws RuntimeError 6 beyond 64 bits.
+long long numericValue(std::string_view text);
+
+// `value` as decimal text, zero-padded on the left to `digits`.
+std::string zeroPadded(int value, int digits);
+
+} // namespace vantrel

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "base/itemreader.h"
+
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace vantrel {
+
+namespace {
+
+// Takes the text up to the next LF off `rest`, and the LF with a CR before it.
+std::string_view takeLine(std::string_view& rest) {
+    const std::size_t end = rest.find('\n');
+    if (end == std::string_view::npos)
+        return std::exchange(rest, {});
+    const bool carriageReturn = end > 0 && rest[end - 1] == '\r';
+    const std::string_view line = rest.substr(0, carriageReturn ? end - 1 : end);
+    rest.remove_prefix(end + 1);
+    return line;
+}
+
+} // namespace
+
+std::string_view ItemReader::next() {
+    if (atEnd())
+        throw RuntimeError(ErrorCode::inputPastEnd, "after line " + std::to_string(m_lineNumber));
+    if (!m_insideLine) {
+        m_line = takeLine(m_rest);
+        ++m_lineNumber;
+    }
+
+    if (m_line.starts_with(' ')) // seldom: a look at each line would cost more than the rest
+        m_line = trimLeft(m_line);
+    const bool quoted = !m_line.empty() && m_line.front() == '"';
+    if (quoted)
+        m_line.remove_prefix(1);
+    const std::size_t closing = quoted ? std::min(m_line.find('"'), m_line.size()) : 0;
+    const std::size_t comma = m_line.find(',', closing);
+    const std::string_view item = m_line.substr(0, quoted ? closing : comma);
+
+    m_insideLine = comma != std::string_view::npos;
+    if (m_insideLine)
+        m_line.remove_prefix(comma + 1);
+    return item;
+}
+
+std::string_view LineReader::next() {
+    if (atEnd())
+        throw RuntimeError(ErrorCode::inputPastEnd, "no further line");
+    return takeLine(m_rest);
+}
+
+} // namespace vantrel

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// What controls show and hold, as the rules' text (ISO 8859-1): forms speak of no conversions.
+#pragma once
+
+#include "platform/qt/latin1.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace vantrel {
+
+inline void put(QLabel* label, std::string_view text) {
+    label->setText(toQt(text));
+}
+inline void put(QLineEdit* box, std::string_view text) {
+    box->setText(toQt(text));
+}
+inline void put(QAbstractButton* button, std::string_view caption) {
+    button->setText(toQt(caption));
+}
+
+inline std::string textOf(const QLabel* label) {
+    return fromQt(label->text());
+}
+inline std::string textOf(const QLineEdit* box) {
+    return fromQt(box->text());
+}
+inline std::string textOf(const QComboBox* box) {
+    return fromQt(box->currentText());
+}
+
+} // namespace vantrel

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// What every screen has in common: its context, the guard around handlers, opening, Esc.
+#pragma once
+
+#include "base/runtimeerror.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+#include "shared/module1.h"
+#include "shared/screens.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <exception>
+
+namespace vantrel {
+
+struct FormContext {
+    Module1& shared;
+    Platform& platform;
+    Screens& screens;
+};
+
+class Form : public QWidget {
+    Q_OBJECT
+
+public:
+    // name: the screen's objectName; caption: its window title.
+    Form(const FormContext& context, const char* name, const char* caption);
+
+    // Loads and shows the form; closing it returns to `opener`.
+    void open(QWidget* opener);
+    // Brings the form to the front and puts the focus where its work starts.
+    virtual void bringToFront();
+    // Whether opening the screen again while it shows loads it again.
+    virtual bool loadsAgain() const { return false; }
+    // Closed for good: the form lives until the event loop comes round, but must not come back.
+    bool isGone() const { return m_gone; }
+    // The window that closing leads back to; nullptr when there is none any more.
+    QWidget* opener() const { return m_opener; }
+
+protected:
+    // The screen's load: fills the controls; runs inside the guard.
+    virtual void load() {}
+    // What Esc does: closes the form unless the screen says otherwise.
+    virtual void escapePressed() { close(); }
+    // The control that has the focus after opening and after every message box.
+    virtual QWidget* firstFocus() { return nullptr; }
+
+    // For screens that are worked on; boxes that ask or tell one thing open as small as they are.
+    void openAtPageSize() { resize(800, 600); }
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+    // Connects a signal to a handler inside the guard. Only the signal's first arguments
+    // that the handler takes are handed on.
+    template <typename Sender, typename Signal, typename Self, typename... Args>
+    void connectHandler(Sender* sender, Signal signal, Self* self, void (Self::*handler)(Args...)) {
+        connect(sender, signal, self, [self, handler](Args... args) {
+            self->runHandler([&] { (self->*handler)(args...); });
+        });
+    }
+
+    // The one boundary: runs the handler; a run-time error is shown in a critical message box
+    // and ends that operation. The form may be gone afterwards.
+    template <typename Handler>
+    void runHandler(Handler&& handler) {
+        Messages& messages = m_context.platform.messages;
+        try {
+            handler();
+        } catch (const RuntimeError& error) {
+            messages.show({error.headline(), BoxIcon::critical, error.detail()});
+        } catch (const std::exception& error) {
+            messages.show({"AN ERROR HAS OCCURED", BoxIcon::critical, error.what()});
+        }
+    }
+
+    Module1& shared() { return m_context.shared; }
+    Platform& platform() { return m_context.platform; }
+    Screens& screens() { return m_context.screens; }
+    Messages& messages() { return m_context.platform.messages; }
+
+private:
+    FormContext m_context;
+    QPointer<QWidget> m_opener;
+    bool m_gone = false;
+};
+
+} // namespace vantrel

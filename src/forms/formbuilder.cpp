@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "forms/formbuilder.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QShortcutEvent>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+QString text(const char* latin1) {
+    return QString::fromLatin1(latin1);
+}
+
+// A box that a lookup has filled is padded to its width, with no room to type into: what is
+// typed takes the padding's place, and that of the blanks alone in an emptied box.
+class TextBox : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!event->text().isEmpty() && event->text().front().isPrint() && !hasSelectedText())
+            dropPadding();
+        QLineEdit::keyPressEvent(event);
+    }
+
+private:
+    void dropPadding() {
+        const QString shown = text();
+        const auto kept = shown.size() - countTrailingBlanks(shown);
+        const bool inTheWay = kept == 0 || shown.size() == maxLength();
+        if (kept == shown.size() || !inTheWay)
+            return;
+        const int cursor = cursorPosition();
+        setText(shown.first(kept));
+        setCursorPosition(std::min(cursor, static_cast<int>(kept)));
+    }
+
+    static qsizetype countTrailingBlanks(const QString& shown) {
+        const auto end = std::find_if(shown.crbegin(), shown.crend(),
+                                      [](QChar character) { return character != u' '; });
+        return end - shown.crbegin();
+    }
+};
+
+// Chosen by a click anywhere in its row, not on its text alone.
+class OptionButton : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+};
+
+// Runs a job by each click; the last one run is the one that is chosen.
+class JobButton : public OptionButton {
+public:
+    JobButton(const QString& caption, QWidget* form) : OptionButton(caption, form) {
+        // In an exclusive group the arrow keys would run every job they pass.
+        setAutoExclusive(false);
+    }
+
+protected:
+    void nextCheckState() override {
+        for (QRadioButton* other : window()->findChildren<QRadioButton*>())
+            if (!other->autoExclusive())
+                other->setChecked(other == this);
+    }
+};
+
+// Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is
+// typed meanwhile would still go into the contact being logged.
+class CommandButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+            return QPushButton::event(event);
+        click();
+        return true;
+    }
+};
+} // namespace
+
+template <typename Control>
+Control* FormBuilder::named(Control* control, const char* name, const char* toolTip) {
+    control->setObjectName(vantrel::text(name));
+    control->setToolTip(vantrel::text(toolTip));
+    return control;
+}
+
+QLineEdit* FormBuilder::text(const char* name, int width, const char* toolTip) {
+    QLineEdit* box = named(new TextBox(m_form), name, toolTip);
+    if (width > 0)
+        box->setMaxLength(width);
+    return box;
+}
+
+QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
+    QLineEdit* box = named(new QLineEdit(m_form), name, toolTip);
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::NoFocus);
+    return box;
+}
+
+QPushButton* FormBuilder::command(const char* name, const char* caption, const char* toolTip) {
+    return named(new CommandButton(vantrel::text(caption), m_form), name, toolTip);
+}
+
+QLabel* FormBuilder::label(const char* name, const char* caption) {
+    QLabel* label = named(new QLabel(m_form), name, "");
+    label->setTextFormat(Qt::PlainText);
+    label->setText(vantrel::text(caption));
+    return label;
+}
+
+QLabel* FormBuilder::caption(const char* text, QWidget* buddy) {
+    auto* label = new QLabel(m_form);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(vantrel::text(text));
+    label->setBuddy(buddy);
+    if (buddy != nullptr)
+        buddy->setAccessibleName(vantrel::text(text));
+    return label;
+}
+
+void FormBuilder::row(QFormLayout* form, const char* text, QWidget* box) {
+    form->addRow(caption(text, box), box);
+}
+
+QComboBox* FormBuilder::combo(const char* name, const char* toolTip) {
+    return named(new QComboBox(m_form), name, toolTip);
+}
+
+QComboBox* FormBuilder::editableCombo(const char* name, const char* toolTip) {
+    QComboBox* combo = this->combo(name, toolTip);
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setCompleter(nullptr);
+    return combo;
+}
+
+QRadioButton* FormBuilder::option(const char* name, const char* caption, const char* toolTip) {
+    return named(new OptionButton(vantrel::text(caption), m_form), name, toolTip);
+}
+
+QRadioButton* FormBuilder::jobOption(const char* name, const char* caption, const char* toolTip) {
+    return named(new JobButton(vantrel::text(caption), m_form), name, toolTip);
+}
+
+QListView* FormBuilder::list(const char* name, const char* toolTip) {
+    QListView* list = named(new QListView(m_form), name, toolTip);
+    list->setFont(fixedWidthFont());
+    list->setUniformItemSizes(true);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    return list;
+}
+
+// No group box: the style draws that one's frame from a picture, and to read the first picture
+// takes longer than all else that the start page does.
+QLayout* FormBuilder::section(const char* title, QLayout* content) {
+    auto* frame = new QFrame(m_form);
+    frame->setFrameShape(QFrame::StyledPanel);
+    frame->setAccessibleName(vantrel::text(title));
+    frame->setLayout(content);
+    auto* part = new QVBoxLayout;
+    part->addWidget(caption(title));
+    part->addWidget(frame, 1);
+    return part;
+}
+
+QFont fixedWidthFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    // As large as everything else: the system's own fixed font knows no larger setting.
+    font.setPointSizeF(QApplication::font().pointSizeF());
+    return font;
+}
+
+QFont enlargedFont(const QWidget* widget, double factor, bool bold) {
+    QFont font = widget->font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(bold);
+    return font;
+}
+
+QFont familyFont(const QWidget* widget, const char* family) {
+    QFont font = widget->font();
+    font.setFamily(QString::fromLatin1(family));
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+void setColumns(QLineEdit* box, int columns) {
+    const QFontMetrics metrics(box->font());
+    // A digit is as wide as most capitals; a frame and the cursor need two more.
+    box->setMinimumWidth(metrics.horizontalAdvance(QLatin1Char('0')) * (columns + 2));
+}
+
+} // namespace vantrel

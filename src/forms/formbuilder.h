@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// Typed makers of controls: each sets parent, objectName, caption and tool tip and returns
+// the control. Creation order is tab order.
+#pragma once
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <string_view>
+
+namespace vantrel {
+
+class FormBuilder {
+public:
+    explicit FormBuilder(QWidget* form) : m_form(form) {}
+
+    // A one-line box that takes at most `width` characters; 0: no limit. What is typed takes
+    // the place of the blanks that pad it.
+    QLineEdit* text(const char* name, int width = 0, const char* toolTip = "");
+    // A box to read from only; out of the tab order.
+    QLineEdit* output(const char* name, const char* toolTip = "");
+    // A button whose Alt key clicks it at once.
+    QPushButton* command(const char* name, const char* caption, const char* toolTip = "");
+    // Plain text, never markup.
+    QLabel* label(const char* name, const char* caption = "");
+    // A caption without a name of its own; `buddy` is the box it names, to screen readers too,
+    // and gets the focus on its Alt key.
+    QLabel* caption(const char* text, QWidget* buddy = nullptr);
+    // A row of a form: a box behind its caption, tied as above.
+    void row(QFormLayout* form, const char* caption, QWidget* box);
+    QComboBox* combo(const char* name, const char* toolTip = "");
+    // A combo that one can also type into: nothing completes or inserts by itself.
+    QComboBox* editableCombo(const char* name, const char* toolTip = "");
+    // Its whole rectangle takes the click.
+    QRadioButton* option(const char* name, const char* caption, const char* toolTip = "");
+    // An option that runs a job on every click and belongs to no exclusive group.
+    QRadioButton* jobOption(const char* name, const char* caption, const char* toolTip = "");
+    // A list of lines in the fixed-width font.
+    QListView* list(const char* name, const char* toolTip = "");
+    // A framed part of the page, under its title.
+    QLayout* section(const char* title, QLayout* content);
+
+private:
+    template <typename Control>
+    Control* named(Control* control, const char* name, const char* toolTip);
+
+    QWidget* m_form;
+};
+
+// The fixed-width font in which columns line up.
+QFont fixedWidthFont();
+// The form's font enlarged by `factor`, for what is read across the desk.
+QFont enlargedFont(const QWidget* widget, double factor, bool bold = true);
+// The form's font in another family; where that is not installed, the system's nearest.
+QFont familyFont(const QWidget* widget, const char* family);
+// A box `columns` characters of its font wide (at least).
+void setColumns(QLineEdit* box, int columns);
+
+} // namespace vantrel

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "forms/inputhold.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWidget>
+
+#include <algorithm>
+#include <utility>
+
+namespace vantrel {
+
+namespace {
+
+bool isKey(const QEvent& event) {
+    return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
+           event.type() == QEvent::InputMethod;
+}
+
+// A ShortcutOverride only asks who wants the key and changes nothing, so it passes: what it
+// leads to, a key or a shortcut, is kept.
+bool isInput(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::Shortcut:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+        return true;
+    case QEvent::MouseMove: // a drag; hovering does nothing
+        return static_cast<const QMouseEvent&>(event).buttons() != Qt::NoButton;
+    default:
+        return isKey(event);
+    }
+}
+
+} // namespace
+
+InputHold::InputHold(QWidget* window, std::function<void()> giveUp)
+    : QObject(window), m_window(window), m_giveUp(std::move(giveUp)) {}
+
+void InputHold::begin() {
+    if (m_scopes++ == 0)
+        qApp->installEventFilter(this);
+}
+
+void InputHold::end() {
+    if (--m_scopes > 0)
+        return;
+    if (m_kept.empty() && m_closing == Closing::no && !m_delivering)
+        qApp->removeEventFilter(this);
+    else
+        scheduleDelivery();
+}
+
+bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver == m_window && event->type() == QEvent::WindowUnblocked)
+        scheduleDelivery(); // it waited for a message box
+    if (keepsClosing(receiver, event))
+        return true;
+    if (event->type() == QEvent::FocusOut && m_scopes > 0 && receiver->isWidgetType() &&
+        static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+        m_focusBeforeClick = static_cast<QWidget*>(receiver);
+    if (!keepsInput(*event))
+        return false;
+    const bool toFocus = isKey(*event) && receiver == QApplication::focusWidget();
+    m_kept.push_back({receiver, std::unique_ptr<QEvent>(event->clone()), toFocus});
+    event->accept();
+    // A click handed straight to a control has moved the focus before anybody could keep it;
+    // the keys kept before it come first.
+    if (m_focusBeforeClick != nullptr)
+        std::exchange(m_focusBeforeClick, nullptr)->setFocus();
+    return true;
+}
+
+bool InputHold::keepsInput(const QEvent& event) const {
+    if (!isInput(event) || QApplication::activeModalWidget() != nullptr)
+        return false;
+    // What is being delivered goes through as events that are not the system's own; the
+    // operator's go to the end of the queue.
+    return m_scopes > 0 || !m_delivering || event.spontaneous();
+}
+
+// The window must not go while one of its handlers is still running.
+bool InputHold::keepsClosing(QObject* receiver, QEvent* event) {
+    const bool window = receiver == m_window && event->type() == QEvent::Close;
+    const bool program = receiver == qApp && event->type() == QEvent::Quit;
+    if (m_scopes == 0 || (!window && !program))
+        return false;
+    m_closing = program ? Closing::program : std::max(m_closing, Closing::window);
+    event->ignore();
+    m_giveUp();
+    return true;
+}
+
+void InputHold::scheduleDelivery() {
+    QMetaObject::invokeMethod(this, &InputHold::deliver, Qt::QueuedConnection);
+}
+
+void InputHold::deliver() {
+    if (m_delivering || m_scopes > 0)
+        return; // goes on when the handler in between has ended
+    const QPointer<InputHold> self(this);
+    m_delivering = true;
+    while (m_closing == Closing::no && !m_kept.empty() &&
+           QApplication::activeModalWidget() == nullptr) {
+        deliverNext();
+        if (!self)
+            return;
+        if (!m_window->isVisible())
+            m_kept.clear(); // typed for a page that has been left
+    }
+    m_delivering = false;
+    if (m_closing != Closing::no)
+        finishClosing();
+    else if (m_kept.empty())
+        qApp->removeEventFilter(this);
+}
+
+void InputHold::deliverNext() {
+    const Kept next = std::move(m_kept.front());
+    m_kept.pop_front();
+    QObject* receiver = next.receiver;
+    if (auto* const button = qobject_cast<QAbstractButton*>(receiver);
+        button != nullptr && next.event->type() == QEvent::Shortcut)
+        return button->click(); // at once: its own way to click would come after the next key
+    if (auto* const control = qobject_cast<QWidget*>(receiver); next.toFocus && control != nullptr)
+        receiver = control->window()->focusWidget();
+    if (receiver != nullptr)
+        QApplication::sendEvent(receiver, next.event.get());
+}
+
+// What was typed before closing is dropped: the handler it would have followed was given up.
+void InputHold::finishClosing() {
+    m_kept.clear();
+    qApp->removeEventFilter(this);
+    if (std::exchange(m_closing, Closing::no) == Closing::program)
+        QCoreApplication::quit();
+    else
+        m_window->close();
+}
+
+} // namespace vantrel

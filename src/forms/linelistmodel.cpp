@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "forms/linelistmodel.h"
+
+#include "platform/qt/latin1.h"
+
+#include <utility>
+
+namespace vantrel {
+
+void LineListModel::setLines(std::vector<std::string> lines) {
+    beginResetModel();
+    m_lines = std::move(lines);
+    endResetModel();
+}
+
+void LineListModel::appendLine(std::string line) {
+    const int row = rowCount();
+    beginInsertRows({}, row, row);
+    m_lines.push_back(std::move(line));
+    endInsertRows();
+}
+
+int LineListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
+}
+
+QVariant LineListModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+        return {};
+    return toQt(m_lines.at(static_cast<std::size_t>(index.row())));
+}
+
+} // namespace vantrel

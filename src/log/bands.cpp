@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "log/bands.h"
+
+#include "base/fixedtext.h"
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+const Band* bandWhere(std::string_view Band::*key, std::string_view text) {
+    const auto* const found = std::find_if(
+        bands.begin(), bands.end(), [&](const Band& band) { return band.*key == left(text, 2); });
+    return found == bands.end() ? nullptr : found;
+}
+} // namespace
+
+const Band* bandOfKhz(std::string_view khzField) {
+    return bandWhere(&Band::bandTag, khzField);
+}
+
+const Band* bandOfMhz(std::string_view mhz) {
+    return bandWhere(&Band::mhzPrefix, mhz);
+}
+
+std::string_view bandTextOf(std::string_view mhz, std::string_view otherwise) {
+    const Band* band = bandOfMhz(mhz);
+    return band == nullptr || band->text.empty() ? otherwise : band->text;
+}
+
+} // namespace vantrel

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "output/adif/adif.h"
+
+#include "log/bands.h"
+#include "log/log.h"
+#include "log/outputfiles.h"
+#include "log/qsoline.h"
+#include "output/adif/adifitem.h"
+#include "platform/files.h"
+
+namespace vantrel {
+
+namespace {
+
+// Where a date written year first has its parts. One written month first, after a month end,
+// is cut at the same columns: what comes out is no date, and the files have always had it so.
+constexpr Column year{qso::date.first, 4};
+constexpr Column month{qso::date.first + 5, 2};
+constexpr Column day{qso::date.first + 8, 2};
+constexpr Column continent{qso::marker.first + 4, 2}; // the region letters of a K3Y tag
+constexpr std::size_t typicalRecord = 256;            // bytes
+
+class AdifWriter {
+public:
+    void append(std::string& bytes, std::string_view contact) {
+        takeFrequency(contact);
+        appendAdifItem(bytes, "<FREQ:", m_mhz);
+        appendAdifItem(bytes, "<BAND:", m_band);
+        bytes.append("<MODE:2>").append(qso::mode.of(contact));
+        bytes.append("<QSO_DATE:8>").append(year.of(contact));
+        bytes.append(month.of(contact)).append(day.of(contact));
+        bytes.append("<TIME_ON:4>").append(qso::time.of(contact));
+        bytes.append("<RST_SENT:3>").append(qso::rstSent.of(contact));
+        appendAdifItem(bytes, "<CALL:", trim(qso::hisCall.of(contact)));
+        bytes.append("<RST_RCVD:3>").append(qso::rstReceived.of(contact));
+        appendAdifItem(bytes, "<NAME:", trim(qso::hisName.of(contact)));
+        appendAdifItem(bytes, "<STATE:", trim(qso::hisState.of(contact)));
+        appendNumber(bytes, qso::hisNumber.of(contact));
+        if (length(trim(qso::marker.of(contact))) == qso::marker.width)
+            bytes.append("<CONT:2>").append(continent.of(contact));
+        bytes += "<EOR>\r\n";
+    }
+
+private:
+    // A frequency that is neither 4 nor 5 digits long, and one outside the bands, leave what
+    // the contact before had.
+    void takeFrequency(std::string_view contact) {
+        const std::string_view khz = trim(qso::frequency.of(contact));
+        if (length(khz) == 4 || length(khz) == 5)
+            m_mhz = std::string(left(khz, length(khz) - 3)) + '.' + std::string(right(khz, 3));
+        if (const Band* band = bandOfMhz(m_mhz))
+            m_band = band->label;
+    }
+
+    // The comment declares the length of the padded number but holds the trimmed one: the
+    // programs that read these files have lived with that from the start.
+    static void appendNumber(std::string& bytes, std::string_view field) {
+        constexpr std::string_view prefix = "SKCC NR: ";
+        const std::string_view number = trim(field);
+        appendAdifItem(bytes, "<SKCC_NR:", number);
+        bytes += "<COMMENT:";
+        appendAdifLength(bytes, length(prefix) + length(field));
+        bytes.append(prefix).append(number);
+    }
+
+    std::string m_mhz;
+    std::string_view m_band;
+};
+
+} // namespace
+
+std::string adifText(const std::vector<std::string_view>& contacts) {
+    std::string bytes;
+    bytes.reserve(contacts.size() * typicalRecord);
+    bytes += "<EOH>\r\n";
+    AdifWriter writer;
+    for (const std::string_view contact : contacts)
+        writer.append(bytes, contact);
+    bytes += "<EOF>\r\n";
+    return bytes;
+}
+
+std::string exportAdif(Files& files, Log& log) {
+    log.reread();
+    const std::string name = adifFileName(log.name());
+    requireOtherThanLog(files, name, log.name());
+    files.rewrite(name, adifText(log.contacts()));
+    return files.path(name);
+}
+
+} // namespace vantrel

@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: MIT
+#include "output/adif/strictadif.h"
+
+#include "base/integer16.h"
+#include "log/bands.h"
+#include "log/log.h"
+#include "log/outputfiles.h"
+#include "log/qsoline.h"
+#include "output/adif/adifitem.h"
+#include "output/score/contactdate.h"
+#include "output/score/regioncodes.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vantrel {
+
+namespace {
+
+namespace chrono = std::chrono;
+
+constexpr std::size_t typicalRecord = 320; // bytes
+constexpr std::string_view adifVersion = "3.1.4";
+constexpr std::string_view programId = "VANTREL"; // our own fields' names begin APP_VANTREL_
+
+// ADIF's numbers of the countries that divide into states.
+constexpr std::string_view unitedStates = "291";
+constexpr std::string_view alaska = "6";
+constexpr std::string_view hawaii = "110";
+constexpr std::string_view canada = "1";
+
+// --- Values -----------------------------------------------------------------------------------
+
+// What the characters 0xC0 to 0xFF of ISO 8859-1 are without their accents.
+constexpr std::array<std::string_view, 64> unaccented{
+    "A", "A", "A", "A", "A", "A", "AE", "C", "E", "E", "E", "E", "I", "I", "I",  "I",
+    "D", "N", "O", "O", "O", "O", "O",  "x", "O", "U", "U", "U", "U", "Y", "TH", "ss",
+    "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
+    "d", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "th", "y"};
+
+// A field trimmed and in printable ASCII; `?` for what has no plain letter. Most fields are that
+// already and are not copied, so the contact must outlive it.
+class PlainText {
+public:
+    explicit PlainText(std::string_view field) : m_text(trim(field)) {
+        if (std::all_of(m_text.begin(), m_text.end(), isPlain))
+            return;
+        for (const char character : m_text) {
+            const auto byte = static_cast<unsigned char>(character);
+            if (byte >= 0xC0)
+                m_folded += unaccented[byte - 0xC0U];
+            else
+                m_folded += isPlain(character) ? character : '?';
+        }
+        m_text = m_folded;
+    }
+    PlainText(const PlainText&) = delete;
+    PlainText& operator=(const PlainText&) = delete;
+
+    operator std::string_view() const { return m_text; }
+
+private:
+    static bool isPlain(char character) { return character >= ' ' && character <= '~'; }
+
+    std::string_view m_text;
+    std::string m_folded;
+};
+
+std::string dateText(const chrono::year_month_day& date) {
+    return zeroPadded(static_cast<int>(date.year()), 4) +
+           zeroPadded(static_cast<int>(static_cast<unsigned>(date.month())), 2) +
+           zeroPadded(static_cast<int>(static_cast<unsigned>(date.day())), 2);
+}
+
+// "14.050" for a field of kHz, empty when it holds no frequency.
+std::string megahertz(std::string_view field) {
+    const std::string_view khz = trim(field);
+    if (!std::all_of(khz.begin(), khz.end(), isDigit) || numericValue(khz) == 0)
+        return {};
+    const int value = static_cast<int>(numericValue(khz));
+    return std::to_string(value / 1000) + '.' + zeroPadded(value % 1000, 3);
+}
+
+// "20m" for a frequency in MHz, as ADIF's own list spells it; empty outside our bands.
+std::string bandName(std::string_view mhz) {
+    const Band* band = bandOfMhz(mhz);
+    return band == nullptr ? std::string()
+                           : std::string(left(band->label, length(band->label) - 1)) + 'm';
+}
+
+// Digits, and the award letter if any. "100W" is a non-member's power and "NONE" nobody's.
+bool isMemberNumber(std::string_view number) {
+    return !number.empty() && isDigit(number.front()) && !number.ends_with('W') &&
+           std::all_of(number.begin(), number.end(), [](char character) {
+               return isDigit(character) || isCapital(upper(character));
+           });
+}
+
+// --- States and provinces ---------------------------------------------------------------------
+
+bool between(char character, char first, char last) {
+    return character >= first && character <= last;
+}
+
+bool isUnitedStatesCall(std::string_view call) {
+    const char first = call.empty() ? ' ' : call.front();
+    const char second = length(call) < 2 ? ' ' : call[1];
+    return first == 'K' || first == 'N' || first == 'W' ||
+           (first == 'A' && between(second, 'A', 'L'));
+}
+
+bool isCanadianCall(std::string_view call) {
+    const char first = call.empty() ? ' ' : call.front();
+    const char second = length(call) < 2 ? ' ' : call[1];
+    return (first == 'V' &&
+            (between(second, 'A', 'G') || second == 'O' || between(second, 'X', 'Y'))) ||
+           (first == 'C' && (between(second, 'F', 'K') || between(second, 'Y', 'Z'))) ||
+           (first == 'X' && between(second, 'J', 'O'));
+}
+
+// True when any of the call's parts ("VE3/W1ABC", "W1ABC/7") belongs to the country.
+bool anyPart(std::string_view call, bool (*ofCountry)(std::string_view)) {
+    for (;;) {
+        const std::size_t slash = call.find('/');
+        if (ofCountry(call.substr(0, slash)))
+            return true;
+        if (slash == std::string_view::npos)
+            return false;
+        call.remove_prefix(slash + 1);
+    }
+}
+
+// ADIF's number of the country that `code` is a state or province of; empty when it is none.
+// The call decides as well: members elsewhere send their prefix as code, and "OK" is Oklahoma
+// for K5ABC but the Czech Republic for OK1ABC, "ON" Ontario or Belgium.
+std::string_view countryOfState(std::string_view code, std::string_view call) {
+    if (anyPart(call, isUnitedStatesCall)) {
+        if (code == "AK")
+            return alaska;
+        if (code == "HI")
+            return hawaii;
+        if (code == "DC" || adjoiningStates.holds(code))
+            return unitedStates;
+    }
+    if (anyPart(call, isCanadianCall) && (code == "YT" || canadianProvinces.holds(code)))
+        return canada;
+    return {};
+}
+
+// --- Records ----------------------------------------------------------------------------------
+
+// "<NAME:4>JOHN " for a value, nothing without one. head: "<NAME:".
+void appendField(std::string& bytes, std::string_view head, std::string_view value) {
+    if (value.empty())
+        return;
+    appendAdifItem(bytes, head, value);
+    bytes += ' ';
+}
+
+// What he sent that has no field of its own: a prefix for a state, a power for a number.
+std::string notesOf(std::string_view prefix, std::string_view number) {
+    std::string notes(prefix);
+    if (!isMemberNumber(number) && !number.empty())
+        notes.append(notes.empty() ? "" : " ").append(number);
+    return notes;
+}
+
+void appendMarker(std::string& bytes, std::string_view contact) {
+    const PlainText marker(qso::marker.of(contact));
+    if (isDupe(contact))
+        appendField(bytes, "<APP_VANTREL_DUPE:", "Y");
+    else if (std::string_view(marker).starts_with("K3Y"))
+        appendField(bytes, "<APP_VANTREL_K3Y:", marker);
+}
+
+void appendHisSide(std::string& bytes, std::string_view contact, std::string_view call) {
+    const PlainText state(qso::hisState.of(contact));
+    const PlainText number(qso::hisNumber.of(contact));
+    const std::string_view country = countryOfState(state, call);
+    appendField(bytes, "<RST_RCVD:", PlainText(qso::rstReceived.of(contact)));
+    appendField(bytes, "<NAME:", PlainText(qso::hisName.of(contact)));
+    appendField(bytes, "<STATE:", country.empty() ? std::string_view() : state);
+    appendField(bytes, "<DXCC:", country);
+    appendField(bytes, "<SKCC:", isMemberNumber(number) ? number : std::string_view());
+    appendField(bytes, "<NOTES:", notesOf(country.empty() ? state : std::string_view(), number));
+}
+
+// A text made from some of a contact's columns and kept as long as these do not change: the
+// operator's own side, the day and the frequency are what they were a contact ago.
+class KeptText {
+public:
+    using Append = void (*)(std::string& bytes, std::string_view contact);
+
+    const std::string& of(std::string_view columns, std::string_view contact, Append append) {
+        if (columns != m_columns) {
+            m_text.clear();
+            append(m_text, contact);
+            m_columns = columns;
+        }
+        return m_text;
+    }
+
+private:
+    std::string_view m_columns; // at first none, which give no text
+    std::string m_text;
+};
+
+void appendDay(std::string& bytes, std::string_view contact) {
+    if (const auto day = contactDay(contact))
+        appendField(bytes, "<QSO_DATE:", dateText(*day));
+}
+
+void appendFrequency(std::string& bytes, std::string_view contact) {
+    const std::string mhz = megahertz(qso::frequency.of(contact));
+    appendField(bytes, "<BAND:", bandName(mhz));
+    appendField(bytes, "<FREQ:", mhz);
+}
+
+void appendMySide(std::string& bytes, std::string_view contact) {
+    const PlainText call(qso::myCall.of(contact));
+    const PlainText state(qso::myState.of(contact));
+    const std::string_view country = countryOfState(state, call);
+    appendField(bytes, "<RST_SENT:", PlainText(qso::rstSent.of(contact)));
+    appendField(bytes, "<STATION_CALLSIGN:", call);
+    appendField(bytes, "<OPERATOR:", call);
+    appendField(bytes, "<MY_STATE:", country.empty() ? std::string_view() : state);
+    appendField(bytes, "<MY_DXCC:", country);
+}
+
+class StrictAdifWriter {
+public:
+    // The contacts outlive the writer.
+    void append(std::string& bytes, std::string_view contact) {
+        const PlainText call(qso::hisCall.of(contact));
+        appendField(bytes, "<CALL:", call);
+        bytes += m_day.of(qso::date.of(contact), contact, appendDay);
+        if (contactTime(contact))
+            appendField(bytes, "<TIME_ON:", qso::time.of(contact));
+        bytes += m_frequency.of(qso::frequency.of(contact), contact, appendFrequency);
+        appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
+        appendHisSide(bytes, contact, call);
+        bytes += m_mySide.of(mySide.of(contact), contact, appendMySide);
+        appendMarker(bytes, contact);
+        bytes += "<EOR>\r\n";
+    }
+
+private:
+    static constexpr Column mySide{qso::myCall.first, qso::myNumber.last() - qso::myCall.first + 1};
+
+    KeptText m_day;
+    KeptText m_frequency;
+    KeptText m_mySide;
+};
+
+void appendHeader(std::string& bytes, std::string_view created) {
+    bytes += "Contacts logged with Vantrel\r\n";
+    appendField(bytes, "<ADIF_VER:", adifVersion);
+    appendField(bytes, "<PROGRAMID:", programId);
+    appendField(bytes, "<PROGRAMVERSION:", VANTREL_VERSION);
+    appendField(bytes, "<CREATED_TIMESTAMP:", created);
+    bytes += "<EOH>\r\n";
+}
+
+} // namespace
+
+// The sprints and the K3Y event are not in ADIF's list of contests: no CONTEST_ID.
+std::string strictAdifText(const std::vector<std::string_view>& contacts,
+                           std::string_view created) {
+    std::string bytes;
+    bytes.reserve((contacts.size() + 1) * typicalRecord);
+    appendHeader(bytes, created);
+    StrictAdifWriter writer;
+    for (const std::string_view contact : contacts)
+        writer.append(bytes, contact);
+    return bytes;
+}
+
+std::string creationTime(const LocalTime& local, std::string_view gmtOffset) {
+    const chrono::year_month_day localDay(chrono::year(local.year),
+                                          chrono::month(static_cast<unsigned>(local.month)),
+                                          chrono::day(static_cast<unsigned>(local.day)));
+    const auto utc = chrono::sys_days(localDay) +
+                     chrono::hours(local.hour + Integer16(numericValue(gmtOffset)).value());
+    const auto day = chrono::floor<chrono::days>(utc);
+    const auto hour = chrono::duration_cast<chrono::hours>(utc - day).count();
+    return dateText(day) + ' ' + zeroPadded(static_cast<int>(hour), 2) +
+           zeroPadded(local.minute, 2) + zeroPadded(local.second, 2);
+}
+
+std::string exportStrictAdif(Files& files, const Clock& clock, std::string_view gmtOffset,
+                             Log& log) {
+    log.reread();
+    const std::string name = strictAdifFileName(log.name());
+    files.rewrite(name, strictAdifText(log.contacts(), creationTime(clock.now(), gmtOffset)));
+    return files.path(name);
+}
+
+} // namespace vantrel

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// The ADIF file for other loggers: strictly by ADIF 3.1, values in plain ASCII, a field
+// without a valid value left out.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrel {
+
+class Clock;
+class Files;
+class Log;
+struct LocalTime;
+
+// The file's bytes: a header, then a line per contact. `created`: "YYYYMMDD HHMMSS", UTC.
+std::string strictAdifText(const std::vector<std::string_view>& contacts, std::string_view created);
+
+// "YYYYMMDD HHMMSS" in UTC, `gmtOffset` hours after local time.
+std::string creationTime(const LocalTime& local, std::string_view gmtOffset);
+
+// Reads the log again and writes NAME-STRICT.ADI beside it. Returns that file's full
+// path, to show. Throws as Log::reread and Files::rewrite; the file is then as it was.
+std::string exportStrictAdif(Files& files, const Clock& clock, std::string_view gmtOffset,
+                             Log& log);
+
+} // namespace vantrel

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "output/files/filefinder.h"
+
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
+#include "platform/filenames.h"
+#include "platform/files.h"
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+
+const std::string separator = "/";
+const std::string upwards = "..";
+
+std::string inside(const std::string& folder, const std::string& name) {
+    return folder.ends_with(separator) ? folder + name : folder + separator + name;
+}
+
+std::string above(const std::string& folder) {
+    return folder.substr(0, std::max<std::size_t>(folder.rfind(separator), 1));
+}
+
+// Whether the program can say this name: both `\` and `/` separate for it.
+bool canBeNamed(const std::string& name) {
+    return name.find('\\') == std::string::npos && latin1Text(name).has_value();
+}
+
+void keepNameable(std::vector<std::string>& names) {
+    std::erase_if(names, [](const std::string& name) { return !canBeNamed(name); });
+}
+
+std::vector<std::string> shown(const std::vector<std::string>& names) {
+    std::vector<std::string> texts;
+    std::transform(names.begin(), names.end(), std::back_inserter(texts),
+                   [](const std::string& name) { return shownText(name); });
+    return texts;
+}
+
+// The folder in upper case, as folders have always been shown, unless that names another one,
+// two of them or none.
+std::string folderText(const Files& files, const std::string& folder) {
+    const std::string text = inside(shownText(folder), "");
+    try {
+        if (files.nativePath(upper(text)) == folder)
+            return upper(text);
+    } catch (const RuntimeError&) {
+    }
+    return text;
+}
+
+} // namespace
+
+FileFinder::FileFinder(const Files& files, const Folders& folders)
+    : m_files(files), m_machine(folders), m_drives(folders.drives()) {
+    keepNameable(m_drives);
+    moveTo(files.nativePath(""));
+}
+
+std::vector<std::string> FileFinder::drives() const {
+    return shown(m_drives);
+}
+
+std::size_t FileFinder::currentDrive() const {
+    std::size_t current = 0;
+    for (std::size_t i = 0; i < m_drives.size(); ++i) {
+        const bool holdsFolder = inside(m_folder, "").starts_with(inside(m_drives[i], ""));
+        if (holdsFolder && m_drives[i].size() > m_drives[current].size())
+            current = i;
+    }
+    return current;
+}
+
+std::vector<std::string> FileFinder::folders() const {
+    return shown(m_content.folders);
+}
+
+std::vector<std::string> FileFinder::files() const {
+    return shown(m_content.files);
+}
+
+void FileFinder::openDrive(std::size_t index) {
+    moveTo(m_drives.at(index));
+}
+
+void FileFinder::enterFolder(std::size_t index) {
+    const std::string& name = m_content.folders.at(index);
+    moveTo(name == upwards ? above(m_folder) : inside(m_folder, name));
+}
+
+void FileFinder::chooseFile(std::size_t index) {
+    m_chosen = m_content.files.at(index);
+}
+
+std::string FileFinder::selection() const {
+    return m_folderText + shownText(m_chosen);
+}
+
+void FileFinder::moveTo(const std::string& folder) {
+    FolderContent content = m_machine.content(folder);
+    keepNameable(content.folders);
+    keepNameable(content.files);
+    if (folder != separator)
+        content.folders.insert(content.folders.begin(), upwards);
+    m_folder = folder;
+    m_content = std::move(content);
+    m_folderText = folderText(m_files, folder);
+    m_chosen.clear();
+}
+
+} // namespace vantrel

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "output/files/frmVantrelList.h"
+
+#include "output/files/viewedlines.h"
+#include "log/outputfiles.h"
+#include "platform/files.h"
+
+namespace vantrel {
+
+frmVantrelList::frmVantrelList(const FormContext& context)
+    : ViewerForm(context, "frmVantrelList", "Vantrel - List") {}
+
+void frmVantrelList::load() {
+    const std::string& log = shared().log.name();
+    const std::string name = m_file == ListedFile::adif ? adifFileName(log) : log;
+    const std::string path = platform().files.path(name);
+    showLines(path, {});
+    showLines(path, wholeLines(platform().files.read(name)));
+}
+
+// The file screen that it came from may have been closed meanwhile; the main page never is.
+void frmVantrelList::closeEvent(QCloseEvent* event) {
+    ViewerForm::closeEvent(event);
+    if (opener() == nullptr)
+        screens().open(Screen::files);
+}
+
+} // namespace vantrel

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// The bonus points noted in the name fields of the log, added up.
+#pragma once
+
+#include "forms/form.h"
+
+class QLabel;
+class QPushButton;
+
+namespace vantrel {
+
+class frmCountBonus : public Form {
+    Q_OBJECT
+
+public:
+    explicit frmCountBonus(const FormContext& context);
+
+    // Opened again it counts again.
+    bool loadsAgain() const override { return true; }
+
+protected:
+    void load() override;
+    QWidget* firstFocus() override;
+
+private:
+    QLabel* Label1;        // "Total: " and the sum
+    QPushButton* Command1; // exit
+};
+
+} // namespace vantrel

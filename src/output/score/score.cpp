@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "output/score/score.h"
+
+#include "log/qsoline.h"
+#include "output/score/regioncodes.h"
+#include "shared/settings.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace vantrel {
+
+namespace {
+
+using Contacts = std::vector<std::string_view>;
+
+constexpr int centurionPoints = 5;
+constexpr int tribunePoints = 10;
+constexpr int senatorPoints = 15;
+constexpr int clubStationPoints = 25;
+constexpr int bonusStationPoints = 25;
+
+constexpr std::string_view clubStation = "K9SKC";
+constexpr std::string_view noNumber = "NONE";
+constexpr char noMember = 'W'; // as the last character of a number
+
+// Different values of at most 7 characters, at most 400 of them: a small hash table of values
+// packed into numbers, since every contact of the log is looked up in one or two of these.
+class DistinctValues {
+public:
+    explicit DistinctValues(std::string_view name) : m_name(name) {}
+
+    void add(std::string_view value) {
+        const std::uint64_t key = packed(value);
+        std::size_t slot = key * spreading >> slotShift;
+        while (m_slots[slot] != 0) {
+            if (m_slots[slot] == key)
+                return;
+            slot = (slot + 1) % m_slots.size();
+        }
+        if (m_count == distinctValuesCapacity) {
+            m_overflowed = true;
+            return;
+        }
+        m_slots[slot] = key;
+        ++m_count;
+    }
+    bool empty() const { return m_count == 0; }
+    // Throws RuntimeError 9 naming the list when there was a 401st different value: only here,
+    // so that one pass over the log can fill all lists and the figures before this one stand.
+    Integer16 count() const {
+        if (m_overflowed)
+            throw RuntimeError(ErrorCode::subscriptOutOfRange,
+                               std::string(m_name) + " holds at most " +
+                                   std::to_string(distinctValuesCapacity) + " entries");
+        return m_count;
+    }
+
+private:
+    static constexpr int slotShift = 64 - 10; // 1,024 slots: never more than 40 % in use
+    static constexpr std::uint64_t spreading = 0x9E3779B97F4A7C15; // 2^64 by the golden ratio
+
+    // The characters and, so that no value is 0, their count and one in the top byte.
+    static std::uint64_t packed(std::string_view value) {
+        std::uint64_t key = value.size() + 1;
+        for (const char character : value)
+            key = key << 8 | static_cast<unsigned char>(character);
+        return key;
+    }
+
+    std::string_view m_name;
+    std::array<std::uint64_t, 1 << (64 - slotShift)> m_slots{}; // 0: free
+    int m_count = 0;
+    bool m_overflowed = false;
+};
+
+std::string_view memberNumber(std::string_view contact) {
+    return trim(qso::hisNumber.of(contact));
+}
+
+// The last character of a trimmed number; a blank when there is none.
+char awardLetter(std::string_view number) {
+    return number.empty() ? ' ' : number.back();
+}
+
+// The numbers worked by award letter. Duplicates are not left out: a duplicate repeats a
+// number that is listed already.
+struct AwardNumbers {
+    DistinctValues centurions{"the list of Centurions"};
+    DistinctValues tribunes{"the list of Tribunes"};
+    DistinctValues senators{"the list of Senators"};
+
+    void add(std::string_view number) {
+        switch (awardLetter(number)) {
+        case 'C':
+            return centurions.add(number);
+        case 'T':
+            return tribunes.add(number);
+        case 'S':
+            return senators.add(number);
+        default:
+            return;
+        }
+    }
+    // All three figures or, when one list overflowed, none.
+    void enter(Score& score) const {
+        const std::array counts{centurions.count(), tribunes.count(), senators.count()};
+        score.centurions = counts[0];
+        score.tribunes = counts[1];
+        score.senators = counts[2];
+    }
+    Integer16 points() const {
+        return centurionPoints * centurions.count() + tribunePoints * tribunes.count() +
+               senatorPoints * senators.count();
+    }
+};
+
+class BonusStation {
+public:
+    explicit BonusStation(const OperatingSettings& settings)
+        : m_call(leftAligned(settings.bonusStation, callWidth)), m_isSet(!trim(m_call).empty()) {}
+
+    // No bonus station is ten blanks, which must not match a contact without a call.
+    bool worked(std::string_view contact) const {
+        return m_isSet && qso::hisCall.of(contact) == m_call;
+    }
+
+private:
+    std::string m_call;
+    bool m_isSet;
+};
+
+// --- All contests but the European sprint ---------------------------------------------------
+
+void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Score& score) {
+    const BonusStation bonusStation(settings);
+    DistinctValues regions("the list of S/P/Cs");
+    AwardNumbers awards;
+    int qsos = 0;
+    int clubStationQsos = 0; // on any band
+    int bonusStationQsos = 0;
+    for (const std::string_view contact : contacts) {
+        awards.add(memberNumber(contact));
+        const bool dupe = isDupe(contact);
+        // A duplicate adds no S/P/C, except as the log's first contact: duplicates are told
+        // from new values only while looking through the list, and an empty list is not
+        // looked through.
+        if (regions.empty() || !dupe)
+            regions.add(qso::hisState.of(contact));
+        if (dupe)
+            continue;
+        ++qsos;
+        clubStationQsos += begins(qso::hisCall.of(contact), clubStation) ? 1 : 0;
+        bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
+    }
+    score.qsos = qsos;
+    score.multipliers = regions.count();
+    awards.enter(score);
+    score.k9skcQsos = clubStationQsos;
+    score.bonusStationQsos = bonusStationQsos;
+    score.bonusPoints = awards.points() + clubStationPoints * *score.k9skcQsos +
+                        bonusStationPoints * *score.bonusStationQsos;
+}
+
+// --- The European sprint --------------------------------------------------------------------
+
+// Two-letter codes of states and provinces stand for their country. The field is compared as
+// it stands in the line, with its padding: a code that is out of place stays what it is.
+std::string_view countryOf(std::string_view field) {
+    const std::string_view code = trimRight(field);
+    if (length(code) != 2 || length(field) != qso::hisState.width)
+        return field;
+    if (adjoiningStates.holds(code))
+        return "USA";
+    if (canadianProvinces.holds(code))
+        return "CAN";
+    if (code == "AK")
+        return "ALK";
+    return code == "HI" ? "HAW" : field;
+}
+
+// Senators are regular members too: a Senator gives his own 15 points and this one. A contact
+// without any number counts as one member, as it always has.
+bool isRegularMember(std::string_view number) {
+    const char award = awardLetter(number);
+    return award != 'T' && award != 'C' && award != noMember && !isExactly(number, noNumber);
+}
+
+void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& settings,
+                         Score& score) {
+    const BonusStation bonusStation(settings);
+    AwardNumbers awards;
+    DistinctValues regularMembers("the list of regular members");
+    DistinctValues countries("the list of DXCC countries");
+    int qsos = 0;
+    int noMembers = 0;
+    int bonusStationQsos = 0;
+    for (const std::string_view contact : contacts) {
+        const std::string_view number = memberNumber(contact);
+        awards.add(number);
+        if (isRegularMember(number))
+            regularMembers.add(number);
+        if (awardLetter(number) == noMember || begins(qso::hisNumber.of(contact), noNumber))
+            ++noMembers;
+        if (isDupe(contact))
+            continue;
+        ++qsos;
+        countries.add(countryOf(qso::hisState.of(contact)));
+        bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
+    }
+    score.qsos = qsos;
+    awards.enter(score);
+    const Integer16 membersPoints = regularMembers.count();
+    score.bonusStationQsos = bonusStationQsos;
+    score.multipliers = countries.count();
+    // What is shown as regular members worked: Senators are not taken off.
+    score.regularMembersWorked = *score.qsos - *score.centurions - *score.tribunes - noMembers;
+    score.bonusPoints =
+        awards.points() + bonusStationPoints * *score.bonusStationQsos + membersPoints;
+}
+
+} // namespace
+
+Score computeScore(const std::vector<std::string_view>& contacts,
+                   const OperatingSettings& settings) {
+    Score score;
+    score.european = settings.contestCode == contestSkse;
+    try {
+        if (score.european)
+            scoreEuropeanSprint(contacts, settings, score);
+        else
+            scoreSprint(contacts, settings, score);
+        score.total = *score.qsos * *score.multipliers + *score.bonusPoints;
+    } catch (const RuntimeError& error) {
+        score.stoppedBy = error;
+    }
+    return score;
+}
+
+} // namespace vantrel

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// The claimed score of a log: one set of rules for the European sprint, one for all others.
+#pragma once
+
+#include "base/integer16.h"
+#include "base/runtimeerror.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace vantrel {
+
+struct OperatingSettings;
+
+// How many different values each list of the score holds at most.
+inline constexpr int distinctValuesCapacity = 400;
+
+struct Score {
+    // Empty when the computation stopped before it.
+    using Figure = std::optional<Integer16>;
+
+    bool european = false;       // by the rules of the European sprint
+    Figure qsos;                 // without duplicates
+    Figure multipliers;          // S/P/Cs; DXCC countries in the European sprint
+    Figure centurions;           // different numbers worked
+    Figure tribunes;             // likewise
+    Figure senators;             // likewise
+    Figure bonusStationQsos;     // without duplicates
+    Figure k9skcQsos;            // without duplicates; not in the European sprint
+    Figure regularMembersWorked; // European sprint only; below 0 when duplicates abound
+    Figure bonusPoints;
+    Figure total;
+
+    // What stopped it: 9 for a 401st different value in a list, 6 for a figure beyond
+    // 32,767. The figures reached before it stand.
+    std::optional<RuntimeError> stoppedBy;
+};
+
+// The score of a log's contact lines by the rules of `settings.contestCode`. Never throws a
+// RuntimeError: see Score::stoppedBy.
+Score computeScore(const std::vector<std::string_view>& contacts,
+                   const OperatingSettings& settings);
+
+} // namespace vantrel

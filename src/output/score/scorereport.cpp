@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "output/score/scorereport.h"
+
+#include <array>
+
+namespace vantrel {
+
+namespace {
+
+struct ReportLine {
+    std::string_view label;
+    Score::Figure Score::*figure;
+};
+using ReportLines = std::array<ReportLine, 8>;
+
+// "Tribumes" is how the report has always spelled them.
+constexpr ReportLines sprintLines{{
+    {"       Number of QSOs: ", &Score::qsos},
+    {"     Number of S/P/Cs: ", &Score::multipliers},
+    {" Number of Centurions: ", &Score::centurions},
+    {"   Number of Tribumes: ", &Score::tribunes},
+    {"   Number of Senators: ", &Score::senators},
+    {"Number Bonus Stn QSOs: ", &Score::bonusStationQsos},
+    {" Number of K9SKC QSOs: ", &Score::k9skcQsos},
+    {"   Total Bonus Points: ", &Score::bonusPoints},
+}};
+constexpr ReportLine sprintTotal{"         TOTAL SCORE: ", &Score::total};
+
+constexpr ReportLines europeanLines{{
+    {"            Number of QSOs: ", &Score::qsos},
+    {"  Number of DXCC Countries: ", &Score::multipliers},
+    {"      Number of Centurions: ", &Score::centurions},
+    {"        Number of Tribumes: ", &Score::tribunes},
+    {"        Number of Senators: ", &Score::senators},
+    {"  Number of Bonus Stn QSOs: ", &Score::bonusStationQsos},
+    {"    Regular Members Worked: ", &Score::regularMembersWorked},
+    {"        Total Bonus Points: ", &Score::bonusPoints},
+}};
+constexpr ReportLine europeanTotal{"               TOTAL SCORE: ", &Score::total};
+
+std::string printed(const ReportLine& line, const Score& score) {
+    return std::string(line.label) + figureText(score.*line.figure);
+}
+
+} // namespace
+
+std::string figureText(const Score::Figure& figure) {
+    return figure ? figure->text() : std::string();
+}
+
+std::vector<std::string> scoreReport(const Score& score, std::string_view logPath) {
+    std::vector<std::string> lines{"", "", std::string(logPath), ""};
+    for (const ReportLine& line : score.european ? europeanLines : sprintLines)
+        lines.push_back(printed(line, score));
+    lines.emplace_back();
+    lines.push_back(printed(score.european ? europeanTotal : sprintTotal, score));
+    return lines;
+}
+
+} // namespace vantrel

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "roster/frmVantrelShowDB.h"
+
+#include <utility>
+
+namespace vantrel {
+
+frmVantrelShowDB::frmVantrelShowDB(const FormContext& context)
+    : ViewerForm(context, "frmVantrelShowDB", "Vantrel - Members") {}
+
+void frmVantrelShowDB::take(std::string path, std::vector<std::string> lines) {
+    m_path = std::move(path);
+    m_rosterLines = std::move(lines);
+}
+
+void frmVantrelShowDB::load() {
+    showLines(m_path, m_rosterLines);
+}
+
+} // namespace vantrel

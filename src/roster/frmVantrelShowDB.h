@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// The roster viewer: the lines of one roster file.
+#pragma once
+
+#include "forms/viewerform.h"
+
+namespace vantrel {
+
+class frmVantrelShowDB : public ViewerForm {
+    Q_OBJECT
+
+public:
+    explicit frmVantrelShowDB(const FormContext& context);
+
+    // What is shown when it opens.
+    void take(std::string path, std::vector<std::string> lines);
+
+protected:
+    void load() override;
+
+private:
+    std::string m_path;
+    std::vector<std::string> m_rosterLines;
+};
+
+} // namespace vantrel

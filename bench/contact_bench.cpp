@@ -5,8 +5,6 @@
 #include "platform/systemcalls.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/dupecheck.h"
-#include "screens/main/qsoentry.h"
-#include "shared/module1.h"
 #include "support/contacts.h"
 #include "support/ratiotable.h"
 
@@ -42,22 +40,21 @@ std::string rosterOf(int members) {
 
 // One contact more into a log that holds `contacts`; the log is cut back before each.
 void logging(bench::BenchFolder& folder, Files& files, int contacts) {
-    auto module = std::make_shared<Module1>();
-    module->settings.logFileName = logName;
-    module->currentLine = test::contactLine({});
+    auto ourLog = std::make_shared<Log>(files);
+    const std::string contact = test::contactLine({});
     const std::string log = logOf(contacts);
-    const bool worked = contacts < Module1::workedCapacity;
-    const auto prepare = [&folder, &files, module, log] {
+    const bool worked = contacts < Log::workedCapacity;
+    const auto prepare = [&folder, ourLog, log] {
         folder.write(logName, log);
         folder.write(std::string(workedStationsFile), "");
-        openLog(*module, files);
+        ourLog->open(logName);
     };
-    const auto ours = [&files, module] {
-        appendContact(*module, files);
-        bringUpToDate(*module, files);
+    const auto ours = [ourLog, contact] {
+        ourLog->append(contact);
+        ourLog->reread();
     };
-    const auto bound = [&folder, module, worked] {
-        const std::string line = module->currentLine + "\r\n";
+    const auto bound = [&folder, contact, worked] {
+        const std::string line = contact + "\r\n";
         bench::bareAppend(folder.path / logName, line);
         bench::bareRead(folder.path / logName);
         if (worked)
@@ -86,21 +83,19 @@ int main(int argc, char** argv) {
     bench::pair(
         "lookup of the last of 8,000", 2,
         [&] {
-            std::string rosterFile;
-            if (!roster.findByCall(call(members - 1), rosterFile))
+            if (!roster.findByCall(call(members - 1)))
                 std::abort();
         },
         [&] { bench::bareRead(folder.path / "SKSDB2.TXT"); });
 
     bench::single("first lookup in a file of 8,000", 5, [&] {
         Roster fresh(files);
-        std::string rosterFile;
-        benchmark::DoNotOptimize(fresh.findByCall(call(members - 1), rosterFile));
+        benchmark::DoNotOptimize(fresh.findByCall(call(members - 1)));
     });
 
-    QsoTable table;
-    table.refill(logOf(QsoTable::capacity));
+    const std::string log = logOf(Log::capacity);
+    const Contacts contacts = contactsIn(log);
     bench::single("dupe check over 12,000", 1,
-                  [&] { benchmark::DoNotOptimize(isDuplicate(table, "W1NOTHERE", "14")); });
+                  [&] { benchmark::DoNotOptimize(isDuplicate(contacts, "W1NOTHERE", "14")); });
     return bench::run(argc, argv);
 }

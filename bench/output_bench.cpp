@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What is made from a full log: the score, the ADIF files, the sorted roster.
 #include "fakes/fakeclock.h"
-#include "log/logfile.h"
 #include "log/log.h"
+#include "log/logfile.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 #include "output/score/score.h"

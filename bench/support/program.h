@@ -32,7 +32,7 @@ namespace vantrel::bench {
 
 inline std::string fullLog() {
     std::string bytes = test::logHeaderLines;
-    for (int i = 0; i < QsoTable::capacity; ++i)
+    for (int i = 0; i < Log::capacity; ++i)
         bytes += test::contactLine({.hisCall = "K1A" + std::to_string(i)}) + "\r\n";
     return bytes;
 }

@@ -5,8 +5,8 @@
 #include "forms/linelistmodel.h"
 #include "k3y/callarea.h"
 #include "platform/clock.h"
-#include "shared/utctime.h"
 #include "platform/qt/latin1.h"
+#include "shared/utctime.h"
 
 #include <QGridLayout>
 

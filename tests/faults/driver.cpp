@@ -18,6 +18,7 @@
 #include "screens/main/dupecheck.h"
 #include "screens/main/qsoentry.h"
 #include "shared/module1.h"
+#include "shared/utctime.h"
 
 #include <array>
 #include <cstdio>
@@ -51,7 +52,7 @@ public:
         m_module.settings.logFileName = diary::logName;
         m_module.settings.myCall = "W1ABC";
         m_module.settings.dupeMode = "YES";
-        openLog(m_module, m_files);
+        m_module.log.open(std::string(diary::logName));
     }
 
     void work() {
@@ -68,8 +69,7 @@ public:
         case 4:
             return rewrite(diary::sort, [this] { sortRosterFiles(m_files); });
         case 5:
-            return rewrite(diary::adif,
-                           [this] { exportAdif(m_files, diary::logName, m_module.qsoTable); });
+            return rewrite(diary::adif, [this] { exportAdif(m_files, m_module.log); });
         case 6:
             return rewrite(diary::backup,
                            [this] { backUpLog(m_files, diary::logName, diary::backupFolder); });
@@ -90,30 +90,33 @@ private:
 
     void log() {
         Entry entry{"K" + fresh(), "NAME", "MA", "1234T", "599", "599", "14.050"};
-        if (isDuplicate(m_module.qsoTable, entry.call, "14"))
+        if (isDuplicate(m_module.log.contacts(), entry.call, "14"))
             std::abort();
-        ContactFields contact = contactFrom(entry, m_module, m_clock);
-        if (enterFrequency(contact, entry.frequency, m_module) != FrequencyCheck::good)
+        ContactFields contact =
+            contactFrom(entry, m_module.settings, noMarker, utcTime(m_clock.now(), "0"));
+        if (enterFrequency(contact, entry.frequency, m_module.settings) != FrequencyCheck::good)
             std::abort();
-        m_module.currentLine = assembleLine(contact);
-        tell(diary::log, m_module.currentLine);
-        appendContact(m_module, m_files);
+        const std::string line = assembleLine(contact);
+        tell(diary::log, line);
+        m_module.log.append(line);
         tell(std::string(diary::done));
-        bringUpToDate(m_module, m_files);
+        m_module.log.reread();
     }
 
     // Finds one of the logged contacts; false when there is none.
     bool find() {
-        const int count = m_module.qsoTable.count().value();
-        if (count == 0)
+        const Contacts& contacts = m_module.log.contacts();
+        if (contacts.empty())
             return false;
-        const std::string_view line = m_module.qsoTable.line(1 + upTo(count));
+        const std::string_view line =
+            contacts[static_cast<std::size_t>(upTo(m_module.log.count().value()))];
         return m_log.search(trim(qso::hisCall.of(line))) == SearchResult::found;
     }
 
     void changed(const ChangeResult& result) {
-        if (!result.made || m_log.reloadLog())
+        if (!result.made)
             std::abort();
+        m_module.log.reread();
         tell(std::string(diary::done));
     }
 
@@ -140,16 +143,15 @@ private:
             return;
         tell(diary::undo, "");
         const ChangeResult result = m_log.undo();
-        if (result.made && m_log.reloadLog())
-            std::abort();
+        m_module.log.reread();
         tell(std::string(result.made ? diary::done : diary::ready)); // refused: nothing was done
     }
 
     void start() {
         tell(diary::start, "");
-        startNewLog(m_files, m_module.settings);
+        startNewLog(m_files, m_module.log.name(), logHeader("SKS", "W1ABC", "1T"));
         tell(std::string(diary::done));
-        openLog(m_module, m_files);
+        m_module.log.open(std::string(diary::logName));
     }
 
     // All members get the same new name, so that a mixture of two imports would show.
@@ -190,8 +192,8 @@ private:
     SystemCalls m_calls;
     Files m_files;
     FakeClock m_clock;
-    Module1 m_module;
-    LogEdit m_log{m_files, m_module};
+    Module1 m_module{m_files};
+    LogEdit m_log{m_files, m_module.log};
 };
 
 } // namespace

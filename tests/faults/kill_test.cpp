@@ -5,15 +5,15 @@
 #include "base/fixedtext.h"
 #include "base/itemreader.h"
 #include "faults/diary.h"
+#include "log/log.h"
 #include "log/logfile.h"
 #include "log/outputfiles.h"
-#include "log/log.h"
 #include "platform/files.h"
 #include "platform/programfolder.h"
 #include "platform/systemcalls.h"
 #include "roster/rosterrecord.h"
 #include "screens/main/qsoentry.h"
-#include "shared/module1.h"
+#include "shared/settings.h"
 #include "support/tempfolder.h"
 
 #include <algorithm>
@@ -157,10 +157,7 @@ class KilledProgram : public ::testing::Test {
 protected:
     KilledProgram() {
         fs::create_directory(m_folder.path() / diary::backupFolder);
-        OperatingSettings settings;
-        settings.logFileName = diary::logName;
-        settings.myCall = "W1ABC";
-        startNewLog(m_files, settings);
+        startNewLog(m_files, std::string(diary::logName), header);
         for (const std::string_view name : rosterFiles)
             m_folder.write(std::string(name), "");
         m_now.log = header;
@@ -216,13 +213,12 @@ protected:
     }
 
     void theNextStartGoesOn() {
-        Module1 module;
-        module.settings = loadSettings(m_files);
-        module.settings.logFileName = diary::logName;
-        openLog(module, m_files);
+        loadSettings(m_files);
+        Log log(m_files);
+        log.open(std::string(diary::logName));
         Lines worked;
-        for (const std::string_view line : module.qsoTable.lines())
-            if (static_cast<int>(worked.size()) < Module1::workedCapacity)
+        for (const std::string_view line : log.contacts())
+            if (static_cast<int>(worked.size()) < Log::workedCapacity)
                 worked.push_back(workedLine(line));
         EXPECT_EQ(m_folder.read(std::string(workedStationsFile)), joinLines(worked));
     }

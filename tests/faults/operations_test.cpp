@@ -79,13 +79,13 @@ struct World {
         files.recover();
         module.settings.logFileName = logName;
         module.settings.myCall = "W1ABC";
-        openLog(module, files);
+        module.log.open(logName);
     }
 
     Files& files;
-    Module1 module;
+    Module1 module{files};
     FakeClock clock;
-    LogEdit log{files, module};
+    LogEdit log{files, module.log};
     bool sequelFailed = false; // done, but what follows from it failed
 };
 
@@ -98,16 +98,24 @@ void PrintTo(const Operation& operation, std::ostream* out) {
     *out << operation.name;
 }
 
+// What was done is done, whether or not the worked stations can follow.
+void follow(World& world) {
+    try {
+        world.module.log.reread();
+    } catch (const RuntimeError&) {
+        world.sequelFailed = true;
+    }
+}
+
 void logContact(World& world) {
-    world.module.currentLine = contactLine({.hisCall = "N1NEW"});
-    appendContact(world.module, world.files);
-    world.sequelFailed = bringUpToDate(world.module, world.files).has_value();
+    world.module.log.append(contactLine({.hisCall = "N1NEW"}));
+    follow(world);
 }
 
 void changeLine(World& world, void (*change)(LogEdit&)) {
     if (world.log.search("K120ABC") == SearchResult::found)
         change(world.log);
-    world.sequelFailed = world.log.reloadLog().has_value();
+    follow(world);
 }
 
 void correct(LogEdit& log) {
@@ -127,15 +135,13 @@ const Operation operations[] = {
     {"LogContact", logContact},
     {"Correct", [](World& world) { changeLine(world, correct); }},
     {"Delete", [](World& world) { changeLine(world, [](LogEdit& log) { log.removeLine(); }); }},
-    {"StartNewLog", [](World& world) { startNewLog(world.files, world.module.settings); }},
+    {"StartNewLog", [](World& world) { startNewLog(world.files, logName, logHeaderLines); }},
     {"SaveSettings", [](World& world) { saveSettings(world.files, world.module.settings); }},
     {"Import", import},
     {"Sort", [](World& world) { sortRosterFiles(world.files); }},
-    {"Adif", [](World& world) { exportAdif(world.files, logName, world.module.qsoTable); }},
+    {"Adif", [](World& world) { exportAdif(world.files, world.module.log); }},
     {"StrictAdif",
-     [](World& world) {
-         exportStrictAdif(world.files, world.clock, world.module.settings, world.module.qsoTable);
-     }},
+     [](World& world) { exportStrictAdif(world.files, world.clock, "0", world.module.log); }},
     {"BackUp", [](World& world) { backUpLog(world.files, logName, "BACKUP"); }},
 };
 

@@ -6,8 +6,8 @@
 #include "fakes/fakeclock.h"
 #include "fuzz/fuzztarget.h"
 #include "log/bands.h"
-#include "log/qsoline.h"
 #include "log/log.h"
+#include "log/qsoline.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 
@@ -45,11 +45,11 @@ bool isPlain(std::string_view text) {
                        [](char character) { return character >= ' ' && character <= '~'; });
 }
 
-void strictFileReadsBack(const QsoTable& table) {
-    const std::string bytes = strictAdifText(table.lines(), "20110616 001230");
+void strictFileReadsBack(const Contacts& contacts) {
+    const std::string bytes = strictAdifText(contacts, "20110616 001230");
     std::string_view rest(bytes);
     takeRecord(rest, "EOH");
-    for (const std::string_view line : table.lines()) {
+    for (const std::string_view line : contacts) {
         const Record record = takeRecord(rest, "EOR");
         for (const auto& [name, value] : record)
             require(isPlain(value) && value.empty() == (name == "EOR"),
@@ -65,11 +65,11 @@ void strictFileReadsBack(const QsoTable& table) {
 }
 
 // Its fields may hold what looks like another one: only the frame is the same for any log.
-void customaryFileHasALineAContact(const QsoTable& table) {
-    const std::string bytes = adifText(table.lines());
+void customaryFileHasALineAContact(const Contacts& contacts) {
+    const std::string bytes = adifText(contacts);
     LineReader lines(bytes);
     requireEqual(lines.next(), "<EOH>", "the head comes first");
-    for (const std::string_view line : table.lines()) {
+    for (const std::string_view line : contacts) {
         const std::string_view record = lines.next();
         require(record.ends_with("<EOR>"), "a contact's line ends its record");
         require(record.find(trim(qso::hisCall.of(line))) != record.npos, "it has his call");
@@ -85,10 +85,9 @@ void fuzz(Input& input) {
     std::string created;
     const auto error = errorOf([&] { created = creationTime(FakeClock().now(), offset); });
     require(error || (created.size() == 15 && created[8] == ' '), "a creation time has its form");
-    QsoTable table;
-    table.refill(input.rest());
-    strictFileReadsBack(table);
-    customaryFileHasALineAContact(table);
+    const Contacts contacts = contactsIn(input.rest());
+    strictFileReadsBack(contacts);
+    customaryFileHasALineAContact(contacts);
 }
 
 } // namespace vantrel::test

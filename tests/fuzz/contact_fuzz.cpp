@@ -3,29 +3,29 @@
 // every field in its columns, and every reader finds it there.
 #include "fakes/fakeclock.h"
 #include "fuzz/fuzztarget.h"
-#include "log/logfile.h"
 #include "log/log.h"
+#include "log/logfile.h"
 #include "screens/main/dupecheck.h"
-#include "screens/main/dupecheckk3y.h"
 #include "screens/main/frequency.h"
 #include "screens/main/k3ystation.h"
 #include "screens/main/qsoentry.h"
 #include "screens/start/startlists.h"
-#include "shared/module1.h"
+#include "shared/settings.h"
+#include "shared/utctime.h"
 #include "support/contacts.h"
 
 namespace vantrel::test {
 namespace {
 
 void everyReaderFindsIt(const std::string& line, const OperatingSettings& settings) {
-    QsoTable table;
-    table.refill(logHeader(settings.contestText, settings.myCall, settings.myNumber) + line +
-                 "\r\n" + line + "\r\n");
-    require(table.count() == 2, "a log of two contacts has two, and its header is none");
-    requireEqual(table.line(2), line, "a contact is read as it was written");
+    const std::string log = logHeader(settings.contestText, settings.myCall, settings.myNumber) +
+                            line + "\r\n" + line + "\r\n";
+    const Contacts contacts = contactsIn(log);
+    require(contacts.size() == 2, "a log of two contacts has two, and its header is none");
+    requireEqual(contacts.back(), line, "a contact is read as it was written");
     const std::string_view call = trim(qso::hisCall.of(line));
-    require(isDuplicate(table, call, qso::bandTag.of(line)), "the dupe check finds it");
-    require(isK3yDupe(table, line), "the event's dupe check finds it");
+    require(isDuplicate(contacts, call, qso::bandTag.of(line)), "the dupe check finds it");
+    require(isK3yDupe(contacts, line), "the event's dupe check finds it");
     require(length(workedLine(line)) == (isDupe(line) ? 68 : 70), "entries have one width");
     require(workedLine(line).find(',') == std::string::npos, "an entry is one item");
 }
@@ -33,12 +33,11 @@ void everyReaderFindsIt(const std::string& line, const OperatingSettings& settin
 } // namespace
 
 void fuzz(Input& input) {
-    Module1 module;
-    OperatingSettings& settings = module.settings;
+    OperatingSettings settings;
     settings.contestCode = input.choice(2) == 0 ? contestSks : contestK3y;
     settings.gmtOffset = offsetList()[input.choice(offsetList().size())].stored;
     const std::size_t tag = input.choice(k3yStations.size() + 1);
-    module.marker = tag == k3yStations.size() ? dupeMarker : k3yStations[tag].marker;
+    const std::string marker(tag == k3yStations.size() ? dupeMarker : k3yStations[tag].marker);
     FakeClock clock;
     clock.time.day = 1 + static_cast<int>(input.choice(31));
     for (std::string* setting : {&settings.myCall, &settings.myName, &settings.myState,
@@ -51,16 +50,17 @@ void fuzz(Input& input) {
 
     if (errorOf([&] { settings = storedSettings(settings); }) || !canBeLogged(entry))
         return;
-    ContactFields contact = contactFrom(entry, module, clock);
+    const UtcTime utc = utcTime(clock.now(), settings.gmtOffset);
+    ContactFields contact = contactFrom(entry, settings, marker, utc);
     std::string mhz = frequencyAsEntered(entry.frequency);
     requireEqual(frequencyAsEntered(mhz), mhz, "the frequency box settles at once");
-    if (enterFrequency(contact, mhz, module) != FrequencyCheck::good)
+    if (enterFrequency(contact, mhz, settings) != FrequencyCheck::good)
         return;
     const std::string line = assembleLine(contact);
     requireEqual(line,
                  contactLine({.frequency = contact.frequency,
-                              .date = module.utc.date,
-                              .time = module.utc.time,
+                              .date = utc.date,
+                              .time = utc.time,
                               .myCall = settings.myCall,
                               .rstSent = withoutSeparators(entry.rstSent),
                               .myName = settings.myName,
@@ -71,7 +71,7 @@ void fuzz(Input& input) {
                               .hisName = withoutSeparators(entry.name),
                               .hisState = withoutSeparators(entry.state),
                               .hisNumber = withoutSeparators(entry.number),
-                              .marker = module.marker}),
+                              .marker = marker}),
                  "every field stands in its columns");
     everyReaderFindsIt(line, settings);
 }

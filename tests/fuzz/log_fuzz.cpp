@@ -2,9 +2,8 @@
 // Any bytes as a log, read by everything that only looks at contacts: table, worked stations,
 // dupe check, bonus count, picture of the hours, print.
 #include "fuzz/fuzztarget.h"
+#include "log/log.h"
 #include "log/qsoline.h"
-#include "log/log.h"
-#include "log/log.h"
 #include "output/files/printlog.h"
 #include "output/score/bonuscount.h"
 #include "output/score/contactdate.h"
@@ -15,10 +14,10 @@
 namespace vantrel::test {
 namespace {
 
-void isFound(std::string_view line, const QsoTable& table) {
+void isFound(std::string_view line, const Contacts& contacts) {
     const std::string_view call = trimRight(qso::hisCall.of(line));
-    require(isDuplicate(table, call, qso::bandTag.of(line)), "a contact is its own duplicate");
-    require(length(call) < 2 || !workedBefore(table, call, 1000).empty(),
+    require(isDuplicate(contacts, call, qso::bandTag.of(line)), "a contact is its own duplicate");
+    require(length(call) < 2 || !workedBefore(contacts, call, 1000).empty(),
             "whoever is in the log was worked before");
     require(length(workedLine(line)) <= 70, "entries have at most one width");
     if (const auto day = contactDay(line))
@@ -30,13 +29,12 @@ void isFound(std::string_view line, const QsoTable& table) {
 } // namespace
 
 void fuzz(Input& input) {
-    QsoTable table;
-    table.refill(input.rest());
-    for (const std::string_view line : table.lines())
-        isFound(line, table);
-    require(contactsPerHour(table.lines()).size() <= pictureHours, "the picture has room");
-    errorOf([&] { countBonusPoints(table.lines()); });
-    require(logPrintLines("A.CBR", input.rest()).size() >= 2 + table.lines().size(),
+    const Contacts contacts = contactsIn(input.rest());
+    for (const std::string_view line : contacts)
+        isFound(line, contacts);
+    require(contactsPerHour(contacts).size() <= pictureHours, "the picture has room");
+    errorOf([&] { countBonusPoints(contacts); });
+    require(logPrintLines("A.CBR", input.rest()).size() >= 2 + contacts.size(),
             "every contact is printed");
 }
 

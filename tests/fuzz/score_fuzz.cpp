@@ -2,8 +2,8 @@
 // Any bytes as a log, scored by each contest's rules: figures that agree with each other, or
 // the reason why they end.
 #include "fuzz/fuzztarget.h"
-#include "log/qsoline.h"
 #include "log/log.h"
+#include "log/qsoline.h"
 #include "output/score/score.h"
 #include "output/score/scorereport.h"
 #include "shared/settings.h"
@@ -15,19 +15,20 @@ namespace {
 
 constexpr std::string_view contests[] = {contestSks, contestSkse, contestWes, contestK3y};
 
-void figuresAgree(const Score& score, const QsoTable& table) {
+void figuresAgree(const Score& score, const Contacts& contacts) {
     require(score.total.has_value() != score.stoppedBy.has_value(), "a total, or why not");
     require(scoreReport(score, "A.CBR").size() == scoreReport(Score(), "A.CBR").size(),
             "a report has all its lines");
     if (score.stoppedBy)
         return;
-    const auto notDupes = std::count_if(table.lines().begin(), table.lines().end(),
+    const auto notDupes = std::count_if(contacts.begin(), contacts.end(),
                                         [](std::string_view line) { return !isDupe(line); });
     require(*score.qsos == static_cast<int>(notDupes), "all contacts but duplicates are counted");
     require(*score.total == *score.qsos * *score.multipliers + *score.bonusPoints, "the total");
     for (const Score::Figure& figure : {score.multipliers, score.centurions, score.tribunes,
                                         score.senators, score.bonusStationQsos})
-        require(*figure >= 0 && *figure <= table.count(), "no figure is greater than the log");
+        require(*figure >= 0 && *figure <= static_cast<int>(contacts.size()),
+                "no figure is greater than the log");
 }
 
 } // namespace
@@ -36,9 +37,8 @@ void fuzz(Input& input) {
     OperatingSettings settings;
     settings.contestCode = contests[input.choice(std::size(contests))];
     settings.bonusStation = input.text();
-    QsoTable table;
-    table.refill(input.rest());
-    figuresAgree(computeScore(table.lines(), settings), table);
+    const Contacts contacts = contactsIn(input.rest());
+    figuresAgree(computeScore(contacts, settings), contacts);
 }
 
 } // namespace vantrel::test

@@ -7,7 +7,7 @@
 namespace vantrel::test {
 
 // The fields of a line; each is padded to its width below.
-struct ContactFields {
+struct Fields {
     std::string frequency = "14050";
     std::string date = "2011-06-16";
     std::string time = "0012";
@@ -31,7 +31,7 @@ inline std::string padded(std::string text, std::size_t width) {
 
 // "QSO: 14050 CW 2011-06-16 0012 W1ABC      599 JOHN       MA 1234T K9SKC      599 CLUB
 // IL  5000S       ": 101 columns and the marker.
-inline std::string contactLine(const ContactFields& f) {
+inline std::string contactLine(const Fields& f) {
     return "QSO: " + f.frequency + " CW " + f.date + " " + f.time + " " + padded(f.myCall, 10) +
            " " + padded(f.rstSent, 3) + " " + padded(f.myName, 10) + " " + padded(f.myState, 3) +
            padded(f.myNumber, 6) + padded(f.hisCall, 10) + " " + padded(f.rstReceived, 3) + " " +

@@ -6,11 +6,11 @@
 #include "log/logfile.h"
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "shared/utctime.h"
 #include "platform/qt/latin1.h"
 #include "platform/serialnames.h"
 #include "screens/start/startlists.h"
 #include "screens/start/startlog.h"
+#include "shared/utctime.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>

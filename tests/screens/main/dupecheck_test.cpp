@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "k3y/k3ylines.h"
+#include "log/qsoline.h"
 #include "screens/main/bandring.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/workedbefore.h"
-#include "shared/module1.h"
 #include "support/contacts.h"
 
 #include <gtest/gtest.h>
@@ -13,30 +14,66 @@ namespace vantrel::test {
 namespace {
 
 TEST(Duplicate, IsSameBandAndCallBeginningWithWhatIsTyped) {
-    QsoTable table;
-    table.refill(contactLine({.frequency = "14050", .hisCall = "K1ABC"}) + "\r\n" +
-                 contactLine({.frequency = " 7040", .hisCall = "W1AW/4"}) + "\r\n");
-    EXPECT_TRUE(isDuplicate(table, "K1AB", "14"));       // a prefix is enough
-    EXPECT_TRUE(isDuplicate(table, "K1ABC     ", "14")); // as a member number yields it
-    EXPECT_TRUE(isDuplicate(table, "W1AW", " 7"));
-    EXPECT_FALSE(isDuplicate(table, "K1ABCD", "14"));
-    EXPECT_FALSE(isDuplicate(table, "K1ABC", " 7"));
-    EXPECT_FALSE(isDuplicate(table, "k1abc", "14"));
+    const std::string on20 = contactLine({.frequency = "14050", .hisCall = "K1ABC"});
+    const std::string on40 = contactLine({.frequency = " 7040", .hisCall = "W1AW/4"});
+    const Contacts contacts{on20, on40};
+    EXPECT_TRUE(isDuplicate(contacts, "K1AB", "14"));       // a prefix is enough
+    EXPECT_TRUE(isDuplicate(contacts, "K1ABC     ", "14")); // as a member number yields it
+    EXPECT_TRUE(isDuplicate(contacts, "W1AW", " 7"));
+    EXPECT_FALSE(isDuplicate(contacts, "K1ABCD", "14"));
+    EXPECT_FALSE(isDuplicate(contacts, "K1ABC", " 7"));
+    EXPECT_FALSE(isDuplicate(contacts, "k1abc", "14"));
+}
+
+TEST(K3yDupe, IsTheSameCallNumberAndBand) {
+    struct Row {
+        const char* name;
+        std::string logged;
+        std::string assembled;
+        bool dupe;
+    };
+    const std::string logged = k3yLine("K3Y/1", "14050", "55C", "K3Y/EU");
+    const Row rows[] = {
+        {"same end, another tag", logged, k3yLine("K3Y/1", "14062", "55C", "DUPE"), true},
+        {"another band", logged, k3yLine("K3Y/1", "7050", "55C"), false},
+        {"another operator", logged, k3yLine("K3Y/1", "14050", "55"), false},
+        {"a longer call", logged, k3yLine("K3Y/1/P", "14050", "55C"), false},
+        // Unlike the ordinary check, the start of a call is not the call.
+        {"a shorter call", logged, k3yLine("K3Y/", "14050", "55C"), false},
+        {"the logged line lost its last blanks", logged.substr(0, 98),
+         k3yLine("K3Y/1", "14050", "55C"), true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::string other = k3yLine("N0BODY", "14050", "1T");
+        const Contacts contacts{other, row.logged};
+        EXPECT_EQ(isK3yDupe(contacts, row.assembled), row.dupe);
+        // What SEARCH holds in its boxes at that time.
+        EXPECT_EQ(isK3yDupe(contacts, trim(qso::hisCall.of(row.assembled)),
+                            qso::hisNumber.of(row.assembled), qso::bandTag.of(row.assembled)),
+                  row.dupe);
+    }
+}
+
+TEST(K3yDupe, ALookedUpNumberBeyondItsColumnsIsCutAsInTheLog) {
+    const std::string logged = k3yLine("K3Y/1", "14050", "123456");
+    const Contacts contacts{logged};
+    EXPECT_TRUE(isK3yDupe(contacts, "K3Y/1", "1234567   ", "14"));
+    EXPECT_FALSE(isK3yDupe(contacts, "K3Y/1", "", "14"));
 }
 
 TEST(WorkedBefore, GrowsWithTheCallAndNamesEachBandOnce) {
-    QsoTable table;
     std::string log;
     for (const auto& [call, khz] :
          {std::pair{"K1ABC", "14050"}, std::pair{"K1ABD", " 3550"}, std::pair{"W1AW", " 7040"},
           std::pair{"K1ABC", " 7040"}, std::pair{"K1ABC", "14060"}, std::pair{"K1ABC", "50125"}})
         log += contactLine({.frequency = khz, .hisCall = call}) + "\r\n";
-    table.refill(log);
-    EXPECT_EQ(workedBefore(table, "K", 80), "");
-    EXPECT_EQ(workedBefore(table, "K1", 80), "K1ABC 20 40 50125  K1ABD 80");
-    EXPECT_EQ(workedBefore(table, "K1ABC", 80), "K1ABC 20 40 50125");
-    EXPECT_EQ(workedBefore(table, "K1ABCD", 80), "");
-    EXPECT_EQ(workedBefore(table, "K1", 20), "K1ABC 20 40 50125...");
+    const Contacts contacts = contactsIn(log);
+    EXPECT_EQ(workedBefore(contacts, "K", 80), "");
+    EXPECT_EQ(workedBefore(contacts, "K1", 80), "K1ABC 20 40 50125  K1ABD 80");
+    EXPECT_EQ(workedBefore(contacts, "K1ABC", 80), "K1ABC 20 40 50125");
+    EXPECT_EQ(workedBefore(contacts, "K1ABCD", 80), "");
+    EXPECT_EQ(workedBefore(contacts, "K1", 20), "K1ABC 20 40 50125...");
 }
 
 TEST(BandRing, WalksTheSixBandsBothWays) {

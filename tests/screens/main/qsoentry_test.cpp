@@ -1,42 +1,33 @@
 // SPDX-License-Identifier: MIT
-#include "fakes/failingcalls.h"
 #include "fakes/fakeclock.h"
-#include "platform/files.h"
 #include "screens/main/qsoentry.h"
-#include "shared/module1.h"
+#include "shared/settings.h"
+#include "shared/utctime.h"
 #include "support/contacts.h"
-#include "support/errors.h"
-#include "support/tempfolder.h"
+
+#include <gtest/gtest.h>
 
 namespace vantrel::test {
 namespace {
 
-using ::testing::AllOf;
-using ::testing::HasSubstr;
-
 class QsoEntry : public ::testing::Test {
 protected:
     QsoEntry() {
-        module.settings.myCall = "W1ABC";
-        module.settings.myName = "JOHN";
-        module.settings.myState = "MA";
-        module.settings.myNumber = "1234T";
-        module.settings.logFileName = "SKS061611.CBR";
-        folder.write("SKS061611.CBR", logHeaderLines);
+        settings.myCall = "W1ABC";
+        settings.myName = "JOHN";
+        settings.myState = "MA";
+        settings.myNumber = "1234T";
     }
 
     std::string lineFor(const Entry& entry) {
-        ContactFields contact = contactFrom(entry, module, clock);
+        ContactFields contact = contactFrom(entry, settings, noMarker, utcTime(clock.now(), "0"));
         std::string mhz = entry.frequency;
-        EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::good);
+        EXPECT_EQ(enterFrequency(contact, mhz, settings), FrequencyCheck::good);
         return assembleLine(contact);
     }
 
-    TempFolder folder;
-    FailingCalls calls;
-    Files files{folder.string(), calls};
     FakeClock clock;
-    Module1 module;
+    OperatingSettings settings;
 };
 
 TEST_F(QsoEntry, LineIsCutAndPaddedToItsColumns) {
@@ -59,15 +50,15 @@ TEST_F(QsoEntry, SeparatorsNeverReachTheLine) {
 TEST_F(QsoEntry, OtherBandsAreLoggedInTheEventOnly) {
     ContactFields contact;
     std::string mhz = "10";
-    EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::outsideSprintBands);
+    EXPECT_EQ(enterFrequency(contact, mhz, settings), FrequencyCheck::outsideSprintBands);
     EXPECT_EQ(mhz, "10.000");
-    module.settings.contestText = "K3Y";
+    settings.contestText = "K3Y";
     mhz = "10.120";
-    EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::good);
+    EXPECT_EQ(enterFrequency(contact, mhz, settings), FrequencyCheck::good);
     EXPECT_EQ(contact.frequency, "10120");
     for (const char* unloggable : {"", "QRL", "145.500", "14.O5"}) {
         mhz = unloggable;
-        EXPECT_EQ(enterFrequency(contact, mhz, module), FrequencyCheck::missing) << unloggable;
+        EXPECT_EQ(enterFrequency(contact, mhz, settings), FrequencyCheck::missing) << unloggable;
     }
 }
 
@@ -80,27 +71,6 @@ TEST_F(QsoEntry, ShortCallsAreNotLookedUp) {
     EXPECT_FALSE(canBeLogged({.call = "  K1  "}));
     EXPECT_TRUE(isComplete({.number = "99"}));
     EXPECT_FALSE(isComplete({.number = " "}));
-}
-
-TEST_F(QsoEntry, LogBeyondTheTableIsReportedAndStillShown) {
-    std::string log = logHeaderLines;
-    for (int i = 0; i < QsoTable::capacity + 1; ++i)
-        log += contactLine({}) + "\r\n";
-    folder.write("SKS061611.CBR", log);
-    EXPECT_RUNTIME_ERROR(openLog(module, files), ErrorCode::subscriptOutOfRange,
-                         AllOf(HasSubstr("SKS061611.CBR"), HasSubstr("12000")));
-    EXPECT_EQ(countText(module), "12000");
-    EXPECT_EQ(module.workedStations.size(), Module1::workedCapacity);
-    EXPECT_EQ(folder.read("SKS061611.CBR"), log);
-}
-
-TEST_F(QsoEntry, LogThatVanishedLeavesAnEmptyTable) {
-    folder.write("SKS061611.CBR", logHeaderLines + contactLine({}) + "\r\n");
-    openLog(module, files);
-    EXPECT_EQ(countText(module), "01");
-    module.settings.logFileName = "GONE.CBR";
-    EXPECT_RUNTIME_ERROR(openLog(module, files), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
-    EXPECT_EQ(countText(module), "00");
 }
 
 } // namespace

@@ -157,7 +157,7 @@ class KilledProgram : public ::testing::Test {
 protected:
     KilledProgram() {
         fs::create_directory(m_folder.path() / diary::backupFolder);
-        startNewLog(m_files, std::string(diary::logName), header);
+        startNewLog(m_files, std::string(diary::logName), logHeader("SKS", "W1ABC", ""));
         for (const std::string_view name : rosterFiles)
             m_folder.write(std::string(name), "");
         m_now.log = header;

@@ -31,11 +31,12 @@ protected:
         module.settings.logFileName = "SKS.CBR";
         folder.write("SKS.CBR", logHeaderLines + contactLine({}) + "\r\n");
         folder.write("SKS.ADI", "<EOH>\r\n<EOF>\r\n");
-        folder.write("SKSDB1.TXT", "");
-        module.rosterFile = "SKSDB1.TXT";
         if (GetParam().screen != Screen::start)
             screens.open(Screen::main);
-        screens.open(GetParam().screen);
+        if (GetParam().screen == Screen::checkDupeK3y)
+            screens.askAboutDupe({[] {}, [] {}});
+        else
+            screens.open(GetParam().screen);
     }
 };
 

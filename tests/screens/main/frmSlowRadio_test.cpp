@@ -63,12 +63,12 @@ TEST_F(SlowRadio, CallEnterEnterAndTheNextCallTypedAheadAreTwoContacts) {
     QTimer::singleShot(30, form(page), [this] { typeOn("\nk1xyz\n\n"); });
     typeOn("k1abc\n");
     ASSERT_TRUE(QTest::qWaitFor([this] { return logged().size() >= 2 * 109; }));
-    const ContactFields joe{.frequency = " 7025",
+    const Fields joe{.frequency = " 7025",
                             .hisCall = "K1ABC",
                             .hisName = "JOE",
                             .hisState = "CT",
                             .hisNumber = "0123T"};
-    ContactFields ann = joe;
+    Fields ann = joe;
     ann.hisCall = "K1XYZ";
     EXPECT_EQ(logged(), contactLine(joe) + "\r\n" + contactLine(ann) + "\r\n");
     EXPECT_EQ(radio.received(), "FA;FA;FA;FA;");

@@ -172,7 +172,6 @@ TEST_F(MainPageTest, RefusedDupeLeavesNothingBehind) {
     EXPECT_THAT(boxes(), Each(""));
     EXPECT_EQ(logged(), joe);
     EXPECT_EQ(folder.read("StnsWorked.TXT"), before);
-    EXPECT_FALSE(module.dupeFlag);
     EXPECT_EQ(focus(), "Text2"); // the next call is typed at once
     click(page, "Command12");
     EXPECT_EQ(shown(page, "Command12"), "AUDIO OFF");
@@ -319,7 +318,7 @@ TEST_F(MainPageTest, SearchResetsTheTagLogDoesNot) {
     click(page, "Command3");
     EXPECT_THAT(logged(), HasSubstr("K3Y/EU"));
     EXPECT_EQ(module.marker, "K3Y/EU");
-    screens.mainPage()->showTag("-- K3Y/EU --");
+    screens.mainPage()->showStation("-- K3Y/EU --");
     enterCall("k1abc");
     EXPECT_EQ(module.marker, noMarker);
     EXPECT_EQ(shown(page, "Label23"), "   None     ");

@@ -149,7 +149,7 @@ private:
 
     void start() {
         tell(diary::start, "");
-        startNewLog(m_files, m_module.log.name(), logHeader("SKS", "W1ABC", "1T"));
+        startNewLog(m_files, m_module.log.name(), logHeader("SKS", "W1ABC", ""));
         tell(std::string(diary::done));
         m_module.log.open(std::string(diary::logName));
     }

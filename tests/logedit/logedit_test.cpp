@@ -4,7 +4,6 @@
 #include "logedit/logedit.h"
 #include "logedit/loglines.h"
 #include "platform/files.h"
-#include "shared/module1.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
 
@@ -21,10 +20,13 @@ const std::string fullName = logName + ".FULL";
 
 class LogEditTest : public ::testing::Test {
 protected:
-    LogEditTest() { module.settings.logFileName = logName; }
+    LogEditTest() {
+        writeLog("");
+        log.open(logName);
+    }
 
     void writeLog(const std::string& bytes) { folder.write(logName, bytes); }
-    std::string log() { return folder.read(logName); }
+    std::string onDisk() { return folder.read(logName); }
     std::string backup() { return folder.read(backupName); }
 
     // What the search and its repeats visit, in their order.
@@ -46,8 +48,8 @@ protected:
     TempFolder folder;
     FailingCalls calls;
     Files files{folder.string(), calls};
-    Module1 module;
-    LogEdit edit{files, module};
+    Log log{files};
+    LogEdit edit{files, log};
 };
 
 TEST_F(LogEditTest, SearchAndItsRepeatsVisitExactlyTheMatchingContactsInOrder) {
@@ -72,6 +74,7 @@ TEST_F(LogEditTest, TooShortAKeyAndARepeatWithoutAFurtherMatchLeaveTheContactFou
 }
 
 TEST_F(LogEditTest, WithNothingFoundNothingIsChanged) {
+    std::filesystem::remove(folder.path() / logName);
     EXPECT_RUNTIME_ERROR(edit.search("K1ABC"), ErrorCode::fileNotFound, HasSubstr(logName));
     writeLog(logOf({contact("K1ABC")}));
     EXPECT_FALSE(edit.replaceLine(contact("K9SKC")).made);
@@ -80,8 +83,8 @@ TEST_F(LogEditTest, WithNothingFoundNothingIsChanged) {
     EXPECT_FALSE(edit.replaceLine(contact("K9SKC")).made);
     EXPECT_FALSE(edit.removeLine().made);
     EXPECT_FALSE(edit.undo().made);
-    EXPECT_EQ(log(), logOf({contact("K1ABC")}));
-    EXPECT_THAT(folder.names(), ElementsAre(logName));
+    EXPECT_EQ(onDisk(), logOf({contact("K1ABC")}));
+    EXPECT_THAT(folder.names(), ElementsAre(logName, workedStationsFile));
 }
 
 TEST_F(LogEditTest, AChangeEndsTheOtherLinesProperlyAndItsUndoBringsAllBack) {
@@ -94,19 +97,19 @@ TEST_F(LogEditTest, AChangeEndsTheOtherLinesProperlyAndItsUndoBringsAllBack) {
     edit.search("K9S");
     EXPECT_FALSE(edit.canUndo());
     EXPECT_TRUE(edit.replaceLine(contact("K9SKC", "NEW")).made);
-    EXPECT_EQ(log(), after);
+    EXPECT_EQ(onDisk(), after);
     EXPECT_EQ(backup(), before);
     EXPECT_EQ(edit.line(), contact("K9SKC", "NEW"));
 
     EXPECT_TRUE(edit.undo().made);
     EXPECT_EQ(edit.undoText(), undoneText);
-    EXPECT_EQ(log(), before);
+    EXPECT_EQ(onDisk(), before);
     EXPECT_EQ(backup(), after);
     EXPECT_FALSE(edit.found()); // what the page showed need not be in the log any more
 
     EXPECT_TRUE(edit.undo().made);
     EXPECT_EQ(edit.undoText(), redoneText);
-    EXPECT_EQ(log(), after);
+    EXPECT_EQ(onDisk(), after);
     EXPECT_EQ(backup(), before);
 }
 
@@ -118,7 +121,8 @@ TEST_F(LogEditTest, AfterADeletionTheLineThatMovedUpIsNeverDeletedUnseen) {
     EXPECT_TRUE(edit.removeLine().made);
     EXPECT_FALSE(edit.found());
     EXPECT_FALSE(edit.removeLine().made);
-    EXPECT_EQ(log(), logOf({contact("K1ABC", "ONE"), contact("K1ABC", "THREE"), contact("K9SKC")}));
+    EXPECT_EQ(onDisk(),
+              logOf({contact("K1ABC", "ONE"), contact("K1ABC", "THREE"), contact("K9SKC")}));
     EXPECT_EQ(edit.searchNext("K1ABC"), SearchResult::found);
     EXPECT_EQ(edit.line(), contact("K1ABC", "THREE"));
 }
@@ -131,7 +135,7 @@ TEST_F(LogEditTest, ASaveThatChangesNothingKeepsTheBackupAndTheUndo) {
     EXPECT_TRUE(edit.replaceLine(contact("K1ABC", "THREE")).made);
     EXPECT_EQ(backup(), logOf({contact("K1ABC", "TWO")}));
     EXPECT_TRUE(edit.undo().made);
-    EXPECT_EQ(log(), logOf({contact("K1ABC", "TWO")}));
+    EXPECT_EQ(onDisk(), logOf({contact("K1ABC", "TWO")}));
 }
 
 TEST_F(LogEditTest, ALogChangedSinceTheSearchIsNotWritten) {
@@ -140,13 +144,13 @@ TEST_F(LogEditTest, ALogChangedSinceTheSearchIsNotWritten) {
         [this] { files.appendLine(logName, contact("W9NEW")); },
         [this] { std::filesystem::remove(folder.path() / logName); },
         [&] { // another contest is opened, whose log happens to be the same
-            folder.write(name, log());
-            module.settings.logFileName = name;
+            folder.write(name, onDisk());
+            log.open(name);
         },
     };
     for (const auto& happens : meanwhile) {
-        module.settings.logFileName = logName;
         writeLog(logOf({contact("K1ABC")}));
+        log.open(logName);
         edit.search("K1ABC");
         happens();
         const std::vector<std::string> names = folder.names();
@@ -168,17 +172,17 @@ TEST_F(LogEditTest, UndoIsRefusedUnlessLogAndBackupAreAsTheChangeLeftThem) {
     edit.search("K1ABC");
     edit.replaceLine(contact("K1ABC", "TWO"));
     // The other page makes a change and undoes it: the log is again what this page left.
-    LogEdit other(files, module);
+    LogEdit other(files, log);
     other.search("K1ABC");
     other.removeLine();
     EXPECT_TRUE(other.undo().made);
-    ASSERT_EQ(log(), logOf({contact("K1ABC", "TWO")}));
+    ASSERT_EQ(onDisk(), logOf({contact("K1ABC", "TWO")}));
     expectRefused(edit.undo(), "THE CHANGE CANNOT BE UNDONE");
-    EXPECT_EQ(log(), logOf({contact("K1ABC", "TWO")}));
+    EXPECT_EQ(onDisk(), logOf({contact("K1ABC", "TWO")}));
 
     files.appendLine(logName, contact("W9NEW"));
     expectRefused(other.undo(), "THE CHANGE CANNOT BE UNDONE");
-    EXPECT_EQ(log(), logOf({contact("K1ABC", "TWO"), contact("W9NEW")}));
+    EXPECT_EQ(onDisk(), logOf({contact("K1ABC", "TWO"), contact("W9NEW")}));
 }
 
 TEST_F(LogEditTest, LinesBeyondTheTableAreKeptInAFullCopyAndUndoBringsThemBack) {
@@ -195,7 +199,7 @@ TEST_F(LogEditTest, LinesBeyondTheTableAreKeptInAFullCopyAndUndoBringsThemBack) 
 
     const ChangeResult result = edit.replaceLine(contact("K1ABC", "NEW"));
     EXPECT_TRUE(result.made);
-    EXPECT_EQ(log(), after);
+    EXPECT_EQ(onDisk(), after);
     EXPECT_EQ(folder.read(fullName), "kept earlier");
     EXPECT_EQ(folder.read(fullName + "2"), before);
     ASSERT_TRUE(result.notice);
@@ -204,9 +208,9 @@ TEST_F(LogEditTest, LinesBeyondTheTableAreKeptInAFullCopyAndUndoBringsThemBack) 
 
     const ChangeResult undone = edit.undo();
     EXPECT_FALSE(undone.notice);
-    EXPECT_EQ(log(), before);
+    EXPECT_EQ(onDisk(), before);
     EXPECT_TRUE(edit.undo().notice); // the redo drops them again, so it keeps them again
-    EXPECT_EQ(log(), after);
+    EXPECT_EQ(onDisk(), after);
     EXPECT_EQ(folder.read(fullName + "3"), before);
 }
 
@@ -216,17 +220,17 @@ TEST_F(LogEditTest, TheWorkedStationsFollowAChangeAndItsUndoEvenOnAFullDisk) {
     writeLog(logOf({contact("K1ABC"), contact("K9SKC")}));
     edit.search("K1ABC");
     edit.removeLine();
-    EXPECT_FALSE(edit.reloadLog());
-    EXPECT_EQ(module.qsoTable.count(), 1);
-    EXPECT_THAT(module.workedStations.entries(), ElementsAre(kept));
-    EXPECT_EQ(folder.read("StnsWorked.TXT"), kept + "\r\n");
+    EXPECT_FALSE(edit.followChange());
+    EXPECT_EQ(log.count(), 1);
+    EXPECT_THAT(log.worked(), ElementsAre(kept));
+    EXPECT_EQ(folder.read(std::string(workedStationsFile)), kept + "\r\n");
 
     edit.undo();
     calls.failAt(Call::write, 1, ENOSPC);
-    const std::optional<RuntimeError> failed = edit.reloadLog();
+    const std::optional<RuntimeError> failed = edit.followChange();
     ASSERT_TRUE(failed);
     EXPECT_EQ(failed->code(), ErrorCode::diskFull);
-    EXPECT_THAT(module.workedStations.entries(), ElementsAre(removed, kept));
+    EXPECT_THAT(log.worked(), ElementsAre(removed, kept));
 }
 
 // --- Stops and failures --------------------------------------------------------------------
@@ -239,7 +243,7 @@ protected:
     // A page that has made a change: log, backup and undo all hold something to lose.
     LogEdit pageAfterAChange() {
         writeLog(firstLog);
-        LogEdit page(files, module);
+        LogEdit page(files, log);
         page.search("K1ABC");
         page.replaceLine(contact("K1ABC", "TWO"));
         return page;
@@ -267,10 +271,10 @@ TEST_F(RewriteStops, AStopDuringAnUndoLosesNeitherOfTheTwoLogs) {
         SCOPED_TRACE(n);
         LogEdit page = pageAfterAChange();
         stopped = stopsAt(n, [&] { page.undo(); });
-        const bool undone = log() == firstLog;
-        EXPECT_EQ(log(), undone ? firstLog : secondLog);
+        const bool undone = onDisk() == firstLog;
+        EXPECT_EQ(onDisk(), undone ? firstLog : secondLog);
         EXPECT_EQ(backup(), undone ? secondLog : firstLog);
-        EXPECT_THAT(folder.names(), ElementsAre(logName, backupName));
+        EXPECT_THAT(folder.names(), ElementsAre(logName, backupName, workedStationsFile));
         EXPECT_TRUE(undone || stopped);
     }
 }
@@ -285,7 +289,7 @@ TEST_F(RewriteStops, AStopWhileLinesAreDroppedLosesNone) {
         writeLog(before);
         edit.search("K1ABC");
         stopped = stopsAt(n, [&] { edit.removeLine(); });
-        const bool changed = log() != before;
+        const bool changed = onDisk() != before;
         EXPECT_TRUE(!changed || folder.read(fullName) == before);
         EXPECT_TRUE(changed || stopped);
     }
@@ -296,11 +300,11 @@ TEST_F(RewriteStops, AFailedChangeLeavesLogBackupAndUndoAsTheyWere) {
     for (const Call kind : {Call::open, Call::write, Call::rename}) {
         calls.failAt(kind, 1, ENOSPC);
         EXPECT_RUNTIME_ERROR(page.removeLine(), ErrorCode::diskFull, HasSubstr(folder.string()));
-        EXPECT_EQ(log(), secondLog);
+        EXPECT_EQ(onDisk(), secondLog);
         EXPECT_EQ(backup(), firstLog);
     }
     EXPECT_TRUE(page.undo().made);
-    EXPECT_EQ(log(), firstLog);
+    EXPECT_EQ(onDisk(), firstLog);
 }
 
 } // namespace

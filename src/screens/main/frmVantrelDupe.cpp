@@ -24,22 +24,22 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     setPalette(red);
 
     FormBuilder build(this);
-    Label1 = build.label("Label1", "DUPE");
-    Label1->setAlignment(Qt::AlignCenter);
-    Label1->setFont(enlargedFont(this, 8));
-    Timer1 = new QTimer(this);
-    Timer1->setObjectName(QStringLiteral("Timer1"));
-    Timer1->setSingleShot(true);
-    Timer1->setInterval(shownMilliseconds);
+    QLabel* label = build.label("Label1", "DUPE");
+    label->setAlignment(Qt::AlignCenter);
+    label->setFont(enlargedFont(this, 8));
+    m_timer = new QTimer(this);
+    m_timer->setObjectName(QStringLiteral("Timer1"));
+    m_timer->setSingleShot(true);
+    m_timer->setInterval(shownMilliseconds);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(60, 30, 60, 30);
-    layout->addWidget(Label1);
-    connectHandler(Timer1, &QTimer::timeout, this, &frmVantrelDupe::Timer1_Timer);
+    layout->addWidget(label);
+    connectHandler(m_timer, &QTimer::timeout, this, &frmVantrelDupe::timeUp);
 }
 
 void frmVantrelDupe::load() {
-    Timer1->start();
+    m_timer->start();
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
     if (const QWidget* above = opener()) {
@@ -58,7 +58,7 @@ void frmVantrelDupe::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
 }
 
-void frmVantrelDupe::Timer1_Timer() {
+void frmVantrelDupe::timeUp() {
     close();
 }
 

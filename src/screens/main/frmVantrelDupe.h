@@ -4,7 +4,6 @@
 
 #include "forms/form.h"
 
-class QLabel;
 class QTimer;
 
 namespace vantrel {
@@ -24,10 +23,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void Timer1_Timer();
+    void timeUp();
 
-    QLabel* Label1; // "DUPE"
-    QTimer* Timer1; // closes the screen
+    QTimer* m_timer;
 };
 
 } // namespace vantrel

@@ -22,30 +22,16 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <functional>
+
 namespace vantrel {
 
 namespace {
 
-constexpr int numberBoxWidth = 10; // a lookup fills ten
-constexpr int frequencyBoxWidth = 10;
 constexpr double entryEnlargement = 1.5;
 constexpr double workedBeforeEnlargement = 1.1;
 constexpr int workedBeforeColumns = 80;
 constexpr std::string_view startFrequency = "14.050";
-constexpr const char* reports[] = {"599", "589", "579", "569", "559", "549",
-                                   "539", "529", "519", "449", "339"};
-
-// Upper case as one types; the cursor stays where it was.
-void keepUpperCase(QLineEdit* box) {
-    QObject::connect(box, &QLineEdit::textEdited, box, [box](const QString& typed) {
-        const QString shown = toQt(upper(fromQt(typed)));
-        if (shown == typed)
-            return;
-        const int cursor = box->cursorPosition();
-        box->setText(shown);
-        box->setCursorPosition(cursor);
-    });
-}
 
 // A red that can be read on a light and on a dark window.
 QColor warningColour(const QPalette& palette) {
@@ -53,17 +39,11 @@ QColor warningColour(const QPalette& palette) {
     return dark ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
 }
 
-QComboBox* reportBox(FormBuilder& build, const char* name) {
-    QComboBox* box = build.editableCombo(name, "Click on Arrow - Then Select");
-    for (const char* report : reports)
-        box->addItem(QString::fromLatin1(report));
-    return box;
-}
-
 } // namespace
 
 frmVantrelMain::frmVantrelMain(const FormContext& context)
     : Form(context, "frmVantrelMain", "Vantrel"),
+      m_boxes(this),
       m_hold(this, [this] { platform().serialPort.close(); }),
       m_roster(context.platform.files) {
     setAttribute(Qt::WA_DeleteOnClose, false);
@@ -80,17 +60,6 @@ frmVantrelMain::~frmVantrelMain() {
 
 void frmVantrelMain::createControls() {
     FormBuilder build(this);
-    // The tab order follows the exchange as it is heard.
-    m_callBox =
-        build.text("Text2", callWidth, "ENTER HIS CALL OR HIS SKCC#=10 CHARACTERS & DIGITS");
-    m_rstSentBox = reportBox(build, "Combo1");
-    m_rstReceivedBox = reportBox(build, "Combo2");
-    m_nameBox = build.text("Text3", nameWidth, "10 CHARACTERS");
-    m_stateBox = build.text("Text4", stateWidth, "3 CHARACTERS");
-    m_numberBox = build.text("Text5", numberBoxWidth, "Enter as: 1234T or 100W or NONE");
-    m_frequencyBox =
-        build.text("Text7", frequencyBoxWidth,
-                   "THIS FREQ WILL BE PUT INTO THE LOG-->TYPE OVER TO CHANGE - 4 OR 5 DIGITS ");
     m_frequencyButton = build.command("Command15", "Enter",
                                       "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON");
     m_searchButton = build.command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE");
@@ -102,14 +71,7 @@ void frmVantrelMain::createControls() {
     m_stationOption = build.jobOption(
         "Option1", "ADD K3Y/xx", "CLICK TO ADD K3Y/xx  TO FILE - BEFORE LOGGING DX K3Y STATIONS");
     m_audioButton = build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ");
-    m_listButton = build.command("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE");
-    m_correctButton = build.command("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE");
-    m_deleteButton = build.command("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE");
-    m_filesButton = build.command("Command9", "F&ILES", "FILE MAINTENANCE PAGE");
-    m_backupButton = build.command("Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK");
-    m_scoreButton = build.command("Command11", "S&CORE", "CALCULATES CURRENT SCORE ");
-    m_bonusButton = build.command("Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD");
-    m_exitButton = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
+    m_pageCommands = pageCommands();
     m_countBox = build.output("Text1");
     m_workedList = build.list("List1");
     m_bandLabel = build.label("Label10");
@@ -122,6 +84,45 @@ void frmVantrelMain::createControls() {
     m_workedList->setModel(m_workedLines);
 }
 
+// The commands that lead to other pages.
+QHBoxLayout* frmVantrelMain::pageCommands() {
+    using Action = std::function<void(Screens&, const OperatingSettings&)>;
+    const auto opens = [](Screen screen) -> Action {
+        return [screen](Screens& screens, const OperatingSettings&) { screens.open(screen); };
+    };
+    const struct {
+        const char* name;
+        const char* caption;
+        const char* toolTip;
+        Action action;
+    } commands[] = {
+        {"Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE", opens(Screen::correct)},
+        {"Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE", opens(Screen::deletion)},
+        {"Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
+         [](Screens& screens, const OperatingSettings&) { screens.openList(ListedFile::log); }},
+        {"Command9", "F&ILES", "FILE MAINTENANCE PAGE", opens(Screen::files)},
+        {"Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK", opens(Screen::backup)},
+        // In the event month the standings take the place of the score.
+        {"Command11", "S&CORE", "CALCULATES CURRENT SCORE ",
+         [](Screens& screens, const OperatingSettings& settings) {
+             screens.open(settings.isK3y() ? Screen::standings : Screen::score);
+         }},
+        {"Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD", opens(Screen::bonus)},
+        {"Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM",
+         [](Screens& screens, const OperatingSettings&) { screens.quit(); }},
+    };
+    FormBuilder build(this);
+    auto* row = new QHBoxLayout;
+    for (const auto& [name, caption, toolTip, action] : commands) {
+        QPushButton* button = build.command(name, caption, toolTip);
+        connect(button, &QPushButton::clicked, this, [this, action = action] {
+            runHandler([&] { action(screens(), shared().settings); });
+        });
+        row->addWidget(button);
+    }
+    return row;
+}
+
 void frmVantrelMain::connectHandlers() {
     connectEntryBoxes();
     using Main = frmVantrelMain;
@@ -132,44 +133,20 @@ void frmVantrelMain::connectHandlers() {
     onClick(m_logButton, &Main::logClicked);
     onClick(m_noLogButton, &Main::noLogClicked);
     onClick(m_readButton, &Main::readClicked);
-    onClick(m_listButton, &Main::listClicked);
-    onClick(m_scoreButton, &Main::scoreClicked);
     onClick(m_audioButton, &Main::audioClicked);
     onClick(m_upButton, &Main::upClicked);
     onClick(m_downButton, &Main::downClicked);
     onClick(m_frequencyButton, &Main::frequencyClicked);
     connectHandler(m_stationOption, &QRadioButton::clicked, this, &Main::stationClicked);
-    const auto opens = [this](QPushButton* button, Screen screen) {
-        connect(button, &QPushButton::clicked, this,
-                [this, screen] { runHandler([&] { screens().open(screen); }); });
-    };
-    opens(m_correctButton, Screen::correct);
-    opens(m_deleteButton, Screen::deletion);
-    opens(m_filesButton, Screen::files);
-    opens(m_backupButton, Screen::backup);
-    opens(m_bonusButton, Screen::bonus);
-    connect(m_exitButton, &QPushButton::clicked, this, [this] { screens().quit(); });
 }
 
 void frmVantrelMain::connectEntryBoxes() {
     using Main = frmVantrelMain;
-    for (QLineEdit* box : {m_callBox, m_rstSentBox->lineEdit(), m_rstReceivedBox->lineEdit(),
-                           m_nameBox, m_stateBox, m_numberBox, m_frequencyBox})
-        keepUpperCase(box);
-    connectHandler(m_callBox, &QLineEdit::textEdited, this, &Main::callEdited);
-    connectHandler(m_callBox, &QLineEdit::returnPressed, this, &Main::searchClicked);
-    const auto nextOnEnter = [this](QLineEdit* box, QWidget* next) {
-        // As Tab would: what the box holds is selected, and typing replaces it.
-        connect(box, &QLineEdit::returnPressed, next,
-                [next] { next->setFocus(Qt::TabFocusReason); });
-    };
-    nextOnEnter(m_rstSentBox->lineEdit(), m_rstReceivedBox);
-    nextOnEnter(m_rstReceivedBox->lineEdit(), m_nameBox);
-    nextOnEnter(m_nameBox, m_stateBox);
-    nextOnEnter(m_stateBox, m_numberBox);
-    connectHandler(m_numberBox, &QLineEdit::returnPressed, this, &Main::logClicked);
-    connectHandler(m_frequencyBox, &QLineEdit::returnPressed, this, &Main::frequencyClicked);
-    connectHandler(m_frequencyBox, &QLineEdit::editingFinished, this, &Main::frequencyEntered);
+    connectHandler(m_boxes.call, &QLineEdit::textEdited, this, &Main::callEdited);
+    connectHandler(m_boxes.call, &QLineEdit::returnPressed, this, &Main::searchClicked);
+    connectHandler(m_boxes.number, &QLineEdit::returnPressed, this, &Main::logClicked);
+    connectHandler(m_boxes.frequency, &QLineEdit::returnPressed, this, &Main::frequencyClicked);
+    connectHandler(m_boxes.frequency, &QLineEdit::editingFinished, this, &Main::frequencyEntered);
 }
 
 // --- Opening ---------------------------------------------------------------------------------
@@ -182,7 +159,7 @@ void frmVantrelMain::load() {
     put(m_autoReadLabel,
         autoReadText(settings.hasRadio() ? ReadOutcome::read : ReadOutcome::noRadio));
     shared().marker = noMarker;
-    clearEntry(EntryBoxes::empty);
+    clearEntry(Left::nothing);
     showStation(std::string(noStationLabel));
     shared().audioOn = true;
     put(m_audioButton, "AUDIO ON");
@@ -200,7 +177,7 @@ void frmVantrelMain::paintEvent(QPaintEvent* event) {
 }
 
 QWidget* frmVantrelMain::firstFocus() {
-    return m_callBox;
+    return m_boxes.call;
 }
 
 void frmVantrelMain::closeEvent(QCloseEvent* event) {
@@ -216,18 +193,18 @@ void frmVantrelMain::callEdited() {
     showWorkedBefore();
     if (!m_lookedUp)
         return;
-    Entry typed = entry();
+    Entry typed = m_boxes.entry();
     forgetLookup(typed, *m_lookedUp);
     m_lookedUp.reset();
-    const int cursor = m_callBox->cursorPosition();
+    const int cursor = m_boxes.call->cursorPosition();
     showEntry(typed);
-    m_callBox->setCursorPosition(cursor);
+    m_boxes.call->setCursorPosition(cursor);
 }
 
 // Only shows, in red where SEARCH would call it a duplicate on the present band.
 void frmVantrelMain::showWorkedBefore() {
-    const std::string typed = textOf(m_callBox);
-    const std::string mhz = completedFrequency(frequencyAsEntered(textOf(m_frequencyBox)));
+    const std::string typed = textOf(m_boxes.call);
+    const std::string mhz = completedFrequency(frequencyAsEntered(textOf(m_boxes.frequency)));
     const std::string text = workedBefore(shared().log.contacts(), typed, workedBeforeColumns);
     const bool duplicate =
         !text.empty() && isDuplicate(shared().log.contacts(), typed, bandTagOf(mhz));
@@ -241,13 +218,13 @@ void frmVantrelMain::showWorkedBefore() {
 void frmVantrelMain::searchClicked() {
     const InputHold::Scope hold(m_hold);
     frequencyEntered();
-    Entry typed = entry();
+    Entry typed = m_boxes.entry();
     if (isComplete(typed)) {
         logClicked();
         return;
     }
     typed.call = callAsEntered(typed.call);
-    put(m_callBox, typed.call);
+    put(m_boxes.call, typed.call);
     if (!lookUpAndShow(typed)) {
         toCallBox();
         return;
@@ -256,7 +233,7 @@ void frmVantrelMain::searchClicked() {
         return;
     if (trim(typed.frequency).empty()) {
         messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
-        m_callBox->clear();
+        m_boxes.call->clear();
         toCallBox();
         return;
     }
@@ -287,7 +264,7 @@ void frmVantrelMain::checkForDupes(const Entry& typed) {
     const bool refused = duplicate && !settings.logsDupes();
     const bool k3yDupe = settings.isK3y() && isK3yDupe(contacts, typed.call, typed.number, bandTag);
     if (refused)
-        clearEntry(EntryBoxes::empty);
+        clearEntry(Left::nothing);
     shared().marker = duplicate && !refused ? dupeMarker : noMarker;
     showStation(std::string(noStationLabel));
     if (duplicate)
@@ -301,7 +278,7 @@ void frmVantrelMain::checkForDupes(const Entry& typed) {
 void frmVantrelMain::logClicked() {
     const InputHold::Scope hold(m_hold);
     frequencyEntered();
-    Entry typed = entry();
+    Entry typed = m_boxes.entry();
     if (!canBeLogged(typed)) {
         toCallBox();
         return;
@@ -313,14 +290,14 @@ void frmVantrelMain::logClicked() {
         if (error.code() != ErrorCode::invalidCall)
             throw;
         messages().show({std::string(invalidEntryText), BoxIcon::exclamation, error.detail()});
-        clearEntry(EntryBoxes::empty);
+        clearEntry(Left::nothing);
         return;
     }
     if (!line)
         return;
     if (shared().settings.isK3y() && isK3yDupe(shared().log.contacts(), *line)) {
         screens().askAboutDupe({[this, dupe = asDupe(*line)] { logLine(dupe); },
-                                [this] { clearEntry(EntryBoxes::oneBlank); }});
+                                [this] { clearEntry(Left::oneBlank); }});
         return;
     }
     logLine(*line);
@@ -339,7 +316,7 @@ std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
     switch (check) {
     case FrequencyCheck::outsideSprintBands:
         messages().show({typed.frequency + std::string(wrongBandText), BoxIcon::critical});
-        clearEntry(EntryBoxes::empty);
+        clearEntry(Left::nothing);
         return std::nullopt;
     case FrequencyCheck::missing:
         messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
@@ -363,7 +340,7 @@ void frmVantrelMain::logLine(const std::string& line) {
     } catch (const RuntimeError& error) {
         failure = failureOnceLogged(error);
     }
-    clearEntry(EntryBoxes::empty);
+    clearEntry(Left::nothing);
     if (failure)
         messages().show(*failure);
     if (!logWasThere)
@@ -372,7 +349,7 @@ void frmVantrelMain::logLine(const std::string& line) {
 }
 
 void frmVantrelMain::noLogClicked() {
-    clearEntry(EntryBoxes::empty);
+    clearEntry(Left::nothing);
     showStation(std::string(noStationLabel));
 }
 
@@ -384,20 +361,20 @@ void frmVantrelMain::frequencyClicked() {
 }
 
 void frmVantrelMain::frequencyEntered() {
-    showFrequency(frequencyAsEntered(textOf(m_frequencyBox)));
+    showFrequency(frequencyAsEntered(textOf(m_boxes.frequency)));
 }
 
 // Shows the frequency and the band that follows from it.
 void frmVantrelMain::showFrequency(const std::string& mhz) {
-    if (textOf(m_frequencyBox) != mhz)
-        put(m_frequencyBox, mhz);
+    if (textOf(m_boxes.frequency) != mhz)
+        put(m_boxes.frequency, mhz);
     put(m_bandLabel, bandTextOf(mhz, textOf(m_bandLabel)));
     showWorkedBefore();
 }
 
 void frmVantrelMain::readClicked() {
     const InputHold::Scope hold(m_hold);
-    Entry typed = entry();
+    Entry typed = m_boxes.entry();
     if (readRadio(typed))
         toCallBox();
 }
@@ -446,38 +423,16 @@ void frmVantrelMain::stationClicked() {
                                 noStationLabel); // opened, nothing is chosen yet
 }
 
-void frmVantrelMain::listClicked() {
-    screens().openList(ListedFile::log);
-}
-
-// In the event month the standings take the place of the score.
-void frmVantrelMain::scoreClicked() {
-    screens().open(shared().settings.isK3y() ? Screen::standings : Screen::score);
-}
-
 // --- Boxes -----------------------------------------------------------------------------------
 
-Entry frmVantrelMain::entry() const {
-    return {textOf(m_callBox),     textOf(m_nameBox),    textOf(m_stateBox),
-            textOf(m_numberBox),   textOf(m_rstSentBox), textOf(m_rstReceivedBox),
-            textOf(m_frequencyBox)};
-}
-
 void frmVantrelMain::showEntry(const Entry& entry) {
-    put(m_callBox, entry.call);
-    put(m_nameBox, entry.name);
-    put(m_stateBox, entry.state);
-    put(m_numberBox, entry.number);
+    m_boxes.show(entry);
     showWorkedBefore();
 }
 
-void frmVantrelMain::clearEntry(EntryBoxes boxes) {
-    const std::string left = boxes == EntryBoxes::oneBlank ? " " : "";
-    showEntry({left, left, left, left, {}, {}, {}});
-    for (QComboBox* report : {m_rstSentBox, m_rstReceivedBox}) {
-        report->setCurrentIndex(0);
-        report->setEditText(report->itemText(0));
-    }
+void frmVantrelMain::clearEntry(Left left) {
+    m_boxes.clear(left == Left::oneBlank ? " " : "");
+    showWorkedBefore();
     m_lookedUp.reset();
     resetDupeMarker();
     toCallBox();
@@ -503,7 +458,7 @@ void frmVantrelMain::resetDupeMarker() {
 
 void frmVantrelMain::toCallBox() {
     activateWindow();
-    m_callBox->setFocus();
+    m_boxes.call->setFocus();
 }
 
 // --- Layout ----------------------------------------------------------------------------------
@@ -515,15 +470,14 @@ void frmVantrelMain::layOut() {
     m_workedBeforeLabel->setFont(enlargedFont(this, workedBeforeEnlargement));
     auto* page = new QVBoxLayout(this);
     page->addLayout(statusRow());
-    page->addLayout(exchangeRow());
+    page->addLayout(m_boxes.exchangeRow(this));
     page->addWidget(m_workedBeforeLabel);
     page->addLayout(frequencyRow());
     page->addLayout(rowOf({m_searchButton, m_logButton, m_noLogButton, m_readButton, m_audioButton,
                            m_stationOption, m_stationLabel}));
     page->addWidget(workedHeadings());
     page->addWidget(m_workedList, 1);
-    page->addLayout(rowOf({m_correctButton, m_deleteButton, m_listButton, m_filesButton,
-                           m_backupButton, m_scoreButton, m_bonusButton, m_exitButton}));
+    page->addLayout(m_pageCommands);
 }
 
 QHBoxLayout* frmVantrelMain::rowOf(std::initializer_list<QWidget*> controls) {
@@ -540,42 +494,17 @@ QHBoxLayout* frmVantrelMain::statusRow() {
     return row;
 }
 
-// The boxes of the exchange, each under its name, large enough to be read from the key.
-QGridLayout* frmVantrelMain::exchangeRow() {
-    struct Box {
-        const char* caption;
-        QWidget* box;
-        int columns;
-    };
-    const Box boxes[] = {{"HIS CALL", m_callBox, callWidth}, {"RST SENT", m_rstSentBox, 0},
-                         {"RST RCVD", m_rstReceivedBox, 0},  {"NAME", m_nameBox, nameWidth},
-                         {"STATE", m_stateBox, stateWidth},  {"SKCC#", m_numberBox, numberWidth}};
-    FormBuilder build(this);
-    auto* grid = new QGridLayout;
-    int column = 0;
-    for (const Box& box : boxes) {
-        box.box->setFont(enlargedFont(this, entryEnlargement));
-        if (auto* line = qobject_cast<QLineEdit*>(box.box))
-            setColumns(line, box.columns);
-        grid->addWidget(build.caption(box.caption), 0, column);
-        grid->addWidget(box.box, 1, column++);
-    }
-    grid->setColumnStretch(0, 3);
-    grid->setColumnStretch(3, 3);
-    return grid;
-}
-
 QHBoxLayout* frmVantrelMain::frequencyRow() {
     FormBuilder build(this);
-    for (QWidget* control : {static_cast<QWidget*>(m_frequencyBox),
+    for (QWidget* control : {static_cast<QWidget*>(m_boxes.frequency),
                              static_cast<QWidget*>(m_countBox), static_cast<QWidget*>(m_bandLabel)})
         control->setFont(enlargedFont(this, entryEnlargement));
-    setColumns(m_frequencyBox, 6);
+    setColumns(m_boxes.frequency, 6);
     setColumns(m_countBox, 5);
     m_countBox->setAlignment(Qt::AlignCenter);
-    QHBoxLayout* row =
-        rowOf({build.caption("FREQ MHz"), m_frequencyBox, m_frequencyButton, m_upButton,
-               m_downButton, m_bandLabel, build.caption("QSOs"), m_countBox});
+    QHBoxLayout* row = rowOf({build.caption("FREQ MHz", m_boxes.frequency), m_boxes.frequency,
+                              m_frequencyButton, m_upButton, m_downButton, m_bandLabel,
+                              build.caption("QSOs", m_countBox), m_countBox});
     row->setStretch(5, 1);
     m_bandLabel->setAlignment(Qt::AlignCenter);
     return row;

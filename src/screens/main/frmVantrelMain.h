@@ -6,16 +6,13 @@
 #include "forms/form.h"
 #include "forms/inputhold.h"
 #include "roster/rosterlookup.h"
-#include "screens/main/qsoentry.h"
+#include "screens/main/frmEntryBoxes.h"
 
 #include <initializer_list>
 #include <optional>
 
-class QComboBox;
-class QGridLayout;
 class QHBoxLayout;
 class QLabel;
-class QLineEdit;
 class QListView;
 class QPushButton;
 class QRadioButton;
@@ -46,33 +43,31 @@ protected:
 
 private:
     // What the boxes hold after a contact is dropped: nothing, or a single blank each.
-    enum class EntryBoxes { empty, oneBlank };
+    enum class Left { nothing, oneBlank };
 
     void createControls();
     void layOut();
     QHBoxLayout* rowOf(std::initializer_list<QWidget*> controls);
     QHBoxLayout* statusRow();
-    QGridLayout* exchangeRow();
     QHBoxLayout* frequencyRow();
     QLabel* workedHeadings();
     void connectHandlers();
     void connectEntryBoxes();
 
-    // In the order in which the operator meets them.
-    void callEdited();       // his call typed in
-    void searchClicked();    // SEARCH, and Enter in the call box
-    void logClicked();       // LOG, and Enter in the number box
-    void noLogClicked();     // NO LOG
-    void frequencyClicked(); // band from frequency, and Enter in its box
-    void readClicked();      // FREQ
-    void upClicked();        // band up
-    void downClicked();      // band down
-    void audioClicked();     // audio
-    void stationClicked();   // K3Y box
-    void listClicked();      // list the log
-    void scoreClicked();     // score
+    QHBoxLayout* pageCommands();
 
-    Entry entry() const;
+    // In the order in which the operator meets them.
+    void callEdited();
+    void searchClicked(); // and Enter in the call box
+    void logClicked();    // and Enter in the number box
+    void noLogClicked();
+    void frequencyClicked(); // and Enter in its box
+    void readClicked();
+    void upClicked();
+    void downClicked();
+    void audioClicked();
+    void stationClicked();
+
     void showEntry(const Entry& entry);
     void showFrequency(const std::string& mhz);
     void showWorkedBefore();
@@ -83,18 +78,12 @@ private:
     void logLine(const std::string& line);
     bool readRadio(Entry& typed);
     void stepTo(const Band& band);
-    void clearEntry(EntryBoxes boxes);
+    void clearEntry(Left left);
     void resetDupeMarker();
     void showLog();
     void toCallBox();
 
-    QLineEdit* m_callBox;
-    QComboBox* m_rstSentBox;
-    QComboBox* m_rstReceivedBox;
-    QLineEdit* m_nameBox;
-    QLineEdit* m_stateBox;
-    QLineEdit* m_numberBox;
-    QLineEdit* m_frequencyBox;
+    EntryBoxes m_boxes;
     QLineEdit* m_countBox;
     QListView* m_workedList;
     QLabel* m_bandLabel;
@@ -104,22 +93,16 @@ private:
     QLabel* m_workedBeforeLabel;
     QLabel* m_stationLabel;
     QRadioButton* m_stationOption;
-    QPushButton* m_exitButton;
     QPushButton* m_searchButton;
     QPushButton* m_logButton;
     QPushButton* m_noLogButton;
     QPushButton* m_readButton;
-    QPushButton* m_listButton;
-    QPushButton* m_correctButton;
-    QPushButton* m_deleteButton;
-    QPushButton* m_filesButton;
-    QPushButton* m_backupButton;
-    QPushButton* m_scoreButton;
     QPushButton* m_audioButton;
     QPushButton* m_upButton;
     QPushButton* m_downButton;
     QPushButton* m_frequencyButton;
-    QPushButton* m_bonusButton;
+
+    QHBoxLayout* m_pageCommands;
 
     InputHold m_hold; // what is typed while the radio is read
     Roster m_roster;

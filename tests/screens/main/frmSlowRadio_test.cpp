@@ -64,10 +64,10 @@ TEST_F(SlowRadio, CallEnterEnterAndTheNextCallTypedAheadAreTwoContacts) {
     typeOn("k1abc\n");
     ASSERT_TRUE(QTest::qWaitFor([this] { return logged().size() >= 2 * 109; }));
     const Fields joe{.frequency = " 7025",
-                            .hisCall = "K1ABC",
-                            .hisName = "JOE",
-                            .hisState = "CT",
-                            .hisNumber = "0123T"};
+                     .hisCall = "K1ABC",
+                     .hisName = "JOE",
+                     .hisState = "CT",
+                     .hisNumber = "0123T"};
     Fields ann = joe;
     ann.hisCall = "K1XYZ";
     EXPECT_EQ(logged(), contactLine(joe) + "\r\n" + contactLine(ann) + "\r\n");

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/frmEntryBoxes.h"
+
+#include "base/fixedtext.h"
+#include "forms/controltext.h"
+#include "forms/formbuilder.h"
+#include "shared/settings.h"
+
+#include <QGridLayout>
+
+namespace vantrel {
+
+namespace {
+
+constexpr int numberBoxWidth = 10; // a lookup fills ten
+constexpr int frequencyBoxWidth = 10;
+constexpr double enlargement = 1.5;
+constexpr const char* reports[] = {"599", "589", "579", "569", "559", "549",
+                                   "539", "529", "519", "449", "339"};
+
+// Upper case as one types; the cursor stays where it was.
+void keepUpperCase(QLineEdit* box) {
+    QObject::connect(box, &QLineEdit::textEdited, box, [box](const QString& typed) {
+        const QString shown = toQt(upper(fromQt(typed)));
+        if (shown == typed)
+            return;
+        const int cursor = box->cursorPosition();
+        box->setText(shown);
+        box->setCursorPosition(cursor);
+    });
+}
+
+QComboBox* reportBox(FormBuilder& build, const char* name) {
+    QComboBox* box = build.editableCombo(name, "Click on Arrow - Then Select");
+    for (const char* report : reports)
+        box->addItem(QString::fromLatin1(report));
+    return box;
+}
+
+// As Tab would: what the next box holds is selected, and typing replaces it.
+void nextOnEnter(QLineEdit* box, QWidget* next) {
+    QObject::connect(box, &QLineEdit::returnPressed, next,
+                     [next] { next->setFocus(Qt::TabFocusReason); });
+}
+
+} // namespace
+
+EntryBoxes::EntryBoxes(QWidget* form) {
+    FormBuilder build(form);
+    call = build.text("Text2", callWidth, "ENTER HIS CALL OR HIS SKCC#=10 CHARACTERS & DIGITS");
+    rstSent = reportBox(build, "Combo1");
+    rstReceived = reportBox(build, "Combo2");
+    name = build.text("Text3", nameWidth, "10 CHARACTERS");
+    state = build.text("Text4", stateWidth, "3 CHARACTERS");
+    number = build.text("Text5", numberBoxWidth, "Enter as: 1234T or 100W or NONE");
+    frequency =
+        build.text("Text7", frequencyBoxWidth,
+                   "THIS FREQ WILL BE PUT INTO THE LOG-->TYPE OVER TO CHANGE - 4 OR 5 DIGITS ");
+    for (QLineEdit* box :
+         {call, rstSent->lineEdit(), rstReceived->lineEdit(), name, state, number, frequency})
+        keepUpperCase(box);
+    nextOnEnter(rstSent->lineEdit(), rstReceived);
+    nextOnEnter(rstReceived->lineEdit(), name);
+    nextOnEnter(name, state);
+    nextOnEnter(state, number);
+}
+
+Entry EntryBoxes::entry() const {
+    return {textOf(call),    textOf(name),        textOf(state),    textOf(number),
+            textOf(rstSent), textOf(rstReceived), textOf(frequency)};
+}
+
+void EntryBoxes::show(const Entry& entry) {
+    put(call, entry.call);
+    put(name, entry.name);
+    put(state, entry.state);
+    put(number, entry.number);
+}
+
+void EntryBoxes::clear(std::string_view left) {
+    const std::string text(left);
+    show({text, text, text, text});
+    for (QComboBox* report : {rstSent, rstReceived}) {
+        report->setCurrentIndex(0);
+        report->setEditText(report->itemText(0));
+    }
+}
+
+QGridLayout* EntryBoxes::exchangeRow(QWidget* form) const {
+    const struct {
+        const char* caption;
+        QWidget* box;
+        int columns;
+    } boxes[] = {{"HIS CALL", call, callWidth}, {"RST SENT", rstSent, 0},
+                 {"RST RCVD", rstReceived, 0},  {"NAME", name, nameWidth},
+                 {"STATE", state, stateWidth},  {"SKCC#", number, numberWidth}};
+    FormBuilder build(form);
+    auto* grid = new QGridLayout;
+    int column = 0;
+    for (const auto& [caption, box, columns] : boxes) {
+        box->setFont(enlargedFont(form, enlargement));
+        if (auto* line = qobject_cast<QLineEdit*>(box))
+            setColumns(line, columns);
+        grid->addWidget(build.caption(caption, box), 0, column);
+        grid->addWidget(box, 1, column++);
+    }
+    grid->setColumnStretch(0, 3);
+    grid->setColumnStretch(3, 3);
+    return grid;
+}
+
+} // namespace vantrel

@@ -31,13 +31,8 @@ public:
     T& at(int index) { return m_entries[checked(index)]; }
 
     int size() const { return static_cast<int>(m_entries.size()); }
-    int capacity() const { return m_capacity; }
-    bool full() const { return size() >= m_capacity; }
-    bool empty() const { return m_entries.empty(); }
     void clear() { m_entries.clear(); }
-    void removeAt(int index) {
-        m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(checked(index)));
-    }
+    bool full() const { return size() >= m_capacity; }
 
     const std::vector<T>& entries() const { return m_entries; }
     auto begin() const { return m_entries.begin(); }

@@ -3,6 +3,7 @@
 
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
+#include "platform/folders.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -41,15 +42,14 @@ fs::path matchPart(const fs::path& folder, std::string_view part) {
     if (fs::exists(fs::symlink_status(exact, error)))
         return exact;
     fs::path found;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        if (!matchesWithoutCase(entry->path(), part))
+    for (const fs::path& entry : entriesOf(folder, error)) {
+        if (!matchesWithoutCase(entry, part))
             continue;
         if (!found.empty())
             throw RuntimeError(ErrorCode::pathFileAccess, shownText(exact.string()) + " could be " +
                                                               shownText(found.string()) + " or " +
-                                                              shownText(entry->path().string()));
-        found = entry->path();
+                                                              shownText(entry.string()));
+        found = entry;
     }
     return found.empty() ? exact : found;
 }

@@ -2,6 +2,8 @@
 // The program's files: names without regard to case, durable appends and rewrites.
 #pragma once
 
+#include "platform/replacement.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -10,12 +12,6 @@
 namespace vantrel {
 
 class SystemCalls;
-
-// A file of several that are replaced together: its name and its whole new content.
-struct FileContent {
-    std::string name;
-    std::string bytes;
-};
 
 // All names are as the rules say them (ISO 8859-1): relative to the program folder, or
 // absolute; `\` and `/` both separate. All functions throw RuntimeError with the file's
@@ -56,50 +52,21 @@ public:
     // in the middle: see recover(). between: called again and again, so that a window can live
     // on while the disk works. A second one meanwhile is error 75 and changes nothing.
     void rewriteAll(const std::vector<FileContent>& contents,
-                    const std::function<void()>& between = {});
+                    const std::function<void()>& between = {}) {
+        m_replacement.replaceAll(contents, between);
+    }
     // Writes the bytes to a file that does not exist yet: `name`, or else `name` followed by
     // 2, 3, ... Never replaces anything. Returns the path taken, as text to show.
     std::string keepCopy(std::string_view name, std::string_view bytes);
 
     // Finishes or undoes what a crash left of a rewrite; called once at start, before
     // anything is read. Throws when that fails too; the next call tries again.
-    void recover();
+    void recover() { m_replacement.recover(); }
 
 private:
-    class OpenFile;
-
-    // One of several files being replaced together.
-    struct Replacement {
-        std::string name;
-        std::string target; // its real path
-        bool existed;       // before: an undo puts the old file back, or removes the new one
-    };
-
-    void readPath(const std::string& path, std::string& bytes) const;
-    std::string targetPath(std::string_view name) const;
-    std::string writablePath(std::string_view name) const;
-    void writeAll(int file, std::string_view bytes, const std::string& path);
-    void syncFile(const OpenFile& file);
-    void syncMeanwhile(const std::vector<OpenFile>& files, const std::function<void()>& between);
-    OpenFile create(const std::string& path, const std::string& target, std::string_view bytes);
-    OpenFile createBeside(const std::string& target, std::string_view bytes);
-    void moveInPlace(const std::string& target);
-    void replace(const std::string& target, std::string_view bytes);
-    void syncFolder(int folder, const std::string& path);
-    void syncFolderOf(const std::string& path);
-    void keepOld(const std::string& target);
-    static std::string journalText(const std::vector<Replacement>& replacements);
-    std::vector<Replacement> readJournal(std::string_view journal) const;
-    void removeJournal(std::string_view journal);
-    void syncFoldersOf(const std::vector<Replacement>& replacements);
-    void finish(const std::vector<Replacement>& replacements);
-    void undo(const std::vector<Replacement>& replacements);
-    void removeScratch(const std::vector<Replacement>& replacements);
-    std::string journalPath(std::string_view journal) const;
-
     std::string m_programFolder;
     SystemCalls& m_calls;
-    bool m_replacingSeveral = false;
+    Replacement m_replacement;
 };
 
 // Each line followed by CR LF. Lines: a container of texts.

@@ -6,9 +6,9 @@
 #include "platform/filenames.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
+#include <mntent.h>
 #include <system_error>
 #include <utility>
 
@@ -23,24 +23,6 @@ namespace {
 bool isVolume(const std::string& device) {
     const bool share = device.find(":/") != std::string::npos;
     return share || (device.starts_with('/') && !device.starts_with("/dev/loop"));
-}
-
-// The mount table writes a blank in a path as "\040".
-std::string withoutOctals(const std::string& field) {
-    constexpr std::size_t digits = 3;
-    std::string result;
-    for (std::size_t i = 0; i < field.size(); ++i) {
-        if (field[i] == '\\' && i + digits < field.size()) {
-            int code = 0;
-            for (std::size_t k = 1; k <= digits; ++k)
-                code = code * 8 + (field[i + k] - '0');
-            result += static_cast<char>(code);
-            i += digits;
-        } else {
-            result += field[i];
-        }
-    }
-    return result;
 }
 
 void sortRegardlessOfCase(std::vector<std::string>& names) {
@@ -60,21 +42,27 @@ void sortRegardlessOfCase(std::vector<std::string>& names) {
 
 } // namespace
 
+std::vector<fs::directory_entry> entriesOf(const fs::path& folder, std::error_code& error) {
+    std::vector<fs::directory_entry> entries;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        entries.push_back(*entry);
+    return entries;
+}
+
 SystemFolders::SystemFolders(std::string mountTable) : m_mountTable(std::move(mountTable)) {}
 
 std::vector<std::string> SystemFolders::drives() const {
     const std::string root = "/";
     std::vector<std::string> mounted;
-    std::ifstream table(m_mountTable);
-    for (std::string line; std::getline(table, line);) {
-        std::istringstream fields(line);
-        std::string device;
-        std::string place;
-        fields >> device >> place;
-        place = withoutOctals(place);
-        std::error_code ignored;
-        if (isVolume(device) && place != root && fs::is_directory(place, ignored))
-            mounted.push_back(place);
+    if (std::FILE* const table = ::setmntent(m_mountTable.c_str(), "r")) {
+        while (const mntent* const mount = ::getmntent(table)) {
+            const std::string place = mount->mnt_dir;
+            std::error_code ignored;
+            if (isVolume(mount->mnt_fsname) && place != root && fs::is_directory(place, ignored))
+                mounted.push_back(place);
+        }
+        ::endmntent(table);
     }
     sortRegardlessOfCase(mounted);
     mounted.erase(std::unique(mounted.begin(), mounted.end()), mounted.end());
@@ -85,15 +73,14 @@ std::vector<std::string> SystemFolders::drives() const {
 FolderContent SystemFolders::content(const std::string& folder) const {
     FolderContent result;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
+    for (const fs::directory_entry& entry : entriesOf(folder, error)) {
+        const std::string name = entry.path().filename().string();
         std::error_code unreadable; // an entry that cannot be looked at is neither
         if (name.starts_with('.'))
             continue;
-        if (entry->is_directory(unreadable))
+        if (entry.is_directory(unreadable))
             result.folders.push_back(name);
-        else if (entry->is_regular_file(unreadable))
+        else if (entry.is_regular_file(unreadable))
             result.files.push_back(name);
     }
     if (error)

@@ -4,6 +4,7 @@
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
+#include "platform/folders.h"
 
 #include <cerrno>
 #include <cstring>
@@ -22,9 +23,8 @@ constexpr const char* lockName = ".vantrel-lock";
 
 bool holdsData(const std::string& folder) {
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = upper(entry->path().filename().string());
+    for (const fs::path& entry : entriesOf(folder, error)) {
+        const std::string name = upper(entry.filename().string());
         if (name == upper(configurationFile) || name.ends_with(".CBR"))
             return true;
     }

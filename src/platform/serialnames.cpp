@@ -4,6 +4,7 @@
 #include "base/fixedtext.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
+#include "platform/folders.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -27,13 +28,11 @@ int portNumber(std::string_view port) {
 }
 
 std::vector<fs::path> sortedEntries(const std::string& folder) {
-    std::vector<fs::path> entries;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error))
-        entries.push_back(entry->path());
-    std::sort(entries.begin(), entries.end());
-    return entries;
+    const std::vector<fs::directory_entry> entries = entriesOf(folder, error);
+    std::vector<fs::path> paths(entries.begin(), entries.end());
+    std::sort(paths.begin(), paths.end());
+    return paths;
 }
 
 // Consoles and pseudo-terminals have no device; the places the system keeps free for built-in

@@ -2,7 +2,6 @@
 // UTC time and date of a contact, from the PC's local clock and the operator's offset.
 #pragma once
 
-#include "base/integer16.h"
 #include "platform/clock.h"
 
 #include <string>

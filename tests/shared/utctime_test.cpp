@@ -45,8 +45,6 @@ void expectRow(const UtcRow& row) {
     const UtcTime utc = utcTime(row.local, row.offset);
     EXPECT_EQ(utc.time, row.time) << row.rule;
     EXPECT_EQ(utc.date, row.date) << row.rule;
-    EXPECT_EQ(utc.hourText + utc.minuteText, utc.time);
-    EXPECT_EQ(zeroPadded(utc.hour.value(), 2), utc.hourText);
 }
 
 TEST(UtcTime, TimeAndDate) {

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "platform/diskfile.h"
+
+#include "base/runtimeerror.h"
+#include "platform/filenames.h"
+#include "platform/systemcalls.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace vantrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int closed = -1;
+constexpr std::size_t smallestRead = 4096;
+
+std::string scratchPath(const std::string& target, std::string_view suffix) {
+    const fs::path path(target);
+    return (path.parent_path() / ("." + path.filename().string() + std::string(suffix))).string();
+}
+
+ErrorCode codeFor(int error, const std::string& path) {
+    std::error_code ignored;
+    switch (error) {
+    case ENOENT:
+        return fs::exists(folderOf(path), ignored) ? ErrorCode::fileNotFound
+                                                   : ErrorCode::pathNotFound;
+    case ENOTDIR:
+        return ErrorCode::pathNotFound;
+    case ENOSPC:
+    case EDQUOT:
+        return ErrorCode::diskFull;
+    case EACCES:
+    case EPERM:
+        return ErrorCode::permissionDenied;
+    default:
+        return ErrorCode::pathFileAccess;
+    }
+}
+
+// Throws unless `path` is a regular file or nothing at all.
+void requireRegular(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
+        throw RuntimeError(ErrorCode::pathFileAccess, shownText(path) + " is not a file");
+}
+
+} // namespace
+
+DiskFile::DiskFile(SystemCalls& calls, const std::string& path, int flags, std::string named,
+                   unsigned mode)
+    : m_calls(calls), m_file(calls.open(path, flags | O_CLOEXEC, mode)), m_named(std::move(named)) {
+    if (m_file < 0)
+        throwSystemError(errno, m_named);
+}
+
+DiskFile::DiskFile(DiskFile&& other) noexcept
+    : m_calls(other.m_calls),
+      m_file(std::exchange(other.m_file, closed)),
+      m_named(std::move(other.m_named)) {}
+
+DiskFile::~DiskFile() {
+    if (m_file != closed)
+        m_calls.close(m_file);
+}
+
+void DiskFile::write(std::string_view bytes) const {
+    while (!bytes.empty()) {
+        const long count = m_calls.write(m_file, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            throwSystemError(count == 0 ? ENOSPC : errno, m_named);
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+void DiskFile::sync() const {
+    if (m_calls.sync(m_file) != 0)
+        throwSystemError(errno, m_named);
+}
+
+void DiskFile::syncFolder() const {
+    // Some file systems do not know how to sync a folder; that is no failure of ours.
+    if (m_calls.sync(m_file) != 0 && errno != EINVAL && errno != ENOTSUP)
+        throwSystemError(errno, m_named);
+}
+
+void throwSystemError(int error, const std::string& path) {
+    throw RuntimeError(codeFor(error, path),
+                       shownText(path) + ": " + shownText(std::strerror(error)));
+}
+
+bool exists(const std::string& path) {
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(path, ignored));
+}
+
+std::string targetPath(const std::string& folder, std::string_view name) {
+    const std::string path = resolveName(folder, name);
+    std::error_code error;
+    if (!fs::is_symlink(path, error))
+        return path;
+    const fs::path target = fs::canonical(path, error);
+    if (error)
+        throwSystemError(error.value(), path);
+    return target.string();
+}
+
+std::string writablePath(const std::string& folder, std::string_view name) {
+    const std::string path = targetPath(folder, name);
+    std::error_code ignored;
+    requireRegular(path);
+    if (fs::exists(path, ignored) && ::access(path.c_str(), W_OK) != 0)
+        throwSystemError(errno, path);
+    return path;
+}
+
+void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
+    requireRegular(path);
+    const DiskFile file(calls, path, O_RDONLY, path);
+    struct stat status {};
+    const bool known = ::fstat(file, &status) == 0 && status.st_size > 0;
+    // One more than its size, so that the end shows without another round.
+    bytes.resize(known ? static_cast<std::size_t>(status.st_size) + 1 : smallestRead);
+    std::size_t filled = 0;
+    for (;;) {
+        if (filled == bytes.size())
+            bytes.resize(bytes.size() * 2);
+        const long count = calls.read(file, bytes.data() + filled, bytes.size() - filled);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            throwSystemError(errno, path);
+        if (count == 0)
+            break;
+        filled += static_cast<std::size_t>(count);
+    }
+    bytes.resize(filled);
+}
+
+DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& target,
+                    std::string_view bytes) {
+    struct stat old {};
+    const bool replaces = ::stat(target.c_str(), &old) == 0;
+    const unsigned mode = replaces ? old.st_mode & 07777 : DiskFile::newMode;
+    DiskFile file(calls, path, O_WRONLY | O_CREAT | O_EXCL, target, mode);
+    try {
+        if (replaces)
+            ::fchmod(file, mode); // also what the umask took; not every file system can
+        file.write(bytes);
+    } catch (const RuntimeError&) {
+        calls.remove(path);
+        throw;
+    }
+    return file;
+}
+
+DiskFile createBeside(SystemCalls& calls, const std::string& target, std::string_view bytes) {
+    calls.remove(newPath(target)); // what a crash may have left
+    return createFile(calls, newPath(target), target, bytes);
+}
+
+void moveInPlace(SystemCalls& calls, const std::string& target) {
+    if (calls.rename(newPath(target), target) != 0)
+        throwSystemError(errno, target);
+}
+
+DiskFile openFolderOf(SystemCalls& calls, const std::string& path) {
+    return {calls, folderOf(path), O_RDONLY | O_DIRECTORY, path};
+}
+
+std::string newPath(const std::string& target) {
+    return scratchPath(target, newSuffix);
+}
+std::string oldPath(const std::string& target) {
+    return scratchPath(target, oldSuffix);
+}
+
+std::string folderOf(const std::string& path) {
+    return fs::path(path).parent_path().string();
+}
+
+} // namespace vantrel

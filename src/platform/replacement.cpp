@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "platform/replacement.h"
+
+#include "base/fixedtext.h"
+#include "base/itemreader.h"
+#include "base/runtimeerror.h"
+#include "platform/diskfile.h"
+#include "platform/folders.h"
+#include "platform/systemcalls.h"
+
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <future>
+#include <set>
+
+namespace vantrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view finishJournal = ".vantrel-finish";
+constexpr std::string_view undoJournal = ".vantrel-undo";
+
+// True as long as this lives.
+class RaisedFlag {
+public:
+    explicit RaisedFlag(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~RaisedFlag() { m_flag = false; }
+    RaisedFlag(const RaisedFlag&) = delete;
+    RaisedFlag& operator=(const RaisedFlag&) = delete;
+
+private:
+    bool& m_flag;
+};
+
+// One after the other: the first makes most disks write all of them. In a thread of its own,
+// since that can take longer than a window may stand still.
+void syncMeanwhile(const std::vector<DiskFile>& files, const std::function<void()>& between) {
+    constexpr std::chrono::milliseconds patience(5);
+    const auto syncAll = [&files] {
+        for (const DiskFile& file : files)
+            file.sync();
+    };
+    if (!between)
+        return syncAll();
+    // Where no thread is to be had, it waits in get().
+    auto done = std::async(std::launch::async | std::launch::deferred, syncAll);
+    while (done.wait_for(patience) == std::future_status::timeout)
+        between();
+    done.get();
+}
+
+} // namespace
+
+std::string Replacement::journalPath(std::string_view journal) const {
+    return (fs::path(m_programFolder) / journal).string();
+}
+
+void Replacement::replaceAll(const std::vector<FileContent>& contents,
+                             const std::function<void()>& between) {
+    if (m_running) // it would take the other's files for strays
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           contents.front().name + ": other files are being saved; try again");
+    const RaisedFlag running(m_running);
+    recover(); // what an earlier one could not settle would mistake our files for its own
+    const ReplacedFiles files = filesOf(contents);
+    const std::string journal = journalPath(finishJournal);
+    try {
+        prepare(files, contents, between);
+    } catch (const RuntimeError&) {
+        m_calls.remove(newPath(journal));
+        m_calls.remove(journal);
+        removeScratch(files);
+        throw;
+    }
+    try {
+        finish(files);
+    } catch (const RuntimeError&) {
+        if (m_calls.rename(journal, journalPath(undoJournal)) == 0)
+            undo(files);
+        throw;
+    }
+}
+
+Replacement::ReplacedFiles Replacement::filesOf(const std::vector<FileContent>& contents) const {
+    ReplacedFiles files;
+    for (const FileContent& content : contents) {
+        const std::string target = writablePath(m_programFolder, content.name);
+        std::error_code ignored;
+        files.push_back({content.name, target, fs::exists(target, ignored)});
+    }
+    return files;
+}
+
+// Steps 1 and 2.
+void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileContent>& contents,
+                          const std::function<void()>& between) {
+    const std::string journal = journalPath(finishJournal);
+    const DiskFile folder = openFolderOf(m_calls, journal);
+    std::vector<DiskFile> written;
+    for (std::size_t i = 0; i < contents.size(); ++i) {
+        written.push_back(createBeside(m_calls, files[i].target, contents[i].bytes));
+        if (files[i].existed)
+            keepOld(files[i].target);
+        if (between)
+            between();
+    }
+    written.push_back(createBeside(m_calls, journal, journalText(files)));
+    syncMeanwhile(written, between);
+    syncFoldersOf(files); // before the journal is in place, which speaks of them
+    if (between)
+        between();
+    moveInPlace(m_calls, journal);
+    folder.syncFolder();
+}
+
+// Gives the present file a second name; on file systems without links, a copy.
+void Replacement::keepOld(const std::string& target) {
+    m_calls.remove(oldPath(target));
+    if (m_calls.link(target, oldPath(target)) == 0)
+        return;
+    if (errno == ENOSPC || errno == EDQUOT)
+        throwSystemError(errno, target);
+    std::string bytes;
+    readFile(m_calls, target, bytes);
+    createFile(m_calls, oldPath(target), target, bytes).sync();
+}
+
+// A line each: "+" or "-" for a file that existed or not, and its name.
+std::string Replacement::journalText(const ReplacedFiles& files) {
+    std::string bytes;
+    for (const ReplacedFile& file : files)
+        bytes += (file.existed ? '+' : '-') + file.name + '\n';
+    return bytes;
+}
+
+Replacement::ReplacedFiles Replacement::readJournal(std::string_view journal) const {
+    std::string bytes;
+    readFile(m_calls, journalPath(journal), bytes);
+    ReplacedFiles files;
+    for (LineReader lines(bytes); !lines.atEnd();) {
+        const std::string_view line = lines.next();
+        const std::string name(midToEnd(line, 2));
+        files.push_back({name, targetPath(m_programFolder, name), left(line, 1) == "+"});
+    }
+    return files;
+}
+
+void Replacement::removeJournal(std::string_view journal) {
+    const std::string path = journalPath(journal);
+    if (m_calls.remove(path) != 0 && errno != ENOENT)
+        throwSystemError(errno, path);
+}
+
+void Replacement::syncFoldersOf(const ReplacedFiles& files) {
+    std::set<std::string> synced; // a linked file lies in a folder of its own
+    for (const ReplacedFile& file : files)
+        if (synced.insert(folderOf(file.target)).second)
+            openFolderOf(m_calls, file.target).syncFolder();
+}
+
+void Replacement::finish(const ReplacedFiles& files) {
+    for (const ReplacedFile& file : files) {
+        // A new file that is there no longer is in place already.
+        if (exists(newPath(file.target)))
+            moveInPlace(m_calls, file.target);
+    }
+    syncFoldersOf(files);
+    removeJournal(finishJournal);
+    removeScratch(files);
+}
+
+void Replacement::undo(const ReplacedFiles& files) {
+    for (const auto& [name, target, existed] : files) {
+        // An old file that is kept no longer has been put back already.
+        const std::string kept = oldPath(target);
+        const bool undone = existed ? !exists(kept) || m_calls.rename(kept, target) == 0
+                                    : m_calls.remove(target) == 0 || errno == ENOENT;
+        if (!undone)
+            throwSystemError(errno, target);
+    }
+    syncFoldersOf(files);
+    removeJournal(undoJournal);
+    removeScratch(files);
+}
+
+void Replacement::removeScratch(const ReplacedFiles& files) {
+    for (const ReplacedFile& file : files) {
+        m_calls.remove(newPath(file.target));
+        m_calls.remove(oldPath(file.target));
+    }
+}
+
+void Replacement::recover() {
+    if (exists(journalPath(finishJournal)))
+        finish(readJournal(finishJournal));
+    if (exists(journalPath(undoJournal)))
+        undo(readJournal(undoJournal));
+    removeStrays();
+}
+
+// Whatever else lies there was being written when the program was stopped.
+void Replacement::removeStrays() {
+    std::error_code error;
+    for (const fs::path& entry : entriesOf(m_programFolder, error)) {
+        const std::string name = entry.filename().string();
+        if (name.starts_with('.') && (name.ends_with(newSuffix) || name.ends_with(oldSuffix)))
+            m_calls.remove(entry.string());
+    }
+}
+
+} // namespace vantrel

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Makes the machine's doors, the shared state and the screens, and shows the start page.
 #include "app/appscreens.h"
+#include "base/version.h"
 #include "platform/clock.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
@@ -61,7 +62,7 @@ int runProgram(QApplication& application, QtMessages& messages) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vantrel"));
-    QApplication::setApplicationVersion(QStringLiteral(VANTREL_VERSION));
+    QApplication::setApplicationVersion(QString::fromLatin1(version));
     QApplication::setDesktopFileName(QString::fromLatin1(desktopEntry));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/vantrel.png")));
     QtMessages messages;

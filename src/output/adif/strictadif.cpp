@@ -2,6 +2,7 @@
 #include "output/adif/strictadif.h"
 
 #include "base/integer16.h"
+#include "base/version.h"
 #include "log/bands.h"
 #include "log/log.h"
 #include "log/outputfiles.h"
@@ -258,7 +259,7 @@ void appendHeader(std::string& bytes, std::string_view created) {
     bytes += "Contacts logged with Vantrel\r\n";
     appendField(bytes, "<ADIF_VER:", adifVersion);
     appendField(bytes, "<PROGRAMID:", programId);
-    appendField(bytes, "<PROGRAMVERSION:", VANTREL_VERSION);
+    appendField(bytes, "<PROGRAMVERSION:", version);
     appendField(bytes, "<CREATED_TIMESTAMP:", created);
     bytes += "<EOH>\r\n";
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "base/fixedtext.h"
+#include "base/version.h"
 #include "output/adif/strictadif.h"
 #include "output/score/contacts.h"
 #include "platform/clock.h"
@@ -21,7 +22,8 @@ using ::testing::HasSubstr;
 constexpr std::string_view created = "20110616 001230";
 const std::string head =
     "Contacts logged with Vantrel\r\n<ADIF_VER:5>3.1.4 <PROGRAMID:7>VANTREL "
-    "<PROGRAMVERSION:5>" VANTREL_VERSION " <CREATED_TIMESTAMP:15>20110616 001230 <EOH>\r\n";
+    "<PROGRAMVERSION:" +
+    std::to_string(version.size()) + '>' + std::string(version) + " <CREATED_TIMESTAMP:15>20110616 001230 <EOH>\r\n";
 
 const std::vector<std::string> contacts{line({.number = "1234T"}),
                                         line({.call = "DL1QRS",

@@ -3,7 +3,6 @@
 
 #include "forms/formbuilder.h"
 #include "platform/sound.h"
-#include "screens/main/qsoentry.h"
 
 #include <QHBoxLayout>
 #include <QTimer>
@@ -22,38 +21,39 @@ frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     setWindowFlags(Qt::Dialog); // the one kind of window that is kept above another
     setWindowModality(Qt::ApplicationModal);
     createControls();
-    connectHandler(Command2, &QPushButton::clicked, this, &frmCheckDupeK3Y::Command2_Click);
-    connectHandler(Command1, &QPushButton::clicked, this, &frmCheckDupeK3Y::Command1_Click);
+    connectHandler(m_logDupeButton, &QPushButton::clicked, this, &frmCheckDupeK3Y::logDupeClicked);
+    connect(m_noLogButton, &QPushButton::clicked, this, &QWidget::close);
 }
 
 void frmCheckDupeK3Y::createControls() {
     FormBuilder build(this);
-    Label1 = build.label("Label1", "DUPE");
-    Label1->setFont(enlargedFont(this, dupeEnlargement));
-    Label1->setAlignment(Qt::AlignCenter);
-    QPalette red(Label1->palette());
+    QLabel* verdict = build.label("Label1", "DUPE");
+    verdict->setFont(enlargedFont(this, dupeEnlargement));
+    verdict->setAlignment(Qt::AlignCenter);
+    QPalette red(verdict->palette());
     red.setColor(QPalette::Window, QColor(0xC0, 0, 0));
     red.setColor(QPalette::WindowText, Qt::white);
-    Label1->setPalette(red);
-    Label1->setAutoFillBackground(true);
-    Label2 = build.label("Label2", "THIS SAME CALL AND SKCC# IS ALREADY IN THE LOG ON THIS BAND");
-    Label2->setFont(familyFont(this, "Arial Unicode MS"));
-    Label2->setAlignment(Qt::AlignCenter);
-    Command2 = build.command("Command2", "LOG THE DUPE");
-    Command1 = build.command("Command1", "NO LOG");
-    for (QPushButton* button : {Command2, Command1})
+    verdict->setPalette(red);
+    verdict->setAutoFillBackground(true);
+    QLabel* reason =
+        build.label("Label2", "THIS SAME CALL AND SKCC# IS ALREADY IN THE LOG ON THIS BAND");
+    reason->setFont(familyFont(this, "Arial Unicode MS"));
+    reason->setAlignment(Qt::AlignCenter);
+    m_logDupeButton = build.command("Command2", "LOG THE DUPE");
+    m_noLogButton = build.command("Command1", "NO LOG");
+    for (QPushButton* button : {m_logDupeButton, m_noLogButton})
         button->setFont(familyFont(this, "Arial Rounded MT Bold"));
     // Unlike the other dupe screen's, this timer closes nothing: the operator has to decide.
-    Timer1 = new QTimer(this);
-    Timer1->setObjectName(QStringLiteral("Timer1"));
-    Timer1->setInterval(timerMilliseconds);
+    m_timer = new QTimer(this);
+    m_timer->setObjectName(QStringLiteral("Timer1"));
+    m_timer->setInterval(timerMilliseconds);
 
     auto* page = new QVBoxLayout(this);
-    page->addWidget(Label1);
-    page->addWidget(Label2);
+    page->addWidget(verdict);
+    page->addWidget(reason);
     auto* commands = new QHBoxLayout;
-    commands->addWidget(Command2);
-    commands->addWidget(Command1);
+    commands->addWidget(m_logDupeButton);
+    commands->addWidget(m_noLogButton);
     page->addLayout(commands);
 }
 
@@ -61,7 +61,7 @@ void frmCheckDupeK3Y::load() {
     stayAbove(opener());
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
-    Timer1->start();
+    m_timer->start();
 }
 
 // A click on the page that waits must not put it in front of the question it waits for.
@@ -73,7 +73,7 @@ void frmCheckDupeK3Y::stayAbove(QWidget* page) {
 }
 
 QWidget* frmCheckDupeK3Y::firstFocus() {
-    return Command1;
+    return m_noLogButton;
 }
 
 void frmCheckDupeK3Y::ask(DupeQuestion question) {
@@ -82,13 +82,9 @@ void frmCheckDupeK3Y::ask(DupeQuestion question) {
 }
 
 // When the log cannot be written the box stays: the contact is still the operator's to log.
-void frmCheckDupeK3Y::Command2_Click() {
+void frmCheckDupeK3Y::logDupeClicked() {
     m_question.log();
     m_logged = true;
-    close();
-}
-
-void frmCheckDupeK3Y::Command1_Click() {
     close();
 }
 

@@ -5,7 +5,6 @@
 
 #include "forms/form.h"
 
-class QLabel;
 class QPushButton;
 class QTimer;
 
@@ -28,14 +27,11 @@ private:
     void createControls();
     void stayAbove(QWidget* page);
 
-    void Command2_Click();
-    void Command1_Click();
+    void logDupeClicked();
 
-    QLabel* Label1;        // "DUPE"
-    QLabel* Label2;        // why
-    QPushButton* Command2; // LOG THE DUPE
-    QPushButton* Command1; // NO LOG
-    QTimer* Timer1;        // runs, and closes nothing
+    QPushButton* m_logDupeButton;
+    QPushButton* m_noLogButton;
+    QTimer* m_timer;
 
     DupeQuestion m_question;
     bool m_logged = false;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmK3YStandings.h"
 
+#include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "platform/qt/latin1.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -29,8 +29,8 @@ void paintFilled(QLineEdit* box, const std::string& text) {
     blue.setColor(QPalette::Base, Qt::blue);
     blue.setColor(QPalette::Text, Qt::white);
     box->setPalette(blue);
-    box->setText(toQt(text));
-    box->setToolTip(toQt(text));
+    put(box, text);
+    box->setToolTip(box->text());
     box->setCursorPosition(0);
 }
 
@@ -48,28 +48,29 @@ frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage
     : Form(context, page.name, "K3Y Standings"), m_page(page) {
     createControls();
     resize(sizeHint().boundedTo(screen()->availableSize()));
-    connectHandler(Command2, &QPushButton::clicked, this, &frmK3YStandings::Command2_Click);
-    connectHandler(Command1, &QPushButton::clicked, this, &frmK3YStandings::Command1_Click);
+    connectHandler(m_otherPageButton, &QPushButton::clicked, this,
+                   &frmK3YStandings::otherPageClicked);
 }
 
 void frmK3YStandings::createControls() {
     setFont(familyFont(this, "Arial Rounded MT Bold"));
     FormBuilder build(this);
-    Label1 = build.label("Label1", "K3Y  Regions/Continents Worked");
-    Label1->setFont(enlargedFont(this, headlineEnlargement));
-    Label1->setAlignment(Qt::AlignCenter);
-    Label2 = build.label("Label2");
-    Label2->setFont(enlargedFont(this, headlineEnlargement));
-    Command2 = build.command("Command2", m_page.otherCaption);
-    Command1 = build.command("Command1", "E&XIT");
+    QLabel* headline = build.label("Label1", "K3Y  Regions/Continents Worked");
+    headline->setFont(enlargedFont(this, headlineEnlargement));
+    headline->setAlignment(Qt::AlignCenter);
+    m_total = build.label("Label2");
+    m_total->setFont(enlargedFont(this, headlineEnlargement));
+    m_otherPageButton = build.command("Command2", m_page.otherCaption);
+    QPushButton* exit = build.command("Command1", "E&XIT");
+    connect(exit, &QPushButton::clicked, this, &QWidget::close);
 
     auto* page = new QVBoxLayout(this);
-    page->addWidget(Label1);
+    page->addWidget(headline);
     page->addLayout(createGrid(), 1);
     auto* commands = new QHBoxLayout;
-    commands->addWidget(Label2, 1);
-    commands->addWidget(Command2);
-    commands->addWidget(Command1);
+    commands->addWidget(m_total, 1);
+    commands->addWidget(m_otherPageButton);
+    commands->addWidget(exit);
     page->addLayout(commands);
 }
 
@@ -91,36 +92,30 @@ QGridLayout* frmK3YStandings::createGrid() {
             QLineEdit* box = build.output(m_page.cellName(row, column).c_str());
             setColumns(box, cellColumns);
             grid->addWidget(box, row, column);
+            m_cells.push_back(box);
         }
     }
     return grid;
 }
 
 QWidget* frmK3YStandings::firstFocus() {
-    return Command2;
+    return m_otherPageButton;
 }
 
 void frmK3YStandings::load() {
     shared().log.reread();
     const Standings standings = m_page.tally(shared().log.contacts());
+    auto box = m_cells.begin();
     for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row)
-        for (int column = 1; column <= bandCount; ++column)
+        for (int column = 1; column <= bandCount; ++column, ++box)
             if (const StandingsCell& worked = standings.cell(row, column); worked.filled)
-                paintFilled(cell(row, column), worked.text);
-    Label2->setText(toQt(standings.totalText()));
-}
-
-QLineEdit* frmK3YStandings::cell(int row, int column) const {
-    return findChild<QLineEdit*>(toQt(m_page.cellName(row, column)));
+                paintFilled(*box, worked.text);
+    put(m_total, standings.totalText());
 }
 
 // The other page takes this one's place: leaving it leads back to where this one came from.
-void frmK3YStandings::Command2_Click() {
+void frmK3YStandings::otherPageClicked() {
     screens().replace(m_page.screen, m_page.other);
-}
-
-void frmK3YStandings::Command1_Click() {
-    close();
 }
 
 } // namespace vantrel

@@ -8,6 +8,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 class QGridLayout;
 class QLabel;
@@ -52,17 +53,13 @@ protected:
 private:
     void createControls();
     QGridLayout* createGrid();
-    QLineEdit* cell(int row, int column) const;
 
-    void Command2_Click();
-    void Command1_Click();
-
-    QLabel* Label1;        // headline
-    QLabel* Label2;        // total
-    QPushButton* Command2; // to the other page
-    QPushButton* Command1; // exit
+    void otherPageClicked();
 
     StandingsPage m_page;
+    std::vector<QLineEdit*> m_cells; // row by row
+    QLabel* m_total;
+    QPushButton* m_otherPageButton;
 };
 
 } // namespace vantrel

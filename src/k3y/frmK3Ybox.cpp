@@ -20,31 +20,31 @@ frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K
 void frmK3Ybox::createControls() {
     setFont(familyFont(this, "Arial"));
     FormBuilder build(this);
-    Label1 = build.label("Label1", "APPEND K3Y/xx TO ");
-    Label2 = build.label("Label2", " K3Y DX STATIONS");
+    QLabel* const headlines[] = {build.label("Label1", "APPEND K3Y/xx TO "),
+                                 build.label("Label2", " K3Y DX STATIONS")};
     m_options = {
         build.option("Option1", "EU  Europe"),        build.option("Option2", "AF  Africa"),
         build.option("Option3", "AS  Asia"),          build.option("Option4", "OC  Oceania"),
         build.option("Option5", "NA  North America"), build.option("Option6", "SA  South America"),
         build.option("Option7", "NONE Add No Note")};
-    Command1 = build.command("Command1", "OK");
+    m_okButton = build.command("Command1", "OK");
 
     auto* page = new QVBoxLayout(this);
-    for (QLabel* headline : {Label1, Label2}) {
+    for (QLabel* headline : headlines) {
         headline->setFont(enlargedFont(this, headlineEnlargement));
         headline->setAlignment(Qt::AlignCenter);
         page->addWidget(headline);
     }
     for (QRadioButton* option : m_options)
         page->addWidget(option);
-    page->addWidget(Command1);
+    page->addWidget(m_okButton);
 }
 
 void frmK3Ybox::connectHandlers() {
     for (std::size_t index = 0; index < m_options.size(); ++index)
         connect(m_options[index], &QRadioButton::clicked, this,
                 [this, index] { runHandler([&] { choose(k3yStations[index]); }); });
-    connectHandler(Command1, &QPushButton::clicked, this, &frmK3Ybox::Command1_Click);
+    connect(m_okButton, &QPushButton::clicked, this, &QWidget::close);
 }
 
 QWidget* frmK3Ybox::firstFocus() {
@@ -56,10 +56,6 @@ void frmK3Ybox::choose(const K3yStation& station) {
     shared().marker = station.marker;
     if (MainPage* page = screens().mainPage())
         page->showStation(std::string(station.label));
-}
-
-void frmK3Ybox::Command1_Click() {
-    close();
 }
 
 } // namespace vantrel

@@ -7,8 +7,6 @@
 
 #include <array>
 
-class QButtonGroup;
-class QLabel;
 class QPushButton;
 class QRadioButton;
 
@@ -28,12 +26,9 @@ private:
     void connectHandlers();
 
     void choose(const K3yStation& station);
-    void Command1_Click();
 
-    std::array<QRadioButton*, k3yStations.size()> m_options; // Option1 to Option7
-    QLabel* Label1;                                          // headline
-    QLabel* Label2;                                          // its second line
-    QPushButton* Command1;                                   // OK
+    std::array<QRadioButton*, k3yStations.size()> m_options; // as k3yStations
+    QPushButton* m_okButton;
 };
 
 } // namespace vantrel

@@ -23,16 +23,13 @@ protected:
 
 private:
     void layOut();
-    void List1_Click(const QModelIndex& index); // click, Enter
-    void Command2_Click();                      // abort
+    void areaChosen(const QModelIndex& index);
+    void abortClicked();
 
-    QLabel* Label1;        // heading
-    QListView* List1;      // the call areas
-    QLabel* Label4;        // what to do
-    QLabel* Label2;        // caption of the choice
-    QLabel* Label3;        // the choice
-    QPushButton* Command1; // OK
-    QPushButton* Command2; // abort
+    QListView* m_areas;
+    QLabel* m_chosenArea;
+    QPushButton* m_okButton;
+    QPushButton* m_abortButton;
 
     std::string m_utcDate;   // when the screen opened
     std::string m_savedName; // of the log, as it stood when the screen opened

@@ -9,13 +9,12 @@
 namespace vantrel::test {
 namespace {
 
-using Page = Standings (*)(const QsoTable&);
+using Page = Standings (*)(const Contacts&);
 using Lines = std::vector<std::string>;
 
 Standings standingsOf(Page page, const Lines& contacts) {
-    QsoTable table;
-    table.refill(k3yLog(contacts));
-    return page(table);
+    const std::string bytes = k3yLog(contacts);
+    return page(contactsIn(bytes));
 }
 
 // expected: the filled cells as the operator sees them, row by row: "K3Y/3 40M" and its text.
@@ -118,7 +117,7 @@ TEST(RegionStandings, AlaskaOn160MCountsEachTimeUntil80MIsWorkedAndNeverAfterwar
 }
 
 TEST(Standings, AFullLogOfOneRepeatedCellStillCounts) {
-    const Lines lines(QsoTable::capacity, k3yLine("K3Y/5", "21050"));
+    const Lines lines(Log::capacity, k3yLine("K3Y/5", "21050"));
     EXPECT_EQ(standingsOf(areaStandings, lines).totalText(), "TOTAL:  12000");
 }
 

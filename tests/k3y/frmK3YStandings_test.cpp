@@ -78,10 +78,10 @@ TEST_F(StandingsForms, ThePagesTakeEachOthersPlaceAndLeadBackToTheMainPage) {
 TEST_F(StandingsForms, AMissingLogIsSaidAndLeavesTheGridEmpty) {
     folder.write("K3Y.CBR", k3yLog({}));
     screens.open(Screen::main);
-    module.settings.logFileName = "GONE.CBR";
+    std::filesystem::remove(folder.path() / "K3Y.CBR");
     messages.expect("Run-time error 53: File not found");
     click("frmVantrelMain", "Command11");
-    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("GONE.CBR"));
+    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("K3Y.CBR"));
     EXPECT_THAT(filled(areaPage), ::testing::IsEmpty());
 }
 

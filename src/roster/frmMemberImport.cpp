@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmMemberImport.h"
 
+#include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "platform/eventloop.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "platform/qt/latin1.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -41,38 +41,39 @@ frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportP
     : Form(context, page.name, page.caption), m_page(page) {
     createControls();
     layOut();
-    connectHandler(Command2, &QPushButton::clicked, this, &frmMemberImport::Command2_Click);
-    if (Command3 != nullptr)
-        connectHandler(Command3, &QPushButton::clicked, this, &frmMemberImport::Command3_Click);
-    connect(Command1, &QPushButton::clicked, this, [this] { close(); });
+    using Page = frmMemberImport;
+    connectHandler(m_addButton, &QPushButton::clicked, this, &Page::addMembersClicked);
+    if (m_browseButton != nullptr)
+        connectHandler(m_browseButton, &QPushButton::clicked, this, &Page::browseClicked);
+    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
 }
 
 void frmMemberImport::createControls() {
     FormBuilder build(this);
-    Text1 = build.text("Text1", 0, "PATH AND FILE NAME");
+    m_pathBox = build.text("Text1", 0, "PATH AND FILE NAME");
     if (m_page.browses) {
-        Command3 = build.command("Command3", "&BROWSE", "USE TO FIND THE SKCCLIST.TXT FILE");
-        Label4 = build.label("Label4");
+        m_browseButton = build.command("Command3", "&BROWSE", "USE TO FIND THE SKCCLIST.TXT FILE");
+        m_fixed = build.label("Label4");
     }
-    Command2 = build.command("Command2", "&ADD MBRS", m_page.addTip);
-    Command1 = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
-    Label1 = build.label("Label1");
-    Label2 = build.label("Label2");
-    Label3 = build.label("Label3");
-    Label5 = build.label("Label5");
-    ProgressBar1 = new QProgressBar(this);
-    ProgressBar1->setObjectName(QStringLiteral("ProgressBar1"));
+    m_addButton = build.command("Command2", "&ADD MBRS", m_page.addTip);
+    m_exitButton = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
+    m_phase = build.label("Label1");
+    m_lineNumber = build.label("Label2");
+    m_added = build.label("Label3");
+    m_skipped = build.label("Label5");
+    m_progress = new QProgressBar(this);
+    m_progress->setObjectName(QStringLiteral("ProgressBar1"));
 }
 
 void frmMemberImport::load() {
     // A folder whose name the box cannot show is left out: the name alone is found there too.
     const Files& files = platform().files;
     const bool sayable = latin1Text(files.programFolder()).has_value();
-    Text1->setText(toQt(sayable ? files.path(m_page.listFile) : std::string(m_page.listFile)));
+    put(m_pathBox, sayable ? files.path(m_page.listFile) : std::string(m_page.listFile));
 }
 
 QWidget* frmMemberImport::firstFocus() {
-    return Command2;
+    return m_addButton;
 }
 
 void frmMemberImport::closeEvent(QCloseEvent* event) {
@@ -81,16 +82,16 @@ void frmMemberImport::closeEvent(QCloseEvent* event) {
 }
 
 void frmMemberImport::receivePath(const std::string& path) {
-    Text1->setText(toQt(path));
-    Text1->setFocus();
+    put(m_pathBox, path);
+    m_pathBox->setFocus();
 }
 
-void frmMemberImport::Command3_Click() {
+void frmMemberImport::browseClicked() {
     screens().openFinder(Screen::memberUpdate);
 }
 
-void frmMemberImport::Command2_Click() {
-    const std::string path = fromQt(Text1->text());
+void frmMemberImport::addMembersClicked() {
+    const std::string path = textOf(m_pathBox);
     if (m_page.list == MemberList::members && !platform().files.present(path)) {
         messages().show(
             {std::string(memberListMissing), BoxIcon::exclamation, platform().files.path(path)});
@@ -103,18 +104,18 @@ void frmMemberImport::Command2_Click() {
         return;
     enableButtons(true);
     if (finished)
-        Command1->setFocus();
+        m_exitButton->setFocus();
     else
-        Label1->clear(); // nothing was saved
+        m_phase->clear(); // nothing was saved
 }
 
 bool frmMemberImport::runImport() {
-    for (QLabel* label : {Label2, Label3, Label4, Label5})
+    for (QLabel* label : {m_lineNumber, m_added, m_fixed, m_skipped})
         if (label != nullptr)
             label->clear();
-    ProgressBar1->reset();
+    m_progress->reset();
     const ImportResult result =
-        importMembers(platform().files, m_page.list, fromQt(Text1->text()),
+        importMembers(platform().files, m_page.list, textOf(m_pathBox),
                       [this](const ImportStep& step) { return showStep(step); });
     if (result.finished)
         showResult(result);
@@ -128,11 +129,11 @@ bool frmMemberImport::showStep(const ImportStep& step) {
     const bool lastLine = step.line == step.lines;
     if (!lastLine && m_sinceShown.isValid() && m_sinceShown.elapsed() < frameMilliseconds)
         return true;
-    Label1->setText(toQt(step.phase));
+    put(m_phase, step.phase);
     if (step.line > 0) {
-        Label2->setText(toQt(lineNumberText(step.line)));
-        ProgressBar1->setMaximum(step.lines);
-        ProgressBar1->setValue(step.line);
+        put(m_lineNumber, lineNumberText(step.line));
+        m_progress->setMaximum(step.lines);
+        m_progress->setValue(step.line);
     }
     platform().eventLoop.yield();
     m_sinceShown.start();
@@ -140,14 +141,14 @@ bool frmMemberImport::showStep(const ImportStep& step) {
 }
 
 void frmMemberImport::showResult(const ImportResult& result) {
-    Label3->setText(toQt(addedText(m_page.list, result.added)));
-    Label5->setText(toQt(skippedText(result.skipped)));
-    if (Label4 != nullptr)
-        Label4->setText(toQt(fixedText(result.fixed)));
+    put(m_added, addedText(m_page.list, result.added));
+    put(m_skipped, skippedText(result.skipped));
+    if (m_fixed != nullptr)
+        put(m_fixed, fixedText(result.fixed));
 }
 
 void frmMemberImport::enableButtons(bool enabled) {
-    for (QPushButton* button : {Command1, Command2, Command3})
+    for (QPushButton* button : {m_exitButton, m_addButton, m_browseButton})
         if (button != nullptr)
             button->setEnabled(enabled);
 }
@@ -166,21 +167,21 @@ void frmMemberImport::layOut() {
     addText("The club publishes its lists at " + std::string(listsAddress));
     addText("Then run this routine to add new members to the database - Click ADD MBRS");
     auto* path = new QHBoxLayout;
-    path->addWidget(Text1, 1);
-    if (Command3 != nullptr)
-        path->addWidget(Command3);
+    path->addWidget(m_pathBox, 1);
+    if (m_browseButton != nullptr)
+        path->addWidget(m_browseButton);
     page->addLayout(path);
-    page->addWidget(Label1);
-    page->addWidget(Label2);
-    page->addWidget(ProgressBar1);
-    page->addWidget(Label3);
-    if (Label4 != nullptr)
-        page->addWidget(Label4);
-    page->addWidget(Label5);
+    page->addWidget(m_phase);
+    page->addWidget(m_lineNumber);
+    page->addWidget(m_progress);
+    page->addWidget(m_added);
+    if (m_fixed != nullptr)
+        page->addWidget(m_fixed);
+    page->addWidget(m_skipped);
     page->addStretch();
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(Command2);
-    buttons->addWidget(Command1);
+    buttons->addWidget(m_addButton);
+    buttons->addWidget(m_exitButton);
     page->addLayout(buttons);
     // As high as its texts need when they wrap at this width.
     const int width = fontMetrics().averageCharWidth() * widthInCharacters;

@@ -21,7 +21,7 @@ struct MemberImportPage {
     MemberList list;
     std::string_view listFile; // what the path box is filled with, in the program folder
     const char* explanation;
-    bool browses; // has Command3, which opens the finder
+    bool browses; // has a button that opens the finder, and tells the numbers fixed
     const char* addTip;
 };
 
@@ -45,8 +45,8 @@ private:
     void createControls();
     void layOut();
 
-    void Command3_Click(); // browse
-    void Command2_Click(); // add members
+    void browseClicked();
+    void addMembersClicked();
 
     bool runImport();
     bool showStep(const ImportStep& step);
@@ -54,16 +54,16 @@ private:
     void enableButtons(bool enabled);
 
     const MemberImportPage& m_page;
-    QLineEdit* Text1;                // the list's path
-    QPushButton* Command3 = nullptr; // browse
-    QPushButton* Command2;           // add members
-    QPushButton* Command1;           // exit
-    QLabel* Label1;                  // phase
-    QLabel* Label2;                  // running line number
-    QLabel* Label3;                  // result
-    QLabel* Label4 = nullptr;        // numbers fixed
-    QLabel* Label5;                  // lines skipped
-    QProgressBar* ProgressBar1;
+    QLineEdit* m_pathBox;
+    QPushButton* m_browseButton = nullptr;
+    QPushButton* m_addButton;
+    QPushButton* m_exitButton;
+    QLabel* m_phase;
+    QLabel* m_lineNumber;
+    QLabel* m_added;
+    QLabel* m_fixed = nullptr;
+    QLabel* m_skipped;
+    QProgressBar* m_progress;
     QElapsedTimer m_sinceShown;
     bool m_closed = false; // the import under way is given up
 };

@@ -4,7 +4,6 @@
 
 #include "forms/form.h"
 
-class QPushButton;
 class QRadioButton;
 
 namespace vantrel {
@@ -19,14 +18,13 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void Option1_Click(); // import the club's data file
-    void Option2_Click(); // import the older list
-    void Option3_Click(); // download both
+    void importDataClicked();
+    void importMembersClicked();
+    void downloadClicked();
 
-    QRadioButton* Option1;
-    QRadioButton* Option2;
-    QRadioButton* Option3;
-    QPushButton* Command1; // exit
+    QRadioButton* m_downloadOption;
+    QRadioButton* m_dataOption;
+    QRadioButton* m_membersOption;
 };
 
 } // namespace vantrel

@@ -43,7 +43,7 @@ public:
         LineReader reader(m_bytes);
         while (!reader.atEnd()) {
             const std::string_view line = reader.next();
-            append(line.size() < m_width ? kept(line) : line);
+            append(line.size() < m_width ? copyOf(line) : line);
         }
     }
     RosterTable(const RosterTable&) = delete; // its lines point into its own bytes
@@ -57,8 +57,8 @@ public:
     }
     std::string_view line(int place) const { return m_lines.at(place); }
 
-    void add(std::string_view record) { append(kept(record)); }
-    void replace(int place, std::string_view record) { m_lines.at(place) = kept(record); }
+    void add(std::string_view record) { append(copyOf(record)); }
+    void replace(int place, std::string_view record) { m_lines.at(place) = copyOf(record); }
 
     FileContent content() const { return {m_name, joinLines(m_lines)}; }
 
@@ -69,7 +69,7 @@ private:
     }
 
     // A copy of the line, padded, that lives as long as the table.
-    std::string_view kept(std::string_view line) {
+    std::string_view copyOf(std::string_view line) {
         std::string& copy = m_copies.emplace_back(line);
         copy.resize(std::max(copy.size(), m_width), ' ');
         return copy;
@@ -140,7 +140,6 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     const BoundedTable<std::string_view> lines = linesOf(bytes, files.path(listPath));
 
     MemberListReader reader(list);
-    std::string_view lastFile;
     int number = 0;
     for (const std::string_view line : lines) {
         if (!progress({mergingPhase(list), ++number, lines.size()}))
@@ -148,18 +147,14 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
         const ListLine kind = reader.read(line);
         if (kind == ListLine::malformed)
             ++result.skipped;
-        if (kind != ListLine::member)
-            continue;
-        roster.merge(reader.record(), result);
-        lastFile = rosterFiles[rosterFileOf(reader.record())];
+        if (kind == ListLine::member)
+            roster.merge(reader.record(), result);
     }
 
     if (!progress({savingPhase}))
         return result;
     // Too late to give up: the files are all saved, or none.
     roster.save(files, [&] { progress({savingPhase}); });
-    if (!lastFile.empty())
-        result.rosterFile = files.path(lastFile);
     result.finished = true;
     return result;
 }

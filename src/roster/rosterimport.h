@@ -23,11 +23,10 @@ struct ImportStep {
 using ImportProgress = std::function<bool(const ImportStep&)>;
 
 struct ImportResult {
-    bool finished = false;    // false: given up, no file touched
-    int added = 0;            // members new to the roster
-    int fixed = 0;            // members whose stored number differed from the list's
-    int skipped = 0;          // lines that lack fields
-    std::string rosterFile{}; // path of the file of the list's last member; empty without any
+    bool finished = false; // false: given up, no file touched
+    int added = 0;         // members new to the roster
+    int fixed = 0;         // members whose stored number differed from the list's
+    int skipped = 0;       // lines that lack fields
 };
 
 // Merges the list `listPath` into the roster files: a member already there (the first line with

@@ -31,8 +31,8 @@ struct NumberMatch {
     std::string call{}; // 10, when found
 };
 
-// The five roster files as they are on the disk now. What was read is kept and used again
-// until a file changes: a call is looked up while the operator is sending.
+// The five roster files as they are on the disk now. What was read is used again until a file
+// changes: a call is looked up while the operator is sending.
 class Roster {
 public:
     explicit Roster(const Files& files) : m_files(files) {}

@@ -13,8 +13,9 @@ namespace vantrel {
 namespace {
 
 constexpr int sortedLinesCapacity = 8000;
-// The last column of the call and the first nine of the number: the order has always been by
-// these, so a call of ten characters that ends in a digit puts its digit before the number.
+// The last column of the call and the first nine of the number, so a call of ten characters
+// that ends in a digit puts its digit before the number: the files that operators pass on to
+// each other are in this order.
 constexpr Column sortKey{member::call.last(), 10};
 
 struct RosterLine {

@@ -2,9 +2,15 @@
 // The five roster files brought into the order of their members' numbers.
 #pragma once
 
+#include <string_view>
+
 namespace vantrel {
 
 class Files;
+
+// What the operator is told when it is done.
+inline constexpr std::string_view rosterSorted =
+    "THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s";
 
 // Sorts "SKSDB1.TXT" to "SKSDB5.TXT", each by the number in its lines; lines with equal numbers
 // keep their order. All five are replaced or none. Throws RuntimeError 53 for a missing file, 9

@@ -63,8 +63,7 @@ TEST_F(ImportPages, MissingListsAreReportedEachInItsWayAndNothingIsLeftOfAnEarli
     EXPECT_EQ(messages.shown.back().icon, BoxIcon::exclamation);
 }
 
-TEST_F(ImportPages, MemberListCountsWhatItFixedAndLeavesTheLogChosen) {
-    module.settings.logFileName = "SKS.CBR";
+TEST_F(ImportPages, MemberListCountsWhatItFixed) {
     folder.write("SKSDB2.TXT", "K1ABC     0123C     JOE       CT \r\n");
     folder.write("SKCCLIST.TXT",
                  "skccnr|call|name|city|state|ccnr\r\n123|K1ABC|Joe|Town|CT|123T|\r\n");
@@ -74,8 +73,6 @@ TEST_F(ImportPages, MemberListCountsWhatItFixedAndLeavesTheLogChosen) {
     EXPECT_EQ(shown(listPage, "Label3"), "DONE...0 Mbrs Added...Click EXIT");
     EXPECT_EQ(shown(listPage, "Label4"), "1 SKCC#'s Fixed");
     EXPECT_EQ(shown(listPage, "Label5"), "");
-    EXPECT_EQ(module.settings.logFileName, "SKS.CBR");
-    EXPECT_EQ(module.memberListPath, files.path("SKSDB2.TXT"));
 }
 
 TEST_F(ImportPages, ButtonsRestMeanwhileAndClosingLeavesTheFiles) {

@@ -12,7 +12,9 @@ int main(int argc, char** argv) {
     bench::printValue(
         "list of 12,000, to painted list",
         bench::openingMilliseconds(
-            "frmVantrelList", [](bench::Program& program) { program.screens.open(Screen::list); }),
+            "frmVantrelList",
+            [](bench::Program& program) { program.screens.openList(ListedFile::log); },
+            [](bench::Program& program) { program.module.log.open(bench::fullLogName); }),
         "ms", 100);
     return 0;
 }

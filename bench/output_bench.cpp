@@ -2,7 +2,6 @@
 // What is made from a full log: the score, the ADIF files, the sorted roster.
 #include "fakes/fakeclock.h"
 #include "log/log.h"
-#include "log/logfile.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 #include "output/score/score.h"
@@ -32,7 +31,7 @@ std::string fullLog() {
     std::mt19937 random(1);
     const auto pick = [&random](const auto& choices) { return choices[random() % choices.size()]; };
     std::string bytes = test::logHeaderLines;
-    for (int i = 0; i < QsoTable::capacity; ++i) {
+    for (int i = 0; i < Log::capacity; ++i) {
         const auto member = random() % 900;
         bytes += test::contactLine({.frequency = pick(frequencies),
                                     .hisCall = "K" + std::to_string(member) + "AB",
@@ -45,17 +44,22 @@ std::string fullLog() {
 }
 
 // The score alone, and with the reading that opening its screen takes, against one reading of
-// the log into the table.
-void scoring(Files& files, QsoTable& table, OperatingSettings& settings) {
-    const auto read = [&] { loadLog(files, logName, table); };
+// the log from nothing.
+void scoring(const Files& files, const Log& log, OperatingSettings& settings) {
+    static std::string bytes;
+    static Contacts contacts;
+    const auto read = [&files, &log] {
+        files.readInto(log.name(), bytes);
+        contacts = contactsIn(bytes);
+    };
     for (const std::string_view contest : {contestSks, contestSkse}) {
         const std::string name(contest);
         const auto score = [&, name] {
             settings.contestCode = name;
-            benchmark::DoNotOptimize(computeScore(table.lines(), settings).total);
+            benchmark::DoNotOptimize(computeScore(contacts, settings).total);
         };
         read();
-        bench::pair(name + " score of 12,000, against reading them", 2, score, read);
+        bench::pair(name + " score of 12,000, against reading them", 3, score, read);
         bench::single(name + " score of 12,000, read and computed", 5, [read, score] {
             read();
             score();
@@ -63,10 +67,8 @@ void scoring(Files& files, QsoTable& table, OperatingSettings& settings) {
     }
 }
 
-void exporting(const bench::BenchFolder& folder, Files& files, QsoTable& table,
-               const OperatingSettings& settings) {
+void exporting(const bench::BenchFolder& folder, Files& files, Log& log) {
     static const test::FakeClock clock;
-    loadLog(files, logName, table);
     const auto bound = [&folder](const std::string& bytes) {
         return [&folder, bytes] {
             bench::bareRead(folder.path / logName);
@@ -74,12 +76,10 @@ void exporting(const bench::BenchFolder& folder, Files& files, QsoTable& table,
         };
     };
     bench::pair(
-        "ADIF of 12,000", 2, [&] { exportAdif(files, logName, table); },
-        bound(adifText(table.lines())));
+        "ADIF of 12,000", 2, [&] { exportAdif(files, log); }, bound(adifText(log.contacts())));
     bench::pair(
-        "ADIF for other loggers of 12,000", 2,
-        [&] { exportStrictAdif(files, clock, settings, table); },
-        bound(strictAdifText(table.lines(), "20110616 001230")));
+        "ADIF for other loggers of 12,000", 3, [&] { exportStrictAdif(files, clock, "0", log); },
+        bound(strictAdifText(log.contacts(), "20110616 001230")));
 }
 
 void sorting(const bench::BenchFolder& folder, Files& files) {
@@ -102,12 +102,12 @@ int main(int argc, char** argv) {
     SystemCalls calls;
     Files files(folder.path.string(), calls);
     folder.write(logName, fullLog());
-    QsoTable table;
+    Log log(files);
+    log.open(logName);
     OperatingSettings settings;
-    settings.logFileName = logName;
     settings.bonusStation = "W4BON     ";
-    scoring(files, table, settings);
-    exporting(folder, files, table, settings);
+    scoring(files, log, settings);
+    exporting(folder, files, log);
     sorting(folder, files);
     return bench::run(argc, argv);
 }

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Both K3Y standings of a full log, and how what is done over the whole log grows with it.
 #include "k3y/standings.h"
-#include "log/logfile.h"
+#include "log/log.h"
 #include "output/adif/adif.h"
 #include "output/score/score.h"
 #include "platform/files.h"
 #include "platform/systemcalls.h"
 #include "screens/main/dupecheck.h"
-#include "screens/main/qsoentry.h"
-#include "shared/module1.h"
+#include "shared/settings.h"
 #include "support/contacts.h"
 #include "support/ratiotable.h"
 
 #include <array>
+#include <deque>
 
 namespace {
 
@@ -33,26 +33,29 @@ std::string eventLog(int contacts) {
 }
 
 // Their screens read the log first: that is what they are measured by.
-void bothStandings(Module1& module, const Files& files) {
-    const auto read = [&] { loadLog(files, module.settings.logFileName, module.qsoTable); };
+void bothStandings(const Files& files, const Log& log) {
+    const auto read = [&] {
+        const std::string bytes = files.read(log.name());
+        benchmark::DoNotOptimize(contactsIn(bytes));
+    };
     bench::pair(
         "standings by area of 12,000, against reading them", 2,
-        [&] { benchmark::DoNotOptimize(areaStandings(module.qsoTable)); }, read);
+        [&] { benchmark::DoNotOptimize(areaStandings(log.contacts())); }, read);
     bench::pair(
         "standings by region of 12,000, against reading them", 2,
-        [&] { benchmark::DoNotOptimize(regionStandings(module.qsoTable)); }, read);
+        [&] { benchmark::DoNotOptimize(regionStandings(log.contacts())); }, read);
 }
 
-void growth(Module1& module, Files& files, const std::string& contacts) {
-    bench::single("opening a log of " + contacts, 100, [&] { openLog(module, files); });
+void growth(Log& log, const std::string& contacts) {
+    bench::single("opening a log of " + contacts, 100, [&] { log.open(log.name()); });
     bench::single("dupe check in " + contacts, 1, [&] {
-        benchmark::DoNotOptimize(isDuplicate(module.qsoTable, "W1NOTHERE", "14"));
+        benchmark::DoNotOptimize(isDuplicate(log.contacts(), "W1NOTHERE", "14"));
     });
     bench::single("score of " + contacts, 5, [&] {
-        benchmark::DoNotOptimize(computeScore(module.qsoTable.lines(), module.settings));
+        benchmark::DoNotOptimize(computeScore(log.contacts(), OperatingSettings()));
     });
     bench::single("ADIF text of " + contacts, 20,
-                  [&] { benchmark::DoNotOptimize(adifText(module.qsoTable.lines())); });
+                  [&] { benchmark::DoNotOptimize(adifText(log.contacts())); });
 }
 
 } // namespace
@@ -61,15 +64,14 @@ int main(int argc, char** argv) {
     const bench::BenchFolder folder;
     SystemCalls calls;
     Files files(folder.path.string(), calls);
-    std::array<Module1, 3> modules;
-    constexpr std::array sizes{100, 1000, QsoTable::capacity};
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        const std::string contacts = std::to_string(sizes[i]);
-        modules[i].settings.logFileName = "K3Y" + contacts + ".CBR";
-        folder.write(modules[i].settings.logFileName, eventLog(sizes[i]));
-        openLog(modules[i], files);
-        growth(modules[i], files, contacts);
+    std::deque<Log> logs;
+    for (const int size : {100, 1000, Log::capacity}) {
+        const std::string contacts = std::to_string(size);
+        const std::string name = "K3Y" + contacts + ".CBR";
+        folder.write(name, eventLog(size));
+        logs.emplace_back(files).open(name);
+        growth(logs.back(), contacts);
     }
-    bothStandings(modules.back(), files);
+    bothStandings(files, logs.back());
     return bench::run(argc, argv);
 }

@@ -2,7 +2,6 @@
 #include "output/adif/adif.h"
 
 #include "log/bands.h"
-#include "log/log.h"
 #include "log/outputfiles.h"
 #include "log/qsoline.h"
 #include "output/adif/adifitem.h"
@@ -13,7 +12,8 @@ namespace vantrel {
 namespace {
 
 // Where a date written year first has its parts. One written month first, after a month end,
-// is cut at the same columns: what comes out is no date, and the files have always had it so.
+// is cut at the same columns: what comes out is no date, and the programs that read these files
+// expect it so.
 constexpr Column year{qso::date.first, 4};
 constexpr Column month{qso::date.first + 5, 2};
 constexpr Column day{qso::date.first + 8, 2};
@@ -53,7 +53,7 @@ private:
     }
 
     // The comment declares the length of the padded number but holds the trimmed one: the
-    // programs that read these files have lived with that from the start.
+    // programs that read these files are written for that.
     static void appendNumber(std::string& bytes, std::string_view field) {
         constexpr std::string_view prefix = "SKCC NR: ";
         const std::string_view number = trim(field);
@@ -69,7 +69,7 @@ private:
 
 } // namespace
 
-std::string adifText(const std::vector<std::string_view>& contacts) {
+std::string adifText(const Contacts& contacts) {
     std::string bytes;
     bytes.reserve(contacts.size() * typicalRecord);
     bytes += "<EOH>\r\n";

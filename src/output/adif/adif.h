@@ -1,22 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The ADIF file of a log, byte for byte as operators' other programs have always got it.
+// The ADIF file of a log, byte for byte as the programs read it that operators feed with it.
 #pragma once
+
+#include "log/log.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace vantrel {
 
 class Files;
-class Log;
 
 // The file's bytes: "<EOH>", a line per contact (duplicates too), "<EOF>", CR LF after each.
-std::string adifText(const std::vector<std::string_view>& contacts);
+std::string adifText(const Contacts& contacts);
 
-// Reads the log again and writes its ADIF file. Returns that file's full path, to
-// show. Throws as Log::reread, adifFileName, requireOtherThanLog and Files::rewrite; the file is
-// then as it was.
+// Shown above the path of an ADIF file that was written.
+inline constexpr std::string_view adifCreated = "ADIF FILE CREATED AT:";
+
+// Reads the log again and writes its ADIF file. Returns that file's full path, to show. Throws as
+// Log::reread, adifFileName, requireOtherThanLog and Files::rewrite; the file is then as it was.
 std::string exportAdif(Files& files, Log& log);
 
 } // namespace vantrel

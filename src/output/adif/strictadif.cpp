@@ -4,7 +4,6 @@
 #include "base/integer16.h"
 #include "base/version.h"
 #include "log/bands.h"
-#include "log/log.h"
 #include "log/outputfiles.h"
 #include "log/qsoline.h"
 #include "output/adif/adifitem.h"
@@ -142,10 +141,10 @@ std::string_view countryOfState(std::string_view code, std::string_view call) {
             return alaska;
         if (code == "HI")
             return hawaii;
-        if (code == "DC" || adjoiningStates.holds(code))
+        if (code == "DC" || isAdjoiningState(code))
             return unitedStates;
     }
-    if (anyPart(call, isCanadianCall) && (code == "YT" || canadianProvinces.holds(code)))
+    if (anyPart(call, isCanadianCall) && (code == "YT" || isCanadianProvince(code)))
         return canada;
     return {};
 }
@@ -188,26 +187,6 @@ void appendHisSide(std::string& bytes, std::string_view contact, std::string_vie
     appendField(bytes, "<NOTES:", notesOf(country.empty() ? state : std::string_view(), number));
 }
 
-// A text made from some of a contact's columns and kept as long as these do not change: the
-// operator's own side, the day and the frequency are what they were a contact ago.
-class KeptText {
-public:
-    using Append = void (*)(std::string& bytes, std::string_view contact);
-
-    const std::string& of(std::string_view columns, std::string_view contact, Append append) {
-        if (columns != m_columns) {
-            m_text.clear();
-            append(m_text, contact);
-            m_columns = columns;
-        }
-        return m_text;
-    }
-
-private:
-    std::string_view m_columns; // at first none, which give no text
-    std::string m_text;
-};
-
 void appendDay(std::string& bytes, std::string_view contact) {
     if (const auto day = contactDay(contact))
         appendField(bytes, "<QSO_DATE:", dateText(*day));
@@ -230,30 +209,19 @@ void appendMySide(std::string& bytes, std::string_view contact) {
     appendField(bytes, "<MY_DXCC:", country);
 }
 
-class StrictAdifWriter {
-public:
-    // The contacts outlive the writer.
-    void append(std::string& bytes, std::string_view contact) {
-        const PlainText call(qso::hisCall.of(contact));
-        appendField(bytes, "<CALL:", call);
-        bytes += m_day.of(qso::date.of(contact), contact, appendDay);
-        if (contactTime(contact))
-            appendField(bytes, "<TIME_ON:", qso::time.of(contact));
-        bytes += m_frequency.of(qso::frequency.of(contact), contact, appendFrequency);
-        appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
-        appendHisSide(bytes, contact, call);
-        bytes += m_mySide.of(mySide.of(contact), contact, appendMySide);
-        appendMarker(bytes, contact);
-        bytes += "<EOR>\r\n";
-    }
-
-private:
-    static constexpr Column mySide{qso::myCall.first, qso::myNumber.last() - qso::myCall.first + 1};
-
-    KeptText m_day;
-    KeptText m_frequency;
-    KeptText m_mySide;
-};
+void appendContact(std::string& bytes, std::string_view contact) {
+    const PlainText call(qso::hisCall.of(contact));
+    appendField(bytes, "<CALL:", call);
+    appendDay(bytes, contact);
+    if (contactTime(contact))
+        appendField(bytes, "<TIME_ON:", qso::time.of(contact));
+    appendFrequency(bytes, contact);
+    appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
+    appendHisSide(bytes, contact, call);
+    appendMySide(bytes, contact);
+    appendMarker(bytes, contact);
+    bytes += "<EOR>\r\n";
+}
 
 void appendHeader(std::string& bytes, std::string_view created) {
     bytes += "Contacts logged with Vantrel\r\n";
@@ -267,14 +235,12 @@ void appendHeader(std::string& bytes, std::string_view created) {
 } // namespace
 
 // The sprints and the K3Y event are not in ADIF's list of contests: no CONTEST_ID.
-std::string strictAdifText(const std::vector<std::string_view>& contacts,
-                           std::string_view created) {
+std::string strictAdifText(const Contacts& contacts, std::string_view created) {
     std::string bytes;
     bytes.reserve((contacts.size() + 1) * typicalRecord);
     appendHeader(bytes, created);
-    StrictAdifWriter writer;
     for (const std::string_view contact : contacts)
-        writer.append(bytes, contact);
+        appendContact(bytes, contact);
     return bytes;
 }
 

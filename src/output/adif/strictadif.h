@@ -3,19 +3,19 @@
 // without a valid value left out.
 #pragma once
 
+#include "log/log.h"
+
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace vantrel {
 
 class Clock;
 class Files;
-class Log;
 struct LocalTime;
 
 // The file's bytes: a header, then a line per contact. `created`: "YYYYMMDD HHMMSS", UTC.
-std::string strictAdifText(const std::vector<std::string_view>& contacts, std::string_view created);
+std::string strictAdifText(const Contacts& contacts, std::string_view created);
 
 // "YYYYMMDD HHMMSS" in UTC, `gmtOffset` hours after local time.
 std::string creationTime(const LocalTime& local, std::string_view gmtOffset);

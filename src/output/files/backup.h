@@ -8,6 +8,10 @@ namespace vantrel {
 
 class Files;
 
+// What the operator is told meanwhile and afterwards.
+inline constexpr std::string_view backupUnderWay = "    < WORKING >";
+inline constexpr std::string_view backupDone = "DONE......CLICK EXIT";
+
 // Copies the whole log, under the last part of its name, into the folder typed (blanks around
 // it do not matter), in place of a copy made before. The copy is on the disk when this returns.
 // Throws RuntimeError 76 for a folder that is empty or missing, 53 for a missing log, and as

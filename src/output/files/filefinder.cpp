@@ -28,7 +28,7 @@ bool canBeNamed(const std::string& name) {
     return name.find('\\') == std::string::npos && latin1Text(name).has_value();
 }
 
-void keepNameable(std::vector<std::string>& names) {
+void leaveOutUnsayable(std::vector<std::string>& names) {
     std::erase_if(names, [](const std::string& name) { return !canBeNamed(name); });
 }
 
@@ -39,8 +39,8 @@ std::vector<std::string> shown(const std::vector<std::string>& names) {
     return texts;
 }
 
-// The folder in upper case, as folders have always been shown, unless that names another one,
-// two of them or none.
+// The folder in upper case, as names are said here, unless that names another one, two of them
+// or none.
 std::string folderText(const Files& files, const std::string& folder) {
     const std::string text = inside(shownText(folder), "");
     try {
@@ -55,7 +55,7 @@ std::string folderText(const Files& files, const std::string& folder) {
 
 FileFinder::FileFinder(const Files& files, const Folders& folders)
     : m_files(files), m_machine(folders), m_drives(folders.drives()) {
-    keepNameable(m_drives);
+    leaveOutUnsayable(m_drives);
     moveTo(files.nativePath(""));
 }
 
@@ -100,8 +100,8 @@ std::string FileFinder::selection() const {
 
 void FileFinder::moveTo(const std::string& folder) {
     FolderContent content = m_machine.content(folder);
-    keepNameable(content.folders);
-    keepNameable(content.files);
+    leaveOutUnsayable(content.folders);
+    leaveOutUnsayable(content.files);
     if (folder != separator)
         content.folders.insert(content.folders.begin(), upwards);
     m_folder = folder;

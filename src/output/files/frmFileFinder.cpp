@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmFileFinder.h"
 
+#include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
-#include "platform/qt/latin1.h"
 
 #include <QGridLayout>
 #include <QSignalBlocker>
@@ -15,47 +15,42 @@ frmFileFinder::frmFileFinder(const FormContext& context)
     createControls();
     layOut();
     using Finder = frmFileFinder;
-    connectHandler(drvList, &QComboBox::currentIndexChanged, this, &Finder::drvList_Change);
+    connectHandler(m_driveBox, &QComboBox::currentIndexChanged, this, &Finder::driveChosen);
     // Chosen, not only changed: the drive that shows already leads back to its top.
-    connectHandler(drvList, &QComboBox::activated, this, &Finder::drvList_Change);
-    connectHandler(dirList, &QListView::activated, this, &Finder::dirList_Change);
-    connectHandler(filList, &QListView::clicked, this, &Finder::filList_Click);
-    connectHandler(filList, &QListView::activated, this, &Finder::filList_Click);
-    connectHandler(Command1, &QPushButton::clicked, this, &Finder::Command1_Click);
+    connectHandler(m_driveBox, &QComboBox::activated, this, &Finder::driveChosen);
+    connectHandler(m_folderList, &QListView::activated, this, &Finder::folderOpened);
+    connectHandler(m_fileList, &QListView::clicked, this, &Finder::fileChosen);
+    connectHandler(m_fileList, &QListView::activated, this, &Finder::fileChosen); // Enter
+    connectHandler(m_returnButton, &QPushButton::clicked, this, &Finder::returnClicked);
 }
 
 void frmFileFinder::createControls() {
     FormBuilder build(this);
-    drvList = build.combo("drvList", "CHOOSE A DRIVE");
-    dirList = build.list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER");
-    filList = build.list("filList", "CLICK OR ENTER SELECTS A FILE");
-    Command1 = build.command("Command1", "&RETURN", "GOES BACK WITH WHAT IS SELECTED");
-    Label1 = build.label("Label1", "Select a File");
-    Label2 = build.label("Label2", "DRIVE:");
-    Label3 = build.label("Label3", "FOLDER");
-    Label4 = build.label("Label4", "FILE");
-    Label6 = build.label("Label6", "FILE SELECTED :");
-    Label5 = build.label("Label5");
+    m_driveBox = build.combo("drvList", "CHOOSE A DRIVE");
+    m_folderList = build.list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER");
+    m_fileList = build.list("filList", "CLICK OR ENTER SELECTS A FILE");
+    m_returnButton = build.command("Command1", "&RETURN", "GOES BACK WITH WHAT IS SELECTED");
+    m_selection = build.label("Label5");
     m_folders = new LineListModel(this);
     m_files = new LineListModel(this);
-    dirList->setModel(m_folders);
-    filList->setModel(m_files);
+    m_folderList->setModel(m_folders);
+    m_fileList->setModel(m_files);
 }
 
 void frmFileFinder::load() {
     m_finder.emplace(platform().files, m_machine);
-    const QSignalBlocker quiet(drvList);
-    drvList->clear();
+    const QSignalBlocker quiet(m_driveBox);
+    m_driveBox->clear();
     for (const std::string& drive : m_finder->drives())
-        drvList->addItem(toQt(drive));
+        m_driveBox->addItem(toQt(drive));
     showFolder();
 }
 
 QWidget* frmFileFinder::firstFocus() {
-    return dirList;
+    return m_folderList;
 }
 
-void frmFileFinder::drvList_Change(int index) {
+void frmFileFinder::driveChosen(int index) {
     try {
         m_finder->openDrive(static_cast<std::size_t>(index));
     } catch (const RuntimeError&) {
@@ -65,21 +60,21 @@ void frmFileFinder::drvList_Change(int index) {
     showFolder();
 }
 
-void frmFileFinder::dirList_Change(const QModelIndex& index) {
+void frmFileFinder::folderOpened(const QModelIndex& index) {
     if (!index.isValid())
         return;
     m_finder->enterFolder(static_cast<std::size_t>(index.row()));
     showFolder();
 }
 
-void frmFileFinder::filList_Click(const QModelIndex& index) {
+void frmFileFinder::fileChosen(const QModelIndex& index) {
     if (!index.isValid())
         return;
     m_finder->chooseFile(static_cast<std::size_t>(index.row()));
-    Label5->setText(toQt(m_finder->selection()));
+    put(m_selection, m_finder->selection());
 }
 
-void frmFileFinder::Command1_Click() {
+void frmFileFinder::returnClicked() {
     if (!m_finder) { // the program folder could not be listed: there is nothing to hand back
         close();
         return;
@@ -92,27 +87,29 @@ void frmFileFinder::Command1_Click() {
 }
 
 void frmFileFinder::showFolder() {
-    const QSignalBlocker quiet(drvList);
-    drvList->setCurrentIndex(static_cast<int>(m_finder->currentDrive()));
+    const QSignalBlocker quiet(m_driveBox);
+    m_driveBox->setCurrentIndex(static_cast<int>(m_finder->currentDrive()));
     m_folders->setLines(m_finder->folders());
     m_files->setLines(m_finder->files());
-    Label5->setText(toQt(m_finder->selection()));
+    put(m_selection, m_finder->selection());
 }
 
 void frmFileFinder::layOut() {
-    Label1->setAlignment(Qt::AlignCenter);
-    Label5->setWordWrap(true);
+    FormBuilder build(this);
     auto* grid = new QGridLayout(this);
-    grid->addWidget(Label1, 0, 0, 1, 2);
-    grid->addWidget(Label2, 1, 0);
-    grid->addWidget(drvList, 2, 0);
-    grid->addWidget(Label3, 3, 0);
-    grid->addWidget(dirList, 4, 0);
-    grid->addWidget(Label4, 3, 1);
-    grid->addWidget(filList, 4, 1);
-    grid->addWidget(Label6, 5, 0);
-    grid->addWidget(Label5, 6, 0, 1, 2);
-    grid->addWidget(Command1, 7, 1, Qt::AlignRight);
+    const auto addUnder = [&](QLabel* caption, QWidget* list, int row, int column) {
+        caption->setBuddy(list);
+        grid->addWidget(caption, row, column);
+        grid->addWidget(list, row + 1, column);
+    };
+    grid->addWidget(build.label("Label1", "Select a File"), 0, 0, 1, 2, Qt::AlignCenter);
+    addUnder(build.label("Label2", "DRIVE:"), m_driveBox, 1, 0);
+    addUnder(build.label("Label3", "FOLDER"), m_folderList, 3, 0);
+    addUnder(build.label("Label4", "FILE"), m_fileList, 3, 1);
+    grid->addWidget(build.label("Label6", "FILE SELECTED :"), 5, 0);
+    m_selection->setWordWrap(true);
+    grid->addWidget(m_selection, 6, 0, 1, 2);
+    grid->addWidget(m_returnButton, 7, 1, Qt::AlignRight);
     grid->setRowStretch(4, 1);
     resize(640, 480);
 }

@@ -36,23 +36,18 @@ private:
     void createControls();
     void layOut();
 
-    void drvList_Change(int index);
-    void dirList_Change(const QModelIndex& index); // double click, Enter
-    void filList_Click(const QModelIndex& index);  // click, Enter
-    void Command1_Click();                         // return
+    void driveChosen(int index);
+    void folderOpened(const QModelIndex& index);
+    void fileChosen(const QModelIndex& index);
+    void returnClicked();
 
     void showFolder();
 
-    QLabel* Label1; // heading
-    QLabel* Label2; // caption of the drives
-    QComboBox* drvList;
-    QLabel* Label3; // caption of the folders
-    QListView* dirList;
-    QLabel* Label4; // caption of the files
-    QListView* filList;
-    QLabel* Label6;        // caption of the selection
-    QLabel* Label5;        // the selection
-    QPushButton* Command1; // return
+    QComboBox* m_driveBox;
+    QListView* m_folderList;
+    QListView* m_fileList;
+    QLabel* m_selection;
+    QPushButton* m_returnButton;
 
     Screen m_receiver = Screen::start;
     SystemFolders m_machine;

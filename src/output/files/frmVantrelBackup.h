@@ -24,18 +24,15 @@ protected:
 
 private:
     void layOut();
-    void Command3_Click(); // browse
-    void Command2_Click(); // backup, and Enter in the folder box
+    void browseClicked();
+    void backupClicked();
 
-    QLabel* Label1;        // heading
-    QLabel* Label4;        // caption of the log's path
-    QLabel* Label5;        // the log's path
-    QLabel* Label2;        // caption of the folder box
-    QLineEdit* Text1;      // destination folder
-    QPushButton* Command3; // browse
-    QPushButton* Command2; // backup
-    QPushButton* Command1; // exit
-    QLabel* Label3;        // status
+    QLineEdit* m_folderBox;
+    QPushButton* m_browseButton;
+    QPushButton* m_backupButton;
+    QPushButton* m_exitButton;
+    QLabel* m_logPath;
+    QLabel* m_status;
 };
 
 } // namespace vantrel

@@ -4,9 +4,12 @@
 
 #include "forms/form.h"
 
-#include <array>
 #include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
 
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -24,33 +27,31 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void createControls();
-    void layOut();
-    void connectHandlers();
+    struct Job {
+        const char* name; // of its option
+        const char* caption;
+        const char* toolTip;
+        std::function<void()> run;
+    };
+    struct Group {
+        const char* title;
+        std::vector<Job> jobs;
+    };
 
-    void Option1_Click(); // the roster files, and so on to Option5
-    void Option2_Click();
-    void Option3_Click();
-    void Option4_Click();
-    void Option5_Click();
-    void Option6_Click();  // ADIF file
-    void Option7_Click();  // list the ADIF file
-    void Option8_Click();  // list the log
-    void Option9_Click();  // log file editor
-    void Option10_Click(); // start page
-    void Option11_Click(); // roster update
-    void Option12_Click(); // print the log
-    void Option13_Click(); // sort the roster files
-    void Option14_Click(); // ADIF file for other loggers
+    std::vector<Group> groups();
+    void createOptions(QHBoxLayout* page);
 
-    void viewRosterFile(std::size_t number);
+    void showMembers(std::size_t number);
+    void sortMembers();
+    void exportLog();
+    void exportLogStrictly();
     void showAdifPath(const std::string& path);
+    void printLog();
 
-    static constexpr std::size_t optionCount = 14;
-    std::array<QRadioButton*, optionCount> m_options; // Option1 to Option14
-    QLabel* Label5;                                   // "ADIF FILE CREATED AT:"
-    QLineEdit* Text2;                                 // its full path
-    QPushButton* Command1;                            // back to the main page
+    QRadioButton* m_firstOption = nullptr;
+    QLabel* m_adifCaption;
+    QLineEdit* m_adifPath;
+    QPushButton* m_mainPageButton;
 };
 
 } // namespace vantrel

@@ -32,7 +32,7 @@ private:
 
 } // namespace
 
-Integer16 countBonusPoints(const std::vector<std::string_view>& contacts) {
+Integer16 countBonusPoints(const Contacts& contacts) {
     BonusCount count;
     for (const std::string_view contact : contacts) {
         const std::string_view name = qso::hisName.of(contact);

@@ -31,7 +31,7 @@ int PictureHour::total() const {
     return std::accumulate(contacts.begin(), contacts.end(), 0);
 }
 
-std::vector<PictureHour> contactsPerHour(const std::vector<std::string_view>& contacts) {
+std::vector<PictureHour> contactsPerHour(const Contacts& contacts) {
     std::map<Hour, ContactsByBand> hours;
     for (const std::string_view contact : contacts) {
         const auto day = contactDay(contact);

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "log/bands.h"
+#include "log/log.h"
 
 #include <array>
-#include <string_view>
 #include <vector>
 
 namespace vantrel {
@@ -22,6 +22,6 @@ struct PictureHour {
 // The last 48 hours with contacts, oldest first. Duplicates are left out, like in the score, and
 // lines without a readable date and time.
 inline constexpr int pictureHours = 48;
-std::vector<PictureHour> contactsPerHour(const std::vector<std::string_view>& contacts);
+std::vector<PictureHour> contactsPerHour(const Contacts& contacts);
 
 } // namespace vantrel

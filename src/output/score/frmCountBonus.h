@@ -23,8 +23,8 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    QLabel* Label1;        // "Total: " and the sum
-    QPushButton* Command1; // exit
+    QLabel* m_total;
+    QPushButton* m_exitButton;
 };
 
 } // namespace vantrel

@@ -2,6 +2,7 @@
 #include "output/score/frmVantrelScore.h"
 
 #include "base/fixedtext.h"
+#include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/stackedbars.h"
 #include "log/outputfiles.h"
@@ -11,7 +12,6 @@
 #include "platform/printjob.h"
 #include "platform/qt/latin1.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -32,32 +32,32 @@ frmVantrelScore::frmVantrelScore(const FormContext& context)
 
 void frmVantrelScore::createControls() {
     FormBuilder build(this);
-    Command1 = build.command("Command1", "E&XIT", "CLOSES THE SCORE");
-    Command2 = build.command("Command2", "&PRINT", "PRINTS THE SCORE");
-    Text1 = build.output("Text1");
-    Text2 = build.output("Text2");
-    Text3 = build.output("Text3");
-    Text4 = build.output("Text4");
-    Text9 = build.output("Text9");
-    Text8 = build.output("Text8");
-    Text5 = build.output("Text5");
-    Text6 = build.output("Text6");
-    Text7 = build.output("Text7");
-    Label1 = build.label("Label1");
-    Label4 = build.label("Label4");
-    Label7 = build.label("Label7");
-    Label13 = build.label("Label13");
-    Label14 = build.label("Label14");
+    m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE SCORE");
+    m_printButton = build.command("Command2", "&PRINT", "PRINTS THE SCORE");
+    m_qsos = build.output("Text1");
+    m_multipliers = build.output("Text2");
+    m_centurions = build.output("Text3");
+    m_tribunes = build.output("Text4");
+    m_senators = build.output("Text9");
+    m_bonusStationQsos = build.output("Text8");
+    m_contestFigure = build.output("Text5");
+    m_bonusPoints = build.output("Text6");
+    m_total = build.output("Text7");
+    m_logPath = build.label("Label1");
+    m_multiplierCaption = build.label("Label4");
+    m_contestFigureCaption = build.label("Label7");
+    m_dupesLogged = build.label("Label13");
+    m_dupesNotCounted = build.label("Label14");
     m_picture = new StackedBars(this);
 }
 
 void frmVantrelScore::connectHandlers() {
-    connectHandler(Command2, &QPushButton::clicked, this, &frmVantrelScore::Command2_Click);
-    connect(Command1, &QPushButton::clicked, this, [this] { close(); });
+    connectHandler(m_printButton, &QPushButton::clicked, this, &frmVantrelScore::printClicked);
+    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
 }
 
 QWidget* frmVantrelScore::firstFocus() {
-    return Command1;
+    return m_exitButton;
 }
 
 // --- Opening ---------------------------------------------------------------------------------
@@ -78,26 +78,26 @@ void frmVantrelScore::load() {
 void frmVantrelScore::showLabels() {
     const OperatingSettings& settings = shared().settings;
     const bool european = settings.contestCode == contestSkse;
-    Label1->setText(toQt(platform().files.path(shared().log.name())));
-    Label4->setText(toQt(european ? "  DXCC Countries:" : "S/P/Cs:"));
-    Label7->setText(toQt(european ? "      Regular Members Worked: " : "K9SKC QSOs:"));
-    Label13->setText(toQt(settings.logsDupes() ? "DUPES ARE LOGGED" : "DUPES ARE NOT LOGGED"));
-    Label14->setText(toQt(settings.logsDupes() ? "BUT NOT COUNTED" : " "));
+    put(m_logPath, platform().files.path(shared().log.name()));
+    put(m_multiplierCaption, european ? "  DXCC Countries:" : "S/P/Cs:");
+    put(m_contestFigureCaption, european ? "      Regular Members Worked: " : "K9SKC QSOs:");
+    put(m_dupesLogged, settings.logsDupes() ? "DUPES ARE LOGGED" : "DUPES ARE NOT LOGGED");
+    put(m_dupesNotCounted, settings.logsDupes() ? "BUT NOT COUNTED" : " ");
 }
 
 void frmVantrelScore::showScore() {
     const auto show = [](QLineEdit* box, const Score::Figure& figure) {
-        box->setText(toQt(figureText(figure)));
+        put(box, figureText(figure));
     };
-    show(Text1, m_score.qsos);
-    show(Text2, m_score.multipliers);
-    show(Text3, m_score.centurions);
-    show(Text4, m_score.tribunes);
-    show(Text9, m_score.senators);
-    show(Text8, m_score.bonusStationQsos);
-    show(Text5, m_score.european ? m_score.regularMembersWorked : m_score.k9skcQsos);
-    show(Text6, m_score.bonusPoints);
-    show(Text7, m_score.total);
+    show(m_qsos, m_score.qsos);
+    show(m_multipliers, m_score.multipliers);
+    show(m_centurions, m_score.centurions);
+    show(m_tribunes, m_score.tribunes);
+    show(m_senators, m_score.senators);
+    show(m_bonusStationQsos, m_score.bonusStationQsos);
+    show(m_contestFigure, m_score.european ? m_score.regularMembersWorked : m_score.k9skcQsos);
+    show(m_bonusPoints, m_score.bonusPoints);
+    show(m_total, m_score.total);
 }
 
 void frmVantrelScore::showPicture() {
@@ -116,13 +116,13 @@ void frmVantrelScore::showPicture() {
 
 // --- Printing --------------------------------------------------------------------------------
 
-void frmVantrelScore::Command2_Click() {
+void frmVantrelScore::printClicked() {
     const std::string& log = shared().log.name();
     Files& files = platform().files;
     const std::string note = sendToPrinter(
         platform().printer, files, scoreReport(m_score, files.path(log)), scorePdfName(log));
-    messages().show({"The File has been sent to the Printer!", BoxIcon::exclamation, note});
-    Command1->setFocus();
+    messages().show({std::string(reportPrinted), BoxIcon::exclamation, note});
+    m_exitButton->setFocus();
 }
 
 // --- Layout ----------------------------------------------------------------------------------
@@ -130,8 +130,8 @@ void frmVantrelScore::Command2_Click() {
 void frmVantrelScore::layOut() {
     auto* dupes = new QVBoxLayout;
     dupes->addStretch();
-    dupes->addWidget(Label13, 0, Qt::AlignHCenter);
-    dupes->addWidget(Label14, 0, Qt::AlignHCenter);
+    dupes->addWidget(m_dupesLogged, 0, Qt::AlignHCenter);
+    dupes->addWidget(m_dupesNotCounted, 0, Qt::AlignHCenter);
     dupes->addStretch();
     auto* score = new QHBoxLayout;
     score->addStretch();
@@ -141,11 +141,11 @@ void frmVantrelScore::layOut() {
     score->addStretch();
     auto* commands = new QHBoxLayout;
     commands->addStretch();
-    commands->addWidget(Command2);
-    commands->addWidget(Command1);
+    commands->addWidget(m_printButton);
+    commands->addWidget(m_exitButton);
 
     auto* page = new QVBoxLayout(this);
-    page->addWidget(Label1);
+    page->addWidget(m_logPath);
     page->addLayout(score);
     page->addWidget(m_picture, 1);
     page->addStretch();
@@ -153,29 +153,29 @@ void frmVantrelScore::layOut() {
 }
 
 // Each figure behind its caption, in the order of the report.
-QGridLayout* frmVantrelScore::figures() {
+QFormLayout* frmVantrelScore::figures() {
     FormBuilder build(this);
-    const std::pair<QLabel*, QLineEdit*> rows[] = {{build.caption("QSOs:"), Text1},
-                                                   {Label4, Text2},
-                                                   {build.caption("Centurions:"), Text3},
-                                                   {build.caption("Tribunes:"), Text4},
-                                                   {build.caption("Senators:"), Text9},
-                                                   {build.caption("Bonus Station QSOs:"), Text8},
-                                                   {Label7, Text5},
-                                                   {build.caption("Total Bonus Points:"), Text6},
-                                                   {build.caption("TOTAL SCORE:"), Text7}};
-    auto* grid = new QGridLayout;
-    int row = 0;
-    for (const auto& [caption, box] : rows) {
-        if (box == Text7)
-            for (QWidget* widget : {static_cast<QWidget*>(caption), static_cast<QWidget*>(box)})
-                widget->setFont(enlargedFont(this, totalEnlargement));
+    auto* form = new QFormLayout;
+    form->setLabelAlignment(Qt::AlignRight);
+    build.row(form, "QSOs:", m_qsos);
+    form->addRow(m_multiplierCaption, m_multipliers);
+    build.row(form, "Centurions:", m_centurions);
+    build.row(form, "Tribunes:", m_tribunes);
+    build.row(form, "Senators:", m_senators);
+    build.row(form, "Bonus Station QSOs:", m_bonusStationQsos);
+    form->addRow(m_contestFigureCaption, m_contestFigure);
+    build.row(form, "Total Bonus Points:", m_bonusPoints);
+    build.row(form, "TOTAL SCORE:", m_total);
+    m_multiplierCaption->setBuddy(m_multipliers);
+    m_contestFigureCaption->setBuddy(m_contestFigure);
+    for (QWidget* widget : {form->labelForField(m_total), static_cast<QWidget*>(m_total)})
+        widget->setFont(enlargedFont(this, totalEnlargement));
+    for (int row = 0; row < form->rowCount(); ++row) {
+        auto* box = static_cast<QLineEdit*>(form->itemAt(row, QFormLayout::FieldRole)->widget());
         box->setAlignment(Qt::AlignRight);
         setColumns(box, figureColumns);
-        grid->addWidget(caption, row, 0, Qt::AlignRight);
-        grid->addWidget(box, row++, 1);
     }
-    return grid;
+    return form;
 }
 
 } // namespace vantrel

@@ -5,7 +5,7 @@
 #include "forms/form.h"
 #include "output/score/score.h"
 
-class QGridLayout;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -30,31 +30,31 @@ protected:
 private:
     void createControls();
     void layOut();
-    QGridLayout* figures();
+    QFormLayout* figures();
     void connectHandlers();
 
-    void Command2_Click(); // print
+    void printClicked();
 
     void showLabels();
     void showScore();
     void showPicture();
 
-    QLineEdit* Text1;      // QSOs
-    QLineEdit* Text2;      // S/P/Cs, or DXCC countries
-    QLineEdit* Text3;      // Centurions
-    QLineEdit* Text4;      // Tribunes
-    QLineEdit* Text9;      // Senators
-    QLineEdit* Text8;      // bonus-station QSOs
-    QLineEdit* Text5;      // K9SKC QSOs, or regular members worked
-    QLineEdit* Text6;      // total bonus points
-    QLineEdit* Text7;      // TOTAL SCORE
-    QLabel* Label1;        // log file
-    QLabel* Label4;        // caption of Text2
-    QLabel* Label7;        // caption of Text5
-    QLabel* Label13;       // dupes logged or not
-    QLabel* Label14;       // but not counted
-    QPushButton* Command2; // print
-    QPushButton* Command1; // exit
+    QLineEdit* m_qsos;
+    QLineEdit* m_multipliers; // S/P/Cs, or DXCC countries
+    QLineEdit* m_centurions;
+    QLineEdit* m_tribunes;
+    QLineEdit* m_senators;
+    QLineEdit* m_bonusStationQsos;
+    QLineEdit* m_contestFigure; // K9SKC QSOs, or regular members worked
+    QLineEdit* m_bonusPoints;
+    QLineEdit* m_total;
+    QLabel* m_logPath;
+    QLabel* m_multiplierCaption;
+    QLabel* m_contestFigureCaption;
+    QLabel* m_dupesLogged;
+    QLabel* m_dupesNotCounted;
+    QPushButton* m_printButton;
+    QPushButton* m_exitButton;
 
     StackedBars* m_picture; // contacts per hour by band
     Score m_score;          // as shown

@@ -2,8 +2,8 @@
 // The codes of the states and provinces that operators send in the exchange.
 #pragma once
 
+#include <algorithm>
 #include <array>
-#include <cstddef>
 #include <string_view>
 
 namespace vantrel {
@@ -14,35 +14,17 @@ inline constexpr std::array<std::string_view, 48> adjoiningStateCodes{
     "MA", "MD", "ME", "MI", "MN", "MO", "MS", "MT", "NC", "ND", "NE", "NH", "NJ", "NM", "NV", "NY",
     "OH", "OK", "OR", "PA", "RI", "SC", "SD", "TN", "TX", "UT", "VA", "VT", "WA", "WI", "WV", "WY"};
 
-// Canada's provinces and territories, but for the Yukon: the score's country table has always
-// gone without it.
+// Canada's provinces and territories, but for the Yukon: the European sprint counts it as a
+// country of its own.
 inline constexpr std::array<std::string_view, 12> canadianProvinceCodes{
     "AB", "BC", "MB", "NB", "NL", "NS", "NT", "NU", "ON", "PE", "QC", "SK"};
 
-// A set of two-letter codes that answers at once.
-class CodeSet {
-public:
-    template <typename Codes>
-    constexpr explicit CodeSet(const Codes& codes) {
-        for (const std::string_view code : codes)
-            m_held[indexOf(code)] = true;
-    }
-    constexpr bool holds(std::string_view code) const {
-        return code.size() == 2 && isLetter(code[0]) && isLetter(code[1]) && m_held[indexOf(code)];
-    }
-
-private:
-    static constexpr std::size_t letters = 26;
-    static constexpr bool isLetter(char character) { return character >= 'A' && character <= 'Z'; }
-    static constexpr std::size_t indexOf(std::string_view code) {
-        return static_cast<std::size_t>(code[0] - 'A') * letters +
-               static_cast<std::size_t>(code[1] - 'A');
-    }
-
-    std::array<bool, letters * letters> m_held{};
-};
-
-inline constexpr CodeSet adjoiningStates{adjoiningStateCodes};
-inline constexpr CodeSet canadianProvinces{canadianProvinceCodes};
+// Both lists are in alphabetical order.
+inline bool isAdjoiningState(std::string_view code) {
+    return std::binary_search(adjoiningStateCodes.begin(), adjoiningStateCodes.end(), code);
+}
+inline bool isCanadianProvince(std::string_view code) {
+    return std::binary_search(canadianProvinceCodes.begin(), canadianProvinceCodes.end(), code);
+}
 
 } // namespace vantrel

@@ -5,16 +5,13 @@
 #include "output/score/regioncodes.h"
 #include "shared/settings.h"
 
-#include <algorithm>
 #include <array>
-#include <cstdint>
 #include <string>
+#include <unordered_set>
 
 namespace vantrel {
 
 namespace {
-
-using Contacts = std::vector<std::string_view>;
 
 constexpr int centurionPoints = 5;
 constexpr int tribunePoints = 10;
@@ -26,54 +23,26 @@ constexpr std::string_view clubStation = "K9SKC";
 constexpr std::string_view noNumber = "NONE";
 constexpr char noMember = 'W'; // as the last character of a number
 
-// Different values of at most 7 characters, at most 400 of them: a small hash table of values
-// packed into numbers, since every contact of the log is looked up in one or two of these.
+// Different values, views into the log's lines; 400 of them count.
 class DistinctValues {
 public:
     explicit DistinctValues(std::string_view name) : m_name(name) {}
 
-    void add(std::string_view value) {
-        const std::uint64_t key = packed(value);
-        std::size_t slot = key * spreading >> slotShift;
-        while (m_slots[slot] != 0) {
-            if (m_slots[slot] == key)
-                return;
-            slot = (slot + 1) % m_slots.size();
-        }
-        if (m_count == distinctValuesCapacity) {
-            m_overflowed = true;
-            return;
-        }
-        m_slots[slot] = key;
-        ++m_count;
-    }
-    bool empty() const { return m_count == 0; }
+    void add(std::string_view value) { m_values.insert(value); }
+    bool empty() const { return m_values.empty(); }
     // Throws RuntimeError 9 naming the list when there was a 401st different value: only here,
     // so that one pass over the log can fill all lists and the figures before this one stand.
     Integer16 count() const {
-        if (m_overflowed)
+        if (m_values.size() > distinctValuesCapacity)
             throw RuntimeError(ErrorCode::subscriptOutOfRange,
                                std::string(m_name) + " holds at most " +
                                    std::to_string(distinctValuesCapacity) + " entries");
-        return m_count;
+        return static_cast<long long>(m_values.size());
     }
 
 private:
-    static constexpr int slotShift = 64 - 10; // 1,024 slots: never more than 40 % in use
-    static constexpr std::uint64_t spreading = 0x9E3779B97F4A7C15; // 2^64 by the golden ratio
-
-    // The characters and, so that no value is 0, their count and one in the top byte.
-    static std::uint64_t packed(std::string_view value) {
-        std::uint64_t key = value.size() + 1;
-        for (const char character : value)
-            key = key << 8 | static_cast<unsigned char>(character);
-        return key;
-    }
-
     std::string_view m_name;
-    std::array<std::uint64_t, 1 << (64 - slotShift)> m_slots{}; // 0: free
-    int m_count = 0;
-    bool m_overflowed = false;
+    std::unordered_set<std::string_view> m_values;
 };
 
 std::string_view memberNumber(std::string_view contact) {
@@ -170,11 +139,11 @@ void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Sc
 // it stands in the line, with its padding: a code that is out of place stays what it is.
 std::string_view countryOf(std::string_view field) {
     const std::string_view code = trimRight(field);
-    if (length(code) != 2 || length(field) != qso::hisState.width)
+    if (length(field) != qso::hisState.width)
         return field;
-    if (adjoiningStates.holds(code))
+    if (isAdjoiningState(code))
         return "USA";
-    if (canadianProvinces.holds(code))
+    if (isCanadianProvince(code))
         return "CAN";
     if (code == "AK")
         return "ALK";
@@ -182,7 +151,7 @@ std::string_view countryOf(std::string_view field) {
 }
 
 // Senators are regular members too: a Senator gives his own 15 points and this one. A contact
-// without any number counts as one member, as it always has.
+// without any number counts as one member: the sprint's manager scores the logs he gets so.
 bool isRegularMember(std::string_view number) {
     const char award = awardLetter(number);
     return award != 'T' && award != 'C' && award != noMember && !isExactly(number, noNumber);
@@ -223,8 +192,7 @@ void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& sett
 
 } // namespace
 
-Score computeScore(const std::vector<std::string_view>& contacts,
-                   const OperatingSettings& settings) {
+Score computeScore(const Contacts& contacts, const OperatingSettings& settings) {
     Score score;
     score.european = settings.contestCode == contestSkse;
     try {

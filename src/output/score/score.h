@@ -2,19 +2,18 @@
 // The claimed score of a log: one set of rules for the European sprint, one for all others.
 #pragma once
 
-#include "base/integer16.h"
 #include "base/runtimeerror.h"
+#include "log/log.h"
 
+#include <cstddef>
 #include <optional>
-#include <string_view>
-#include <vector>
 
 namespace vantrel {
 
 struct OperatingSettings;
 
 // How many different values each list of the score holds at most.
-inline constexpr int distinctValuesCapacity = 400;
+inline constexpr std::size_t distinctValuesCapacity = 400;
 
 struct Score {
     // Empty when the computation stopped before it.
@@ -39,7 +38,6 @@ struct Score {
 
 // The score of a log's contact lines by the rules of `settings.contestCode`. Never throws a
 // RuntimeError: see Score::stoppedBy.
-Score computeScore(const std::vector<std::string_view>& contacts,
-                   const OperatingSettings& settings);
+Score computeScore(const Contacts& contacts, const OperatingSettings& settings);
 
 } // namespace vantrel

@@ -13,7 +13,7 @@ struct ReportLine {
 };
 using ReportLines = std::array<ReportLine, 8>;
 
-// "Tribumes" is how the report has always spelled them.
+// "Tribumes": the manager who reads printed reports knows them by that spelling.
 constexpr ReportLines sprintLines{{
     {"       Number of QSOs: ", &Score::qsos},
     {"     Number of S/P/Cs: ", &Score::multipliers},

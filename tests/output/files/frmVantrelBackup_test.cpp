@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/contacts.h"
+#include "support/errors.h"
 #include "support/qt/formharness.h"
 
 #include <QAbstractItemView>
@@ -9,14 +10,13 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace vantrel::test {
 namespace {
 
 using ::testing::Contains;
 using ::testing::EndsWith;
+using ::testing::HasSubstr;
 using ::testing::Not;
 
 constexpr const char* page = "frmVantrelBackup";
@@ -25,11 +25,16 @@ constexpr const char* finder = "frmFileFinder";
 class BackupPage : public ::testing::Test, public FormHarness {
 protected:
     BackupPage() {
-        module.settings.logFileName = "SKS.CBR";
-        for (int i = 0; i < 13000; ++i) // more than the program itself counts
+        for (int i = 0; i < 13000; ++i)
             log += "QSO: a, b\n";
         folder.write("SKS.CBR", log);
+        openLog("SKS.CBR");
         std::filesystem::create_directory(folder.path() / "copies");
+    }
+
+    void openLog(const std::string& name) { // of more contacts than the program counts
+        EXPECT_RUNTIME_ERROR(module.log.open(name), ErrorCode::subscriptOutOfRange,
+                             HasSubstr("12000"));
     }
 
     // Clicks a line of the finder's list; returns where.
@@ -46,7 +51,7 @@ protected:
 };
 
 TEST_F(BackupPage, CopiesEveryByteHoweverTheFolderIsTyped) {
-    module.settings.logFileName = folder.string() + "\\SKS.CBR"; // as the finder hands it back
+    openLog(folder.string() + "\\SKS.CBR"); // as the finder hands it back
     screens.open(Screen::backup);
     EXPECT_EQ(shown(page, "Label5"), folder.string() + "/SKS.CBR");
     for (const std::string& typed :
@@ -72,7 +77,7 @@ TEST_F(BackupPage, WithoutAFolderOrLogItIsAnErrorAndTheTypingStays) {
         EXPECT_EQ(shown(page, "Text1"), typed);
     }
     EXPECT_FALSE(std::filesystem::exists("/SKS.CBR"));
-    module.settings.logFileName = "OTHER.CBR";
+    std::filesystem::remove(folder.path() / "SKS.CBR");
     type(page, "Text1", "copies");
     messages.expect("Run-time error 53: File not found");
     click(page, "Command2");

@@ -17,10 +17,13 @@ constexpr const char* page = "frmVantrelList";
 
 class ListPage : public ::testing::Test, public FormHarness {
 protected:
-    ListPage() { module.settings.logFileName = "SKS.CBR"; }
+    ListPage() {
+        folder.write("SKS.CBR", "");
+        module.log.open("SKS.CBR");
+    }
     void openPage(const std::string& bytes) {
         folder.write("SKS.CBR", bytes);
-        screens.open(Screen::list);
+        screens.openList(ListedFile::log);
         settle();
     }
     QListView* view() const { return control<QListView>(page, "List1"); }
@@ -33,11 +36,9 @@ protected:
 
 TEST_F(ListPage, ShowsTheFileLineByLine) {
     messages.expect("Run-time error 53: File not found");
-    module.listShowsAdif = true;
-    screens.open(Screen::list);
+    screens.openList(ListedFile::adif);
     EXPECT_EQ(shown(page, "Label1"), folder.string() + "/SKS.ADI   0 LINES");
 
-    module.listShowsAdif = false;
     openPage(" Contest: SKS, 1\r\n\r\nJ\xDCRGEN <b>\r\n");
     EXPECT_THAT(lines(page, "List1"),
                 ::testing::ElementsAre(" Contest: SKS, 1", "", "J\xDCRGEN <b>"));

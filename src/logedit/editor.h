@@ -18,9 +18,9 @@ struct EditorField {
     Column written;
 };
 
-// In the order in which the boxes are written. Deliberate, so that logs stay as the editor has
-// always left them: the report sent is written one column to the right of where it is read,
-// and only the first four columns of the marker are edited.
+// In the order in which the boxes are written. Deliberate, since old logs hold lines edited so:
+// the report sent is written one column to the right of where it is read, and only the first
+// four columns of the marker are edited.
 inline constexpr std::array<EditorField, 15> editorFields{{
     {"Text2", "FREQUENCY", qso::frequency, qso::frequency},
     {"Text3", "MODE", qso::mode, qso::mode},

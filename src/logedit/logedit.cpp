@@ -166,13 +166,4 @@ bool LogEdit::isOnDisk(const std::string& name, std::string_view bytes) const {
     return m_files.readOrEmpty(name) == bytes;
 }
 
-std::optional<RuntimeError> LogEdit::followChange() {
-    try {
-        m_log.reread();
-    } catch (const RuntimeError& error) {
-        return error;
-    }
-    return std::nullopt;
-}
-
 } // namespace vantrel

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "base/boundedtable.h"
-#include "base/runtimeerror.h"
 #include "platform/messages.h"
 
 #include <optional>
@@ -37,7 +36,8 @@ public:
     static constexpr int lineCapacity = 2000; // a rewrite drops the lines beyond, see change
     static constexpr int shortestCall = 3;    // a shorter key finds nothing
 
-    LogEdit(Files& files, Log& log) : m_files(files), m_log(log) {}
+    // Of `log` it takes the name of the open log; to read that again is left to the page.
+    LogEdit(Files& files, const Log& log) : m_files(files), m_log(log) {}
 
     // Reads the log and finds the first contact whose call begins with the key (tidied). A key
     // that is too short leaves everything as it was. Throws as Files::read.
@@ -68,10 +68,6 @@ public:
     // The message label's text after an undo().
     std::string_view undoText() const { return m_change->undone ? undoneText : redoneText; }
 
-    // Contacts and worked stations follow the log on the disk. Returns what failed, if
-    // anything: the change itself is made all the same.
-    std::optional<RuntimeError> followChange();
-
 private:
     // A change made here, or its undo; `before` and `after` are whole logs.
     struct Change {
@@ -89,7 +85,7 @@ private:
     bool isOnDisk(const std::string& name, std::string_view bytes) const;
 
     Files& m_files;
-    Log& m_log;
+    const Log& m_log;
     BoundedTable<std::string> m_lines{"the table of log lines", lineCapacity};
     std::string m_logName;  // the log that the table was read from
     std::string m_logBytes; // all of it

@@ -118,6 +118,18 @@ TEST_F(LogPages, AChangeThatCannotBeMadeIsToldAndLeavesLogAndTyping) {
     EXPECT_EQ(shown(correctPage, "Text2"), "CLUBB");
 }
 
+TEST_F(LogPages, AChangeStandsThoughTheWorkedStationsCannotBeWritten) {
+    screens.open(Screen::deletion);
+    search(deletePage, "K9SKC");
+    std::filesystem::remove(folder.path() / "StnsWorked.TXT");
+    std::filesystem::create_directory(folder.path() / "StnsWorked.TXT");
+    messages.expect("Run-time error 75: Path/File access error");
+    click(deletePage, "Command2");
+    EXPECT_EQ(shown(deletePage, "Label4"), "Deleted...Click EXIT");
+    EXPECT_EQ(folder.read(logName), logOf({contact("K1ABC", "JOE"), contact("K1ABD", "ANN")}));
+    EXPECT_THAT(lines("frmVantrelMain", "List1"), SizeIs(2));
+}
+
 TEST_F(LogPages, AfterAnUndoOneSearchesBeforeChangingAgain) {
     for (const auto& [screen, page] :
          {std::pair{Screen::correct, correctPage}, std::pair{Screen::deletion, deletePage},

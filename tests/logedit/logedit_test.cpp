@@ -214,25 +214,6 @@ TEST_F(LogEditTest, LinesBeyondTheTableAreKeptInAFullCopyAndUndoBringsThemBack) 
     EXPECT_EQ(folder.read(fullName + "3"), before);
 }
 
-TEST_F(LogEditTest, TheWorkedStationsFollowAChangeAndItsUndoEvenOnAFullDisk) {
-    const std::string removed = workedLine(contact("K1ABC"));
-    const std::string kept = workedLine(contact("K9SKC"));
-    writeLog(logOf({contact("K1ABC"), contact("K9SKC")}));
-    edit.search("K1ABC");
-    edit.removeLine();
-    EXPECT_FALSE(edit.followChange());
-    EXPECT_EQ(log.count(), 1);
-    EXPECT_THAT(log.worked(), ElementsAre(kept));
-    EXPECT_EQ(folder.read(std::string(workedStationsFile)), kept + "\r\n");
-
-    edit.undo();
-    calls.failAt(Call::write, 1, ENOSPC);
-    const std::optional<RuntimeError> failed = edit.followChange();
-    ASSERT_TRUE(failed);
-    EXPECT_EQ(failed->code(), ErrorCode::diskFull);
-    EXPECT_THAT(log.worked(), ElementsAre(removed, kept));
-}
-
 // --- Stops and failures --------------------------------------------------------------------
 
 const std::string firstLog = logOf({contact("K1ABC", "ONE"), contact("K9SKC")});

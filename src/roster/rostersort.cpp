@@ -18,43 +18,23 @@ constexpr int sortedLinesCapacity = 8000;
 // each other are in this order.
 constexpr Column sortKey{member::call.last(), 10};
 
-struct RosterLine {
-    long long key;
-    std::string_view text;
-};
-
-std::vector<RosterLine> rosterLines(const std::string& name, std::string_view bytes) {
-    BoundedTable<RosterLine> lines("the sort of " + name, sortedLinesCapacity);
-    ItemReader reader(bytes);
-    while (!reader.atEnd()) {
-        const std::string_view line = reader.next();
-        lines.append({numericValue(sortKey.of(line)), line});
-    }
-    return lines.entries();
-}
-
 std::string sortedByNumber(const std::string& name, std::string_view bytes) {
-    std::vector<RosterLine> lines = rosterLines(name, bytes);
-    std::stable_sort(lines.begin(), lines.end(),
-                     [](const RosterLine& a, const RosterLine& b) { return a.key < b.key; });
-    std::string sorted;
-    sorted.reserve(bytes.size() + 2);
-    for (const RosterLine& line : lines) {
-        sorted += line.text;
-        sorted += "\r\n";
-    }
-    return sorted;
+    BoundedTable<std::string_view> table("the sort of " + name, sortedLinesCapacity);
+    ItemReader reader(bytes);
+    while (!reader.atEnd())
+        table.append(reader.next());
+    std::vector<std::string_view> lines = table.entries();
+    std::stable_sort(lines.begin(), lines.end(), [](std::string_view a, std::string_view b) {
+        return numericValue(sortKey.of(a)) < numericValue(sortKey.of(b));
+    });
+    return joinLines(lines);
 }
 
 } // namespace
 
 void sortRosterFiles(Files& files) {
-    std::vector<FileContent> sorted;
-    for (const std::string_view file : rosterFiles) {
-        const std::string name(file);
-        sorted.push_back({name, sortedByNumber(name, files.read(name))});
-    }
-    files.rewriteAll(sorted);
+    for (const std::string_view file : rosterFiles)
+        files.rewrite(file, sortedByNumber(std::string(file), files.read(file)));
 }
 
 } // namespace vantrel

@@ -13,13 +13,6 @@ void LineListModel::setLines(std::vector<std::string> lines) {
     endResetModel();
 }
 
-void LineListModel::appendLine(std::string line) {
-    const int row = rowCount();
-    beginInsertRows({}, row, row);
-    m_lines.push_back(std::move(line));
-    endInsertRows();
-}
-
 int LineListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
 }

@@ -17,8 +17,6 @@ public:
 
     // Lines in ISO 8859-1, shown in this order.
     void setLines(std::vector<std::string> lines);
-    // One more at the end.
-    void appendLine(std::string line);
     const std::vector<std::string>& lines() const { return m_lines; }
 
     int rowCount(const QModelIndex& parent = {}) const override;

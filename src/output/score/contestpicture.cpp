@@ -5,7 +5,6 @@
 #include "output/score/contactdate.h"
 
 #include <map>
-#include <numeric>
 
 namespace vantrel {
 
@@ -26,10 +25,6 @@ int hourOfDay(Hour hour) {
 }
 
 } // namespace
-
-int PictureHour::total() const {
-    return std::accumulate(contacts.begin(), contacts.end(), 0);
-}
 
 std::vector<PictureHour> contactsPerHour(const Contacts& contacts) {
     std::map<Hour, ContactsByBand> hours;

@@ -15,8 +15,6 @@ struct PictureHour {
     int hour;                                     // 0 to 23
     bool afterBreak;                              // no contact in the hour before it
     std::array<int, bands.size() + 1> contacts{}; // as `bands`; the last: on none of them
-
-    int total() const;
 };
 
 // The last 48 hours with contacts, oldest first. Duplicates are left out, like in the score, and

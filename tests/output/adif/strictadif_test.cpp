@@ -20,10 +20,10 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr std::string_view created = "20110616 001230";
-const std::string head =
-    "Contacts logged with Vantrel\r\n<ADIF_VER:5>3.1.4 <PROGRAMID:7>VANTREL "
-    "<PROGRAMVERSION:" +
-    std::to_string(version.size()) + '>' + std::string(version) + " <CREATED_TIMESTAMP:15>20110616 001230 <EOH>\r\n";
+const std::string head = "Contacts logged with Vantrel\r\n<ADIF_VER:5>3.1.4 <PROGRAMID:7>VANTREL "
+                         "<PROGRAMVERSION:" +
+                         std::to_string(version.size()) + '>' + std::string(version) +
+                         " <CREATED_TIMESTAMP:15>20110616 001230 <EOH>\r\n";
 
 const std::vector<std::string> contacts{line({.number = "1234T"}),
                                         line({.call = "DL1QRS",

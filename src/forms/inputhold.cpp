@@ -49,7 +49,7 @@ void InputHold::begin() {
 void InputHold::end() {
     if (--m_scopes > 0)
         return;
-    if (m_kept.empty() && m_closing == Closing::no && !m_delivering)
+    if (m_held.empty() && m_closing == Closing::no && !m_delivering)
         qApp->removeEventFilter(this);
     else
         scheduleDelivery();
@@ -58,15 +58,15 @@ void InputHold::end() {
 bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
     if (receiver == m_window && event->type() == QEvent::WindowUnblocked)
         scheduleDelivery(); // it waited for a message box
-    if (keepsClosing(receiver, event))
+    if (holdsClosing(receiver, event))
         return true;
     if (event->type() == QEvent::FocusOut && m_scopes > 0 && receiver->isWidgetType() &&
         static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
         m_focusBeforeClick = static_cast<QWidget*>(receiver);
-    if (!keepsInput(*event))
+    if (!holdsInput(*event))
         return false;
     const bool toFocus = isKey(*event) && receiver == QApplication::focusWidget();
-    m_kept.push_back({receiver, std::unique_ptr<QEvent>(event->clone()), toFocus});
+    m_held.push_back({receiver, std::unique_ptr<QEvent>(event->clone()), toFocus});
     event->accept();
     // A click handed straight to a control has moved the focus before anybody could keep it;
     // the keys kept before it come first.
@@ -75,7 +75,7 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
     return true;
 }
 
-bool InputHold::keepsInput(const QEvent& event) const {
+bool InputHold::holdsInput(const QEvent& event) const {
     if (!isInput(event) || QApplication::activeModalWidget() != nullptr)
         return false;
     // What is being delivered goes through as events that are not the system's own; the
@@ -84,7 +84,7 @@ bool InputHold::keepsInput(const QEvent& event) const {
 }
 
 // The window must not go while one of its handlers is still running.
-bool InputHold::keepsClosing(QObject* receiver, QEvent* event) {
+bool InputHold::holdsClosing(QObject* receiver, QEvent* event) {
     const bool window = receiver == m_window && event->type() == QEvent::Close;
     const bool program = receiver == qApp && event->type() == QEvent::Quit;
     if (m_scopes == 0 || (!window && !program))
@@ -104,24 +104,24 @@ void InputHold::deliver() {
         return; // goes on when the handler in between has ended
     const QPointer<InputHold> self(this);
     m_delivering = true;
-    while (m_closing == Closing::no && !m_kept.empty() &&
+    while (m_closing == Closing::no && !m_held.empty() &&
            QApplication::activeModalWidget() == nullptr) {
         deliverNext();
         if (!self)
             return;
         if (!m_window->isVisible())
-            m_kept.clear(); // typed for a page that has been left
+            m_held.clear(); // typed for a page that has been left
     }
     m_delivering = false;
     if (m_closing != Closing::no)
         finishClosing();
-    else if (m_kept.empty())
+    else if (m_held.empty())
         qApp->removeEventFilter(this);
 }
 
 void InputHold::deliverNext() {
-    const Kept next = std::move(m_kept.front());
-    m_kept.pop_front();
+    const HeldEvent next = std::move(m_held.front());
+    m_held.pop_front();
     QObject* receiver = next.receiver;
     if (auto* const button = qobject_cast<QAbstractButton*>(receiver);
         button != nullptr && next.event->type() == QEvent::Shortcut)
@@ -134,7 +134,7 @@ void InputHold::deliverNext() {
 
 // What was typed before closing is dropped: the handler it would have followed was given up.
 void InputHold::finishClosing() {
-    m_kept.clear();
+    m_held.clear();
     qApp->removeEventFilter(this);
     if (std::exchange(m_closing, Closing::no) == Closing::program)
         QCoreApplication::quit();

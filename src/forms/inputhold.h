@@ -44,7 +44,7 @@ protected:
 private:
     enum class Closing { no, window, program };
 
-    struct Kept {
+    struct HeldEvent {
         QPointer<QObject> receiver;
         std::unique_ptr<QEvent> event;
         bool toFocus; // a key for whichever control has the focus by then
@@ -52,8 +52,8 @@ private:
 
     void begin();
     void end();
-    bool keepsInput(const QEvent& event) const;
-    bool keepsClosing(QObject* receiver, QEvent* event);
+    bool holdsInput(const QEvent& event) const;
+    bool holdsClosing(QObject* receiver, QEvent* event);
     void scheduleDelivery();
     void deliver();
     void deliverNext();
@@ -61,7 +61,7 @@ private:
 
     QWidget* m_window;
     std::function<void()> m_giveUp;
-    std::deque<Kept> m_kept;
+    std::deque<HeldEvent> m_held;
     QPointer<QWidget> m_focusBeforeClick;
     int m_scopes = 0;
     bool m_delivering = false;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/viewerform.h"
 
+#include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
-#include "platform/qt/latin1.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -55,15 +55,15 @@ ViewerForm::ViewerForm(const FormContext& context, const char* name, const char*
 
 void ViewerForm::createControls() {
     FormBuilder build(this);
-    List1 = build.list("List1", "CTRL+F FINDS, CTRL+C COPIES THE SELECTED LINES");
-    Text1 = build.text("Text1", 0, "ENTER OR F3 FINDS THE NEXT LINE, ESC ENDS");
-    Command1 = build.command("Command1", "E&XIT", "CLOSES THE LIST");
-    Label1 = build.label("Label1");
-    Label2 = build.label("Label2");
-    List1->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    List1->setTextElideMode(Qt::ElideNone);
+    m_list = build.list("List1", "CTRL+F FINDS, CTRL+C COPIES THE SELECTED LINES");
+    m_findBox = build.text("Text1", 0, "ENTER OR F3 FINDS THE NEXT LINE, ESC ENDS");
+    m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE LIST");
+    m_pathLabel = build.label("Label1");
+    m_foundLabel = build.label("Label2");
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setTextElideMode(Qt::ElideNone);
     m_lines = new LineListModel(this);
-    List1->setModel(m_lines);
+    m_list->setModel(m_lines);
 }
 
 void ViewerForm::layOut() {
@@ -71,79 +71,79 @@ void ViewerForm::layOut() {
     m_findRow = new QWidget(this);
     auto* row = new QHBoxLayout(m_findRow);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(build.caption("FIND", Text1));
-    row->addWidget(Text1, 1);
-    row->addWidget(Label2);
+    row->addWidget(build.caption("FIND", m_findBox));
+    row->addWidget(m_findBox, 1);
+    row->addWidget(m_foundLabel);
     m_findRow->hide();
 
     auto* page = new QVBoxLayout(this);
-    page->addWidget(Label1);
-    page->addWidget(List1, 1);
+    page->addWidget(m_pathLabel);
+    page->addWidget(m_list, 1);
     page->addWidget(m_findRow);
-    page->addWidget(Command1, 0, Qt::AlignRight);
+    page->addWidget(m_exitButton, 0, Qt::AlignRight);
 }
 
 void ViewerForm::connectHandlers() {
-    connectHandler(Text1, &QLineEdit::textChanged, this, &ViewerForm::Text1_Change);
-    connectHandler(Text1, &QLineEdit::returnPressed, this, &ViewerForm::FindNext);
-    connect(Command1, &QPushButton::clicked, this, [this] { close(); });
+    connectHandler(m_findBox, &QLineEdit::textChanged, this, &ViewerForm::findTyped);
+    connectHandler(m_findBox, &QLineEdit::returnPressed, this, &ViewerForm::findNext);
+    connect(m_exitButton, &QPushButton::clicked, this, [this] { close(); });
     const auto onKeys = [this](QKeySequence::StandardKey keys, void (ViewerForm::*handler)()) {
         connectHandler(new QShortcut(keys, this), &QShortcut::activated, this, handler);
     };
-    onKeys(QKeySequence::Find, &ViewerForm::Find);
-    onKeys(QKeySequence::FindNext, &ViewerForm::FindNext);
-    connectHandler(new QShortcut(QKeySequence::Copy, List1, nullptr, nullptr, Qt::WidgetShortcut),
-                   &QShortcut::activated, this, &ViewerForm::Copy);
+    onKeys(QKeySequence::Find, &ViewerForm::openFind);
+    onKeys(QKeySequence::FindNext, &ViewerForm::findNext);
+    connectHandler(new QShortcut(QKeySequence::Copy, m_list, nullptr, nullptr, Qt::WidgetShortcut),
+                   &QShortcut::activated, this, &ViewerForm::copySelected);
 }
 
 QWidget* ViewerForm::firstFocus() {
-    return List1;
+    return m_list;
 }
 
 void ViewerForm::showLines(const std::string& path, std::vector<std::string> lines) {
-    Label1->setText(toQt(path + "   " + std::to_string(lines.size()) + " LINES"));
-    QAbstractItemDelegate* old = List1->itemDelegate();
-    List1->setItemDelegate(new LineDelegate(List1, longestOf(lines)));
+    put(m_pathLabel, path + "   " + std::to_string(lines.size()) + " LINES");
+    QAbstractItemDelegate* old = m_list->itemDelegate();
+    m_list->setItemDelegate(new LineDelegate(m_list, longestOf(lines)));
     old->deleteLater();
     m_lines->setLines(std::move(lines));
     if (m_lines->rowCount() > 0)
-        List1->setCurrentIndex(m_lines->index(0));
+        m_list->setCurrentIndex(m_lines->index(0));
 }
 
 // --- Finding ---------------------------------------------------------------------------------
 
-void ViewerForm::Find() {
+void ViewerForm::openFind() {
     m_findRow->show();
-    Text1->setFocus();
-    Text1->selectAll();
+    m_findBox->setFocus();
+    m_findBox->selectAll();
 }
 
-void ViewerForm::Text1_Change() {
-    findFrom(std::max(0, List1->currentIndex().row()));
+void ViewerForm::findTyped() {
+    findFrom(std::max(0, m_list->currentIndex().row()));
 }
 
-void ViewerForm::FindNext() {
-    findFrom(List1->currentIndex().row() + 1);
+void ViewerForm::findNext() {
+    findFrom(m_list->currentIndex().row() + 1);
 }
 
 // Upper and lower case are the same; behind the last line it goes on at the first.
 void ViewerForm::findFrom(int row) {
-    Label2->clear();
-    if (Text1->text().isEmpty() || m_lines->rowCount() == 0)
+    m_foundLabel->clear();
+    if (m_findBox->text().isEmpty() || m_lines->rowCount() == 0)
         return;
     const QModelIndexList found =
-        m_lines->match(m_lines->index(row % m_lines->rowCount()), Qt::DisplayRole, Text1->text(), 1,
-                       Qt::MatchContains | Qt::MatchWrap);
+        m_lines->match(m_lines->index(row % m_lines->rowCount()), Qt::DisplayRole,
+                       m_findBox->text(), 1, Qt::MatchContains | Qt::MatchWrap);
     if (found.isEmpty())
-        Label2->setText(QStringLiteral("NOT FOUND"));
+        put(m_foundLabel, "NOT FOUND");
     else
-        List1->setCurrentIndex(found.first());
+        m_list->setCurrentIndex(found.first());
 }
 
 void ViewerForm::endFinding() {
     m_findRow->hide();
-    Label2->clear();
-    List1->setFocus();
+    m_foundLabel->clear();
+    m_list->setFocus();
 }
 
 void ViewerForm::escapePressed() {
@@ -155,8 +155,8 @@ void ViewerForm::escapePressed() {
 
 // --- Copying ---------------------------------------------------------------------------------
 
-void ViewerForm::Copy() {
-    QModelIndexList selected = List1->selectionModel()->selectedIndexes();
+void ViewerForm::copySelected() {
+    QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
     std::sort(selected.begin(), selected.end());
     QString text;
     for (const QModelIndex& index : selected)

@@ -37,20 +37,20 @@ private:
     void layOut();
     void connectHandlers();
 
-    void Find();         // Ctrl+F: the box to type into
-    void Text1_Change(); // finds from the current line on
-    void FindNext();     // Enter in the box, F3: finds behind the current line
-    void Copy();         // Ctrl+C: the selected lines
+    void openFind();
+    void findTyped(); // from the current line on
+    void findNext();  // behind it
+    void copySelected();
 
     void findFrom(int row);
     void endFinding();
 
-    QLabel* Label1;        // file path and line count
-    QListView* List1;      // the lines
-    QLineEdit* Text1;      // what to find
-    QLabel* Label2;        // whether it was found
-    QPushButton* Command1; // exit
-    QWidget* m_findRow;    // Text1 and Label2, shown while finding
+    QLabel* m_pathLabel;
+    QListView* m_list;
+    QLineEdit* m_findBox;
+    QLabel* m_foundLabel;
+    QPushButton* m_exitButton;
+    QWidget* m_findRow; // shown while finding
     LineListModel* m_lines;
 };
 

@@ -17,12 +17,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int portCount = 10;
-
 // 1 to 10; 0 for any other text.
 int portNumber(std::string_view port) {
     for (int number = 1; number <= portCount; ++number)
-        if (upper(port) == "COM" + std::to_string(number))
+        if (upper(port) == upper(portName(number)))
             return number;
     return 0;
 }
@@ -66,6 +64,10 @@ std::vector<fs::path> allPorts(const SerialRoots& roots) {
 }
 
 } // namespace
+
+std::string portName(int number) {
+    return "com" + std::to_string(number);
+}
 
 std::string serialDevice(const std::string& programFolder, std::string_view port,
                          const SerialRoots& roots) {

@@ -10,6 +10,10 @@ namespace vantrel {
 
 class Files;
 
+// The ports one can choose, as the settings hold them: "com1" .. "com10".
+inline constexpr int portCount = 10;
+std::string portName(int number);
+
 // Where the machine keeps its list of ports; a test has its own.
 struct SerialRoots {
     std::string byId = "/dev/serial/by-id";
@@ -17,7 +21,7 @@ struct SerialRoots {
     std::string devices = "/dev";
 };
 
-// The device behind `port` ("com1" .. "com10"): the file or link of that name (any case) in
+// The device behind `port`: the file or link of that name (any case) in
 // the program folder if there is one, otherwise the n-th of the adapters by their lasting name
 // and then of the ports with hardware behind them. "" for none or another name. Throws
 // RuntimeError 75 when two entries of the folder differ from the name by case only.

@@ -4,42 +4,14 @@
 #include "base/runtimeerror.h"
 #include "platform/serialport.h"
 #include "rig/radiofamily.h"
+#include "rig/rigs.h"
 #include "shared/settings.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vantrel {
 
 namespace {
-
-struct Model {
-    std::string_view rig;
-    const RadioFamily* family;
-};
-
-constexpr std::array<Model, 15> models{{
-    {"Orion", &tenTecAscii},
-    {"Omni7", &tenTecBinary},
-    {"Jupiter", &tenTecBinary},
-    {"K-3", &elecraftK3},
-    {"K-2", &elecraftK2},
-    {"FT-1000MP", &yaesuBinary},
-    // The settings store these two without their hyphen, so no rig of that name ever comes
-    // here: their owners type the frequency, and old settings files keep their meaning.
-    {"FTdx-5000", &yaesuAscii},
-    {"FTdx-3000", &yaesuAscii},
-    {"FT-2000", &yaesuAscii},
-    {"FT-950", &yaesuAscii},
-    {"FT-450", &yaesuAscii},
-    {"TS-990S", &kenwood},
-    {"TS-590S", &kenwood},
-    {"TS-480S", &kenwood},
-    {"TS-2000", &kenwood},
-}};
-
-// Every Icom on the list is called IC-7 and something.
-constexpr std::string_view icomPrefix = "IC-7";
 
 // Polls shorter than this only cost time: the port wakes us when a byte comes.
 constexpr int shortestPoll = 3; // milliseconds
@@ -122,14 +94,6 @@ ReadResult askRadio(const RadioFamily& family, const OperatingSettings& settings
 }
 
 } // namespace
-
-const RadioFamily* familyOf(std::string_view rig) {
-    const auto* const found = std::find_if(models.begin(), models.end(),
-                                           [&](const Model& model) { return model.rig == rig; });
-    if (found != models.end())
-        return found->family;
-    return rig.starts_with(icomPrefix) ? &icomCiv : nullptr;
-}
 
 ReadResult readFrequency(const OperatingSettings& settings, SerialPort& port) {
     if (!settings.hasRadio())

@@ -4,19 +4,14 @@
 #include "base/fixedtext.h"
 #include "rig/radiofamily.h"
 #include "rig/reply.h"
+#include "rig/rigs.h"
 #include "shared/settings.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vantrel {
 
 namespace {
-
-constexpr std::array<std::string_view, 27> knownAddresses{
-    "Hex 6A", "Hex 74", "Hex 7A", "Hex 66", "Hex 76", "Hex 70", "Hex 2E", "Hex 26", "Hex 46",
-    "Hex 2C", "Hex 1E", "Hex 6E", "Hex 64", "Hex 5C", "Hex 50", "Hex 1C", "Hex 56", "Hex 40",
-    "Hex 04", "Hex 3A", "Hex 38", "Hex 30", "Hex 28", "Hex 5E", "Hex 58", "Hex 4E", "Hex 68"};
 
 // Where things stand in echo and reply together, counted from 0.
 constexpr std::size_t addressInEcho = 2;
@@ -30,11 +25,14 @@ int hexDigit(char digit) {
     return isDigit(digit) ? digit - '0' : digit - 'A' + 10;
 }
 
-// An address outside the list is left out: no radio answers the short frame.
+// An address that no listed radio has is left out: no radio answers the short frame.
 std::string query(const OperatingSettings& settings) {
     const std::string_view address = settings.civAddress;
+    const bool known = std::any_of(rigs.begin(), rigs.end(), [&](const Rig& rig) {
+        return rig.family == &icomCiv && rig.civAddress == address;
+    });
     std::string frame = "\xFE\xFE";
-    if (std::find(knownAddresses.begin(), knownAddresses.end(), address) != knownAddresses.end())
+    if (known)
         frame += static_cast<char>(hexDigit(address[4]) * 16 + hexDigit(address[5]));
     return frame + "\xE0\x03\xFD";
 }

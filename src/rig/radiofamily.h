@@ -43,7 +43,4 @@ extern const RadioFamily yaesuAscii;
 extern const RadioFamily yaesuBinary;
 extern const RadioFamily kenwood;
 
-// The family of a rig as the settings name it; nullptr for none.
-const RadioFamily* familyOf(std::string_view rig);
-
 } // namespace vantrel

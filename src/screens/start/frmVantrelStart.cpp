@@ -2,13 +2,12 @@
 #include "screens/start/frmVantrelStart.h"
 
 #include "base/fixedtext.h"
+#include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "log/logfile.h"
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "platform/qt/latin1.h"
 #include "platform/serialnames.h"
-#include "screens/start/startlists.h"
 #include "screens/start/startlog.h"
 #include "shared/utctime.h"
 
@@ -17,21 +16,31 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace vantrel {
 
 namespace {
 
-void fill(QComboBox* combo, const std::vector<ListEntry>& list) {
+struct Contest {
+    const char* option;
+    const char* caption;
+    std::string_view code;
+};
+constexpr std::array<Contest, 4> contests{{
+    {"Option1", "SELECT THE SKS SPRINT", contestSks},
+    {"Option2", "SELECT THE SKS EUROPE SPRINT", contestSkse},
+    {"Option3", "SELECT THE WES SPRINT", contestWes},
+    {"Option4", "SELECT THE K3Y EVENT", contestK3y},
+}};
+
+void fill(QComboBox* combo, const ValueList& list) {
     for (const ListEntry& entry : list)
         combo->addItem(toQt(entry.shown), toQt(entry.stored));
 }
 
 std::string stored(const QComboBox* combo) {
     return fromQt(combo->currentData().toString());
-}
-
-void showTrimmed(QLineEdit* box, std::string_view text) {
-    box->setText(toQt(trim(text)));
 }
 
 } // namespace
@@ -47,101 +56,77 @@ frmVantrelStart::frmVantrelStart(const FormContext& context)
 
 void frmVantrelStart::createControls() {
     FormBuilder build(this);
-    Option1 = build.option("Option1", "SELECT THE SKS SPRINT");
-    Option2 = build.option("Option2", "SELECT THE SKS EUROPE SPRINT");
-    Option3 = build.option("Option3", "SELECT THE WES SPRINT");
-    Option4 = build.option("Option4", "SELECT THE K3Y EVENT");
-    Text1 = build.text("Text1", 0, "CONTEST NAME CAN BE CHANGED TO YOUR CHOICE");
-    Text2 = build.text("Text2", callWidth, "ENTER YOUR OWN CALL HERE");
-    Text6 = build.text("Text6", nameWidth, "ENTER YOUR OWN NAME");
-    Text7 = build.text("Text7", stateWidth, "ENTER YOUR OWN STATE");
-    Text8 = build.text("Text8", numberWidth, "ENTER YOUR OWN SKCC#");
-    Combo5 = build.combo("Combo5", "HOURS TO ADD TO THE COMPUTER'S TIME");
-    Text9 = build.text("Text9", 0,
-                       "FILE NAME CAN BE CHANGED TO YOUR CHOICE  +  .CBR-->THEN CLICK START A NEW "
-                       "FILE -YES-");
-    Command4 = build.command("Command4", "USE DEFAULT FILE NAME",
-                             "THE DEFAULT NAME  = SPRINT NAME + TODAY'S DATE");
-    Command3 = build.command("Command3", "&BROWSE", "CLICK TO FIND AN EXISTING FILE");
-    Combo7 = build.combo("Combo7", "YES STARTS A NEW FILE WITH THE NAME ABOVE");
-    Combo6 = build.combo("Combo6", "YES = DUPES ARE LOGGED AND MARKED");
-    Text10 = build.text("Text10", callWidth, "ENTER THE CALL OF THE BONUS STATION HERE");
-    Command6 = build.command("Command6", "CLEAR  BONUS STATION",
-                             "CLEARS THE BONUS STATION BOX-->LEAVE BLANK IF NO BONUS STN");
-    Combo1 = build.combo("Combo1");
-    Combo2 = build.combo("Combo2");
-    Combo3 = build.combo("Combo3");
-    Combo4 = build.combo("Combo4");
-    Command5 = build.command("Command5", "UPDATE THE DATABASE",
-                             "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT");
-    Command2 = build.command("Command2", "&START", "ACCEPTS ALL ITEMS THIS PAGE AND STARTS PGM");
-    Command1 = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
-    Label12 = build.label("Label12");
-    Label13 = build.label("Label13");
-    Label14 = build.label("Label14");
-    fill(Combo1, rigList());
-    fill(Combo2, portList());
-    fill(Combo3, baudList());
-    fill(Combo4, civList());
-    fill(Combo5, offsetList());
-    fill(Combo6, dupeModeList());
-    fill(Combo7, dupeModeList());
+    for (const Contest& contest : contests)
+        m_contestOptions.push_back(build.option(contest.option, contest.caption));
+    m_contestBox = build.text("Text1", 0, "CONTEST NAME CAN BE CHANGED TO YOUR CHOICE");
+    m_callBox = build.text("Text2", callWidth, "ENTER YOUR OWN CALL HERE");
+    m_nameBox = build.text("Text6", nameWidth, "ENTER YOUR OWN NAME");
+    m_stateBox = build.text("Text7", stateWidth, "ENTER YOUR OWN STATE");
+    m_numberBox = build.text("Text8", numberWidth, "ENTER YOUR OWN SKCC#");
+    m_offsetBox = build.combo("Combo5", "HOURS TO ADD TO THE COMPUTER'S TIME");
+    m_fileBox =
+        build.text("Text9", 0,
+                   "FILE NAME CAN BE CHANGED TO YOUR CHOICE  +  .CBR-->THEN CLICK START A NEW "
+                   "FILE -YES-");
+    m_defaultNameButton = build.command("Command4", "USE DEFAULT FILE NAME",
+                                        "THE DEFAULT NAME  = SPRINT NAME + TODAY'S DATE");
+    m_browseButton = build.command("Command3", "&BROWSE", "CLICK TO FIND AN EXISTING FILE");
+    m_newFileBox = build.combo("Combo7", "YES STARTS A NEW FILE WITH THE NAME ABOVE");
+    m_dupeModeBox = build.combo("Combo6", "YES = DUPES ARE LOGGED AND MARKED");
+    m_bonusBox = build.text("Text10", callWidth, "ENTER THE CALL OF THE BONUS STATION HERE");
+    m_clearBonusButton =
+        build.command("Command6", "CLEAR  BONUS STATION",
+                      "CLEARS THE BONUS STATION BOX-->LEAVE BLANK IF NO BONUS STN");
+    m_rigBox = build.combo("Combo1");
+    m_portBox = build.combo("Combo2");
+    m_baudBox = build.combo("Combo3");
+    m_civBox = build.combo("Combo4");
+    m_updateButton =
+        build.command("Command5", "UPDATE THE DATABASE",
+                      "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT");
+    m_startButton =
+        build.command("Command2", "&START", "ACCEPTS ALL ITEMS THIS PAGE AND STARTS PGM");
+    m_exitButton = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
+    m_utcLabel = build.label("Label12");
+    m_deviceLabel = build.label("Label13");
+    m_oldLogLabel = build.label("Label14");
+    for (const ChosenSetting& chosen : chosenSettings())
+        fill(chosen.box, chosen.list());
+    fill(m_newFileBox, dupeModeList());
 }
 
 void frmVantrelStart::connectHandlers() {
     using Start = frmVantrelStart;
-    connectHandler(Option1, &QRadioButton::clicked, this, &Start::Option1_Click);
-    connectHandler(Option2, &QRadioButton::clicked, this, &Start::Option2_Click);
-    connectHandler(Option3, &QRadioButton::clicked, this, &Start::Option3_Click);
-    connectHandler(Option4, &QRadioButton::clicked, this, &Start::Option4_Click);
-    connectHandler(Command4, &QPushButton::clicked, this, &Start::Command4_Click);
-    connectHandler(Command3, &QPushButton::clicked, this, &Start::Command3_Click);
-    connectHandler(Combo7, &QComboBox::currentIndexChanged, this, &Start::Combo7_Change);
-    connectHandler(Combo5, &QComboBox::currentIndexChanged, this, &Start::Combo5_Change);
-    connectHandler(Combo2, &QComboBox::currentIndexChanged, this, &Start::Combo2_Change);
-    connectHandler(Command6, &QPushButton::clicked, this, &Start::Command6_Click);
-    connectHandler(Command5, &QPushButton::clicked, this, &Start::Command5_Click);
-    connectHandler(Command2, &QPushButton::clicked, this, &Start::Command2_Click);
-    connect(Command1, &QPushButton::clicked, this, [this] { screens().quit(); });
+    for (QRadioButton* option : m_contestOptions)
+        connectHandler(option, &QRadioButton::clicked, this, &Start::contestClicked);
+    connectHandler(m_defaultNameButton, &QPushButton::clicked, this, &Start::defaultNameClicked);
+    connectHandler(m_browseButton, &QPushButton::clicked, this, &Start::browseClicked);
+    connectHandler(m_newFileBox, &QComboBox::currentIndexChanged, this, &Start::newFileChosen);
+    connectHandler(m_offsetBox, &QComboBox::currentIndexChanged, this, &Start::offsetChosen);
+    connectHandler(m_portBox, &QComboBox::currentIndexChanged, this, &Start::portChosen);
+    connectHandler(m_clearBonusButton, &QPushButton::clicked, this, &Start::clearBonusClicked);
+    connectHandler(m_updateButton, &QPushButton::clicked, this, &Start::updateClicked);
+    connectHandler(m_startButton, &QPushButton::clicked, this, &Start::startClicked);
+    connect(m_exitButton, &QPushButton::clicked, this, [this] { screens().quit(); });
 }
 
 // --- Opening ---------------------------------------------------------------------------------
 
 void frmVantrelStart::load() {
     const OperatingSettings& settings = shared().settings;
-    const auto select = [](QComboBox* combo, const std::vector<ListEntry>& list,
-                           std::string_view value, std::string_view otherwise) {
-        combo->setCurrentIndex(positionOf(list, value, otherwise));
-    };
-    const struct {
-        QRadioButton* option;
-        std::string_view code;
-    } contests[] = {{Option1, contestSks},
-                    {Option2, contestSkse},
-                    {Option3, contestWes},
-                    {Option4, contestK3y}};
-    for (const auto& contest : contests)
-        if (contest.code == settings.contestCode)
-            contest.option->setChecked(true);
-    select(Combo5, offsetList(), settings.gmtOffset, "0");
-    select(Combo4, civList(), settings.civAddress, noneSetting);
-    select(Combo1, rigList(), settings.rig, noneSetting);
-    select(Combo2, portList(), settings.comPort, noneSetting);
-    select(Combo3, baudList(), settings.baud, noneSetting);
-    select(Combo6, dupeModeList(), settings.dupeMode, "NO");
-    showTrimmed(Text1, settings.contestText);
-    showTrimmed(Text2, settings.myCall);
-    showTrimmed(Text6, settings.myName);
-    showTrimmed(Text7, settings.myState);
-    showTrimmed(Text8, settings.myNumber);
-    showTrimmed(Text9, settings.logFileName);
-    showTrimmed(Text10, settings.bonusStation);
-    Combo5_Change();
-    Combo2_Change();
+    for (std::size_t i = 0; i < contests.size(); ++i)
+        if (contests[i].code == settings.contestCode)
+            m_contestOptions[i]->setChecked(true);
+    for (const auto& [setting, box, list] : chosenSettings())
+        box->setCurrentIndex(positionOf(list(), settings.*setting, OperatingSettings{}.*setting));
+    for (const auto& [setting, box] : typedSettings())
+        put(box, trim(settings.*setting));
+    offsetChosen();
+    portChosen();
 }
 
 QWidget* frmVantrelStart::firstFocus() {
-    return Text2;
+    return m_callBox;
 }
 
 // Without a main page there is nothing to return to.
@@ -153,99 +138,81 @@ void frmVantrelStart::closeEvent(QCloseEvent* event) {
 
 // --- Contest and log file --------------------------------------------------------------------
 
-void frmVantrelStart::Option1_Click() {
-    chooseContest(contestSks);
-}
-void frmVantrelStart::Option2_Click() {
-    chooseContest(contestSkse);
-}
-void frmVantrelStart::Option3_Click() {
-    chooseContest(contestWes);
+void frmVantrelStart::contestClicked() {
+    put(m_contestBox, contestCode());
+    if (contestCode() == contestK3y)
+        screens().open(Screen::callArea);
 }
 
-void frmVantrelStart::Option4_Click() {
-    chooseContest(contestK3y);
-    screens().open(Screen::callArea);
-}
-
-void frmVantrelStart::chooseContest(std::string_view code) {
-    Text1->setText(toQt(code));
-}
-
-void frmVantrelStart::Command4_Click() {
+void frmVantrelStart::defaultNameClicked() {
     const std::string code = contestCode();
     if (code == contestK3y) // the event's name comes from the call area
         return;
-    Text9->setText(toQt(defaultLogName(code, platform().clock.now())));
-    Text1->setText(toQt(code));
+    put(m_fileBox, defaultLogName(code, platform().clock.now()));
+    put(m_contestBox, code);
 }
 
-void frmVantrelStart::Command3_Click() {
+void frmVantrelStart::browseClicked() {
     screens().openFinder(Screen::start);
 }
 
-void frmVantrelStart::Combo7_Change() {
-    if (Combo7->currentIndex() != 1)
+void frmVantrelStart::newFileChosen() {
+    if (m_newFileBox->currentIndex() != 1)
         return;
     const bool yes =
         messages().ask({std::string(newFileQuestion), BoxIcon::exclamation, "", "WARNING"});
-    Combo7->setCurrentIndex(0);
+    m_newFileBox->setCurrentIndex(0);
     if (yes)
         startNewFile();
     else
-        Option1->setFocus();
+        m_contestOptions.front()->setFocus();
 }
 
 void frmVantrelStart::startNewFile() {
     const OperatingSettings settings = storedSettings(pageSettings());
     // The file gets the name as it was typed; START finds it whatever its case.
-    const std::string name(trim(withoutSeparatorsAndQuotes(fromQt(Text9->text()))));
-    Label14->clear();
+    const std::string name(trim(withoutSeparatorsAndQuotes(textOf(m_fileBox))));
+    m_oldLogLabel->clear();
     refuseOwnFile(platform().files, name);
     const std::string kept =
         startNewLog(platform().files, name,
                     logHeader(settings.contestText, settings.myCall, settings.myNumber));
-    Label14->setText(toQt(kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept));
+    put(m_oldLogLabel, kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept);
 }
 
-void frmVantrelStart::Combo5_Change() {
-    const UtcTime utc = utcTime(platform().clock.now(), stored(Combo5));
-    Label12->setText(toQt(utc.time + " UTC   " + utc.date));
+void frmVantrelStart::offsetChosen() {
+    const UtcTime utc = utcTime(platform().clock.now(), stored(m_offsetBox));
+    put(m_utcLabel, utc.time + " UTC   " + utc.date);
 }
 
-void frmVantrelStart::Combo2_Change() {
-    Label13->setText(toQt(serialDeviceShown(platform().files, stored(Combo2))));
+void frmVantrelStart::portChosen() {
+    put(m_deviceLabel, serialDeviceShown(platform().files, stored(m_portBox)));
 }
 
-void frmVantrelStart::Command6_Click() {
-    Text10->setText(toQt(blanks(callWidth)));
+void frmVantrelStart::clearBonusClicked() {
+    put(m_bonusBox, blanks(callWidth));
 }
 
-void frmVantrelStart::Command5_Click() {
+void frmVantrelStart::updateClicked() {
     screens().open(Screen::updateList);
 }
 
 // --- START -----------------------------------------------------------------------------------
 
-void frmVantrelStart::Command2_Click() {
+void frmVantrelStart::startClicked() {
     upperCaseBoxes();
     const OperatingSettings settings = storedSettings(pageSettings());
     saveSettings(platform().files, settings);
-    switch (probeLog(platform().files, settings.logFileName)) {
-    case LogProbe::opened:
-        // Not before: a main page behind this one goes on with the log that it shows.
-        shared().settings = settings;
-        openMainPage();
-        break;
-    case LogProbe::fileNotFound:
-        messages().show({std::string(fileNotFoundText), BoxIcon::critical,
+    const LogProbe probe = probeLog(platform().files, settings.logFileName);
+    if (probe != LogProbe::opened) {
+        const bool file = probe == LogProbe::fileNotFound;
+        messages().show({std::string(file ? fileNotFoundText : pathNotFoundText), BoxIcon::critical,
                          platform().files.path(settings.logFileName)});
-        break;
-    case LogProbe::pathNotFound:
-        messages().show({std::string(pathNotFoundText), BoxIcon::critical,
-                         platform().files.path(settings.logFileName)});
-        break;
+        return;
     }
+    // Not before: a main page behind this one goes on with the log that it shows.
+    shared().settings = settings;
+    openMainPage();
 }
 
 void frmVantrelStart::openMainPage() {
@@ -257,60 +224,66 @@ void frmVantrelStart::openMainPage() {
 }
 
 void frmVantrelStart::upperCaseBoxes() {
-    for (QLineEdit* box : {Text1, Text2, Text6, Text7, Text8, Text9})
-        box->setText(toQt(upper(fromQt(box->text()))));
+    for (QLineEdit* box : {m_contestBox, m_callBox, m_nameBox, m_stateBox, m_numberBox, m_fileBox})
+        put(box, upper(textOf(box)));
+}
+
+std::vector<frmVantrelStart::TypedSetting> frmVantrelStart::typedSettings() const {
+    using Settings = OperatingSettings;
+    return {{&Settings::contestText, m_contestBox}, {&Settings::myCall, m_callBox},
+            {&Settings::myName, m_nameBox},         {&Settings::myState, m_stateBox},
+            {&Settings::myNumber, m_numberBox},     {&Settings::logFileName, m_fileBox},
+            {&Settings::bonusStation, m_bonusBox}};
+}
+
+std::vector<frmVantrelStart::ChosenSetting> frmVantrelStart::chosenSettings() const {
+    using Settings = OperatingSettings;
+    return {{&Settings::rig, m_rigBox, rigList},
+            {&Settings::comPort, m_portBox, portList},
+            {&Settings::baud, m_baudBox, baudList},
+            {&Settings::civAddress, m_civBox, civList},
+            {&Settings::gmtOffset, m_offsetBox, offsetList},
+            {&Settings::dupeMode, m_dupeModeBox, dupeModeList}};
 }
 
 OperatingSettings frmVantrelStart::pageSettings() const {
     OperatingSettings settings;
-    settings.myCall = fromQt(Text2->text());
     settings.contestCode = contestCode();
-    settings.gmtOffset = stored(Combo5);
-    settings.civAddress = stored(Combo4);
-    settings.myName = fromQt(Text6->text());
-    settings.myState = fromQt(Text7->text());
-    settings.myNumber = fromQt(Text8->text());
-    settings.rig = stored(Combo1);
-    settings.comPort = stored(Combo2);
-    settings.baud = stored(Combo3);
-    settings.contestText = fromQt(Text1->text());
-    settings.logFileName = fromQt(Text9->text());
-    settings.bonusStation = fromQt(Text10->text());
-    settings.dupeMode = stored(Combo6);
+    for (const auto& [setting, box] : typedSettings())
+        settings.*setting = textOf(box);
+    for (const auto& [setting, box, list] : chosenSettings())
+        settings.*setting = stored(box);
     return settings;
 }
 
 std::string frmVantrelStart::contestCode() const {
-    if (Option2->isChecked())
-        return std::string(contestSkse);
-    if (Option3->isChecked())
-        return std::string(contestWes);
-    if (Option4->isChecked())
-        return std::string(contestK3y);
+    for (std::size_t i = 0; i < contests.size(); ++i)
+        if (m_contestOptions[i]->isChecked())
+            return std::string(contests[i].code);
     return std::string(contestSks);
 }
 
 // --- What other screens do here --------------------------------------------------------------
 
 std::string frmVantrelStart::logFileName() const {
-    return fromQt(Text9->text());
+    return textOf(m_fileBox);
 }
 
 void frmVantrelStart::setLogFileName(const std::string& name) {
-    Text9->setText(toQt(name));
+    put(m_fileBox, name);
 }
 
 std::string frmVantrelStart::myCall() const {
-    return upper(trim(fromQt(Text2->text())));
+    return upper(trim(textOf(m_callBox)));
 }
 
 std::string frmVantrelStart::gmtOffset() const {
-    return stored(Combo5);
+    return stored(m_offsetBox);
 }
 
 void frmVantrelStart::receivePath(const std::string& path) {
     setLogFileName(path);
-    Text9->setFocus();
+    m_fileBox->setFocus();
 }
 
 // --- Layout ----------------------------------------------------------------------------------
@@ -326,11 +299,11 @@ void frmVantrelStart::layOut() {
     columns->setColumnStretch(1, 1);
 
     auto* buttons = new QHBoxLayout;
-    Command2->setFont(enlargedFont(this, 1.3));
-    buttons->addWidget(Command5);
+    m_startButton->setFont(enlargedFont(this, 1.3));
+    buttons->addWidget(m_updateButton);
     buttons->addStretch();
-    buttons->addWidget(Command2);
-    buttons->addWidget(Command1);
+    buttons->addWidget(m_startButton);
+    buttons->addWidget(m_exitButton);
 
     auto* page = new QVBoxLayout(this);
     page->addLayout(columns, 1);
@@ -340,71 +313,54 @@ void frmVantrelStart::layOut() {
 QLayout* frmVantrelStart::contestBox() {
     FormBuilder build(this);
     auto* layout = new QVBoxLayout;
-    for (QRadioButton* option : {Option1, Option2, Option3, Option4})
+    for (QRadioButton* option : m_contestOptions)
         layout->addWidget(option);
-    layout->addWidget(build.caption("CONTEST NAME:"));
-    layout->addWidget(Text1);
+    layout->addWidget(build.caption("CONTEST NAME:", m_contestBox));
+    layout->addWidget(m_contestBox);
     layout->addStretch();
     return layout;
 }
 
 QLayout* frmVantrelStart::operatorBox() {
     FormBuilder build(this);
-    auto* grid = new QGridLayout;
-    const struct {
-        const char* caption;
-        QWidget* control;
-    } rows[] = {{"YOUR CALL:", Text2},
-                {"YOUR NAME:", Text6},
-                {"YOUR STATE:", Text7},
-                {"YOUR SKCC#:", Text8},
-                {"DIFF IN COMPUTER TIME TO GMT:", Combo5},
-                {"UTC:", Label12}};
-    int row = 0;
-    for (const auto& entry : rows) {
-        grid->addWidget(build.caption(entry.caption), row, 0);
-        grid->addWidget(entry.control, row++, 1);
-    }
-    grid->setRowStretch(row, 1);
-    return grid;
+    auto* form = new QFormLayout;
+    build.row(form, "YOUR CALL:", m_callBox);
+    build.row(form, "YOUR NAME:", m_nameBox);
+    build.row(form, "YOUR STATE:", m_stateBox);
+    build.row(form, "YOUR SKCC#:", m_numberBox);
+    build.row(form, "DIFF IN COMPUTER TIME TO GMT:", m_offsetBox);
+    form->addRow(build.caption("UTC:"), m_utcLabel);
+    return form;
 }
 
 QLayout* frmVantrelStart::fileBox() {
     FormBuilder build(this);
-    auto* grid = new QGridLayout;
-    grid->addWidget(build.caption("FILE NAME:"), 0, 0);
-    grid->addWidget(Text9, 0, 1, 1, 2);
-    grid->addWidget(Command4, 1, 0, 1, 2);
-    grid->addWidget(Command3, 1, 2);
-    grid->addWidget(build.caption("START A NEW"), 2, 0);
-    grid->addWidget(Combo7, 2, 1);
-    grid->addWidget(Label14, 3, 0, 1, 3);
-    grid->addWidget(build.caption("LOG DUPES:"), 4, 0);
-    grid->addWidget(Combo6, 4, 1);
-    grid->addWidget(build.caption("BONUS STATION:"), 5, 0);
-    grid->addWidget(Text10, 5, 1, 1, 2);
-    grid->addWidget(Command6, 6, 1, 1, 2);
-    Label14->setWordWrap(true);
-    grid->setRowStretch(7, 1);
-    return grid;
+    auto* nameButtons = new QHBoxLayout;
+    nameButtons->addWidget(m_defaultNameButton, 1);
+    nameButtons->addWidget(m_browseButton);
+    m_oldLogLabel->setWordWrap(true);
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    build.row(form, "FILE NAME:", m_fileBox);
+    form->addRow(nameButtons);
+    build.row(form, "START A NEW", m_newFileBox);
+    form->addRow(m_oldLogLabel);
+    build.row(form, "LOG DUPES:", m_dupeModeBox);
+    build.row(form, "BONUS STATION:", m_bonusBox);
+    form->addRow(QString(), m_clearBonusButton);
+    return form;
 }
 
 QLayout* frmVantrelStart::radioBox() {
     FormBuilder build(this);
-    auto* grid = new QGridLayout;
-    grid->addWidget(build.caption("RIG:"), 0, 0);
-    grid->addWidget(Combo1, 0, 1);
-    grid->addWidget(build.caption("COM:"), 1, 0);
-    grid->addWidget(Combo2, 1, 1);
-    grid->addWidget(Label13, 2, 0, 1, 2);
-    grid->addWidget(build.caption("BAUD RATE:"), 3, 0);
-    grid->addWidget(Combo3, 3, 1);
-    grid->addWidget(build.caption("ICOM      HEX:"), 4, 0);
-    grid->addWidget(Combo4, 4, 1);
-    Label13->setWordWrap(true);
-    grid->setRowStretch(5, 1);
-    grid->setColumnStretch(1, 1);
-    return grid;
+    m_deviceLabel->setWordWrap(true);
+    auto* form = new QFormLayout;
+    build.row(form, "RIG:", m_rigBox);
+    build.row(form, "COM:", m_portBox);
+    form->addRow(m_deviceLabel);
+    build.row(form, "BAUD RATE:", m_baudBox);
+    build.row(form, "ICOM      HEX:", m_civBox);
+    return form;
 }
 
 } // namespace vantrel

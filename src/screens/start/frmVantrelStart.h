@@ -3,9 +3,9 @@
 #pragma once
 
 #include "forms/form.h"
+#include "screens/start/startlists.h"
 
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
@@ -34,6 +34,17 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    using Setting = std::string OperatingSettings::*;
+    struct TypedSetting {
+        Setting setting;
+        QLineEdit* box;
+    };
+    struct ChosenSetting {
+        Setting setting;
+        QComboBox* box;
+        ValueList (*list)();
+    };
+
     void createControls();
     void layOut();
     QLayout* contestBox();
@@ -43,53 +54,48 @@ private:
     void connectHandlers();
 
     // In the order in which the operator meets them.
-    void Option1_Click(); // SKS, and so on: the code goes into the contest name
-    void Option2_Click();
-    void Option3_Click();
-    void Option4_Click();  // K3Y: asks for the call area
-    void Command4_Click(); // default file name
-    void Command3_Click(); // browse
-    void Combo7_Change();  // start a new file
-    void Combo5_Change();  // GMT offset: the time shown follows
-    void Combo2_Change();  // port: its device follows
-    void Command6_Click(); // clear the bonus station
-    void Command5_Click(); // update the database
-    void Command2_Click(); // START
+    void contestClicked();
+    void offsetChosen();
+    void defaultNameClicked();
+    void browseClicked();
+    void newFileChosen();
+    void clearBonusClicked();
+    void portChosen();
+    void updateClicked();
+    void startClicked();
 
+    std::vector<TypedSetting> typedSettings() const;
+    std::vector<ChosenSetting> chosenSettings() const;
     OperatingSettings pageSettings() const;
     std::string contestCode() const;
-    void chooseContest(std::string_view code);
     void upperCaseBoxes();
     void startNewFile();
     void openMainPage();
 
-    QRadioButton* Option1; // SKS
-    QRadioButton* Option2; // SKSE
-    QRadioButton* Option3; // WES
-    QRadioButton* Option4; // K3Y
-    QLineEdit* Text1;      // contest name
-    QLineEdit* Text2;      // my call
-    QLineEdit* Text6;      // my name
-    QLineEdit* Text7;      // my state
-    QLineEdit* Text8;      // my SKCC number
-    QComboBox* Combo5;     // GMT offset
-    QLabel* Label12;       // UTC time and date
-    QLineEdit* Text9;      // log file name
-    QPushButton* Command4; // default file name
-    QPushButton* Command3; // browse
-    QComboBox* Combo7;     // start a new file: NO, YES
-    QLabel* Label14;       // what became of an old log
-    QComboBox* Combo6;     // log dupes: NO, YES
-    QLineEdit* Text10;     // bonus station
-    QPushButton* Command6; // clear the bonus station
-    QComboBox* Combo1;     // rig
-    QComboBox* Combo2;     // COM port
-    QLabel* Label13;       // the device that the port stands for now
-    QComboBox* Combo3;     // baud
-    QComboBox* Combo4;     // CI-V address
-    QPushButton* Command5; // update the database
-    QPushButton* Command2; // START
-    QPushButton* Command1; // exit
+    std::vector<QRadioButton*> m_contestOptions;
+    QLineEdit* m_contestBox;
+    QLineEdit* m_callBox;
+    QLineEdit* m_nameBox;
+    QLineEdit* m_stateBox;
+    QLineEdit* m_numberBox;
+    QComboBox* m_offsetBox;
+    QLabel* m_utcLabel;
+    QLineEdit* m_fileBox;
+    QPushButton* m_defaultNameButton;
+    QPushButton* m_browseButton;
+    QComboBox* m_newFileBox;
+    QLabel* m_oldLogLabel;
+    QComboBox* m_dupeModeBox;
+    QLineEdit* m_bonusBox;
+    QPushButton* m_clearBonusButton;
+    QComboBox* m_rigBox;
+    QComboBox* m_portBox;
+    QLabel* m_deviceLabel;
+    QComboBox* m_baudBox;
+    QComboBox* m_civBox;
+    QPushButton* m_updateButton;
+    QPushButton* m_startButton;
+    QPushButton* m_exitButton;
 };
 
 } // namespace vantrel

@@ -10,20 +10,19 @@ namespace vantrel {
 
 struct ListEntry {
     std::string shown;
-    std::string stored;
+    std::string stored = shown;
 };
+using ValueList = std::vector<ListEntry>;
 
-// In list order; the first entry of each stands for "none chosen".
-const std::vector<ListEntry>& rigList();      // 44
-const std::vector<ListEntry>& portList();     // "None", "Com1" .. "Com10"
-const std::vector<ListEntry>& baudList();     // 9
-const std::vector<ListEntry>& civList();      // "None" and 28 addresses
-const std::vector<ListEntry>& offsetList();   // "-12" .. "12"
-const std::vector<ListEntry>& dupeModeList(); // "NO", "YES"
+ValueList rigList();      // "None" and the rigs
+ValueList portList();     // "None", "Com1" .. "Com10"
+ValueList baudList();     // "None" and 8 rates
+ValueList civList();      // "None" and an address for every Icom
+ValueList offsetList();   // "-12" .. "12"
+ValueList dupeModeList(); // "NO", "YES"
 
 // Position (from 0) of the first entry stored as `value`; of the entry stored as
 // `otherwise` when there is none.
-int positionOf(const std::vector<ListEntry>& list, std::string_view value,
-               std::string_view otherwise);
+int positionOf(const ValueList& list, std::string_view value, std::string_view otherwise);
 
 } // namespace vantrel

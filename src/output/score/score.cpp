@@ -162,7 +162,7 @@ void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& sett
     const BonusStation bonusStation(settings);
     AwardNumbers awards;
     DistinctValues regularMembers("the list of regular members");
-    DistinctValues countries("the list of DXCC countries");
+    std::unordered_set<std::string_view> states;
     int qsos = 0;
     int noMembers = 0;
     int bonusStationQsos = 0;
@@ -176,13 +176,16 @@ void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& sett
         if (isDupe(contact))
             continue;
         ++qsos;
-        countries.add(countryOf(qso::hisState.of(contact)));
+        states.insert(qso::hisState.of(contact));
         bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
     }
     score.qsos = qsos;
     awards.enter(score);
     const Integer16 membersPoints = regularMembers.count();
     score.bonusStationQsos = bonusStationQsos;
+    DistinctValues countries("the list of DXCC countries");
+    for (const std::string_view state : states)
+        countries.add(countryOf(state));
     score.multipliers = countries.count();
     // What is shown as regular members worked: Senators are not taken off.
     score.regularMembersWorked = *score.qsos - *score.centurions - *score.tribunes - noMembers;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/contacts.h"
-#include "support/errors.h"
 #include "support/qt/formharness.h"
 
 #include <QAbstractItemView>
@@ -10,13 +9,14 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace vantrel::test {
 namespace {
 
 using ::testing::Contains;
 using ::testing::EndsWith;
-using ::testing::HasSubstr;
 using ::testing::Not;
 
 constexpr const char* page = "frmVantrelBackup";
@@ -25,16 +25,11 @@ constexpr const char* finder = "frmFileFinder";
 class BackupPage : public ::testing::Test, public FormHarness {
 protected:
     BackupPage() {
-        for (int i = 0; i < 13000; ++i)
-            log += "QSO: a, b\n";
+        for (int i = 0; i < 13000; ++i) // more lines than contacts are counted
+            log += "NOTE: a, b\n";
         folder.write("SKS.CBR", log);
-        openLog("SKS.CBR");
+        module.log.open("SKS.CBR");
         std::filesystem::create_directory(folder.path() / "copies");
-    }
-
-    void openLog(const std::string& name) { // of more contacts than the program counts
-        EXPECT_RUNTIME_ERROR(module.log.open(name), ErrorCode::subscriptOutOfRange,
-                             HasSubstr("12000"));
     }
 
     // Clicks a line of the finder's list; returns where.
@@ -51,7 +46,7 @@ protected:
 };
 
 TEST_F(BackupPage, CopiesEveryByteHoweverTheFolderIsTyped) {
-    openLog(folder.string() + "\\SKS.CBR"); // as the finder hands it back
+    module.log.open(folder.string() + "\\SKS.CBR"); // as the finder hands it back
     screens.open(Screen::backup);
     EXPECT_EQ(shown(page, "Label5"), folder.string() + "/SKS.CBR");
     for (const std::string& typed :

@@ -7,7 +7,6 @@
 #include "platform/qt/qtserialport.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
-#include "shared/module1.h"
 #include "support/ratiotable.h"
 
 #include <QCoreApplication>
@@ -49,8 +48,7 @@ void measure(const test::Radio& radio) {
     const Files files(folder.path.string(), calls);
     std::filesystem::create_symlink(simulated.device(), folder.path / "com1");
     QtSerialPort port(files);
-    Module1 module;
-    module.settings = test::settingsFor(radio);
+    const OperatingSettings settings = test::settingsFor(radio);
 
     QElapsedTimer clock;
     qint64 answered = 0;
@@ -62,7 +60,7 @@ void measure(const test::Radio& radio) {
     std::vector<double> text;
     for (int i = 0; i < reads; ++i) {
         clock.start();
-        if (readFrequency(module, port).outcome != ReadOutcome::read)
+        if (readFrequency(settings, port).outcome != ReadOutcome::read)
             std::abort();
         const qint64 end = clock.nsecsElapsed();
         whole.push_back(static_cast<double>(end) / 1e6);

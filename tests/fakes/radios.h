@@ -37,10 +37,9 @@ OperatingSettings settingsFor(const Radio& radio);
 struct Reading {
     long hertz;
     std::string mhz;
-    std::string bandText;
 };
 
-// Frequencies that every family must read; 30 m leaves the band text as it was (20 m).
+// Frequencies that every family must read.
 extern const std::array<Reading, 6> readings;
 
 } // namespace vantrel::test

@@ -6,7 +6,6 @@
 #include "fuzz/fuzztarget.h"
 #include "rig/catlink.h"
 #include "screens/main/frequency.h"
-#include "shared/module1.h"
 
 namespace vantrel::test {
 namespace {
@@ -26,14 +25,12 @@ void fuzz(Input& input) {
     FakeSerialPort port;
     for (int query = 0; query < radio.queries; ++query)
         port.answers.push_back({radio.query, input.rest(), 1, pieces});
-    Module1 module;
-    module.settings = settingsFor(radio);
-    const ReadResult result = readFrequency(module, port);
+    const ReadResult result = readFrequency(settingsFor(radio), port);
     require(port.waited() <= 2000 * radio.queries, "a query takes two seconds at most");
-    require((result.outcome == ReadOutcome::read) == !module.frequency.empty(),
-            "a failed read leaves the frequency alone");
+    require((result.outcome == ReadOutcome::read) == !result.frequency.empty(),
+            "a failed read has no frequency");
     if (result.outcome == ReadOutcome::read)
-        canBeLogged(module.frequency);
+        canBeLogged(result.frequency);
     else
         require(!result.message.text.empty(), "a failed read says so");
 }

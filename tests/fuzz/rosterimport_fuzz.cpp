@@ -37,8 +37,7 @@ void everyMemberIsFound(const Files& files, MemberList list, std::string_view by
             continue;
         require(length(reader.record()) == member::width, "a record has its columns");
         const std::string call(trim(member::call.of(reader.record())));
-        std::string rosterFile;
-        require(!isCall(call) || roster.findByCall(call, rosterFile).has_value(),
+        require(!isCall(call) || roster.findByCall(call).has_value(),
                 "a member on the list is found");
     }
 }

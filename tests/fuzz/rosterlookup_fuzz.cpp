@@ -21,8 +21,7 @@ std::string firstRecord(std::string_view bytes, Wanted wanted) {
 }
 
 void findsByCall(Roster& roster, const std::string& bytes, const std::string& typed) {
-    std::string file;
-    const auto found = roster.findByCall(typed, file);
+    const auto found = roster.findByCall(typed);
     requireEqual(
         found ? found->call + found->number + found->name + found->state : "nobody",
         firstRecord(bytes, [&](auto record) { return trim(member::call.of(record)) == typed; }),

@@ -96,6 +96,6 @@ int main(int argc, char** argv) {
     const std::string log = logOf(Log::capacity);
     const Contacts contacts = contactsIn(log);
     bench::single("dupe check over 12,000", 1,
-                  [&] { benchmark::DoNotOptimize(isDuplicate(contacts, "W1NOTHERE", "14")); });
+                  [&] { benchmark::DoNotOptimize(duplicateOf(contacts, "W1NOTHERE", "14")); });
     return bench::run(argc, argv);
 }

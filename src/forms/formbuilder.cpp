@@ -200,6 +200,20 @@ QFont familyFont(const QWidget* widget, const char* family) {
     return font;
 }
 
+namespace {
+bool isDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+} // namespace
+
+QColor warningColour(const QPalette& palette) {
+    return isDark(palette) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
+}
+
+QColor cautionColour(const QPalette& palette) {
+    return isDark(palette) ? QColor(0xF0, 0xB0, 0x40) : QColor(0x8A, 0x55, 0);
+}
+
 void setColumns(QLineEdit* box, int columns) {
     const QFontMetrics metrics(box->font());
     // A digit is as wide as most capitals; a frame and the cursor need two more.

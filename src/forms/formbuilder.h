@@ -58,6 +58,9 @@ QFont fixedWidthFont();
 QFont enlargedFont(const QWidget* widget, double factor, bool bold = true);
 // The form's font in another family; where that is not installed, the system's nearest.
 QFont familyFont(const QWidget* widget, const char* family);
+// A red and an amber that can be read on a light and on a dark window.
+QColor warningColour(const QPalette& palette);
+QColor cautionColour(const QPalette& palette);
 // A box `columns` characters of its font wide (at least).
 void setColumns(QLineEdit* box, int columns);
 

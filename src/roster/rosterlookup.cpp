@@ -68,4 +68,11 @@ NumberMatch Roster::findByNumber(std::string_view callBoxText) {
     return {NumberLookup::nobody};
 }
 
+bool Roster::hasMembers() {
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
+        if (!current(file).recordOfCall.empty())
+            return true;
+    return false;
+}
+
 } // namespace vantrel

@@ -49,6 +49,9 @@ public:
     // is an empty one. Throws as Files::read.
     NumberMatch findByNumber(std::string_view callBoxText);
 
+    // Whether any of the files has a record.
+    bool hasMembers();
+
 private:
     struct IndexedFile {
         std::string stamp; // of the file that was read; empty: read it again

@@ -90,7 +90,7 @@ private:
 
     void log() {
         Entry entry{"K" + fresh(), "NAME", "MA", "1234T", "599", "599", "14.050"};
-        if (isDuplicate(m_module.log.contacts(), entry.call, "14"))
+        if (!duplicateOf(m_module.log.contacts(), entry.call, "14").empty())
             std::abort();
         ContactFields contact =
             contactFrom(entry, m_module.settings, noMarker, utcTime(m_clock.now(), "0"));

@@ -16,7 +16,8 @@ namespace {
 
 void isFound(std::string_view line, const Contacts& contacts) {
     const std::string_view call = trimRight(qso::hisCall.of(line));
-    require(isDuplicate(contacts, call, qso::bandTag.of(line)), "a contact is its own duplicate");
+    require(!duplicateOf(contacts, call, qso::bandTag.of(line)).empty(),
+            "a contact is its own duplicate");
     require(length(call) < 2 || !workedBefore(contacts, call, 1000).empty(),
             "whoever is in the log was worked before");
     require(length(workedLine(line)) <= 70, "entries have at most one width");

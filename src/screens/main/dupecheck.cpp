@@ -16,11 +16,13 @@ bool sameField(Column column, std::string_view line, std::string_view value) {
 
 } // namespace
 
-bool isDuplicate(const Contacts& contacts, std::string_view call, std::string_view bandTag) {
-    return std::any_of(contacts.begin(), contacts.end(), [&](std::string_view line) {
+std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
+                             std::string_view bandTag) {
+    const auto found = std::find_if(contacts.begin(), contacts.end(), [&](std::string_view line) {
         return qso::bandTag.of(line) == bandTag &&
                mid(line, qso::hisCall.first, length(call)) == call;
     });
+    return found == contacts.end() ? std::string_view() : *found;
 }
 
 bool isK3yDupe(const Contacts& contacts, std::string_view contactLine) {

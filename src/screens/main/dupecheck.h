@@ -10,9 +10,10 @@
 
 namespace vantrel {
 
-// True when a logged contact has the band tag and its call begins with `call` as it stands:
-// K1AB is a duplicate of K1ABC, K1ABCD is not.
-bool isDuplicate(const Contacts& contacts, std::string_view call, std::string_view bandTag);
+// The first logged contact that has the band tag and whose call begins with `call` as it stands:
+// K1AB is a duplicate of K1ABC, K1ABCD is not. Empty when there is none.
+std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
+                             std::string_view bandTag);
 
 // LOG's test in the event: true when a logged contact has the call, the number and the band tag
 // of the assembled contact line.

@@ -5,6 +5,7 @@
 #include "log/bands.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vantrel {
 
@@ -28,19 +29,21 @@ std::string withPointAfter(std::string_view digits, int whole) {
 } // namespace
 
 std::string frequencyAsEntered(std::string_view typed) {
-    const std::string_view entry = trim(typed);
-    if (length(entry) == 4 && allDigits(entry) && startsWithAnyOf(entry, {"18", "19", "3", "7"}))
-        return withPointAfter(entry, 1);
-    if (length(entry) == 5 && allDigits(entry) &&
+    std::string entry(trim(typed));
+    std::replace(entry.begin(), entry.end(), ',', '.');
+    if (allDigits(entry) && (length(entry) == 3 || length(entry) == 4) &&
+        startsWithAnyOf(entry, {"18", "19", "3", "5", "7"}))
+        return withPointAfter(entry + (length(entry) == 3 ? "0" : ""), 1);
+    if (allDigits(entry) && length(entry) == 5 &&
         startsWithAnyOf(entry, {"10", "14", "18", "21", "24", "28"}))
         return withPointAfter(entry, 2);
     const std::size_t point = entry.find('.');
-    if (point == std::string_view::npos)
-        return std::string(typed);
-    const std::string_view whole = entry.substr(0, point);
-    const std::string_view fraction = entry.substr(point + 1);
+    if (point == std::string::npos)
+        return entry;
+    const std::string_view whole = std::string_view(entry).substr(0, point);
+    const std::string_view fraction = std::string_view(entry).substr(point + 1);
     if (!allDigits(whole) || !allDigits(fraction) || entry.size() == 1)
-        return std::string(typed);
+        return std::string(trim(typed));
     std::string three(left(fraction, decimals));
     three.resize(decimals, '0');
     return std::string(whole) + '.' + three;
@@ -63,8 +66,9 @@ std::string completedFrequency(std::string_view entry) {
     return frequency;
 }
 
-bool isOutsideSprintBands(std::string_view mhz) {
-    return startsWithAnyOf(mhz, {"10.", "18.", "24."});
+bool isOutsideSprintBands(std::string_view mhz, std::string_view khzField) {
+    return startsWithAnyOf(mhz, {"10.", "18.", "24."}) ||
+           (khzFault(khzField).empty() && startsWithAnyOf(khzField, {"10", "18", "24"}));
 }
 
 std::string khzField(std::string_view mhz) {
@@ -84,10 +88,15 @@ std::string khzField(std::string_view mhz) {
     return f;
 }
 
-bool isLoggableKhz(std::string_view field) {
-    const auto blankOrDigit = [](char character) { return character == ' ' || isDigit(character); };
-    return length(field) == 5 && std::all_of(field.begin(), field.end(), blankOrDigit) &&
-           std::any_of(field.begin(), field.end(), isDigit);
+std::string khzFault(std::string_view field) {
+    const std::string shown = '"' + std::string(trim(field)) + '"';
+    if (length(field) != 5 || !allDigits(trimLeft(field)) || trim(field).empty())
+        return shown + " IS NO FREQUENCY. TYPE IT LIKE 14.050, 14050 OR 7.04";
+    constexpr std::array loggedBeginnings{" 1", " 3", " 5", " 7", "10", "14", "18", "21",
+                                          "24", "28", "29", "50", "51", "52", "53"};
+    const bool known = std::any_of(loggedBeginnings.begin(), loggedBeginnings.end(),
+                                   [&](const char* begin) { return field.starts_with(begin); });
+    return known ? "" : shown + " kHz IS ON NO BAND";
 }
 
 std::string bandTagOf(std::string_view mhz) {

@@ -7,22 +7,24 @@
 
 namespace vantrel {
 
-// What Enter makes of the frequency box: 4 digits beginning 18, 19, 3 or 7 become d.ddd;
-// 5 digits beginning 10, 14, 18, 21, 24 or 28 become dd.ddd; digits with a point get exactly
-// three decimals; anything else stays as typed.
+// What the frequency box makes of its text: without blanks around it, a comma as the point;
+// 3 digits beginning 18, 19, 3, 5 or 7 become d.dd0 and 4 digits d.ddd; 5 digits beginning 10,
+// 14, 18, 21, 24 or 28 become dd.ddd; digits with a point get exactly three decimals; anything
+// else stays as typed.
 std::string frequencyAsEntered(std::string_view typed);
 
 // Completes an entry shorter than 5 characters: "14" becomes "14.000", "7.04" "7.0400".
 std::string completedFrequency(std::string_view entry);
 
-// True for 10, 18 and 24 MHz, which no sprint allows.
-bool isOutsideSprintBands(std::string_view mhz);
+// True for 10, 18 and 24 MHz, which no sprint allows, as MHz or as kHz field.
+bool isOutsideSprintBands(std::string_view mhz, std::string_view khzField);
 
 // The 5-column kHz field of a completed frequency: "14.050" gives "14050", "7.040" " 7040".
 std::string khzField(std::string_view mhz);
 
-// True when the field holds blanks and digits only, and a digit at all.
-bool isLoggableKhz(std::string_view field);
+// Why a kHz field cannot be logged, for the operator: not digits with blanks in front, or not
+// on a band. Empty when it can.
+std::string khzFault(std::string_view field);
 
 // The band tag of a frequency in MHz: " 1", " 3", " 7", else its first two characters.
 std::string bandTagOf(std::string_view mhz);

@@ -77,6 +77,12 @@ void EntryBoxes::show(const Entry& entry) {
     put(number, entry.number);
 }
 
+void EntryBoxes::showAll(const Entry& entry) {
+    show(entry);
+    rstSent->setEditText(toQt(entry.rstSent));
+    rstReceived->setEditText(toQt(entry.rstReceived));
+}
+
 void EntryBoxes::clear(std::string_view left) {
     const std::string text(left);
     show({text, text, text, text});

@@ -19,6 +19,8 @@ struct EntryBoxes {
     Entry entry() const;
     // Call, name, state and number; reports and frequency stay.
     void show(const Entry& entry);
+    // The reports too, but not the frequency.
+    void showAll(const Entry& entry);
     // `left` in call, name, state and number, the usual report in both report boxes.
     void clear(std::string_view left);
     // The boxes of the exchange, each under its name, large enough to be read from the key.

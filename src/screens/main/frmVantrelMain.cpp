@@ -15,6 +15,7 @@
 #include "screens/main/workedbefore.h"
 #include "shared/utctime.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -33,12 +34,6 @@ constexpr double workedBeforeEnlargement = 1.1;
 constexpr int workedBeforeColumns = 80;
 constexpr std::string_view startFrequency = "14.050";
 
-// A red that can be read on a light and on a dark window.
-QColor warningColour(const QPalette& palette) {
-    const bool dark = palette.color(QPalette::Window).lightness() < 128;
-    return dark ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
-}
-
 } // namespace
 
 frmVantrelMain::frmVantrelMain(const FormContext& context)
@@ -51,6 +46,7 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
     layOut();
     connectHandlers();
     shared().log.watch([this] { showLog(); });
+    qApp->installEventFilter(this);
     openAtPageSize();
 }
 
@@ -79,6 +75,8 @@ void frmVantrelMain::createControls() {
     m_fileLabel = build.label("Label12");
     m_dupeModeLabel = build.label("Label13");
     m_stationLabel = build.label("Label23");
+    m_markerLabel = build.label("Label25");
+    m_hintLabel = build.label("Label26");
     m_workedBeforeLabel = build.label("Label24");
     m_workedLines = new LineListModel(this);
     m_workedList->setModel(m_workedLines);
@@ -158,8 +156,10 @@ void frmVantrelMain::load() {
     showFrequency(std::string(startFrequency));
     put(m_autoReadLabel,
         autoReadText(settings.hasRadio() ? ReadOutcome::read : ReadOutcome::noRadio));
-    shared().marker = noMarker;
+    setMarker(noMarker);
+    showHint(Hint());
     clearEntry(Left::nothing);
+    m_cleared.reset();
     showStation(std::string(noStationLabel));
     shared().audioOn = true;
     put(m_audioButton, "AUDIO ON");
@@ -180,6 +180,36 @@ QWidget* frmVantrelMain::firstFocus() {
     return m_boxes.call;
 }
 
+// A key goes to the contact being entered, wherever the focus is: letters that a button or the
+// list has no use for are the next call.
+bool frmVantrelMain::eventFilter(QObject* receiver, QEvent* event) {
+    auto* widget = qobject_cast<QWidget*>(receiver);
+    if (event->type() != QEvent::KeyPress || widget == nullptr || widget->window() != this)
+        return Form::eventFilter(receiver, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (m_refusalShown)
+        showHint(Hint());
+    if (receiver == m_boxes.call && key->matches(QKeySequence::Undo) &&
+        m_boxes.call->text().isEmpty()) {
+        runHandler([this] { bringBack(); });
+        return true;
+    }
+    if (isForCallBox(*widget, *key)) {
+        m_boxes.call->setFocus();
+        QCoreApplication::sendEvent(m_boxes.call, event);
+        return true;
+    }
+    return Form::eventFilter(receiver, event);
+}
+
+bool frmVantrelMain::isForCallBox(const QWidget& widget, const QKeyEvent& key) {
+    const bool typed = key.text().size() == 1 && key.text().front().isPrint() &&
+                       key.key() != Qt::Key_Space &&
+                       (key.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier) == 0;
+    return typed && (qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+                     qobject_cast<const QListView*>(&widget) != nullptr);
+}
+
 void frmVantrelMain::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
     screens().quit();
@@ -190,6 +220,7 @@ void frmVantrelMain::closeEvent(QCloseEvent* event) {
 // What a lookup filled in belongs to the call it was looked up for, and so does a mark.
 void frmVantrelMain::callEdited() {
     resetDupeMarker();
+    m_searched.reset();
     showWorkedBefore();
     if (!m_lookedUp)
         return;
@@ -207,7 +238,7 @@ void frmVantrelMain::showWorkedBefore() {
     const std::string mhz = completedFrequency(frequencyAsEntered(textOf(m_boxes.frequency)));
     const std::string text = workedBefore(shared().log.contacts(), typed, workedBeforeColumns);
     const bool duplicate =
-        !text.empty() && isDuplicate(shared().log.contacts(), typed, bandTagOf(mhz));
+        !text.empty() && !duplicateOf(shared().log.contacts(), typed, bandTagOf(mhz)).empty();
     QPalette colours(palette());
     if (duplicate)
         colours.setColor(QPalette::WindowText, warningColour(colours));
@@ -219,10 +250,12 @@ void frmVantrelMain::searchClicked() {
     const InputHold::Scope hold(m_hold);
     frequencyEntered();
     Entry typed = m_boxes.entry();
-    if (isComplete(typed)) {
+    if (isComplete(typed) && !m_broughtBack) {
         logClicked();
         return;
     }
+    m_broughtBack = false;
+    m_searched.reset();
     typed.call = callAsEntered(typed.call);
     put(m_boxes.call, typed.call);
     if (!lookUpAndShow(typed)) {
@@ -239,7 +272,14 @@ void frmVantrelMain::searchClicked() {
     }
     typed.frequency = completedFrequency(typed.frequency);
     showFrequency(typed.frequency);
-    checkForDupes(typed);
+    const std::string marker = shared().marker;
+    setMarker(noMarker);
+    showStation(std::string(noStationLabel));
+    m_searched = Searched{typed.call, typed.number, bandTagOf(typed.frequency)};
+    if (refusesDupe())
+        return;
+    if (marker != noMarker && marker != dupeMarker)
+        showHint(takenBackHint(marker));
     toCallBox();
 }
 
@@ -247,30 +287,49 @@ void frmVantrelMain::searchClicked() {
 bool frmVantrelMain::lookUpAndShow(Entry& typed) {
     if (!canLookUp(typed.call))
         return false;
+    const std::string call = typed.call;
     const LookupOutcome outcome = lookUp(typed, m_roster);
     showEntry(typed);
+    showHint(lookupHint(outcome, call, m_roster.hasMembers()));
     if (outcome == LookupOutcome::found)
         m_lookedUp = typed;
     return outcome != LookupOutcome::nobody;
 }
 
-// In a sprint a duplicate is logged and marked, or refused; in the event a K3Y duplicate is
-// told besides.
-void frmVantrelMain::checkForDupes(const Entry& typed) {
+// The test for the call and the band searched for. In a sprint a duplicate is marked and logged,
+// or refused (true); in the event a K3Y duplicate is told besides.
+bool frmVantrelMain::refusesDupe() {
     const OperatingSettings& settings = shared().settings;
     const Contacts& contacts = shared().log.contacts();
-    const std::string bandTag = bandTagOf(typed.frequency);
-    const bool duplicate = isDuplicate(contacts, typed.call, bandTag);
-    const bool refused = duplicate && !settings.logsDupes();
-    const bool k3yDupe = settings.isK3y() && isK3yDupe(contacts, typed.call, typed.number, bandTag);
-    if (refused)
-        clearEntry(Left::nothing);
-    shared().marker = duplicate && !refused ? dupeMarker : noMarker;
-    showStation(std::string(noStationLabel));
-    if (duplicate)
+    const Searched searched = *m_searched;
+    const std::string_view logged = duplicateOf(contacts, searched.call, searched.bandTag);
+    const bool k3yDupe =
+        settings.isK3y() && isK3yDupe(contacts, searched.call, searched.number, searched.bandTag);
+    if (!logged.empty()) {
+        const bool refused = !settings.logsDupes();
+        if (refused) {
+            clearEntry(Left::nothing);
+            showHint(refusedHint(logged));
+        } else {
+            setMarker(dupeMarker);
+        }
         screens().open(Screen::dupe);
-    if (k3yDupe && !refused)
+        if (refused)
+            return true;
+    }
+    if (k3yDupe)
         messages().show({std::string(duplicateQsoText), BoxIcon::exclamation});
+    return false;
+}
+
+// A mark belongs to the band it was found on: on another one the test is made again. False when
+// the contact is refused there.
+bool frmVantrelMain::recheckOn(const std::string& bandTag) {
+    if (!m_searched || m_searched->bandTag == bandTag)
+        return true;
+    m_searched->bandTag = bandTag;
+    resetDupeMarker();
+    return !refusesDupe();
 }
 
 // --- LOG -------------------------------------------------------------------------------------
@@ -304,7 +363,7 @@ void frmVantrelMain::logClicked() {
     showStation(std::string(noStationLabel));
 }
 
-// The contact line; nothing, after saying why, when its frequency cannot be logged.
+// The contact line; nothing, after saying why, when it cannot be logged.
 std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
     const OperatingSettings& settings = shared().settings;
     ContactFields contact = contactFrom(typed, settings, shared().marker,
@@ -312,14 +371,17 @@ std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
     if (!readRadio(typed))
         return std::nullopt;
     const FrequencyCheck check = enterFrequency(contact, typed.frequency, settings);
-    showFrequency(typed.frequency);
+    if (!showFrequency(typed.frequency))
+        return std::nullopt; // a duplicate on the band that the radio is on by now
+    contact.marker = shared().marker;
     switch (check) {
     case FrequencyCheck::outsideSprintBands:
         messages().show({typed.frequency + std::string(wrongBandText), BoxIcon::critical});
         clearEntry(Left::nothing);
         return std::nullopt;
-    case FrequencyCheck::missing:
-        messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
+    case FrequencyCheck::unloggable:
+        messages().show(
+            {std::string(frequencyMissingText), BoxIcon::exclamation, khzFault(contact.frequency)});
         toCallBox();
         return std::nullopt;
     case FrequencyCheck::good:
@@ -332,6 +394,10 @@ std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
 // but the boxes are cleared first, so that nobody logs it twice.
 void frmVantrelMain::logLine(const std::string& line) {
     Log& log = shared().log;
+    // Searched for, it was told already.
+    const std::string repeated(
+        m_searched ? std::string_view()
+                   : duplicateOf(log.contacts(), qso::hisCall.of(line), qso::bandTag.of(line)));
     const bool logWasThere = platform().files.present(log.name());
     log.append(line);
     std::optional<Message> failure;
@@ -341,6 +407,8 @@ void frmVantrelMain::logLine(const std::string& line) {
         failure = failureOnceLogged(error);
     }
     clearEntry(Left::nothing);
+    m_cleared.reset(); // it is in the log
+    showHint(loggedHint(line, repeated));
     if (failure)
         messages().show(*failure);
     if (!logWasThere)
@@ -364,12 +432,14 @@ void frmVantrelMain::frequencyEntered() {
     showFrequency(frequencyAsEntered(textOf(m_boxes.frequency)));
 }
 
-// Shows the frequency and the band that follows from it.
-void frmVantrelMain::showFrequency(const std::string& mhz) {
+// Shows the frequency and the band that follows from it; false when the contact is a duplicate
+// there and refused.
+bool frmVantrelMain::showFrequency(const std::string& mhz) {
     if (textOf(m_boxes.frequency) != mhz)
         put(m_boxes.frequency, mhz);
     put(m_bandLabel, bandTextOf(mhz, textOf(m_bandLabel)));
     showWorkedBefore();
+    return recheckOn(bandTagOf(completedFrequency(mhz)));
 }
 
 void frmVantrelMain::readClicked() {
@@ -397,10 +467,12 @@ bool frmVantrelMain::readRadio(Entry& typed) {
 }
 
 void frmVantrelMain::upClicked() {
+    frequencyEntered();
     stepTo(bandUp(textOf(m_bandLabel)));
 }
 
 void frmVantrelMain::downClicked() {
+    frequencyEntered();
     stepTo(bandDown(textOf(m_bandLabel)));
 }
 
@@ -430,16 +502,33 @@ void frmVantrelMain::showEntry(const Entry& entry) {
     showWorkedBefore();
 }
 
+// What is cleared can be brought back until something else is.
 void frmVantrelMain::clearEntry(Left left) {
+    if (const Entry typed = m_boxes.entry(); !trim(typed.call).empty())
+        m_cleared = Cleared{typed, m_lookedUp};
     m_boxes.clear(left == Left::oneBlank ? " " : "");
     showWorkedBefore();
     m_lookedUp.reset();
+    m_searched.reset();
     resetDupeMarker();
     toCallBox();
 }
 
+// A contact that was refused is checked again before it is logged.
+void frmVantrelMain::bringBack() {
+    if (!m_cleared)
+        return;
+    m_boxes.showAll(m_cleared->entry);
+    m_lookedUp = m_cleared->lookedUp;
+    m_cleared.reset();
+    m_broughtBack = true;
+    showWorkedBefore();
+    showHint(Hint());
+}
+
 void frmVantrelMain::showStation(const std::string& text) {
     put(m_stationLabel, text);
+    put(m_markerLabel, nextMarkerText(shared().marker));
     m_stationOption->setChecked(text != noStationLabel);
 }
 
@@ -449,11 +538,27 @@ void frmVantrelMain::showLog() {
     m_workedList->scrollToBottom();
 }
 
+void frmVantrelMain::setMarker(std::string_view marker) {
+    shared().marker = marker;
+    put(m_markerLabel, nextMarkerText(marker));
+}
+
 // After a contact is logged or dropped: a "DUPE" marker goes back to six blanks, a K3Y tag
 // stays.
 void frmVantrelMain::resetDupeMarker() {
     if (shared().marker == dupeMarker)
-        shared().marker = noMarker;
+        setMarker(noMarker);
+}
+
+void frmVantrelMain::showHint(const Hint& hint) {
+    put(m_hintLabel, hint.text);
+    QPalette colours(palette());
+    if (hint.tone != HintTone::plain)
+        colours.setColor(QPalette::WindowText, hint.tone == HintTone::alarm
+                                                   ? warningColour(colours)
+                                                   : cautionColour(colours));
+    m_hintLabel->setPalette(colours);
+    m_refusalShown = hint.tone == HintTone::alarm;
 }
 
 void frmVantrelMain::toCallBox() {
@@ -465,16 +570,20 @@ void frmVantrelMain::toCallBox() {
 
 void frmVantrelMain::layOut() {
     // Long texts are cut at the window's edge; they must not widen it.
-    for (QLabel* label : {m_fileLabel, m_workedBeforeLabel})
+    for (QLabel* label : {m_fileLabel, m_workedBeforeLabel, m_hintLabel})
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_workedBeforeLabel->setFont(enlargedFont(this, workedBeforeEnlargement));
+    for (QLabel* label : {m_workedBeforeLabel, m_hintLabel}) {
+        label->setFont(enlargedFont(this, workedBeforeEnlargement));
+        label->setFixedHeight(label->sizeHint().height()); // the page must not jump
+    }
     auto* page = new QVBoxLayout(this);
     page->addLayout(statusRow());
     page->addLayout(m_boxes.exchangeRow(this));
     page->addWidget(m_workedBeforeLabel);
+    page->addWidget(m_hintLabel);
     page->addLayout(frequencyRow());
     page->addLayout(rowOf({m_searchButton, m_logButton, m_noLogButton, m_readButton, m_audioButton,
-                           m_stationOption, m_stationLabel}));
+                           m_stationOption, m_stationLabel, m_markerLabel}));
     page->addWidget(workedHeadings());
     page->addWidget(m_workedList, 1);
     page->addLayout(m_pageCommands);

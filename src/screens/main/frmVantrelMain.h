@@ -7,6 +7,7 @@
 #include "forms/inputhold.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/frmEntryBoxes.h"
+#include "screens/main/hints.h"
 
 #include <initializer_list>
 #include <optional>
@@ -39,11 +40,22 @@ protected:
     void escapePressed() override { noLogClicked(); }
     QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     // What the boxes hold after a contact is dropped: nothing, or a single blank each.
     enum class Left { nothing, oneBlank };
+    // What SEARCH looked for, until another call is typed.
+    struct Searched {
+        std::string call;
+        std::string number;
+        std::string bandTag;
+    };
+    struct Cleared {
+        Entry entry;
+        std::optional<Entry> lookedUp;
+    };
 
     void createControls();
     void layOut();
@@ -69,19 +81,24 @@ private:
     void stationClicked();
 
     void showEntry(const Entry& entry);
-    void showFrequency(const std::string& mhz);
+    bool showFrequency(const std::string& mhz);
     void showWorkedBefore();
     void frequencyEntered();
     bool lookUpAndShow(Entry& typed);
-    void checkForDupes(const Entry& typed);
+    bool refusesDupe();
+    bool recheckOn(const std::string& bandTag);
     std::optional<std::string> assembledLine(Entry& typed);
     void logLine(const std::string& line);
     bool readRadio(Entry& typed);
     void stepTo(const Band& band);
     void clearEntry(Left left);
+    void bringBack();
+    void setMarker(std::string_view marker);
     void resetDupeMarker();
+    void showHint(const Hint& hint);
     void showLog();
     void toCallBox();
+    static bool isForCallBox(const QWidget& widget, const QKeyEvent& key);
 
     EntryBoxes m_boxes;
     QLineEdit* m_countBox;
@@ -92,6 +109,8 @@ private:
     QLabel* m_dupeModeLabel;
     QLabel* m_workedBeforeLabel;
     QLabel* m_stationLabel;
+    QLabel* m_markerLabel;
+    QLabel* m_hintLabel;
     QRadioButton* m_stationOption;
     QPushButton* m_searchButton;
     QPushButton* m_logButton;
@@ -108,7 +127,11 @@ private:
     Roster m_roster;
     LineListModel* m_workedLines;
     std::optional<Entry> m_lookedUp; // what the last lookup filled in
-    bool m_radioReadDue = false;     // the radio is read once after the first paint
+    std::optional<Searched> m_searched;
+    std::optional<Cleared> m_cleared;
+    bool m_broughtBack = false;  // what is in the boxes was cleared before
+    bool m_refusalShown = false; // in the hint line, until the next key
+    bool m_radioReadDue = false; // the radio is read once after the first paint
 };
 
 } // namespace vantrel

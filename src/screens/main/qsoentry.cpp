@@ -96,10 +96,10 @@ ContactFields contactFrom(const Entry& entry, const OperatingSettings& settings,
 FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
                               const OperatingSettings& settings) {
     mhz = completedFrequency(mhz);
-    if (!settings.isK3y() && isOutsideSprintBands(mhz))
-        return FrequencyCheck::outsideSprintBands;
     contact.frequency = khzField(mhz);
-    return isLoggableKhz(contact.frequency) ? FrequencyCheck::good : FrequencyCheck::missing;
+    if (!settings.isK3y() && isOutsideSprintBands(mhz, contact.frequency))
+        return FrequencyCheck::outsideSprintBands;
+    return khzFault(contact.frequency).empty() ? FrequencyCheck::good : FrequencyCheck::unloggable;
 }
 
 Message failureOnceLogged(const RuntimeError& error) {

@@ -77,7 +77,7 @@ bool canBeLogged(const Entry& entry);
 ContactFields contactFrom(const Entry& entry, const OperatingSettings& settings,
                           std::string_view marker, const UtcTime& utc);
 
-enum class FrequencyCheck { good, outsideSprintBands, missing };
+enum class FrequencyCheck { good, outsideSprintBands, unloggable };
 
 // Completes `mhz` in place and puts it into the contact's kHz field.
 FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,

@@ -17,12 +17,12 @@ TEST(Duplicate, IsSameBandAndCallBeginningWithWhatIsTyped) {
     const std::string on20 = contactLine({.frequency = "14050", .hisCall = "K1ABC"});
     const std::string on40 = contactLine({.frequency = " 7040", .hisCall = "W1AW/4"});
     const Contacts contacts{on20, on40};
-    EXPECT_TRUE(isDuplicate(contacts, "K1AB", "14"));       // a prefix is enough
-    EXPECT_TRUE(isDuplicate(contacts, "K1ABC     ", "14")); // as a member number yields it
-    EXPECT_TRUE(isDuplicate(contacts, "W1AW", " 7"));
-    EXPECT_FALSE(isDuplicate(contacts, "K1ABCD", "14"));
-    EXPECT_FALSE(isDuplicate(contacts, "K1ABC", " 7"));
-    EXPECT_FALSE(isDuplicate(contacts, "k1abc", "14"));
+    EXPECT_FALSE(duplicateOf(contacts, "K1AB", "14").empty());       // a prefix is enough
+    EXPECT_FALSE(duplicateOf(contacts, "K1ABC     ", "14").empty()); // as a member number yields it
+    EXPECT_FALSE(duplicateOf(contacts, "W1AW", " 7").empty());
+    EXPECT_TRUE(duplicateOf(contacts, "K1ABCD", "14").empty());
+    EXPECT_TRUE(duplicateOf(contacts, "K1ABC", " 7").empty());
+    EXPECT_TRUE(duplicateOf(contacts, "k1abc", "14").empty());
 }
 
 TEST(K3yDupe, IsTheSameCallNumberAndBand) {

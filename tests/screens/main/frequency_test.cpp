@@ -31,11 +31,15 @@ TEST(FrequencyBox, TypedKilohertzAndShortDecimalsBecomeMegahertz) {
                                     {"7.0", "7.000"},
                                     {"14.", "14.000"},
                                     {"3.5605", "3.560"},
+                                    {"705", "7.050"},
+                                    {"181", "1.810"},
+                                    {"14,05", "14.050"},
                                     {" 7040 ", "7.040"}});
 }
 
 TEST(FrequencyBox, OtherEntriesStayAsTheyAre) {
-    for (const char* typed : {"1700", "50125", "14", "", ".", "14.05.0", "QRL", "14.O50", "O.5"})
+    for (const char* typed :
+         {"1700", "50125", "14", "", ".", "14.05.0", "QRL", "14.O50", "O.5", "K,3"})
         EXPECT_EQ(frequencyAsEntered(typed), typed);
 }
 
@@ -56,18 +60,19 @@ TEST(KhzField, IsFiveColumnsRightAligned) {
                           {"7.0400", " 7040"},
                           {"50125", "50125"},
                           {"145.500", "145.5"}});
-    for (const char* loggable : {" 7040", "14050"})
-        EXPECT_TRUE(isLoggableKhz(loggable)) << loggable;
-    // "7040" would shift every column behind it
-    for (const char* field : {"145.5", "     ", "QRL  ", "", "7040"})
-        EXPECT_FALSE(isLoggableKhz(field)) << field;
 }
 
-TEST(SprintBands, AreAllButThreeAndTellTheirTag) {
-    for (const char* mhz : {"10.120", "18.080", "24.900"})
-        EXPECT_TRUE(isOutsideSprintBands(mhz)) << mhz;
+TEST(KhzField, IsLoggedOnABandOnly) {
+    for (const char* loggable : {" 7040", "14050", " 5355", "29050", "50125", "53999"})
+        EXPECT_EQ(khzFault(loggable), "") << loggable;
+    // "7040" would shift every column behind it
+    for (const char* field :
+         {"145.5", "     ", "QRL  ", "", "7040", "14 50", " 4050", "13999", "54000"})
+        EXPECT_NE(khzFault(field), "") << field;
+    for (const char* mhz : {"10.120", "18.080", "24.900", "101205"})
+        EXPECT_TRUE(isOutsideSprintBands(mhz, khzField(mhz))) << mhz;
     for (const char* mhz : {"1.820", "3.550", "7.040", "14.050", "28.050"}) {
-        EXPECT_FALSE(isOutsideSprintBands(mhz)) << mhz;
+        EXPECT_FALSE(isOutsideSprintBands(mhz, khzField(mhz))) << mhz;
         EXPECT_EQ(bandTagOf(mhz), khzField(mhz).substr(0, 2)) << mhz;
     }
 }

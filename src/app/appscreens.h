@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/form.h"
+#include "forms/keyguard.h"
 #include "shared/screens.h"
 
 #include <QPointer>
@@ -39,6 +40,7 @@ private:
     Platform& m_platform;
     std::map<Screen, QPointer<Form>> m_slots;
     QPointer<Form> m_lastOpened;
+    KeyGuard m_keyGuard;
 };
 
 } // namespace vantrel

@@ -28,6 +28,8 @@ void Form::bringToFront() {
     activateWindow();
     if (QWidget* first = firstFocus())
         first->setFocus();
+    // Where the focus is shows at once, not only after the first Tab.
+    setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {

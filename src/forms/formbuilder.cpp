@@ -138,7 +138,9 @@ void FormBuilder::row(QFormLayout* form, const char* text, QWidget* box) {
 }
 
 QComboBox* FormBuilder::combo(const char* name, const char* toolTip) {
-    return named(new QComboBox(m_form), name, toolTip);
+    QComboBox* combo = named(new QComboBox(m_form), name, toolTip);
+    combo->setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus
+    return combo;
 }
 
 QComboBox* FormBuilder::editableCombo(const char* name, const char* toolTip) {

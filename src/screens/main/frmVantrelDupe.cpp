@@ -4,6 +4,7 @@
 #include "forms/formbuilder.h"
 #include "platform/sound.h"
 
+#include <QEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -42,10 +43,18 @@ void frmVantrelDupe::load() {
     m_timer->start();
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
-    if (const QWidget* above = opener()) {
+    if (QWidget* below = opener()) {
         adjustSize();
-        move(above->geometry().center() - rect().center());
+        move(below->geometry().center() - rect().center());
+        below->installEventFilter(this);
     }
+}
+
+// A box that asks something is never covered: it blocks the page, and this screen goes.
+bool frmVantrelDupe::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver == opener() && event->type() == QEvent::WindowBlocked)
+        close();
+    return Form::eventFilter(receiver, event);
 }
 
 void frmVantrelDupe::bringToFront() {

@@ -21,6 +21,7 @@ public:
 protected:
     void load() override;
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
     void timeUp();

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Keys and wheel alike on every page: what a hand on the key does by accident changes nothing.
+#pragma once
+
+#include <QObject>
+
+namespace vantrel {
+
+// Watches the whole program while it lives.
+// - A held Enter counts once: it must not search and then log.
+// - Enter presses the focused button, as Space does.
+// - Alt with a letter that no button of the page has types nothing.
+// - The wheel changes a list only when that has the focus.
+class KeyGuard : public QObject {
+    Q_OBJECT
+
+public:
+    KeyGuard();
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+};
+
+} // namespace vantrel

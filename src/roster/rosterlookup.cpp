@@ -5,6 +5,9 @@
 #include "platform/files.h"
 #include "roster/rosterrecord.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace vantrel {
 
 namespace {
@@ -16,19 +19,36 @@ Member memberOf(std::string_view record) {
             std::string(member::name.of(record)), std::string(member::state.of(record))};
 }
 
-// The first record of each call, among those that are looked through.
-std::unordered_map<std::string_view, std::string_view> indexOf(std::string_view bytes) {
-    std::unordered_map<std::string_view, std::string_view> index;
-    index.reserve(bytes.size() / member::width);
-    ItemReader reader(bytes);
-    for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k) {
-        const std::string_view record = reader.next();
-        index.emplace(trim(member::call.of(record)), record);
-    }
-    return index;
+std::string_view callOf(std::string_view record) {
+    return trim(member::call.of(record));
+}
+
+// Whether one letter put in, left out or exchanged makes one of the other.
+bool isOneLetterAway(std::string_view a, std::string_view b) {
+    if (a.size() > b.size())
+        std::swap(a, b);
+    if (b.size() - a.size() > 1)
+        return false;
+    const auto [inA, inB] = std::mismatch(a.begin(), a.end(), b.begin());
+    if (inA == a.end())
+        return true;
+    const auto skip = a.size() == b.size() ? 1 : 0;
+    return std::equal(inA + skip, a.end(), inB + 1, b.end());
 }
 
 } // namespace
+
+// The first record of each call, among those that are looked through.
+void Roster::indexRecords(IndexedFile& file) {
+    file.recordOfCall.reserve(file.bytes.size() / member::width);
+    file.records.reserve(file.bytes.size() / member::width);
+    ItemReader reader(file.bytes);
+    for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k) {
+        const std::string_view record = reader.next();
+        if (file.recordOfCall.emplace(callOf(record), record).second)
+            file.records.push_back(record);
+    }
+}
 
 const Roster::IndexedFile& Roster::current(std::size_t file) {
     IndexedFile& indexed = m_indexed[file];
@@ -36,7 +56,7 @@ const Roster::IndexedFile& Roster::current(std::size_t file) {
     if (stamp.empty() || stamp != indexed.stamp) {
         indexed = {};
         indexed.bytes = m_files.readOrEmpty(rosterFiles[file]);
-        indexed.recordOfCall = indexOf(indexed.bytes);
+        indexRecords(indexed);
         indexed.stamp = stamp;
     }
     return indexed;
@@ -73,6 +93,34 @@ bool Roster::hasMembers() {
         if (!current(file).recordOfCall.empty())
             return true;
     return false;
+}
+
+template <typename Test>
+void Roster::collect(std::vector<std::string_view>& records, Test test) {
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
+        for (const std::string_view record : current(file).records)
+            if (test(callOf(record)))
+                records.push_back(record);
+}
+
+std::vector<Member> Roster::membersLike(std::string_view text, std::size_t most) {
+    std::vector<std::string_view> records;
+    collect(records, [&](std::string_view call) { return call.starts_with(text); });
+    std::stable_sort(records.begin(), records.end(), [](std::string_view a, std::string_view b) {
+        return callOf(a).size() < callOf(b).size();
+    });
+    if (records.size() < most)
+        collect(records, [&](std::string_view call) {
+            const std::size_t place = call.find(text);
+            return place != 0 && place != call.npos;
+        });
+    if (records.empty())
+        collect(records, [&](std::string_view call) { return isOneLetterAway(text, call); });
+    records.resize(std::min(records.size(), most));
+    std::vector<Member> members;
+    for (const std::string_view record : records)
+        members.push_back(memberOf(record));
+    return members;
 }
 
 } // namespace vantrel

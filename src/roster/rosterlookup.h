@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace vantrel {
 
@@ -52,14 +53,25 @@ public:
     // Whether any of the files has a record.
     bool hasMembers();
 
+    // Members whose call begins with the text, shorter calls first; then those whose call contains
+    // it; when there are none of either, those whose call is one letter away (another, one more,
+    // one less). At most `most`, in the order of the files among equals. Looked through are the
+    // records that findByCall looks through. Throws as Files::read.
+    std::vector<Member> membersLike(std::string_view text, std::size_t most);
+
 private:
     struct IndexedFile {
         std::string stamp; // of the file that was read; empty: read it again
         std::string bytes;
+        std::vector<std::string_view> records; // one a call
         std::unordered_map<std::string_view, std::string_view> recordOfCall;
     };
 
+    static void indexRecords(IndexedFile& file);
     const IndexedFile& current(std::size_t file);
+    // Adds the records of the members whose call the test holds for.
+    template <typename Test>
+    void collect(std::vector<std::string_view>& records, Test test);
 
     const Files& m_files;
     std::array<IndexedFile, rosterFiles.size()> m_indexed;

@@ -46,4 +46,13 @@ std::optional<ContactTime> contactTime(std::string_view contact) {
     return valid ? std::optional(result) : std::nullopt;
 }
 
+std::optional<Moment> contactMoment(std::string_view contact) {
+    const auto day = contactDay(contact);
+    const auto time = contactTime(contact);
+    if (!day || !time)
+        return {};
+    return std::chrono::sys_days(*day) + std::chrono::hours(time->hour) +
+           std::chrono::minutes(time->minute);
+}
+
 } // namespace vantrel

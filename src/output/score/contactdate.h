@@ -20,4 +20,8 @@ struct ContactTime {
 };
 std::optional<ContactTime> contactTime(std::string_view contact);
 
+// Both as one minute of the calendar. Nothing when either is missing.
+using Moment = std::chrono::sys_time<std::chrono::minutes>;
+std::optional<Moment> contactMoment(std::string_view contact);
+
 } // namespace vantrel

@@ -181,7 +181,7 @@ void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& sett
     }
     score.qsos = qsos;
     awards.enter(score);
-    const Integer16 membersPoints = regularMembers.count();
+    score.membersPoints = regularMembers.count();
     score.bonusStationQsos = bonusStationQsos;
     DistinctValues countries("the list of DXCC countries");
     for (const std::string_view state : states)
@@ -190,7 +190,7 @@ void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& sett
     // What is shown as regular members worked: Senators are not taken off.
     score.regularMembersWorked = *score.qsos - *score.centurions - *score.tribunes - noMembers;
     score.bonusPoints =
-        awards.points() + bonusStationPoints * *score.bonusStationQsos + membersPoints;
+        awards.points() + bonusStationPoints * *score.bonusStationQsos + *score.membersPoints;
 }
 
 } // namespace

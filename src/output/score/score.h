@@ -28,6 +28,7 @@ struct Score {
     Figure bonusStationQsos;     // without duplicates
     Figure k9skcQsos;            // without duplicates; not in the European sprint
     Figure regularMembersWorked; // European sprint only; below 0 when duplicates abound
+    Figure membersPoints;        // European sprint only: a point for each regular member
     Figure bonusPoints;
     Figure total;
 

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// How fast contacts come: the last ten minutes, the last hour, the time since the last one.
+#pragma once
+
+#include "log/log.h"
+#include "output/score/contactdate.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+struct UtcTime;
+
+struct Pace {
+    int lastTenMinutes = 0;
+    std::optional<int> minutesSinceLast{}; // nothing without any contact
+    std::array<int, 12> perFiveMinutes{};  // of the last hour, oldest first
+};
+
+// The minutes of the contacts that have one, duplicates too: they were worked.
+std::vector<Moment> momentsOf(const Contacts& contacts);
+
+// As of `now`; contacts that lie behind it (another clock) count as made now.
+Pace paceOf(const std::vector<Moment>& moments, Moment now);
+
+// The minute that a contact logged now would have. Nothing when the clock shows no date.
+std::optional<Moment> momentOf(const UtcTime& utc);
+
+// "5 (30/h)", "LAST 3 MIN AGO" (empty without a contact), "12 contacts in the last hour".
+std::string rateText(const Pace& pace);
+std::string lastText(const Pace& pace);
+std::string hourText(const Pace& pace);
+
+} // namespace vantrel

@@ -5,6 +5,7 @@
 #include "k3y/frmK3YStandings.h"
 #include "k3y/frmK3Ybox.h"
 #include "k3y/frmVantrelCallArea.h"
+#include "logedit/frmLogPage.h"
 #include "logedit/frmVantrelCorrect.h"
 #include "logedit/frmVantrelDelete.h"
 #include "logedit/frmVantrelEDITcbr.h"
@@ -110,6 +111,11 @@ void AppScreens::openFor(QWidget* opener, Screen screen) {
     if (form->windowType() != Qt::ToolTip) // nothing returns to the dupe screen
         m_lastOpened = form;
     form->open(opener);
+}
+
+void AppScreens::openContact(Screen page, int contact, bool shown) {
+    static_cast<frmLogPage*>(formOf(page))->startAt(contact, shown);
+    open(page);
 }
 
 void AppScreens::openList(ListedFile file) {

@@ -76,7 +76,7 @@ protected:
         }
     }
 
-    Module1& shared() { return m_context.shared; }
+    Module1& shared() const { return m_context.shared; }
     Platform& platform() { return m_context.platform; }
     Screens& screens() { return m_context.screens; }
     Messages& messages() { return m_context.platform.messages; }

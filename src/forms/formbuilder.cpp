@@ -216,6 +216,29 @@ QColor cautionColour(const QPalette& palette) {
     return isDark(palette) ? QColor(0xF0, 0xB0, 0x40) : QColor(0x8A, 0x55, 0);
 }
 
+QColor goodColour(const QPalette& palette) {
+    return isDark(palette) ? QColor(0x60, 0xD0, 0x60) : QColor(0, 0x70, 0x20);
+}
+
+void setTextColour(QWidget* label, const QColor& colour) {
+    QPalette palette;
+    if (colour.isValid())
+        palette.setColor(QPalette::WindowText, colour);
+    label->setPalette(palette);
+}
+
+void setTinted(QWidget* box, bool tinted) {
+    QPalette palette;
+    if (tinted) {
+        const QColor ground = QApplication::palette().color(QPalette::Base);
+        const QColor accent = QApplication::palette().color(QPalette::Highlight);
+        palette.setColor(QPalette::Base, QColor((ground.red() * 5 + accent.red()) / 6,
+                                                (ground.green() * 5 + accent.green()) / 6,
+                                                (ground.blue() * 5 + accent.blue()) / 6));
+    }
+    box->setPalette(palette);
+}
+
 void setColumns(QLineEdit* box, int columns) {
     const QFontMetrics metrics(box->font());
     // A digit is as wide as most capitals; a frame and the cursor need two more.

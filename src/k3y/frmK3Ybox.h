@@ -3,7 +3,7 @@
 #pragma once
 
 #include "forms/form.h"
-#include "screens/main/k3ystation.h"
+#include "k3y/k3ystation.h"
 
 #include <array>
 

@@ -8,6 +8,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace vantrel {
@@ -48,6 +49,20 @@ std::string workedLine(std::string_view contact) {
            std::string(qso::hisState.of(contact)) + " | " +
            std::string(qso::frequency.of(contact)) + " | " + std::string(qso::time.of(contact)) +
            " | " + std::string(qso::date.of(contact)) + '|' + std::string(qso::marker.of(contact));
+}
+
+WorkedKind kindOf(std::string_view workedLine) {
+    if (markerOf(workedLine) == dupeMarker)
+        return WorkedKind::dupe;
+    constexpr Column fields[] = {{13, 10}, {24, 6}, {33, 3}}; // name, number, state
+    const bool missing = std::any_of(std::begin(fields), std::end(fields), [&](Column field) {
+        return trim(field.of(workedLine)).empty();
+    });
+    return missing ? WorkedKind::incomplete : WorkedKind::complete;
+}
+
+std::string_view markerOf(std::string_view workedLine) {
+    return trim(midToEnd(workedLine, 65));
 }
 
 void Log::open(const std::string& name) {

@@ -30,6 +30,12 @@ Contacts contactsIn(std::string_view logBytes);
 // or the bare four of "DUPE"). 70 columns, 68 with "DUPE".
 std::string workedLine(std::string_view contact);
 
+// Why a worked-stations line stands out: a duplicate, or a name, state or number that is missing.
+enum class WorkedKind { complete, incomplete, dupe };
+WorkedKind kindOf(std::string_view workedLine);
+// The last field of a worked-stations line, without its blanks: a K3Y tag, "DUPE" or nothing.
+std::string_view markerOf(std::string_view workedLine);
+
 class Log {
 public:
     static constexpr int capacity = 12000;

@@ -18,6 +18,11 @@ frmLogPage::frmLogPage(const FormContext& context, const char* name, const char*
     openAtPageSize();
 }
 
+void frmLogPage::startAt(int contact, bool shown) {
+    m_startContact = contact;
+    m_startShown = shown;
+}
+
 QWidget* frmLogPage::firstFocus() {
     return m_callBox;
 }

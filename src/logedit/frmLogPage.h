@@ -17,6 +17,10 @@ namespace vantrel {
 class frmLogPage : public Form {
     Q_OBJECT
 
+public:
+    // The contact, 1 to the log's count, that the page opens on; see Screens::openContact.
+    void startAt(int contact, bool shown);
+
 protected:
     frmLogPage(const FormContext& context, const char* name, const char* caption);
 
@@ -74,6 +78,8 @@ private:
     QLabel* m_messageLabel = nullptr;
 
     LogEdit m_log;
+    int m_startContact = 0; // 0: none
+    bool m_startShown = false;
 };
 
 } // namespace vantrel

@@ -77,6 +77,9 @@ public:
     // Closes `current` and opens `next` in its place: closing that one leads to where closing
     // `current` would have led.
     virtual void replace(Screen current, Screen next) = 0;
+    // A page of log maintenance on one contact of the log, 1 to its count. shown: it stands in the
+    // boxes as if searched for; otherwise only its call does.
+    virtual void openContact(Screen page, int contact, bool shown) = 0;
     // The lines of the log or of its ADIF file.
     virtual void openList(ListedFile file) = 0;
     // The lines of a roster file; path: as text to show.

@@ -3,11 +3,11 @@
 // every field in its columns, and every reader finds it there.
 #include "fakes/fakeclock.h"
 #include "fuzz/fuzztarget.h"
+#include "k3y/k3ystation.h"
 #include "log/log.h"
 #include "log/logfile.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
-#include "screens/main/k3ystation.h"
 #include "screens/main/qsoentry.h"
 #include "screens/start/startlists.h"
 #include "shared/settings.h"

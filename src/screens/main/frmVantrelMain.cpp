@@ -4,14 +4,20 @@
 #include "base/fixedtext.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "forms/linelistmodel.h"
+#include "forms/markedlabel.h"
+#include "k3y/k3ystation.h"
+#include "k3y/standings.h"
+#include "output/score/scoregain.h"
+#include "output/score/scorereport.h"
 #include "platform/files.h"
 #include "platform/serialport.h"
 #include "rig/catlink.h"
 #include "screens/main/bandring.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
-#include "screens/main/k3ystation.h"
+#include "screens/main/frmContestPanel.h"
+#include "screens/main/frmSuggestionList.h"
+#include "screens/main/frmWorkedList.h"
 #include "screens/main/workedbefore.h"
 #include "shared/utctime.h"
 
@@ -19,6 +25,7 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -30,8 +37,10 @@ namespace vantrel {
 namespace {
 
 constexpr double entryEnlargement = 1.5;
-constexpr double workedBeforeEnlargement = 1.1;
+constexpr double hintEnlargement = 1.1;
+constexpr double statusEnlargement = 1.4;
 constexpr int workedBeforeColumns = 80;
+constexpr std::size_t mostMembers = 12;
 constexpr std::string_view startFrequency = "14.050";
 
 } // namespace
@@ -69,7 +78,7 @@ void frmVantrelMain::createControls() {
     m_audioButton = build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ");
     m_pageCommands = pageCommands();
     m_countBox = build.output("Text1");
-    m_workedList = build.list("List1");
+    m_workedList = new WorkedList(this);
     m_bandLabel = build.label("Label10");
     m_autoReadLabel = build.label("Label11");
     m_fileLabel = build.label("Label12");
@@ -77,16 +86,26 @@ void frmVantrelMain::createControls() {
     m_stationLabel = build.label("Label23");
     m_markerLabel = build.label("Label25");
     m_hintLabel = build.label("Label26");
-    m_workedBeforeLabel = build.label("Label24");
-    m_workedLines = new LineListModel(this);
-    m_workedList->setModel(m_workedLines);
+    m_workedBeforeLabel = new MarkedLabel(this);
+    m_workedBeforeLabel->setObjectName(QStringLiteral("Label24"));
+    m_workedBeforeLabel->setTextFormat(Qt::PlainText);
+    m_clockLabel = build.label("Label27");
+    m_whoLabel = build.label("Label28");
+    m_suggestions = new SuggestionList(this);
+    m_autoReadButton =
+        build.command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON");
+    m_readDot = build.caption("");
+    m_panel = new ContestPanel(this);
 }
 
 // The commands that lead to other pages.
 QHBoxLayout* frmVantrelMain::pageCommands() {
-    using Action = std::function<void(Screens&, const OperatingSettings&)>;
-    const auto opens = [](Screen screen) -> Action {
-        return [screen](Screens& screens, const OperatingSettings&) { screens.open(screen); };
+    using Action = std::function<void()>;
+    const auto opens = [this](Screen screen) -> Action {
+        return [this, screen] { screens().open(screen); };
+    };
+    const auto opensOnContact = [this](Screen page, bool shown) -> Action {
+        return [this, page, shown] { openOnContact(page, chosenContact(), shown); };
     };
     const struct {
         const char* name;
@@ -94,28 +113,26 @@ QHBoxLayout* frmVantrelMain::pageCommands() {
         const char* toolTip;
         Action action;
     } commands[] = {
-        {"Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE", opens(Screen::correct)},
-        {"Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE", opens(Screen::deletion)},
+        {"Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
+         opensOnContact(Screen::correct, true)},
+        {"Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
+         opensOnContact(Screen::deletion, false)},
         {"Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
-         [](Screens& screens, const OperatingSettings&) { screens.openList(ListedFile::log); }},
+         [this] { screens().openList(ListedFile::log); }},
         {"Command9", "F&ILES", "FILE MAINTENANCE PAGE", opens(Screen::files)},
         {"Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK", opens(Screen::backup)},
         // In the event month the standings take the place of the score.
         {"Command11", "S&CORE", "CALCULATES CURRENT SCORE ",
-         [](Screens& screens, const OperatingSettings& settings) {
-             screens.open(settings.isK3y() ? Screen::standings : Screen::score);
-         }},
+         [this] { screens().open(shared().settings.isK3y() ? Screen::standings : Screen::score); }},
         {"Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD", opens(Screen::bonus)},
-        {"Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM",
-         [](Screens& screens, const OperatingSettings&) { screens.quit(); }},
+        {"Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM", [this] { screens().quit(); }},
     };
     FormBuilder build(this);
     auto* row = new QHBoxLayout;
     for (const auto& [name, caption, toolTip, action] : commands) {
         QPushButton* button = build.command(name, caption, toolTip);
-        connect(button, &QPushButton::clicked, this, [this, action = action] {
-            runHandler([&] { action(screens(), shared().settings); });
-        });
+        connect(button, &QPushButton::clicked, this,
+                [this, action = action] { runHandler(action); });
         row->addWidget(button);
     }
     return row;
@@ -135,12 +152,23 @@ void frmVantrelMain::connectHandlers() {
     onClick(m_upButton, &Main::upClicked);
     onClick(m_downButton, &Main::downClicked);
     onClick(m_frequencyButton, &Main::frequencyClicked);
+    onClick(m_autoReadButton, &Main::autoReadClicked);
     connectHandler(m_stationOption, &QRadioButton::clicked, this, &Main::stationClicked);
 }
 
 void frmVantrelMain::connectEntryBoxes() {
     using Main = frmVantrelMain;
     connectHandler(m_boxes.call, &QLineEdit::textEdited, this, &Main::callEdited);
+    connectHandler(m_suggestions, &SuggestionList::chosen, this, &Main::memberChosen);
+    connectHandler(m_suggestions, &SuggestionList::left, this, &Main::toCallBox);
+    connectHandler(m_workedList, &QListView::doubleClicked, this, &Main::contactChosen);
+    connectHandler(new QShortcut(QKeySequence(QStringLiteral("Alt+K")), this),
+                   &QShortcut::activated, this, &Main::stationClicked);
+    for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
+        connect(box, &QLineEdit::textEdited, box, [box] { setTinted(box, false); });
+    m_second = new QTimer(this);
+    m_second->setInterval(1000);
+    connectHandler(m_second, &QTimer::timeout, this, &Main::secondPassed);
     connectHandler(m_boxes.call, &QLineEdit::returnPressed, this, &Main::searchClicked);
     connectHandler(m_boxes.number, &QLineEdit::returnPressed, this, &Main::logClicked);
     connectHandler(m_boxes.frequency, &QLineEdit::returnPressed, this, &Main::frequencyClicked);
@@ -152,10 +180,14 @@ void frmVantrelMain::connectEntryBoxes() {
 void frmVantrelMain::load() {
     const OperatingSettings& settings = shared().settings;
     put(m_fileLabel, "FILE NAME:  " + settings.logFileName);
+    setWindowTitle(toQt(settings.myCall + " " + settings.contestCode + " " + settings.logFileName +
+                        " - Vantrel"));
+    put(m_whoLabel, settings.myCall + "  " + settings.contestCode);
     put(m_dupeModeLabel, settings.logsDupes() ? "Dupes Are Logged" : "Dupes Not Logged");
     showFrequency(std::string(startFrequency));
-    put(m_autoReadLabel,
-        autoReadText(settings.hasRadio() ? ReadOutcome::read : ReadOutcome::noRadio));
+    m_autoReads = true;
+    showRead(settings.hasRadio() ? ReadOutcome::read : ReadOutcome::noRadio);
+    m_readDot->clear(); // nothing was read yet
     setMarker(noMarker);
     showHint(Hint());
     clearEntry(Left::nothing);
@@ -165,6 +197,8 @@ void frmVantrelMain::load() {
     put(m_audioButton, "AUDIO ON");
     runHandler([this] { shared().log.open(shared().settings.logFileName); });
     m_radioReadDue = settings.hasRadio();
+    m_second->start();
+    secondPassed();
     update();
 }
 
@@ -199,7 +233,60 @@ bool frmVantrelMain::eventFilter(QObject* receiver, QEvent* event) {
         QCoreApplication::sendEvent(m_boxes.call, event);
         return true;
     }
-    return Form::eventFilter(receiver, event);
+    bool taken = false;
+    if (receiver == m_boxes.call)
+        runHandler([&] { taken = callBoxTakes(*key); });
+    else if (receiver == m_workedList)
+        runHandler([&] { taken = workedListTakes(*key); });
+    return taken || Form::eventFilter(receiver, event);
+}
+
+// Keys that lead from the call box to what stands below it.
+bool frmVantrelMain::callBoxTakes(const QKeyEvent& key) {
+    if (key.modifiers().testFlag(Qt::AltModifier))
+        return false;
+    switch (key.key()) {
+    case Qt::Key_Down:
+        return m_suggestions->takeFocus();
+    case Qt::Key_Up:
+        if (!m_boxes.call->text().isEmpty() || m_workedList->model()->rowCount() == 0)
+            return false;
+        m_workedList->setCurrentIndex(
+            m_workedList->model()->index(m_workedList->model()->rowCount() - 1, 0));
+        m_workedList->setFocus();
+        return true;
+    case Qt::Key_Space:
+        return toFirstEmptyBox();
+    default:
+        return false;
+    }
+}
+
+bool frmVantrelMain::workedListTakes(const QKeyEvent& key) {
+    const QModelIndex chosen = m_workedList->currentIndex();
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (key.key() == Qt::Key_Escape)
+        toCallBox();
+    else if (enter && chosen.isValid())
+        contactChosen(chosen);
+    else if (key.key() == Qt::Key_Delete && chosen.isValid())
+        openOnContact(Screen::deletion, chosen.row() + 1, true);
+    else
+        return false;
+    return true;
+}
+
+// Space after a search that left the name empty: what is missing is typed next.
+bool frmVantrelMain::toFirstEmptyBox() {
+    if (!m_searched || textOf(m_boxes.call) != m_searched->call ||
+        !trim(textOf(m_boxes.name)).empty())
+        return false;
+    for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
+        if (trim(textOf(box)).empty()) {
+            box->setFocus(Qt::TabFocusReason);
+            break;
+        }
+    return true;
 }
 
 bool frmVantrelMain::isForCallBox(const QWidget& widget, const QKeyEvent& key) {
@@ -221,7 +308,8 @@ void frmVantrelMain::closeEvent(QCloseEvent* event) {
 void frmVantrelMain::callEdited() {
     resetDupeMarker();
     m_searched.reset();
-    showWorkedBefore();
+    showWhoIsIt();
+    showMembers();
     if (!m_lookedUp)
         return;
     Entry typed = m_boxes.entry();
@@ -232,18 +320,49 @@ void frmVantrelMain::callEdited() {
     m_boxes.call->setCursorPosition(cursor);
 }
 
-// Only shows, in red where SEARCH would call it a duplicate on the present band.
-void frmVantrelMain::showWorkedBefore() {
+// Who that may be, while he is being typed: calls worked (in red where SEARCH would find a
+// duplicate on the present band), members, bands.
+void frmVantrelMain::showWhoIsIt() {
     const std::string typed = textOf(m_boxes.call);
-    const std::string mhz = completedFrequency(frequencyAsEntered(textOf(m_boxes.frequency)));
-    const std::string text = workedBefore(shared().log.contacts(), typed, workedBeforeColumns);
-    const bool duplicate =
-        !text.empty() && !duplicateOf(shared().log.contacts(), typed, bandTagOf(mhz)).empty();
-    QPalette colours(palette());
-    if (duplicate)
-        colours.setColor(QPalette::WindowText, warningColour(colours));
-    m_workedBeforeLabel->setPalette(colours);
-    put(m_workedBeforeLabel, text);
+    const std::string bandTag = presentBandTag();
+    const Contacts& contacts = shared().log.contacts();
+    const std::vector<WorkedCall> worked =
+        workedBefore(contacts, typed, bandTag, workedBeforeColumns);
+    std::vector<MarkedLabel::Run> runs;
+    for (const WorkedCall& call : worked) {
+        const bool first = runs.empty() || call.text == "...";
+        runs.push_back({toQt((first ? "" : "  ") + call.text), call.dupe});
+    }
+    m_workedBeforeLabel->setRuns(std::move(runs));
+    m_panel->showBands(bandTable(contacts, typed, bandTag, shared().settings.isK3y()));
+}
+
+void frmVantrelMain::showMembers() {
+    const std::string typed(trim(textOf(m_boxes.call)));
+    std::vector<SuggestionList::Line> shown;
+    if (length(typed) > 1)
+        for (const Member& member : m_roster.membersLike(typed, mostMembers)) {
+            const std::string call(trim(member.call));
+            const bool dupe =
+                !duplicateOf(shared().log.contacts(), call + ' ', presentBandTag()).empty();
+            shown.push_back({call,
+                             call + ' ' + std::string(trim(member.name)) + ' ' +
+                                 std::string(trim(member.state)) + ' ' +
+                                 std::string(trim(member.number)),
+                             dupe});
+        }
+    m_suggestions->setLines(std::move(shown));
+}
+
+std::string frmVantrelMain::presentBandTag() const {
+    return bandTagOf(completedFrequency(frequencyAsEntered(textOf(m_boxes.frequency))));
+}
+
+// As if it had been typed: the next Enter is SEARCH.
+void frmVantrelMain::memberChosen(const QString& call) {
+    m_boxes.call->setText(call);
+    callEdited();
+    toCallBox();
 }
 
 void frmVantrelMain::searchClicked() {
@@ -278,6 +397,8 @@ void frmVantrelMain::searchClicked() {
     m_searched = Searched{typed.call, typed.number, bandTagOf(typed.frequency)};
     if (refusesDupe())
         return;
+    if (m_lookedUp)
+        tellGain(typed);
     if (marker != noMarker && marker != dupeMarker)
         showHint(takenBackHint(marker));
     toCallBox();
@@ -291,8 +412,11 @@ bool frmVantrelMain::lookUpAndShow(Entry& typed) {
     const LookupOutcome outcome = lookUp(typed, m_roster);
     showEntry(typed);
     showHint(lookupHint(outcome, call, m_roster.hasMembers()));
-    if (outcome == LookupOutcome::found)
+    if (outcome == LookupOutcome::found) {
         m_lookedUp = typed;
+        for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
+            setTinted(box, true);
+    }
     return outcome != LookupOutcome::nobody;
 }
 
@@ -320,6 +444,21 @@ bool frmVantrelMain::refusesDupe() {
     if (k3yDupe)
         messages().show({std::string(duplicateQsoText), BoxIcon::exclamation});
     return false;
+}
+
+// After a hit the hint line adds what this contact would bring.
+void frmVantrelMain::tellGain(Entry typed) {
+    const OperatingSettings& settings = shared().settings;
+    if (settings.isK3y())
+        return;
+    ContactFields contact = contactFrom(typed, settings, shared().marker,
+                                        utcTime(platform().clock.now(), settings.gmtOffset));
+    if (enterFrequency(contact, typed.frequency, settings) != FrequencyCheck::good)
+        return;
+    const std::string gain =
+        scoreGain(shared().log.contacts(), m_score, assembleLine(contact), settings);
+    if (!gain.empty())
+        showHint({textOf(m_hintLabel) + "   " + gain});
 }
 
 // A mark belongs to the band it was found on: on another one the test is made again. False when
@@ -437,13 +576,17 @@ void frmVantrelMain::frequencyEntered() {
 bool frmVantrelMain::showFrequency(const std::string& mhz) {
     if (textOf(m_boxes.frequency) != mhz)
         put(m_boxes.frequency, mhz);
+    // Outside the six bands the label stays as it was, and says so by its colour.
+    const bool isShown = !bandTextOf(mhz, "").empty();
     put(m_bandLabel, bandTextOf(mhz, textOf(m_bandLabel)));
-    showWorkedBefore();
+    setTextColour(m_bandLabel, isShown ? QColor() : cautionColour(palette()));
+    showWhoIsIt();
     return recheckOn(bandTagOf(completedFrequency(mhz)));
 }
 
 void frmVantrelMain::readClicked() {
     const InputHold::Scope hold(m_hold);
+    m_autoReads = true;
     Entry typed = m_boxes.entry();
     if (readRadio(typed))
         toCallBox();
@@ -453,10 +596,11 @@ void frmVantrelMain::readClicked() {
 // does not answer is reported and the frequency in the box stands. False when the program is
 // being closed: the handler then ends at once.
 bool frmVantrelMain::readRadio(Entry& typed) {
-    const ReadResult result = readFrequency(shared().settings, platform().serialPort);
+    const ReadResult result = m_autoReads ? readFrequency(shared().settings, platform().serialPort)
+                                          : ReadResult{ReadOutcome::noRadio};
     if (result.outcome == ReadOutcome::cancelled)
         return false;
-    put(m_autoReadLabel, autoReadText(result.outcome));
+    showRead(result.outcome);
     if (result.outcome == ReadOutcome::read) {
         typed.frequency = result.frequency;
         showFrequency(typed.frequency);
@@ -464,6 +608,22 @@ bool frmVantrelMain::readRadio(Entry& typed) {
     if (result.outcome == ReadOutcome::failed)
         messages().show(result.message);
     return true;
+}
+
+// Off, a dead radio costs no more boxes; FREQ then turns the reading on again.
+void frmVantrelMain::autoReadClicked() {
+    m_autoReads = !m_autoReads;
+    showRead(m_autoReads && shared().settings.hasRadio() ? ReadOutcome::noReader
+                                                         : ReadOutcome::noRadio);
+    toCallBox();
+}
+
+// A dot before the label: green after a good read, red after a failed one, none when off.
+void frmVantrelMain::showRead(ReadOutcome outcome) {
+    put(m_autoReadLabel, autoReadText(outcome));
+    const bool read = outcome == ReadOutcome::read;
+    m_readDot->setText(read || outcome == ReadOutcome::failed ? QString(QChar(0x25CF)) : QString());
+    setTextColour(m_readDot, read ? goodColour(palette()) : warningColour(palette()));
 }
 
 void frmVantrelMain::upClicked() {
@@ -499,7 +659,7 @@ void frmVantrelMain::stationClicked() {
 
 void frmVantrelMain::showEntry(const Entry& entry) {
     m_boxes.show(entry);
-    showWorkedBefore();
+    showWhoIsIt();
 }
 
 // What is cleared can be brought back until something else is.
@@ -507,7 +667,10 @@ void frmVantrelMain::clearEntry(Left left) {
     if (const Entry typed = m_boxes.entry(); !trim(typed.call).empty())
         m_cleared = Cleared{typed, m_lookedUp};
     m_boxes.clear(left == Left::oneBlank ? " " : "");
-    showWorkedBefore();
+    for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
+        setTinted(box, false);
+    showWhoIsIt();
+    showMembers();
     m_lookedUp.reset();
     m_searched.reset();
     resetDupeMarker();
@@ -522,7 +685,7 @@ void frmVantrelMain::bringBack() {
     m_lookedUp = m_cleared->lookedUp;
     m_cleared.reset();
     m_broughtBack = true;
-    showWorkedBefore();
+    showWhoIsIt();
     showHint(Hint());
 }
 
@@ -533,9 +696,55 @@ void frmVantrelMain::showStation(const std::string& text) {
 }
 
 void frmVantrelMain::showLog() {
-    put(m_countBox, countText(shared().log.count()));
-    m_workedLines->setLines(shared().log.worked());
-    m_workedList->scrollToBottom();
+    const Log& log = shared().log;
+    put(m_countBox, countText(log.count()));
+    m_workedList->setLines(log.worked());
+    m_moments = momentsOf(log.contacts());
+    m_paceShownAt.reset();
+    showScore();
+    secondPassed();
+    showWhoIsIt();
+}
+
+void frmVantrelMain::showScore() {
+    const Contacts& contacts = shared().log.contacts();
+    if (shared().settings.isK3y()) {
+        const Integer16 areas = areaStandings(contacts).total();
+        const Integer16 regions = regionStandings(contacts).total();
+        m_panel->showScore((areas + regions).text(),
+                           "AREAS " + areas.text() + ", REGIONS " + regions.text());
+        return;
+    }
+    m_score = computeScore(contacts, shared().settings);
+    m_panel->showScore(figureText(m_score.total), scoreSum(m_score));
+}
+
+// The one tick: changes what changed, clock and pace once a minute.
+void frmVantrelMain::secondPassed() {
+    const UtcTime utc = utcTime(platform().clock.now(), shared().settings.gmtOffset);
+    put(m_clockLabel, utc.time.substr(0, 2) + ':' + utc.time.substr(2));
+    const std::optional<Moment> now = momentOf(utc);
+    if (!now || m_paceShownAt == now)
+        return;
+    m_paceShownAt = now;
+    m_panel->showPace(paceOf(m_moments, *now));
+}
+
+// The contact of the line that is selected in the list; otherwise the last one.
+int frmVantrelMain::chosenContact() const {
+    const QModelIndex selected = m_workedList->currentIndex();
+    return selected.isValid() ? selected.row() + 1 : shared().log.count().value();
+}
+
+void frmVantrelMain::openOnContact(Screen page, int contact, bool shown) {
+    if (contact == 0)
+        screens().open(page);
+    else
+        screens().openContact(page, contact, shown);
+}
+
+void frmVantrelMain::contactChosen(const QModelIndex& index) {
+    openOnContact(Screen::correct, index.row() + 1, true);
 }
 
 void frmVantrelMain::setMarker(std::string_view marker) {
@@ -562,6 +771,7 @@ void frmVantrelMain::showHint(const Hint& hint) {
 }
 
 void frmVantrelMain::toCallBox() {
+    m_workedList->setCurrentIndex({});
     activateWindow();
     m_boxes.call->setFocus();
 }
@@ -570,23 +780,24 @@ void frmVantrelMain::toCallBox() {
 
 void frmVantrelMain::layOut() {
     // Long texts are cut at the window's edge; they must not widen it.
-    for (QLabel* label : {m_fileLabel, m_workedBeforeLabel, m_hintLabel})
+    for (QLabel* label : {m_fileLabel, m_hintLabel})
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    for (QLabel* label : {m_workedBeforeLabel, m_hintLabel}) {
-        label->setFont(enlargedFont(this, workedBeforeEnlargement));
-        label->setFixedHeight(label->sizeHint().height()); // the page must not jump
-    }
+    m_hintLabel->setFont(enlargedFont(this, hintEnlargement));
+    m_hintLabel->setFixedHeight(m_hintLabel->sizeHint().height()); // the page must not jump
     auto* page = new QVBoxLayout(this);
     page->addLayout(statusRow());
     page->addLayout(m_boxes.exchangeRow(this));
-    page->addWidget(m_workedBeforeLabel);
+    page->addLayout(whoIsItRow());
     page->addWidget(m_hintLabel);
     page->addLayout(frequencyRow());
-    page->addLayout(rowOf({m_searchButton, m_logButton, m_noLogButton, m_readButton, m_audioButton,
-                           m_stationOption, m_stationLabel, m_markerLabel}));
-    page->addWidget(workedHeadings());
-    page->addWidget(m_workedList, 1);
+    auto* commands = rowOf({m_searchButton, m_logButton, m_noLogButton, m_readButton, m_audioButton,
+                            m_stationOption, m_stationLabel, m_markerLabel});
+    commands->addStretch();
+    page->addLayout(commands);
+    page->addLayout(contestRow(), 1);
     page->addLayout(m_pageCommands);
+    for (QPushButton* button : {m_searchButton, m_logButton})
+        button->setFont(enlargedFont(this, 1));
 }
 
 QHBoxLayout* frmVantrelMain::rowOf(std::initializer_list<QWidget*> controls) {
@@ -597,9 +808,21 @@ QHBoxLayout* frmVantrelMain::rowOf(std::initializer_list<QWidget*> controls) {
 }
 
 QHBoxLayout* frmVantrelMain::statusRow() {
-    QHBoxLayout* row = rowOf({m_fileLabel, m_dupeModeLabel, m_autoReadLabel});
-    row->setStretch(0, 1);
-    row->setSpacing(fontMetrics().averageCharWidth() * 4);
+    FormBuilder build(this);
+    m_whoLabel->setFont(enlargedFont(this, statusEnlargement));
+    m_clockLabel->setFont(enlargedFont(this, statusEnlargement));
+    QHBoxLayout* row = rowOf({m_whoLabel, m_fileLabel, m_dupeModeLabel, m_readDot, m_autoReadLabel,
+                              m_autoReadButton, m_clockLabel, build.caption("UTC", m_clockLabel)});
+    row->setStretch(1, 1);
+    return row;
+}
+
+// Calls worked on the left, members on the right, in one line that keeps its height.
+QHBoxLayout* frmVantrelMain::whoIsItRow() {
+    m_workedBeforeLabel->setFont(enlargedFont(this, hintEnlargement, false));
+    m_workedBeforeLabel->setFixedHeight(m_suggestions->height());
+    QHBoxLayout* row = rowOf({m_workedBeforeLabel, m_suggestions});
+    row->setStretch(1, 1);
     return row;
 }
 
@@ -608,35 +831,27 @@ QHBoxLayout* frmVantrelMain::frequencyRow() {
     for (QWidget* control : {static_cast<QWidget*>(m_boxes.frequency),
                              static_cast<QWidget*>(m_countBox), static_cast<QWidget*>(m_bandLabel)})
         control->setFont(enlargedFont(this, entryEnlargement));
-    setColumns(m_boxes.frequency, 6);
+    setColumns(m_boxes.frequency, 7);
     setColumns(m_countBox, 5);
     m_countBox->setAlignment(Qt::AlignCenter);
-    QHBoxLayout* row = rowOf({build.caption("FREQ MHz", m_boxes.frequency), m_boxes.frequency,
-                              m_frequencyButton, m_upButton, m_downButton, m_bandLabel,
-                              build.caption("QSOs", m_countBox), m_countBox});
-    row->setStretch(5, 1);
-    m_bandLabel->setAlignment(Qt::AlignCenter);
+    QHBoxLayout* row = rowOf({build.caption("FREQ &MHz", m_boxes.frequency), m_boxes.frequency,
+                              m_frequencyButton, m_upButton, m_downButton, m_bandLabel});
+    row->addStretch();
+    row->addWidget(build.caption("QSOs", m_countBox));
+    row->addWidget(m_countBox);
     return row;
 }
 
-// The headings stand over the columns of a worked-stations entry.
-QLabel* frmVantrelMain::workedHeadings() {
-    struct Heading {
-        int column;
-        std::string_view text;
-    };
-    constexpr Heading headings[] = {{1, "LAST CALL WKD "}, {15, "NAME"}, {24, "SKCC#"},
-                                    {33, "STATE"},         {39, "FREQ"}, {47, "TIME"},
-                                    {54, "DATE"},          {65, "DUPE"}};
-    std::string line;
-    for (const Heading& heading : headings)
-        line = leftAligned(line, heading.column - 1) + std::string(heading.text);
-    FormBuilder build(this);
-    QLabel* label = build.caption(line.c_str());
-    label->setFont(fixedWidthFont());
-    label->setIndent(m_workedList->frameWidth() +
-                     style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-    return label;
+// The list keeps its width and the panel follows it.
+QHBoxLayout* frmVantrelMain::contestRow() {
+    auto* worked = new QVBoxLayout;
+    worked->addWidget(m_workedList->headings(this));
+    worked->addWidget(m_workedList, 1);
+    auto* row = new QHBoxLayout;
+    row->addLayout(worked);
+    row->addWidget(m_panel);
+    row->addStretch();
+    return row;
 }
 
 } // namespace vantrel

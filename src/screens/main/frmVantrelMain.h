@@ -5,22 +5,28 @@
 
 #include "forms/form.h"
 #include "forms/inputhold.h"
+#include "output/score/score.h"
+#include "rig/catlink.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/frmEntryBoxes.h"
 #include "screens/main/hints.h"
+#include "screens/main/pace.h"
 
 #include <initializer_list>
 #include <optional>
 
 class QHBoxLayout;
 class QLabel;
-class QListView;
+class QTimer;
 class QPushButton;
 class QRadioButton;
 
 namespace vantrel {
 
-class LineListModel;
+class ContestPanel;
+class MarkedLabel;
+class SuggestionList;
+class WorkedList;
 struct Band;
 
 class frmVantrelMain : public Form, public MainPage {
@@ -62,7 +68,8 @@ private:
     QHBoxLayout* rowOf(std::initializer_list<QWidget*> controls);
     QHBoxLayout* statusRow();
     QHBoxLayout* frequencyRow();
-    QLabel* workedHeadings();
+    QHBoxLayout* whoIsItRow();
+    QHBoxLayout* contestRow();
     void connectHandlers();
     void connectEntryBoxes();
 
@@ -75,6 +82,7 @@ private:
     void noLogClicked();
     void frequencyClicked(); // and Enter in its box
     void readClicked();
+    void autoReadClicked();
     void upClicked();
     void downClicked();
     void audioClicked();
@@ -82,7 +90,20 @@ private:
 
     void showEntry(const Entry& entry);
     bool showFrequency(const std::string& mhz);
-    void showWorkedBefore();
+    void showWhoIsIt();
+    void showMembers();
+    std::string presentBandTag() const;
+    void memberChosen(const QString& call);
+    void contactChosen(const QModelIndex& index);
+    int chosenContact() const;
+    void openOnContact(Screen page, int contact, bool shown);
+    void tellGain(Entry typed);
+    void showScore();
+    void secondPassed();
+    void showRead(ReadOutcome outcome);
+    bool callBoxTakes(const QKeyEvent& key);
+    bool workedListTakes(const QKeyEvent& key);
+    bool toFirstEmptyBox();
     void frequencyEntered();
     bool lookUpAndShow(Entry& typed);
     bool refusesDupe();
@@ -102,12 +123,17 @@ private:
 
     EntryBoxes m_boxes;
     QLineEdit* m_countBox;
-    QListView* m_workedList;
+    WorkedList* m_workedList;
+    SuggestionList* m_suggestions;
+    ContestPanel* m_panel;
     QLabel* m_bandLabel;
     QLabel* m_autoReadLabel;
     QLabel* m_fileLabel;
     QLabel* m_dupeModeLabel;
-    QLabel* m_workedBeforeLabel;
+    MarkedLabel* m_workedBeforeLabel;
+    QLabel* m_clockLabel;
+    QLabel* m_whoLabel;
+    QLabel* m_readDot;
     QLabel* m_stationLabel;
     QLabel* m_markerLabel;
     QLabel* m_hintLabel;
@@ -120,15 +146,20 @@ private:
     QPushButton* m_upButton;
     QPushButton* m_downButton;
     QPushButton* m_frequencyButton;
+    QPushButton* m_autoReadButton;
+    QTimer* m_second;
 
     QHBoxLayout* m_pageCommands;
 
     InputHold m_hold; // what is typed while the radio is read
     Roster m_roster;
-    LineListModel* m_workedLines;
     std::optional<Entry> m_lookedUp; // what the last lookup filled in
     std::optional<Searched> m_searched;
     std::optional<Cleared> m_cleared;
+    Score m_score;
+    std::vector<Moment> m_moments;       // of the contacts
+    std::optional<Moment> m_paceShownAt; // the minute that the panel shows
+    bool m_autoReads = true;
     bool m_broughtBack = false;  // what is in the boxes was cleared before
     bool m_refusalShown = false; // in the hint line, until the next key
     bool m_radioReadDue = false; // the radio is read once after the first paint

@@ -5,7 +5,7 @@
 #include "log/qsoline.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 namespace vantrel {
 
@@ -13,10 +13,12 @@ namespace {
 
 constexpr int fewestTyped = 2;
 constexpr std::string_view more = "...";
+constexpr std::string_view between = "  ";
 
 struct Worked {
     std::string_view call;
     std::vector<std::string_view> bands;
+    bool dupe = false;
 };
 
 // "20" of "20M"; the kHz themselves outside the bands.
@@ -26,7 +28,8 @@ std::string_view bandName(std::string_view line) {
     return band == nullptr ? trim(khz) : band->label.substr(0, band->label.size() - 1);
 }
 
-std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed) {
+std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
+                               std::string_view bandTag) {
     std::vector<Worked> result;
     for (const std::string_view line : contacts) {
         if (mid(line, qso::hisCall.first, length(typed)) != typed)
@@ -39,6 +42,7 @@ std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed)
         const std::string_view band = bandName(line);
         if (std::find(entry->bands.begin(), entry->bands.end(), band) == entry->bands.end())
             entry->bands.push_back(band);
+        entry->dupe = entry->dupe || qso::bandTag.of(line) == bandTag;
     }
     return result;
 }
@@ -52,18 +56,29 @@ std::string textOf(const Worked& worked) {
 
 } // namespace
 
-std::string workedBefore(const Contacts& contacts, std::string_view typed, int columns) {
+std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view typed,
+                                     std::string_view bandTag, int columns) {
+    std::vector<WorkedCall> result;
     if (length(typed) < fewestTyped)
-        return {};
-    std::string result;
-    for (const Worked& worked : workedWith(contacts, typed)) {
-        std::string next = result.empty() ? "" : "  ";
-        next += textOf(worked);
-        if (length(result) + length(next) > columns)
-            return result + std::string(more);
-        result += next;
+        return result;
+    int width = 0;
+    for (const Worked& worked : workedWith(contacts, typed, bandTag)) {
+        std::string text = textOf(worked);
+        width += (result.empty() ? 0 : length(between)) + length(text);
+        if (width > columns) {
+            result.push_back({std::string(more), false});
+            break;
+        }
+        result.push_back({std::move(text), worked.dupe});
     }
     return result;
+}
+
+std::string joined(const std::vector<WorkedCall>& calls) {
+    std::string text;
+    for (const WorkedCall& call : calls)
+        text += (text.empty() || call.text == more ? "" : std::string(between)) + call.text;
+    return text;
 }
 
 } // namespace vantrel

@@ -6,12 +6,22 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantrel {
 
-// The logged calls that begin with what is typed, each with the bands it was worked on, in
-// the order of the log: "K1ABC 20 40  K1ABD 80". Empty for fewer than two characters. At most
-// as many calls as fit `columns` characters; "..." stands for the rest.
-std::string workedBefore(const Contacts& contacts, std::string_view typed, int columns);
+struct WorkedCall {
+    std::string text; // "K1ABC 20 40"; "..." for those that find no room
+    bool dupe;        // worked on the band of the frequency box
+};
+
+// The logged calls that begin with what is typed, each with the bands it was worked on, in the
+// order of the log. None for fewer than two characters. At most as many as fit `columns`
+// characters with two blanks between them.
+std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view typed,
+                                     std::string_view bandTag, int columns);
+
+// All of them as one text: "K1ABC 20 40  K1ABD 80...".
+std::string joined(const std::vector<WorkedCall>& calls);
 
 } // namespace vantrel

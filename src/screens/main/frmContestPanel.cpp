@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/frmContestPanel.h"
+
+#include "forms/controltext.h"
+#include "forms/formbuilder.h"
+#include "screens/main/frmPaceBars.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace vantrel {
+
+namespace {
+
+constexpr double totalEnlargement = 2.2;
+constexpr int bandColumns = 3; // band, contacts, the call being entered
+
+QFrame* card(QWidget* panel, QLayout* content) {
+    auto* frame = new QFrame(panel);
+    frame->setFrameShape(QFrame::StyledPanel);
+    frame->setLayout(content);
+    return frame;
+}
+
+QTableWidgetItem* cell(std::string_view text, bool bold, Qt::Alignment alignment) {
+    auto* item = new QTableWidgetItem(toQt(text));
+    QFont font = item->font();
+    font.setBold(bold);
+    item->setFont(font);
+    item->setTextAlignment(alignment | Qt::AlignVCenter);
+    return item;
+}
+
+std::string_view onBandText(CallOnBand onBand) {
+    switch (onBand) {
+    case CallOnBand::dupe:
+        return "DUPE";
+    case CallOnBand::worked:
+        return "worked";
+    case CallOnBand::notWorked:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
+    FormBuilder build(this);
+    m_totalLabel = build.label("Label29");
+    m_totalLabel->setFont(enlargedFont(this, totalEnlargement));
+    m_sumLabel = build.label("Label30");
+    auto* score = new QGridLayout;
+    score->addWidget(build.caption("TOTAL SCORE", m_totalLabel), 0, 0);
+    score->addWidget(m_sumLabel, 1, 0);
+    score->addWidget(m_totalLabel, 0, 1, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
+
+    m_rateLabel = build.label("Label31");
+    m_rateLabel->setFont(enlargedFont(this, 1));
+    m_lastLabel = build.label("Label32");
+    m_bars = new PaceBars(this);
+    m_bars->setObjectName(QStringLiteral("Picture1"));
+    auto* pace = new QGridLayout;
+    pace->addWidget(build.caption("LAST 10 MIN", m_rateLabel), 0, 0);
+    pace->addWidget(m_rateLabel, 0, 1, Qt::AlignRight);
+    pace->addWidget(m_bars, 1, 0, 1, 2);
+    pace->addWidget(build.caption("per 5 minutes, last hour"), 2, 0);
+    pace->addWidget(m_lastLabel, 2, 1, Qt::AlignRight);
+
+    m_bandTable = new QTableWidget(0, bandColumns, this);
+    m_bandTable->setObjectName(QStringLiteral("Table1"));
+    m_bandTable->setAccessibleName(QStringLiteral("BANDS"));
+    m_bandTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_bandTable->setSelectionMode(QAbstractItemView::NoSelection);
+    m_bandTable->setFocusPolicy(Qt::NoFocus);
+    m_bandTable->setShowGrid(false);
+    m_bandTable->setFrameShape(QFrame::NoFrame);
+    m_bandTable->verticalHeader()->hide();
+    m_bandTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height());
+    m_bandTable->verticalHeader()->setMinimumSectionSize(fontMetrics().height());
+    m_bandTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_bandTable->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_bandTable->setHorizontalHeaderLabels(
+        {QStringLiteral("BAND"), QStringLiteral("QSOs"), QString()});
+    m_bandTable->horizontalHeaderItem(0)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (int column = 1; column < bandColumns; ++column)
+        m_bandTable->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight |
+                                                                    Qt::AlignVCenter);
+    auto* bands = new QVBoxLayout;
+    bands->setContentsMargins(0, 0, 0, 0);
+    bands->addWidget(m_bandTable);
+
+    auto* cards = new QVBoxLayout(this);
+    cards->setContentsMargins(0, 0, 0, 0);
+    cards->addWidget(card(this, score));
+    cards->addWidget(card(this, pace));
+    cards->addWidget(card(this, bands), 1);
+    setFixedWidth(fontMetrics().averageCharWidth() * 38);
+}
+
+void ContestPanel::showScore(std::string_view total, std::string_view sum) {
+    put(m_totalLabel, total);
+    put(m_sumLabel, sum);
+}
+
+void ContestPanel::showPace(const Pace& pace) {
+    put(m_rateLabel, rateText(pace));
+    put(m_lastLabel, lastText(pace));
+    m_bars->setPace(pace);
+}
+
+void ContestPanel::showBands(const BandTable& table) {
+    m_bandTable->horizontalHeaderItem(bandColumns - 1)->setText(toQt(table.call));
+    m_bandTable->setRowCount(static_cast<int>(table.rows.size()));
+    for (int row = 0; row < m_bandTable->rowCount(); ++row) {
+        const BandRow& band = table.rows[static_cast<std::size_t>(row)];
+        m_bandTable->setItem(row, 0, cell(band.name, band.present, Qt::AlignLeft));
+        const std::string count = band.contacts == 0 ? "-" : std::to_string(band.contacts);
+        m_bandTable->setItem(row, 1, cell(count, band.present, Qt::AlignRight));
+        QTableWidgetItem* onBand = cell(onBandText(band.onBand), band.present, Qt::AlignRight);
+        if (band.onBand == CallOnBand::dupe)
+            onBand->setForeground(warningColour(palette()));
+        m_bandTable->setItem(row, 2, onBand);
+    }
+}
+
+} // namespace vantrel

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/frmPaceBars.h"
+
+#include "platform/qt/latin1.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+constexpr int linesHigh = 3;
+constexpr int charactersWide = 26;
+constexpr int gap = 3; // pixels between bars
+} // namespace
+
+PaceBars::PaceBars(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void PaceBars::setPace(const Pace& pace) {
+    setAccessibleName(toQt(hourText(pace)));
+    if (m_pace.perFiveMinutes == pace.perFiveMinutes)
+        return;
+    m_pace = pace;
+    update();
+}
+
+QSize PaceBars::sizeHint() const {
+    return {fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh};
+}
+
+// The five minutes that run now stand out.
+void PaceBars::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const auto& bars = m_pace.perFiveMinutes;
+    const int highest = std::max(1, *std::max_element(bars.begin(), bars.end()));
+    const int ground = height() - 1;
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawLine(0, ground, width(), ground);
+    QColor past = palette().color(QPalette::Highlight);
+    past.setAlpha(0x80);
+    const int count = static_cast<int>(bars.size());
+    for (int i = 0; i < count; ++i) {
+        const int left = width() * i / count;
+        const int right = width() * (i + 1) / count - gap;
+        const int high = bars[static_cast<std::size_t>(i)] * ground / highest;
+        const QColor colour = i + 1 == count ? palette().color(QPalette::Highlight) : past;
+        painter.fillRect(QRect(left, ground - high, right - left, high), colour);
+    }
+}
+
+} // namespace vantrel

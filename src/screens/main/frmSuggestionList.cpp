@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/frmSuggestionList.h"
+
+#include "forms/formbuilder.h"
+#include "platform/qt/latin1.h"
+
+#include <QKeyEvent>
+#include <QStandardItemModel>
+
+namespace vantrel {
+
+namespace {
+constexpr int callRole = Qt::UserRole + 1;
+constexpr int spacingCharacters = 3;
+} // namespace
+
+SuggestionList::SuggestionList(QWidget* page)
+    : QListView(page), m_model(new QStandardItemModel(this)) {
+    setObjectName(QStringLiteral("List2"));
+    setToolTip(QStringLiteral("MEMBERS LIKE THE CALL - DOWN AND ENTER TAKES ONE"));
+    setModel(m_model);
+    setFlow(LeftToRight);
+    setWrapping(false);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(NoFrame);
+    viewport()->setAutoFillBackground(false);
+    setFixedHeight(fontMetrics().height() + 6);
+    connect(this, &QListView::clicked, this,
+            [this](const QModelIndex& index) { Q_EMIT chosen(index.data(callRole).toString()); });
+}
+
+void SuggestionList::setLines(std::vector<Line> lines) {
+    m_model->clear();
+    const int gap = fontMetrics().averageCharWidth() * spacingCharacters;
+    int used = 0;
+    for (const Line& line : lines) {
+        auto* item = new QStandardItem(toQt(line.dupe ? line.text + " DUPE" : line.text));
+        const int width = fontMetrics().horizontalAdvance(item->text()) + gap;
+        used += width;
+        if (used > viewport()->width()) {
+            delete item;
+            return;
+        }
+        item->setData(toQt(line.call), callRole);
+        item->setSizeHint({width, fontMetrics().height()});
+        if (line.dupe)
+            item->setForeground(warningColour(palette()));
+        m_model->appendRow(item);
+    }
+}
+
+bool SuggestionList::takeFocus() {
+    if (m_model->rowCount() == 0)
+        return false;
+    setCurrentIndex(m_model->index(0, 0));
+    setFocus();
+    return true;
+}
+
+void SuggestionList::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentIndex().isValid())
+        Q_EMIT chosen(currentIndex().data(callRole).toString());
+    else if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Up)
+        Q_EMIT left();
+    else
+        QListView::keyPressEvent(event);
+}
+
+} // namespace vantrel

@@ -95,27 +95,27 @@ bool Roster::hasMembers() {
     return false;
 }
 
-template <typename Test>
-void Roster::collect(std::vector<std::string_view>& records, Test test) {
-    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
-        for (const std::string_view record : current(file).records)
-            if (test(callOf(record)))
-                records.push_back(record);
-}
-
 std::vector<Member> Roster::membersLike(std::string_view text, std::size_t most) {
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
+        current(file); // none of them is read again while its records are looked at
     std::vector<std::string_view> records;
-    collect(records, [&](std::string_view call) { return call.starts_with(text); });
+    const auto collect = [&](const auto& test) {
+        for (const IndexedFile& file : m_indexed)
+            for (const std::string_view record : file.records)
+                if (test(callOf(record)))
+                    records.push_back(record);
+    };
+    collect([&](std::string_view call) { return call.starts_with(text); });
     std::stable_sort(records.begin(), records.end(), [](std::string_view a, std::string_view b) {
         return callOf(a).size() < callOf(b).size();
     });
     if (records.size() < most)
-        collect(records, [&](std::string_view call) {
+        collect([&](std::string_view call) {
             const std::size_t place = call.find(text);
             return place != 0 && place != call.npos;
         });
     if (records.empty())
-        collect(records, [&](std::string_view call) { return isOneLetterAway(text, call); });
+        collect([&](std::string_view call) { return isOneLetterAway(text, call); });
     records.resize(std::min(records.size(), most));
     std::vector<Member> members;
     for (const std::string_view record : records)

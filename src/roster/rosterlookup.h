@@ -69,9 +69,6 @@ private:
 
     static void indexRecords(IndexedFile& file);
     const IndexedFile& current(std::size_t file);
-    // Adds the records of the members whose call the test holds for.
-    template <typename Test>
-    void collect(std::vector<std::string_view>& records, Test test);
 
     const Files& m_files;
     std::array<IndexedFile, rosterFiles.size()> m_indexed;

@@ -446,17 +446,25 @@ bool frmVantrelMain::refusesDupe() {
     return false;
 }
 
-// After a hit the hint line adds what this contact would bring.
+// After a hit the hint line adds what this contact would bring. What cannot be logged brings
+// nothing: LOG says why.
 void frmVantrelMain::tellGain(Entry typed) {
     const OperatingSettings& settings = shared().settings;
     if (settings.isK3y())
         return;
-    ContactFields contact = contactFrom(typed, settings, shared().marker,
-                                        utcTime(platform().clock.now(), settings.gmtOffset));
-    if (enterFrequency(contact, typed.frequency, settings) != FrequencyCheck::good)
+    std::string line;
+    try {
+        ContactFields contact = contactFrom(typed, settings, shared().marker,
+                                            utcTime(platform().clock.now(), settings.gmtOffset));
+        if (enterFrequency(contact, typed.frequency, settings) != FrequencyCheck::good)
+            return;
+        line = assembleLine(contact);
+    } catch (const RuntimeError& error) {
+        if (error.code() != ErrorCode::invalidCall)
+            throw;
         return;
-    const std::string gain =
-        scoreGain(shared().log.contacts(), m_score, assembleLine(contact), settings);
+    }
+    const std::string gain = scoreGain(shared().log.contacts(), m_score, line, settings);
     if (!gain.empty())
         showHint({textOf(m_hintLabel) + "   " + gain});
 }

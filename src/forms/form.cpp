@@ -3,6 +3,10 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace vantrel {
 
@@ -19,8 +23,43 @@ void Form::open(QWidget* opener) {
     runHandler([this] { load(); });
     if (!self)
         return;
+    if (!isVisible())
+        placeOver(opener);
     show();
     bringToFront();
+}
+
+// Where the operator looks: over the page that opened it, wholly on that page's screen.
+void Form::placeOver(QWidget* below) {
+    if (!testAttribute(Qt::WA_Resized))
+        resize(sizeHint());
+    const auto* page = qobject_cast<Form*>(below);
+    if (page == nullptr)
+        return;
+    if (isOwnPage())
+        winId();
+    else
+        stayAbove(page);
+    const QRect under = page->frameGeometry();
+    QPoint corner = under.center() - rect().center();
+    if (m_isSmall)
+        corner.setY(std::max(corner.y(), page->mapToGlobal(QPoint(0, page->freeTop())).y()));
+    // The frame that the window manager will put around it is like that of the page.
+    const QRect frame = page->frameGeometry();
+    const QRect inside = page->geometry();
+    const QRect room = page->screen()->availableGeometry().adjusted(
+        inside.left() - frame.left(), inside.top() - frame.top(), inside.right() - frame.right(),
+        inside.bottom() - frame.bottom());
+    resize(size().boundedTo(room.size()));
+    corner.setX(std::clamp(corner.x(), room.left(), room.right() - width() + 1));
+    corner.setY(std::clamp(corner.y(), room.top(), room.bottom() - height() + 1));
+    move(corner);
+}
+
+// A click on the page below must not put it in front of this one.
+void Form::stayAbove(const QWidget* page) {
+    winId(); // makes the window that can be tied to the other
+    windowHandle()->setTransientParent(page->windowHandle());
 }
 
 void Form::bringToFront() {

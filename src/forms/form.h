@@ -47,8 +47,14 @@ protected:
     // The control that has the focus after opening and after every message box.
     virtual QWidget* firstFocus() { return nullptr; }
 
-    // For screens that are worked on; boxes that ask or tell one thing open as small as they are.
+    // For the two pages a contest is run from; all others open as large as what they hold.
     void openAtPageSize() { resize(800, 600); }
+    // A box that asks or tells one thing: it lies below what is being entered on the page.
+    void openSmall() { m_isSmall = true; }
+    // A page of its own is tied to no other window.
+    virtual bool isOwnPage() const { return false; }
+    // Down to which line of this page no small box may lie.
+    virtual int freeTop() const { return 0; }
 
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -82,8 +88,12 @@ protected:
     Messages& messages() { return m_context.platform.messages; }
 
 private:
+    void placeOver(QWidget* below);
+    void stayAbove(const QWidget* page);
+
     FormContext m_context;
     QPointer<QWidget> m_opener;
+    bool m_isSmall = false;
     bool m_gone = false;
 };
 

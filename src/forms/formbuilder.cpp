@@ -109,6 +109,12 @@ QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
     QLineEdit* box = named(new QLineEdit(m_form), name, toolTip);
     box->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
+    // To be read, not typed into: it looks like text.
+    box->setFrame(false);
+    box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QPalette flat(box->palette());
+    flat.setColor(QPalette::Base, Qt::transparent);
+    box->setPalette(flat);
     return box;
 }
 
@@ -128,8 +134,10 @@ QLabel* FormBuilder::caption(const char* text, QWidget* buddy) {
     label->setTextFormat(Qt::PlainText);
     label->setText(vantrel::text(text));
     label->setBuddy(buddy);
-    if (buddy != nullptr)
-        buddy->setAccessibleName(vantrel::text(text));
+    if (buddy == nullptr)
+        return label;
+    buddy->setAccessibleName(vantrel::text(text).remove(u'&'));
+    setTextColour(label, dimmedColour(label->palette()));
     return label;
 }
 
@@ -175,7 +183,9 @@ QLayout* FormBuilder::section(const char* title, QLayout* content) {
     frame->setAccessibleName(vantrel::text(title));
     frame->setLayout(content);
     auto* part = new QVBoxLayout;
-    part->addWidget(caption(title));
+    QLabel* heading = caption(title);
+    heading->setFont(enlargedFont(m_form, 1));
+    part->addWidget(heading);
     part->addWidget(frame, 1);
     return part;
 }
@@ -214,6 +224,14 @@ QColor warningColour(const QPalette& palette) {
 
 QColor cautionColour(const QPalette& palette) {
     return isDark(palette) ? QColor(0xF0, 0xB0, 0x40) : QColor(0x8A, 0x55, 0);
+}
+
+QColor dimmedColour(const QPalette& palette) {
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor ground = palette.color(QPalette::Window);
+    const auto between = [](int strong, int weak) { return (strong * 7 + weak * 3) / 10; };
+    return QColor(between(text.red(), ground.red()), between(text.green(), ground.green()),
+                  between(text.blue(), ground.blue()));
 }
 
 QColor goodColour(const QPalette& palette) {

@@ -22,7 +22,7 @@ public:
     // A one-line box that takes at most `width` characters; 0: no limit. What is typed takes
     // the place of the blanks that pad it.
     QLineEdit* text(const char* name, int width = 0, const char* toolTip = "");
-    // A box to read from only; out of the tab order.
+    // A figure to read: flat, right-aligned, out of the tab order.
     QLineEdit* output(const char* name, const char* toolTip = "");
     // A button whose Alt key clicks it at once.
     QPushButton* command(const char* name, const char* caption, const char* toolTip = "");
@@ -62,6 +62,8 @@ QFont familyFont(const QWidget* widget, const char* family);
 QColor warningColour(const QPalette& palette);
 QColor cautionColour(const QPalette& palette);
 QColor goodColour(const QPalette& palette);
+// For captions: weaker than what they name.
+QColor dimmedColour(const QPalette& palette);
 // A text in this colour; an invalid colour is the palette's own.
 void setTextColour(QWidget* label, const QColor& colour);
 // A box whose ground says that its text was looked up, not typed.

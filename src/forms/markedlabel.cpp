@@ -15,15 +15,28 @@ void MarkedLabel::setRuns(std::vector<Run> runs) {
         whole += run.text;
     m_runs = std::move(runs);
     setText(whole);
+    updateGeometry();
     update();
+}
+
+QSize MarkedLabel::sizeHint() const {
+    int width = 0;
+    for (const Run& run : m_runs)
+        width += QFontMetrics(fontOf(run)).horizontalAdvance(run.text);
+    return {width, QLabel::sizeHint().height()};
+}
+
+QFont MarkedLabel::fontOf(const Run& run) const {
+    QFont shown = font();
+    shown.setBold(run.marked);
+    return shown;
 }
 
 void MarkedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRect rest = contentsRect();
     for (const Run& run : m_runs) {
-        QFont shown = font();
-        shown.setBold(run.marked);
+        const QFont shown = fontOf(run);
         painter.setFont(shown);
         painter.setPen(run.marked ? warningColour(palette())
                                   : palette().color(QPalette::WindowText));

@@ -22,10 +22,15 @@ public:
     // The runs follow each other as they stand.
     void setRuns(std::vector<Run> runs);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QFont fontOf(const Run& run) const;
+
     std::vector<Run> m_runs;
 };
 

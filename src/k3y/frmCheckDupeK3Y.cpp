@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QWindow>
 
 namespace vantrel {
 
@@ -20,6 +19,7 @@ frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     : Form(context, "frmCheckDupeK3Y", "Dupe") {
     setWindowFlags(Qt::Dialog); // the one kind of window that is kept above another
     setWindowModality(Qt::ApplicationModal);
+    openSmall();
     createControls();
     connectHandler(m_logDupeButton, &QPushButton::clicked, this, &frmCheckDupeK3Y::logDupeClicked);
     connect(m_noLogButton, &QPushButton::clicked, this, &QWidget::close);
@@ -58,18 +58,9 @@ void frmCheckDupeK3Y::createControls() {
 }
 
 void frmCheckDupeK3Y::load() {
-    stayAbove(opener());
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
     m_timer->start();
-}
-
-// A click on the page that waits must not put it in front of the question it waits for.
-void frmCheckDupeK3Y::stayAbove(QWidget* page) {
-    if (page == nullptr)
-        return;
-    winId(); // makes the window that can be tied to the other
-    windowHandle()->setTransientParent(page->windowHandle());
 }
 
 QWidget* frmCheckDupeK3Y::firstFocus() {

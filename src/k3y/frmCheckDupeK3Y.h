@@ -25,7 +25,6 @@ protected:
 
 private:
     void createControls();
-    void stayAbove(QWidget* page);
 
     void logDupeClicked();
 

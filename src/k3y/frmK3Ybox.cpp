@@ -13,6 +13,7 @@ constexpr double headlineEnlargement = 1.3;
 
 // Every opening makes a fresh box: no option is chosen, whatever tag is in force.
 frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K3Y") {
+    openSmall();
     createControls();
     connectHandlers();
 }

@@ -15,6 +15,7 @@ constexpr double totalEnlargement = 2;
 
 frmCountBonus::frmCountBonus(const FormContext& context)
     : Form(context, "frmCountBonus", "Vantrel - Bonus") {
+    openSmall();
     FormBuilder build(this);
     m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE BONUS COUNT");
     m_total = build.label("Label1");

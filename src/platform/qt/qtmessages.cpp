@@ -4,8 +4,13 @@
 #include "platform/qt/latin1.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
+#include <QRegularExpression>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace vantrel {
 
@@ -23,6 +28,20 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+// Wide enough that a path is not broken in its middle.
+void widen(QMessageBox& box) {
+    constexpr int widestShare = 80; // per cent of the screen
+    const QString shown = box.text() + QLatin1Char('\n') + box.informativeText();
+    int width = 0;
+    for (const QString& word : shown.split(QRegularExpression(QStringLiteral("\\s+"))))
+        width = std::max(width, box.fontMetrics().horizontalAdvance(word));
+    const int widest = box.screen()->availableGeometry().width() * widestShare / 100;
+    for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"})
+        if (auto* label = box.findChild<QLabel*>(QLatin1String(name)))
+            label->setMinimumWidth(
+                std::min(width + 2 * box.fontMetrics().averageCharWidth(), widest));
+}
+
 int showBox(const Message& message, QMessageBox::StandardButtons buttons,
             QMessageBox::StandardButton escapeButton) {
     const QPointer<QWidget> parent(QApplication::activeWindow());
@@ -35,6 +54,7 @@ int showBox(const Message& message, QMessageBox::StandardButtons buttons,
     box.setInformativeText(toQt(message.informative));
     box.setStandardButtons(buttons);
     box.setEscapeButton(escapeButton);
+    widen(box);
     const int button = box.exec();
     // No window is active by itself after a box closes on every platform.
     if (parent)

@@ -67,7 +67,7 @@ ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
     pace->addWidget(build.caption("LAST 10 MIN", m_rateLabel), 0, 0);
     pace->addWidget(m_rateLabel, 0, 1, Qt::AlignRight);
     pace->addWidget(m_bars, 1, 0, 1, 2);
-    pace->addWidget(build.caption("per 5 minutes, last hour"), 2, 0);
+    pace->addWidget(build.caption("BY 5 MINUTES"), 2, 0);
     pace->addWidget(m_lastLabel, 2, 1, Qt::AlignRight);
 
     m_bandTable = new QTableWidget(0, bandColumns, this);
@@ -78,6 +78,9 @@ ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
     m_bandTable->setFocusPolicy(Qt::NoFocus);
     m_bandTable->setShowGrid(false);
     m_bandTable->setFrameShape(QFrame::NoFrame);
+    QPalette flat(m_bandTable->palette());
+    flat.setColor(QPalette::Base, flat.color(QPalette::Window));
+    m_bandTable->setPalette(flat);
     m_bandTable->verticalHeader()->hide();
     m_bandTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height());
     m_bandTable->verticalHeader()->setMinimumSectionSize(fontMetrics().height());
@@ -98,7 +101,7 @@ ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
     cards->addWidget(card(this, score));
     cards->addWidget(card(this, pace));
     cards->addWidget(card(this, bands), 1);
-    setFixedWidth(fontMetrics().averageCharWidth() * 38);
+    setFixedWidth(fontMetrics().averageCharWidth() * 40);
 }
 
 void ContestPanel::showScore(std::string_view total, std::string_view sum) {

@@ -43,6 +43,14 @@ void nextOnEnter(QLineEdit* box, QWidget* next) {
                      [next] { next->setFocus(Qt::TabFocusReason); });
 }
 
+// As wide as what the box holds: capitals, and the arrow of a list.
+int widthOf(const QWidget* box, int columns) {
+    const QFontMetrics metrics(box->font());
+    const int arrow = qobject_cast<const QComboBox*>(box) != nullptr ? metrics.height() : 0;
+    return metrics.horizontalAdvance(QString(columns, QLatin1Char('N'))) +
+           metrics.averageCharWidth() * 2 + arrow;
+}
+
 } // namespace
 
 EntryBoxes::EntryBoxes(QWidget* form) {
@@ -97,21 +105,19 @@ QGridLayout* EntryBoxes::exchangeRow(QWidget* form) const {
         const char* caption;
         QWidget* box;
         int columns;
-    } boxes[] = {{"HIS CALL", call, callWidth}, {"RST SENT", rstSent, 0},
-                 {"RST RCVD", rstReceived, 0},  {"NAME", name, nameWidth},
+    } boxes[] = {{"HIS CALL", call, callWidth}, {"RST SENT", rstSent, 3},
+                 {"RST RCVD", rstReceived, 3},  {"NAME", name, nameWidth},
                  {"STATE", state, stateWidth},  {"SKCC#", number, numberWidth}};
     FormBuilder build(form);
     auto* grid = new QGridLayout;
     int column = 0;
     for (const auto& [caption, box, columns] : boxes) {
         box->setFont(enlargedFont(form, enlargement));
-        if (auto* line = qobject_cast<QLineEdit*>(box))
-            setColumns(line, columns);
+        box->setFixedWidth(widthOf(box, columns));
         grid->addWidget(build.caption(caption, box), 0, column);
         grid->addWidget(box, 1, column++);
     }
-    grid->setColumnStretch(0, 3);
-    grid->setColumnStretch(3, 3);
+    grid->setColumnStretch(column, 1);
     return grid;
 }
 

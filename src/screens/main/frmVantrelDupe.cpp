@@ -45,7 +45,8 @@ void frmVantrelDupe::load() {
         platform().sound.playDupeAlarm();
     if (QWidget* below = opener()) {
         adjustSize();
-        move(below->geometry().center() - rect().center());
+        const QRect page = below->geometry();
+        move(page.center().x() - width() / 2, page.bottom() - height() - height() / 2);
         below->installEventFilter(this);
     }
 }

@@ -130,6 +130,10 @@ QHBoxLayout* frmVantrelMain::pageCommands() {
     FormBuilder build(this);
     auto* row = new QHBoxLayout;
     for (const auto& [name, caption, toolTip, action] : commands) {
+        if (name == std::string_view("Command6") || name == std::string_view("Command11"))
+            row->addSpacing(fontMetrics().averageCharWidth() * 2);
+        if (name == std::string_view("Command1"))
+            row->addStretch();
         QPushButton* button = build.command(name, caption, toolTip);
         connect(button, &QPushButton::clicked, this,
                 [this, action = action] { runHandler(action); });
@@ -295,6 +299,11 @@ bool frmVantrelMain::isForCallBox(const QWidget& widget, const QKeyEvent& key) {
                        (key.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier) == 0;
     return typed && (qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
                      qobject_cast<const QListView*>(&widget) != nullptr);
+}
+
+// Small boxes leave the boxes of the exchange free.
+int frmVantrelMain::freeTop() const {
+    return m_hintLabel->geometry().bottom();
 }
 
 void frmVantrelMain::closeEvent(QCloseEvent* event) {
@@ -839,9 +848,9 @@ QHBoxLayout* frmVantrelMain::frequencyRow() {
     for (QWidget* control : {static_cast<QWidget*>(m_boxes.frequency),
                              static_cast<QWidget*>(m_countBox), static_cast<QWidget*>(m_bandLabel)})
         control->setFont(enlargedFont(this, entryEnlargement));
-    setColumns(m_boxes.frequency, 7);
-    setColumns(m_countBox, 5);
-    m_countBox->setAlignment(Qt::AlignCenter);
+    m_boxes.frequency->setFixedWidth(QFontMetrics(m_boxes.frequency->font()).averageCharWidth() *
+                                     9);
+    m_countBox->setFixedWidth(QFontMetrics(m_countBox->font()).averageCharWidth() * 7);
     QHBoxLayout* row = rowOf({build.caption("FREQ &MHz", m_boxes.frequency), m_boxes.frequency,
                               m_frequencyButton, m_upButton, m_downButton, m_bandLabel});
     row->addStretch();

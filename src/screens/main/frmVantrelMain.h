@@ -45,6 +45,8 @@ protected:
     void load() override;
     void escapePressed() override { noLogClicked(); }
     QWidget* firstFocus() override;
+    bool isOwnPage() const override { return true; }
+    int freeTop() const override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* receiver, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -71,6 +71,7 @@ WorkedList::WorkedList(QWidget* page) : QListView(page), m_lines(new LineListMod
     setFont(fixedWidthFont());
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
+    setTextElideMode(Qt::ElideNone);
     setItemDelegate(new WorkedDelegate(this));
     setModel(m_lines);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/appscreens.h"
 
+#include "forms/frmVantrelHelp.h"
 #include "k3y/frmCheckDupeK3Y.h"
 #include "k3y/frmK3YStandings.h"
 #include "k3y/frmK3Ybox.h"
@@ -76,6 +77,8 @@ Form* AppScreens::make(Screen screen) {
         return new frmMemberImport(context, dataImportPage);
     case Screen::memberUpdate:
         return new frmMemberImport(context, memberImportPage);
+    case Screen::help:
+        return new frmVantrelHelp(context);
     case Screen::callArea:
         return new frmVantrelCallArea(context);
     }
@@ -131,6 +134,11 @@ void AppScreens::openRoster(std::string path, std::vector<std::string> lines) {
 void AppScreens::openFinder(Screen receiver) {
     static_cast<frmFileFinder*>(formOf(Screen::finder))->handTo(receiver);
     open(Screen::finder);
+}
+
+void AppScreens::openHelp(const std::string& page) {
+    static_cast<frmVantrelHelp*>(formOf(Screen::help))->choose(page);
+    open(Screen::help);
 }
 
 void AppScreens::askAboutDupe(DupeQuestion question) {

@@ -25,6 +25,7 @@ public:
     void openList(ListedFile file) override;
     void openRoster(std::string path, std::vector<std::string> lines) override;
     void openFinder(Screen receiver) override;
+    void openHelp(const std::string& page) override;
     void askAboutDupe(DupeQuestion question) override;
     void handBackPath(Screen receiver, const std::string& path) override;
     StartPage* startPage() override;

@@ -74,6 +74,8 @@ void Form::bringToFront() {
 void Form::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         runHandler([this] { escapePressed(); });
+    else if (event->key() == Qt::Key_F1)
+        runHandler([this] { screens().openHelp(objectName().toStdString()); });
     else
         QWidget::keyPressEvent(event);
 }

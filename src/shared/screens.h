@@ -30,6 +30,7 @@ enum class Screen {
     standings2,   // frmK3YStandings2
     checkDupeK3y, // frmCheckDupeK3Y: askAboutDupe
     k3yBox,       // frmK3Ybox
+    help,         // frmVantrelHelp: openHelp
 };
 
 // What other screens do to the start page.
@@ -86,6 +87,8 @@ public:
     virtual void openRoster(std::string path, std::vector<std::string> lines) = 0;
     // The file finder; `receiver` gets the path chosen there.
     virtual void openFinder(Screen receiver) = 0;
+    // The key sheet of the page of that objectName.
+    virtual void openHelp(const std::string& page) = 0;
     virtual void askAboutDupe(DupeQuestion question) = 0;
     // Hands the finder's choice to the screen that asked for it, if it is still there.
     virtual void handBackPath(Screen receiver, const std::string& path) = 0;

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmVantrelHelp.h"
+
+#include "forms/formbuilder.h"
+#include "forms/keysheet.h"
+#include "platform/qt/latin1.h"
+
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+namespace vantrel {
+
+namespace {
+constexpr int sheetColumns = 78;
+constexpr int sheetLines = 26;
+} // namespace
+
+frmVantrelHelp::frmVantrelHelp(const FormContext& context)
+    : Form(context, "frmVantrelHelp", "Vantrel - Keys") {
+    m_sheet = new QPlainTextEdit(this);
+    m_sheet->setObjectName(QStringLiteral("Text1"));
+    m_sheet->setAccessibleName(QStringLiteral("KEYS"));
+    m_sheet->setReadOnly(true);
+    m_sheet->setTabChangesFocus(true);
+    m_sheet->setFont(fixedWidthFont());
+    const QFontMetrics metrics(m_sheet->font());
+    m_sheet->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('0')) * sheetColumns,
+                            metrics.lineSpacing() * sheetLines);
+    m_exitButton = FormBuilder(this).command("Command1", "E&XIT", "CLOSES THE KEY SHEET");
+    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(m_sheet, 1);
+    page->addWidget(m_exitButton, 0, Qt::AlignRight);
+}
+
+void frmVantrelHelp::load() {
+    m_sheet->setPlainText(toQt(keySheet(m_page, shared().settings)));
+}
+
+QWidget* frmVantrelHelp::firstFocus() {
+    return m_exitButton;
+}
+
+} // namespace vantrel

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// The key sheet of the page from which F1 opened it.
+#pragma once
+
+#include "forms/form.h"
+
+class QPlainTextEdit;
+class QPushButton;
+
+namespace vantrel {
+
+class frmVantrelHelp : public Form {
+    Q_OBJECT
+
+public:
+    explicit frmVantrelHelp(const FormContext& context);
+
+    bool loadsAgain() const override { return true; }
+    // Whose sheet is shown when it opens.
+    void choose(std::string page) { m_page = std::move(page); }
+
+protected:
+    void load() override;
+    QWidget* firstFocus() override;
+
+private:
+    QPlainTextEdit* m_sheet;
+    QPushButton* m_exitButton;
+    std::string m_page;
+};
+
+} // namespace vantrel

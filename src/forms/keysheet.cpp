@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "forms/keysheet.h"
+
+#include "shared/settings.h"
+
+namespace vantrel {
+
+namespace {
+
+struct PageKeys {
+    std::string_view page;
+    std::string_view keys;
+};
+
+constexpr std::string_view mainKeys =
+    "Enter            in the call box: SEARCH; once more: LOG\n"
+    "                 in a box of the exchange: the next box; in SKCC#: LOG\n"
+    "Space            after a search without a name: the first empty box\n"
+    "Esc              NO LOG; Ctrl+Z brings back what was cleared\n"
+    "Down             the members like the call: Enter takes one, Esc goes back\n"
+    "Up               with an empty call box: the last contact; Enter corrects it,\n"
+    "                 Del deletes it, Esc goes back\n"
+    "Alt+S Alt+L      SEARCH, LOG\n"
+    "Alt+M            frequency: 7040, 7.04, 14050 or 14; Enter\n"
+    "Alt+U Alt+D      band up, band down\n"
+    "Alt+F Alt+A      read the radio now; reading it off and on\n"
+    "Alt+K            K3Y station: E F A O N S, X for none\n"
+    "                 (call, Enter, then the tag: SEARCH takes a tag back)\n"
+    "Alt+R Alt+E      correct, delete\n"
+    "Alt+T Alt+I      list, files\n"
+    "Alt+B Alt+C      backup, score\n"
+    "Alt+O Alt+X      bonus, exit\n";
+
+constexpr std::string_view logPageKeys = "Enter            in the call box: SEARCH\n"
+                                         "F3               SEARCH AGAIN\n"
+                                         "Alt+S Alt+D      SAVE CHANGES, DELETE\n"
+                                         "Alt+U            UNDO; once more: redo\n";
+
+constexpr PageKeys pages[] = {
+    {"frmVantrelStart", "Enter            the next box\n"
+                        "Alt+S            START\n"
+                        "Alt+B            BROWSE for a log\n"
+                        "Alt+T            TEST the radio\n"},
+    {"frmVantrelMain", mainKeys},
+    {"frmVantrelCorrect", logPageKeys},
+    {"frmVantrelDelete", logPageKeys},
+    {"frmVantrelEDITcbr", logPageKeys},
+    {"frmVantrelList", "Ctrl+F F3        find, find the next\n"
+                       "Ctrl+C           copy the selected lines\n"},
+    {"frmVantrelShowDB", "Ctrl+F F3        find, find the next\n"
+                         "Ctrl+C           copy the selected lines\n"},
+    {"frmK3Ybox", "E F A O N S      the continent, and OK\n"
+                  "X                no tag, and OK\n"
+                  "Enter            OK\n"},
+    {"frmCheckDupeK3Y", "Esc              NO LOG\n"},
+    {"frmFileFinder", "Enter            opens a folder, selects a file\n"
+                      "Alt+R            RETURN with what is selected\n"},
+    {"frmVantrelFiles", "Alt+letter       runs the job of that letter, each time\n"},
+    {"frmVantrelScore", "Alt+P Alt+C      print, copy the report\n"},
+    {"frmVantrelBackup", "Enter Alt+B      BACKUP\n"},
+};
+
+constexpr std::string_view everywhere = "Tab Shift+Tab    the next box or button, the one before\n"
+                                        "Enter Space      press the button that has the focus\n"
+                                        "Alt+letter       the button or box with that letter\n"
+                                        "Esc              closes the page\n"
+                                        "F1               this sheet\n";
+
+std::string_view exchangeOf(const OperatingSettings& settings) {
+    if (settings.isK3y())
+        return "EXCHANGE: RST, NAME, STATE OR COUNTRY, SKCC#; K3Y STATIONS: THEIR AREA\n\n";
+    return "EXCHANGE: RST, NAME, STATE, PROVINCE OR COUNTRY, SKCC# OR NONE\n\n";
+}
+
+} // namespace
+
+std::string keySheet(std::string_view page, const OperatingSettings& settings) {
+    std::string text;
+    for (const PageKeys& keys : pages) {
+        if (keys.page != page)
+            continue;
+        if (keys.keys == mainKeys)
+            text += exchangeOf(settings);
+        text += std::string(keys.keys) + '\n';
+    }
+    return text + std::string(everywhere);
+}
+
+} // namespace vantrel

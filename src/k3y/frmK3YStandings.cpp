@@ -1,37 +1,61 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmK3YStandings.h"
 
+#include "base/fixedtext.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPalette>
-#include <QScreen>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace vantrel {
 
 namespace {
 
 constexpr int bandCount = static_cast<int>(bands.size());
-constexpr int firstBandLabel = 4; // Label4 "160M" to Label12 "10M"
+constexpr int firstBandLabel = 4;      // Label4 "160M" to Label12 "10M"
+constexpr int firstStationTotal = 101; // Label101 to Label110
+constexpr int firstBandTotal = 201;    // Label201 to Label209
 // Row labels in the order of the rows; the zero area's stands last, under the others.
 constexpr const char* rowLabels[] = {"Label3",  "Label13", "Label14", "Label15", "Label16",
                                      "Label17", "Label18", "Label19", "Label20", "Label21"};
 constexpr double headlineEnlargement = 1.5;
-// At least a member number; the window opens wider, for a call of ten.
+// At least a member number; a longer call makes its column wider.
 constexpr int cellColumns = 5;
 
+QLineEdit* makeCell(FormBuilder& build, const std::string& name) {
+    QLineEdit* box = build.text(name.c_str());
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::NoFocus);
+    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return box;
+}
+
 // Worked is blue: the text is white in light and dark palettes alike.
-void paintFilled(QLineEdit* box, const std::string& text) {
-    QPalette blue(box->palette());
-    blue.setColor(QPalette::Base, Qt::blue);
-    blue.setColor(QPalette::Text, Qt::white);
-    box->setPalette(blue);
-    put(box, text);
-    box->setToolTip(box->text());
+void showCell(QLineEdit* box, const StandingsCell& cell) {
+    QPalette colours;
+    if (cell.filled()) {
+        colours.setColor(QPalette::Base, Qt::blue);
+        colours.setColor(QPalette::Text, Qt::white);
+    }
+    box->setPalette(colours);
+    put(box, cell.text);
     box->setCursorPosition(0);
+    setColumns(box, std::max(cellColumns, length(trimRight(cell.text))));
+}
+
+void showCount(QLabel* label, Integer16 count) {
+    put(label, count == 0 ? "-" : count.text());
+}
+
+QLabel* makeCount(FormBuilder& build, int number) {
+    QLabel* label = build.label(("Label" + std::to_string(number)).c_str());
+    label->setAlignment(Qt::AlignCenter);
+    return label;
 }
 
 } // namespace
@@ -47,7 +71,6 @@ std::string regionCellName(int row, int column) {
 frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage& page)
     : Form(context, page.name, "K3Y Standings"), m_page(page) {
     createControls();
-    resize(sizeHint().boundedTo(screen()->availableSize()));
     connectHandler(m_otherPageButton, &QPushButton::clicked, this,
                    &frmK3YStandings::otherPageClicked);
 }
@@ -60,6 +83,7 @@ void frmK3YStandings::createControls() {
     headline->setAlignment(Qt::AlignCenter);
     m_total = build.label("Label2");
     m_total->setFont(enlargedFont(this, headlineEnlargement));
+    m_wholeTotal = build.label("Label22");
     m_otherPageButton = build.command("Command2", m_page.otherCaption);
     QPushButton* exit = build.command("Command1", "E&XIT");
     connect(exit, &QPushButton::clicked, this, &QWidget::close);
@@ -68,8 +92,12 @@ void frmK3YStandings::createControls() {
     page->addWidget(headline);
     page->addLayout(createGrid(), 1);
     auto* commands = new QHBoxLayout;
-    commands->addWidget(m_total, 1);
+    commands->addWidget(m_total);
+    commands->addSpacing(fontMetrics().height());
+    commands->addWidget(m_wholeTotal);
+    commands->addStretch();
     commands->addWidget(m_otherPageButton);
+    commands->addSpacing(fontMetrics().height());
     commands->addWidget(exit);
     page->addLayout(commands);
 }
@@ -77,24 +105,27 @@ void frmK3YStandings::createControls() {
 QGridLayout* frmK3YStandings::createGrid() {
     FormBuilder build(this);
     auto* grid = new QGridLayout;
+    const int rowCount = static_cast<int>(m_page.rows.size());
     for (int column = 1; column <= bandCount; ++column) {
         const std::string name = "Label" + std::to_string(firstBandLabel + column - 1);
         const std::string band(bands.at(static_cast<std::size_t>(column - 1)).label);
         QLabel* label = build.label(name.c_str(), band.c_str());
         label->setAlignment(Qt::AlignCenter);
         grid->addWidget(label, 0, column);
-        grid->setColumnStretch(column, 1);
+        m_bandTotals.push_back(makeCount(build, firstBandTotal + column - 1));
+        grid->addWidget(m_bandTotals.back(), rowCount + 1, column);
     }
-    for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row) {
+    for (int row = 1; row <= rowCount; ++row) {
         const std::string station(m_page.rows[static_cast<std::size_t>(row - 1)].label);
         grid->addWidget(build.label(rowLabels[row - 1], station.c_str()), row, 0);
         for (int column = 1; column <= bandCount; ++column) {
-            QLineEdit* box = build.output(m_page.cellName(row, column).c_str());
-            setColumns(box, cellColumns);
-            grid->addWidget(box, row, column);
-            m_cells.push_back(box);
+            m_cells.push_back(makeCell(build, m_page.cellName(row, column)));
+            grid->addWidget(m_cells.back(), row, column);
         }
+        m_stationTotals.push_back(makeCount(build, firstStationTotal + row - 1));
+        grid->addWidget(m_stationTotals.back(), row, bandCount + 1);
     }
+    grid->setColumnMinimumWidth(bandCount + 1, fontMetrics().averageCharWidth() * cellColumns);
     return grid;
 }
 
@@ -102,15 +133,30 @@ QWidget* frmK3YStandings::firstFocus() {
     return m_otherPageButton;
 }
 
+// A log that cannot be read leaves the page empty, also one that showed something before.
 void frmK3YStandings::load() {
+    m_logWatch.reset();
+    showStandings({});
+    m_total->clear();
+    m_wholeTotal->clear();
     shared().log.reread();
-    const Standings standings = m_page.tally(shared().log.contacts());
+    showStandings(shared().log.contacts());
+    m_logWatch = shared().log.watch(
+        [this] { runHandler([this] { showStandings(shared().log.contacts()); }); });
+}
+
+void frmK3YStandings::showStandings(const Contacts& contacts) {
+    const Standings standings = m_page.tally(contacts);
     auto box = m_cells.begin();
-    for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row)
+    for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row) {
         for (int column = 1; column <= bandCount; ++column, ++box)
-            if (const StandingsCell& worked = standings.cell(row, column); worked.filled)
-                paintFilled(*box, worked.text);
+            showCell(*box, standings.cell(row, column));
+        showCount(m_stationTotals[static_cast<std::size_t>(row - 1)], standings.stationTotal(row));
+    }
+    for (int column = 1; column <= bandCount; ++column)
+        showCount(m_bandTotals[static_cast<std::size_t>(column - 1)], standings.bandTotal(column));
     put(m_total, standings.totalText());
+    put(m_wholeTotal, "BOTH PAGES:  " + wholeStandingsTotal(contacts).text());
 }
 
 // The other page takes this one's place: leaving it leads back to where this one came from.

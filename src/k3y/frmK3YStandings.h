@@ -46,6 +46,9 @@ class frmK3YStandings : public Form {
 public:
     frmK3YStandings(const FormContext& context, const StandingsPage& page);
 
+    // Asked for while it shows it reads the log again.
+    bool loadsAgain() const override { return true; }
+
 protected:
     void load() override;
     QWidget* firstFocus() override;
@@ -56,10 +59,17 @@ private:
 
     void otherPageClicked();
 
+    void showStandings(const Contacts& contacts);
+
     StandingsPage m_page;
     std::vector<QLineEdit*> m_cells; // row by row
+    std::vector<QLabel*> m_stationTotals;
+    std::vector<QLabel*> m_bandTotals;
     QLabel* m_total;
+    QLabel* m_wholeTotal; // of both pages
     QPushButton* m_otherPageButton;
+
+    Log::Watch m_logWatch; // each contact logged shows at once
 };
 
 } // namespace vantrel

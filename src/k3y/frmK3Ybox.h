@@ -18,17 +18,25 @@ class frmK3Ybox : public Form {
 public:
     explicit frmK3Ybox(const FormContext& context);
 
+    // Asked for while it shows it forgets the choice, as one that opens does.
+    bool loadsAgain() const override { return true; }
+
 protected:
+    void load() override;
     QWidget* firstFocus() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void createControls();
     void connectHandlers();
 
-    void choose(const K3yStation& station);
+    void choose(std::size_t index);
+    void okPressed();
 
     std::array<QRadioButton*, k3yStations.size()> m_options; // as k3yStations
     QPushButton* m_okButton;
+
+    std::size_t m_inForce = 0; // the station that the next contacts get
 };
 
 } // namespace vantrel

@@ -49,16 +49,32 @@ const StandingsCell& Standings::cell(int row, int column) const {
     return m_cells.at(static_cast<std::size_t>(row - 1)).at(static_cast<std::size_t>(column - 1));
 }
 
+Integer16 Standings::stationTotal(int row) const {
+    Integer16 total;
+    for (int column = 1; column <= static_cast<int>(bands.size()); ++column)
+        total += cell(row, column).fillings;
+    return total;
+}
+
+Integer16 Standings::bandTotal(int column) const {
+    Integer16 total;
+    for (int row = 1; row <= static_cast<int>(m_rows.size()); ++row)
+        total += cell(row, column).fillings;
+    return total;
+}
+
 bool Standings::fill(int row, std::string_view khzField, std::string_view text) {
     const Band* band = bandOfKhz(khzField);
     if (row == 0 || band == nullptr)
         return false;
     const auto column = static_cast<std::size_t>(band - bands.data());
     const auto index = static_cast<std::size_t>(row - 1);
-    if (cell(row, m_rows[index].guards.at(column)).filled)
+    if (cell(row, m_rows[index].guards.at(column)).filled())
         return false;
-    m_cells[index].at(column) = {true, std::string(text)};
+    StandingsCell& filled = m_cells[index].at(column);
     ++m_total;
+    ++filled.fillings;
+    filled.text = text;
     return true;
 }
 
@@ -86,6 +102,10 @@ Standings regionStandings(const Contacts& contacts) {
             result.fill(continentRow(right(line, 2)), khz, call);
     }
     return result;
+}
+
+Integer16 wholeStandingsTotal(const Contacts& contacts) {
+    return areaStandings(contacts).total() + regionStandings(contacts).total();
 }
 
 } // namespace vantrel

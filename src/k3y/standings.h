@@ -61,8 +61,10 @@ inline constexpr std::array<StandingsRow, 9> regionRows{{
 }};
 
 struct StandingsCell {
-    bool filled = false;
+    Integer16 fillings;
     std::string text;
+
+    bool filled() const { return fillings != 0; }
 };
 
 class Standings {
@@ -75,6 +77,8 @@ public:
     const StandingsCell& cell(int row, int column) const;
     // Each filling counts, also that of a cell filled before.
     Integer16 total() const { return m_total; }
+    Integer16 stationTotal(int row) const;
+    Integer16 bandTotal(int column) const;
     // "TOTAL:  12": the second blank stands where a minus sign would.
     std::string totalText() const { return "TOTAL:  " + m_total.text(); }
 
@@ -97,5 +101,8 @@ Standings areaStandings(const Contacts& contacts);
 // continents by the tag that closes the line (the cell shows the call). A contact counts at
 // most once.
 Standings regionStandings(const Contacts& contacts);
+
+// The totals of both pages together.
+Integer16 wholeStandingsTotal(const Contacts& contacts);
 
 } // namespace vantrel

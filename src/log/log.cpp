@@ -78,12 +78,9 @@ void Log::reread() {
 
 void Log::follow(bool anew) {
     struct Announcement {
-        const std::function<void()>& watcher;
-        ~Announcement() {
-            if (watcher)
-                watcher();
-        }
-    } const announcement{m_watcher};
+        Log& log;
+        ~Announcement() { log.tellWatchers(); }
+    } const announcement{*this};
 
     const std::size_t before = contacts().size();
     std::optional<RuntimeError> tooLong;
@@ -101,6 +98,21 @@ void Log::follow(bool anew) {
         addWorked(contacts().size() - before);
     if (tooLong)
         throw RuntimeError(*tooLong);
+}
+
+Log::Watch Log::watch(std::function<void()> watcher) {
+    std::erase_if(m_watchers, [](const auto& known) { return known.expired(); });
+    auto watch = std::make_shared<const std::function<void()>>(std::move(watcher));
+    m_watchers.push_back(watch);
+    return watch;
+}
+
+// A page may close, or another one open, because of what it is told.
+void Log::tellWatchers() {
+    const auto watchers = m_watchers;
+    for (const auto& watcher : watchers)
+        if (const Watch watch = watcher.lock())
+            (*watch)();
 }
 
 // Whether what was known stands there still, first of all. After a contact it does, and only

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,8 +53,10 @@ public:
     // The lines of the first 1,000 contacts.
     const std::vector<std::string>& worked() const { return m_worked; }
 
-    // Called whenever contacts and worked stations may have changed; one watcher at a time.
-    void watch(std::function<void()> watcher) { m_watcher = std::move(watcher); }
+    // Called whenever contacts and worked stations may have changed, for as long as the Watch
+    // that is handed back is kept.
+    using Watch = std::shared_ptr<const std::function<void()>>;
+    Watch watch(std::function<void()> watcher);
 
     // Makes `name` the open log, reads it and writes "StnsWorked.TXT" anew. Throws as reread();
     // there are no contacts then unless some could be read.
@@ -76,6 +79,7 @@ private:
     };
 
     void follow(bool anew);
+    void tellWatchers();
     bool read();
     void addWorked(std::size_t added);
     void rewriteWorked();
@@ -86,7 +90,7 @@ private:
     std::size_t m_turn = 0;
     std::vector<std::string> m_worked;
     bool m_workedOnDisk = false; // the file holds what the list does
-    std::function<void()> m_watcher;
+    std::vector<std::weak_ptr<const std::function<void()>>> m_watchers;
 };
 
 } // namespace vantrel

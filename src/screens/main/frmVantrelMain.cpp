@@ -54,13 +54,9 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
     createControls();
     layOut();
     connectHandlers();
-    shared().log.watch([this] { showLog(); });
+    m_logWatch = shared().log.watch([this] { showLog(); });
     qApp->installEventFilter(this);
     openAtPageSize();
-}
-
-frmVantrelMain::~frmVantrelMain() {
-    shared().log.watch({});
 }
 
 void frmVantrelMain::createControls() {

@@ -34,7 +34,6 @@ class frmVantrelMain : public Form, public MainPage {
 
 public:
     explicit frmVantrelMain(const FormContext& context);
-    ~frmVantrelMain() override;
 
     void showStation(const std::string& text) override;
     void loadAfresh() override {
@@ -159,6 +158,7 @@ private:
     std::optional<Searched> m_searched;
     std::optional<Cleared> m_cleared;
     Score m_score;
+    Log::Watch m_logWatch;
     std::vector<Moment> m_moments;       // of the contacts
     std::optional<Moment> m_paceShownAt; // the minute that the panel shows
     bool m_autoReads = true;

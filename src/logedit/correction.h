@@ -40,13 +40,19 @@ CorrectionBoxes correctionBoxes(std::string_view key, std::string_view line);
 struct Correction {
     std::string line;
     CorrectionBoxes boxes; // for the new line
-    std::string cut;       // labels of the boxes that were too long, ", " between; empty for none
+    // Labels of boxes, ", " between; empty for none:
+    std::string cut;   // those that were too long
+    std::string wrong; // changed to a frequency, time or date that no contact has
 };
 
 // The line with every box that differs from what was shown (tidied, cut or padded to its
-// columns); all other columns stay byte for byte.
+// columns; a frequency in MHz as kHz); all other columns stay byte for byte.
 Correction corrected(std::string_view line, const CorrectionBoxes& shown,
                      const CorrectionBoxes& typed);
+
+// What was shown, for a call box that was typed in after the search: it is no longer the key but
+// the call, whatever it holds.
+CorrectionBoxes withCallShown(CorrectionBoxes shown, std::string_view line);
 
 // False for a call that was edited to fewer than 3 characters: once saved, no search could
 // find the contact again.

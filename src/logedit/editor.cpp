@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/editor.h"
 
+#include "logedit/logedit.h"
+
 namespace vantrel {
 
 namespace {
@@ -17,6 +19,18 @@ std::string tidiedFrequency(std::string_view typed) {
 
 std::string tidiedBox(std::string_view typed, int width) {
     return leftAligned(trim(upper(left(typed, width))), width);
+}
+
+std::string orBlank(std::string_view text) {
+    return std::string(text.empty() ? "BLANK" : text);
+}
+
+// What a line holds in no field.
+std::string besideTheFields(std::string_view line) {
+    std::string rest(line);
+    for (const EditorField& field : editorFields)
+        rest = withField(rest, field.read, "");
+    return std::string(trimRight(withField(rest, qso::marker, "")));
 }
 
 } // namespace
@@ -54,6 +68,26 @@ std::string rebuiltLine(std::string_view line, const EditorBoxes& boxes) {
                                qso::rstReceived, qso::hisName, qso::hisState, qso::hisNumber})
         rebuilt += ' ' + std::string(piece.of(edited));
     return rebuilt + std::string(qso::dupeColumns.of(edited));
+}
+
+std::string changedBesides(std::string_view before, const EditorBoxes& shown,
+                           const EditorBoxes& typed, std::string_view rebuilt) {
+    std::string changes;
+    for (std::size_t i = 0; i < editorFields.size(); ++i) {
+        const EditorField& field = editorFields[i];
+        const bool isMarker = field.read.first == qso::marker.first;
+        const Column column = isMarker ? qso::marker : field.read;
+        const std::string meant =
+            typed[i] == shown[i] ? std::string(trim(column.of(before))) : tidied(typed[i]);
+        const std::string_view saved = trim(column.of(rebuilt));
+        if (meant == saved)
+            continue;
+        changes += (changes.empty() ? "" : ", ") + std::string(isMarker ? "MARK" : field.label) +
+                   ' ' + orBlank(meant) + " > " + orBlank(saved);
+    }
+    if (besideTheFields(before) != besideTheFields(rebuilt))
+        changes += (changes.empty() ? "" : ", ") + std::string("COLUMNS BETWEEN THE FIELDS");
+    return changes;
 }
 
 } // namespace vantrel

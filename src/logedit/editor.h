@@ -53,4 +53,9 @@ EditorBoxes tidiedBoxes(const EditorBoxes& typed);
 // and the body for what it leaves out.
 std::string rebuiltLine(std::string_view line, const EditorBoxes& boxes);
 
+// What rebuilding the line changed besides what was edited: "RST SENT 599 > 559, MARK K3Y/EU >
+// K3Y/"; empty for nothing. shown: the boxes before the editing; typed: after it.
+std::string changedBesides(std::string_view before, const EditorBoxes& shown,
+                           const EditorBoxes& typed, std::string_view rebuilt);
+
 } // namespace vantrel

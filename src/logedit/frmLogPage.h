@@ -6,13 +6,22 @@
 #include "forms/form.h"
 #include "logedit/logedit.h"
 
+#include <span>
+
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
+class QListView;
+class QModelIndex;
 class QPushButton;
 class QRadioButton;
 
 namespace vantrel {
+
+class LineListModel;
+
+using Notes = std::vector<std::string>;
 
 class frmLogPage : public Form {
     Q_OBJECT
@@ -20,22 +29,29 @@ class frmLogPage : public Form {
 public:
     // The contact, 1 to the log's count, that the page opens on; see Screens::openContact.
     void startAt(int contact, bool shown);
+    bool loadsAgain() const override { return m_start.has_value(); }
 
 protected:
     frmLogPage(const FormContext& context, const char* name, const char* caption);
 
+    void load() override;
     QWidget* firstFocus() override;
 
     // The controls of all pages; a page makes them where they stand in its tab order.
     void createSearch(QLineEdit* callBox, const char* searchAgainTip);
     QRadioButton* createDupeOption(QLineEdit* markerBox);
+    void createMatches(const char* placeName);
     void createChange(const char* caption, const char* toolTip, const char* exitTip);
-    void createMessage(const char* name);
+    void createMessages(const char* messageName, const char* noteName);
+    // Enter in each of the boxes goes to the next, in the last one to what changes the contact.
+    void chainBoxes(std::span<QLineEdit* const> boxes);
 
-    // Their rows, for the page's layout.
+    // Their parts of the page's layout.
     QLabel* heading(const char* text);
-    QHBoxLayout* searchButtons();
-    QHBoxLayout* searchRow(const char* caption); // call box and search buttons
+    static void fit(QLineEdit* box, int columns); // neither narrower nor wider
+    QHBoxLayout* searchRow(const char* caption);  // call box and search buttons
+    QLayout* matchesCard();
+    QLayout* messageRows();
     QHBoxLayout* changeButtons();
     QLabel* messageLabel() { return m_messageLabel; }
 
@@ -47,20 +63,35 @@ protected:
     virtual std::string_view lastEntryText() const { return "LAST ENTRY"; }
     virtual void change() = 0; // of the contact found
     virtual void clearBoxes() {}
-    virtual void say(std::string_view message);
-    // Shows what can be done; the next call may be typed.
+    // What the page tells besides whenever it tells something.
+    virtual std::string standingNote() const { return {}; }
+    // "2 OF 3".
+    virtual std::string placeText(int place, int count) const;
+
+    void say(std::string_view message);
+    // What the operator should know besides; takes the place of what was told before.
+    void tell(Notes notes);
+    // Shows what is found and what can be done; the next call may be typed.
     virtual void followLog();
 
     // Whether the change was made. If so the open log follows it; its notice is shown.
     bool made(const ChangeResult& result);
     // The end of what was done to the log.
-    void finish(std::string_view message);
+    void finish(std::string_view message, const ChangeResult& result, Notes notes = {});
 
     LogEdit& log() { return m_log; }
+    const LogEdit& log() const { return m_log; }
 
 private:
+    // Where the page opens.
+    struct Start {
+        ContactPlace place;
+        bool shown;
+    };
+
     void searchClicked();
     void searchAgainClicked();
+    void matchChosen(const QModelIndex& index);
     void changeClicked();
     void undoClicked();
 
@@ -68,6 +99,9 @@ private:
     std::string takeKey();
     // The contact that a search found, or that there is `none`.
     void showOutcome(SearchResult result, const std::string& key, std::string_view none);
+    // The contact found, which the key in the call box may not have found.
+    void showWithItsCall();
+    void showMatches();
 
     QLineEdit* m_callBox = nullptr;
     QPushButton* m_searchButton = nullptr;
@@ -75,11 +109,15 @@ private:
     QPushButton* m_changeButton = nullptr;
     QPushButton* m_undoButton = nullptr;
     QPushButton* m_exitButton = nullptr;
+    QListView* m_matchList = nullptr;
+    LineListModel* m_matchLines = nullptr;
+    QLabel* m_placeLabel = nullptr;
     QLabel* m_messageLabel = nullptr;
+    QLabel* m_noteLabel = nullptr;
 
     LogEdit m_log;
-    int m_startContact = 0; // 0: none
-    bool m_startShown = false;
+    std::vector<int> m_matchPositions; // of the lines in the list
+    std::optional<Start> m_start;
 };
 
 } // namespace vantrel

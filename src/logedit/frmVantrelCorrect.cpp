@@ -22,10 +22,11 @@ void frmVantrelCorrect::createControls() {
         m_boxes[i] = build.text(correctionFields[i].box);
     m_dupeOption = createDupeOption(m_boxes.back());
     createSearch(m_boxes.front(), "CLICK HERE TO FIND ADDITIONAL ENTRIES");
+    createMatches("Label13");
     createChange("&SAVE CHANGES", "SAVE WITH CHANGES", "EXIT THIS ROUTINE");
-    createMessage("Label11");
-    m_cutLabel = build.label("Label12");
-    m_foundLabel = build.label("Label13");
+    createMessages("Label11", "Label12");
+    chainBoxes(std::span(m_boxes).subspan<1>());
+    connect(m_boxes.front(), &QLineEdit::textEdited, this, [this] { m_callTyped = true; });
 }
 
 void frmVantrelCorrect::showFound(const std::string& key) {
@@ -34,6 +35,7 @@ void frmVantrelCorrect::showFound(const std::string& key) {
 
 void frmVantrelCorrect::foundNone(const std::string& key) {
     m_shown.front() = key; // searched for, so it is no correction of the call that stays
+    m_callTyped = false;
 }
 
 std::string frmVantrelCorrect::notFoundText(const std::string& /*key*/) const {
@@ -41,18 +43,23 @@ std::string frmVantrelCorrect::notFoundText(const std::string& /*key*/) const {
 }
 
 void frmVantrelCorrect::change() {
+    const CorrectionBoxes shown = m_callTyped ? withCallShown(m_shown, log().line()) : m_shown;
     const CorrectionBoxes typed = textsOf(m_boxes);
-    if (!keepsFindable(m_shown, typed)) {
+    if (!keepsFindable(shown, typed)) {
         messages().show({"A CALL NEEDS AT LEAST THREE CHARACTERS", BoxIcon::exclamation});
         return;
     }
-    const Correction correction = corrected(log().line(), m_shown, typed);
-    if (!made(rewriteAtWork(correction.line)))
+    const Correction correction = corrected(log().line(), shown, typed);
+    const ChangeResult result = rewriteAtWork(correction.line);
+    if (!made(result))
         return;
     showBoxes(correction.boxes);
-    finish(" Done....Click EXIT ");
+    Notes notes;
     if (!correction.cut.empty())
-        put(m_cutLabel, "CUT TO WIDTH: " + correction.cut);
+        notes.push_back("CUT TO WIDTH: " + correction.cut);
+    if (!correction.wrong.empty())
+        notes.push_back("LOOKS WRONG: " + correction.wrong);
+    finish(" Done....Click EXIT ", result, std::move(notes));
 }
 
 ChangeResult frmVantrelCorrect::rewriteAtWork(const std::string& line) {
@@ -68,39 +75,35 @@ void frmVantrelCorrect::clearBoxes() {
 
 void frmVantrelCorrect::showBoxes(const CorrectionBoxes& boxes) {
     m_shown = boxes;
+    m_callTyped = false;
     put(m_boxes, boxes);
 }
 
-void frmVantrelCorrect::say(std::string_view message) {
-    frmLogPage::say(message);
-    m_cutLabel->clear();
-}
-
-void frmVantrelCorrect::followLog() {
-    frmLogPage::followLog();
-    m_foundLabel->clear();
-    if (log().found())
-        put(m_foundLabel, "FOUND: " + std::string(trim(qso::hisCall.of(log().line()))));
+std::string frmVantrelCorrect::placeText(int place, int count) const {
+    return "FOUND: " + std::string(trim(qso::hisCall.of(log().line()))) + ", " +
+           frmLogPage::placeText(place, count);
 }
 
 void frmVantrelCorrect::layOut() {
     FormBuilder build(this);
     auto* fields = new QFormLayout;
-    for (std::size_t i = 0; i + 1 < m_boxes.size(); ++i)
-        build.row(fields, correctionFields[i].label, m_boxes[i]);
+    for (std::size_t i = 1; i < m_boxes.size(); ++i) {
+        fit(m_boxes[i], correctionFields[i].column.width);
+        if (i + 1 < m_boxes.size())
+            build.row(fields, correctionFields[i].label, m_boxes[i]);
+    }
     fields->addRow(m_dupeOption, m_boxes.back());
+    fields->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
 
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(build.section("CONTACT", fields));
+    columns->addLayout(matchesCard(), 1);
     auto* page = new QVBoxLayout(this);
     page->addWidget(heading("MAKE CORRECTIONS"));
-    page->addLayout(fields);
-    page->addLayout(searchButtons());
-    for (QLabel* label : {m_foundLabel, messageLabel(), m_cutLabel})
-        page->addWidget(label);
-    page->addStretch();
+    page->addLayout(searchRow(correctionFields.front().label));
+    page->addLayout(columns, 1);
+    page->addLayout(messageRows());
     page->addLayout(changeButtons());
-    for (QLabel* label : {m_foundLabel, messageLabel()})
-        label->setAlignment(Qt::AlignCenter);
-    m_cutLabel->setWordWrap(true);
 }
 
 } // namespace vantrel

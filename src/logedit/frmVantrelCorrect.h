@@ -20,9 +20,8 @@ protected:
     std::string notFoundText(const std::string& key) const override;
     void change() override;
     void clearBoxes() override;
-    void say(std::string_view message) override;
-    // Shows whose contact is found as well.
-    void followLog() override;
+    // The call as well, of which the call box may hold only the beginning.
+    std::string placeText(int place, int count) const override;
 
 private:
     void createControls();
@@ -34,10 +33,9 @@ private:
 
     std::array<QLineEdit*, correctionFields.size()> m_boxes; // the first one is the call box
     QRadioButton* m_dupeOption;
-    QLabel* m_cutLabel;
-    QLabel* m_foundLabel; // the call found, of which the call box may hold only the beginning
 
     CorrectionBoxes m_shown{}; // as the last search or save left them
+    bool m_callTyped = false;  // since then: the call box is no longer the key
 };
 
 } // namespace vantrel

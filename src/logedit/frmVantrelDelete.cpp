@@ -11,7 +11,7 @@
 namespace vantrel {
 
 namespace {
-constexpr int openingColumns = 50; // room for the contact shown
+constexpr int entryColumns = 36; // the longer of the two lines that show a contact
 } // namespace
 
 frmVantrelDelete::frmVantrelDelete(const FormContext& context)
@@ -23,13 +23,15 @@ frmVantrelDelete::frmVantrelDelete(const FormContext& context)
 void frmVantrelDelete::createControls() {
     FormBuilder build(this);
     createSearch(build.text("Text1"), "SEARCH FOR ADDITIONAL ENTRIES");
+    createMatches("Label6");
     createChange("&DELETE", "REMOVE THE ENTRY DISPLAYED ", "QUIT THIS ROUTINE");
     m_callLabel = build.label("Label2");
     m_detailLabel = build.label("Label3");
-    createMessage("Label4");
+    createMessages("Label4", "Label5");
 }
 
 void frmVantrelDelete::load() {
+    frmLogPage::load();
     say("ENTER A CALLSIGN ");
 }
 
@@ -42,8 +44,9 @@ std::string frmVantrelDelete::notFoundText(const std::string& /*key*/) const {
 }
 
 void frmVantrelDelete::change() {
-    if (made(log().removeLine()))
-        finish("Deleted...Click EXIT");
+    const ChangeResult result = log().removeLine();
+    if (made(result))
+        finish("Deleted...Click EXIT", result);
 }
 
 // Nothing is found after a deletion: a second press would remove the contact that moved up,
@@ -56,18 +59,24 @@ void frmVantrelDelete::followLog() {
 }
 
 void frmVantrelDelete::layOut() {
+    auto* entry = new QVBoxLayout;
+    for (QLabel* label : {m_callLabel, m_detailLabel}) {
+        label->setFont(fixedWidthFont());
+        label->setMinimumWidth(QFontMetrics(label->font()).horizontalAdvance(QLatin1Char('0')) *
+                               entryColumns);
+        entry->addWidget(label);
+    }
+    entry->addStretch();
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(FormBuilder(this).section("ENTRY TO DELETE", entry));
+    columns->addLayout(matchesCard(), 1);
+
     auto* page = new QVBoxLayout(this);
     page->addWidget(heading("DELETE AN ENTRY"));
     page->addLayout(searchRow("HIS CALL"));
-    for (QLabel* label : {m_callLabel, m_detailLabel}) {
-        label->setFont(fixedWidthFont());
-        label->setMinimumWidth(QFontMetrics(label->font()).averageCharWidth() * openingColumns);
-        page->addWidget(label);
-    }
-    page->addWidget(messageLabel());
-    page->addStretch();
+    page->addLayout(columns, 1);
+    page->addLayout(messageRows());
     page->addLayout(changeButtons());
-    messageLabel()->setAlignment(Qt::AlignCenter);
 }
 
 } // namespace vantrel

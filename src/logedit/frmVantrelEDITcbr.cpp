@@ -10,7 +10,9 @@
 namespace vantrel {
 
 namespace {
-constexpr std::size_t rowsInAColumn = 8;
+// Where editorFields comes to my side of the exchange and to his; the marker is the last one.
+constexpr std::size_t firstOfMine = 4;
+constexpr std::size_t firstOfHis = 9;
 } // namespace
 
 frmVantrelEDITcbr::frmVantrelEDITcbr(const FormContext& context)
@@ -26,12 +28,14 @@ void frmVantrelEDITcbr::createControls() {
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
         m_boxes[i] = build.text(editorFields[i].box);
     m_dupeOption = createDupeOption(m_boxes.back());
+    createMatches("Label18");
     createChange("&SAVE CHANGES", "SAVE WITH CHANGES", "QUIT THIS ROUTINE");
-    createMessage("Label16");
+    createMessages("Label16", "Label17");
+    chainBoxes(m_boxes);
 }
 
 void frmVantrelEDITcbr::showFound(const std::string& /*key*/) {
-    put(m_boxes, editorBoxes(log().line()));
+    showBoxes(editorBoxes(log().line()));
     say("MAKE CORRECTIONS AS NECESSARY");
 }
 
@@ -39,33 +43,65 @@ std::string frmVantrelEDITcbr::notFoundText(const std::string& key) const {
     return key + " IS NOT IN THE FILE";
 }
 
+std::string frmVantrelEDITcbr::standingNote() const {
+    return m_saved ? "" : "A SAVE REBUILDS THE WHOLE LINE. CORRECT KEEPS ALL ELSE.";
+}
+
 void frmVantrelEDITcbr::change() {
-    const EditorBoxes tidy = tidiedBoxes(textsOf(m_boxes));
-    if (!made(log().replaceLine(rebuiltLine(log().line(), tidy))))
+    const std::string before = log().line();
+    const EditorBoxes typed = textsOf(m_boxes);
+    const EditorBoxes tidy = tidiedBoxes(typed);
+    const std::string rebuilt = rebuiltLine(before, tidy);
+    const ChangeResult result = log().replaceLine(rebuilt);
+    if (!made(result))
         return;
-    put(m_boxes, tidy);
-    finish("                   Done......Click EXIT");
+    const std::string besides = changedBesides(before, m_shown, typed, rebuilt);
+    m_saved = true;
+    showBoxes(tidy);
+    finish("                   Done......Click EXIT", result,
+           besides.empty() ? Notes{} : Notes{"CHANGED BESIDES: " + besides});
 }
 
 void frmVantrelEDITcbr::clearBoxes() {
-    put(m_boxes, EditorBoxes{});
+    showBoxes({});
+}
+
+void frmVantrelEDITcbr::showBoxes(const EditorBoxes& boxes) {
+    m_shown = boxes;
+    put(m_boxes, boxes);
+}
+
+QFormLayout* frmVantrelEDITcbr::side(std::size_t first, std::size_t end) {
+    FormBuilder build(this);
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    for (std::size_t i = first; i < end; ++i)
+        build.row(form, editorFields[i].label, m_boxes[i]);
+    return form;
 }
 
 void frmVantrelEDITcbr::layOut() {
     FormBuilder build(this);
-    QFormLayout* const columns[] = {new QFormLayout, new QFormLayout};
-    for (std::size_t i = 0; i + 1 < m_boxes.size(); ++i)
-        build.row(columns[i / rowsInAColumn], editorFields[i].label, m_boxes[i]);
-    columns[1]->addRow(m_dupeOption, m_boxes.back());
-    auto* fields = new QHBoxLayout;
-    for (QFormLayout* column : columns)
-        fields->addLayout(column);
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        fit(m_boxes[i], editorFields[i].written.width);
+    auto* contact = new QHBoxLayout;
+    for (std::size_t i = 0; i < firstOfMine; ++i) {
+        contact->addWidget(build.caption(editorFields[i].label, m_boxes[i]));
+        contact->addWidget(m_boxes[i]);
+    }
+    contact->addStretch();
+    QFormLayout* his = side(firstOfHis, m_boxes.size() - 1);
+    his->addRow(m_dupeOption, m_boxes.back());
+    auto* sides = new QHBoxLayout;
+    sides->addLayout(build.section("MY SIDE", side(firstOfMine, firstOfHis)));
+    sides->addLayout(build.section("HIS SIDE", his));
+    sides->addLayout(matchesCard(), 1);
 
     auto* page = new QVBoxLayout(this);
     page->addLayout(searchRow("CALL"));
-    page->addLayout(fields);
-    page->addWidget(messageLabel());
-    page->addStretch();
+    page->addLayout(contact);
+    page->addLayout(sides, 1);
+    page->addLayout(messageRows());
     page->addLayout(changeButtons());
 }
 

@@ -5,6 +5,8 @@
 #include "logedit/editor.h"
 #include "logedit/frmLogPage.h"
 
+class QFormLayout;
+
 namespace vantrel {
 
 class frmVantrelEDITcbr : public frmLogPage {
@@ -18,13 +20,20 @@ protected:
     std::string notFoundText(const std::string& key) const override;
     void change() override;
     void clearBoxes() override;
+    std::string standingNote() const override;
 
 private:
     void createControls();
     void layOut();
+    void showBoxes(const EditorBoxes& boxes);
+    // The fields from `first` to before `end`, below each other.
+    QFormLayout* side(std::size_t first, std::size_t end);
 
     std::array<QLineEdit*, editorFields.size()> m_boxes;
     QRadioButton* m_dupeOption;
+
+    EditorBoxes m_shown{}; // as the last search or save left them
+    bool m_saved = false;  // at least once
 };
 
 } // namespace vantrel

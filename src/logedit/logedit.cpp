@@ -2,10 +2,11 @@
 #include "logedit/logedit.h"
 
 #include "base/itemreader.h"
-#include "log/log.h"
 #include "log/qsoline.h"
+#include "logedit/duplicates.h"
 #include "platform/files.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantrel {
@@ -42,18 +43,45 @@ Message droppedNotice(int lines, const std::string& log, const std::string& full
                 fullCopy + "."};
 }
 
+// Whether lines were added behind those of `before`, and nothing else was done.
+bool onlyGrew(std::string_view bytes, std::string_view before) {
+    return bytes.starts_with(before) &&
+           (before.ends_with('\n') || bytes.substr(before.size()).starts_with("\r\n"));
+}
+
+int linesIn(std::string_view bytes) {
+    int lines = 0;
+    for (LineReader reader(bytes); !reader.atEnd(); reader.next())
+        ++lines;
+    return lines;
+}
+
+std::vector<std::string> tableOf(std::string_view bytes) {
+    std::vector<std::string> lines;
+    for (LineReader reader(bytes); !reader.atEnd() && lines.size() < LogEdit::lineCapacity;)
+        lines.emplace_back(reader.next());
+    return lines;
+}
+
 } // namespace
 
 std::string tidied(std::string_view typed) {
     return std::string(trim(upper(withoutSeparators(typed))));
 }
 
+ContactPlace placeOf(const Contacts& contacts, int contact) {
+    if (contact < 1 || contact > static_cast<int>(contacts.size()))
+        return {};
+    const auto place = contacts.begin() + (contact - 1);
+    return {std::string(*place), static_cast<int>(std::count(contacts.begin(), place, *place))};
+}
+
+// --- Finding ---------------------------------------------------------------------------------
+
 SearchResult LogEdit::search(std::string_view key) {
     if (length(key) < shortestCall)
         return SearchResult::keyTooShort;
-    const std::string& name = m_log.name();
-    take(name, m_files.read(name));
-    m_found = false;
+    readLog();
     return searchFrom(1, key);
 }
 
@@ -64,51 +92,108 @@ SearchResult LogEdit::searchNext(std::string_view key) {
 }
 
 SearchResult LogEdit::searchFrom(int position, std::string_view key) {
-    for (int index = position; index <= m_lines.size(); ++index) {
-        if (!isContactWith(m_lines.at(index), key))
+    for (int index = position; index <= lineCount(); ++index) {
+        if (!isContactWith(lineAt(index), key))
             continue;
-        m_position = index;
-        m_found = true;
+        goTo(index);
+        m_key = key;
         return SearchResult::found;
     }
     return SearchResult::notFound;
 }
 
+SearchResult LogEdit::find(const ContactPlace& place) {
+    readLog();
+    int alike = -1;
+    for (int index = 1; index <= lineCount() && alike < place.alikeBefore; ++index) {
+        // A contact ends at a comma; its line need not.
+        const std::string_view line = lineAt(index);
+        if (!isContact(line) || line.substr(0, line.find(',')) != place.text)
+            continue;
+        goTo(index);
+        ++alike;
+    }
+    if (!m_found)
+        return SearchResult::notFound;
+    m_key = trim(qso::hisCall.of(line()));
+    return SearchResult::found;
+}
+
+void LogEdit::readLog() {
+    std::string bytes = m_files.read(m_log.name());
+    forget();
+    take(m_log.name(), std::move(bytes));
+}
+
+void LogEdit::forget() {
+    take({}, {});
+    m_found = false;
+    m_key.clear();
+}
+
+std::vector<Match> LogEdit::matches() const {
+    std::vector<Match> matches;
+    for (int index = 1; index <= lineCount(); ++index) {
+        const bool current = m_found && index == m_position;
+        if (current || (!m_key.empty() && isContactWith(lineAt(index), m_key)))
+            matches.push_back({index, lineAt(index), current});
+    }
+    return matches;
+}
+
+std::string LogEdit::fullCopyName() const {
+    const std::string first = withSuffix(m_logName, fullSuffix);
+    std::string name = first;
+    for (int number = 2; m_files.present(name); ++number)
+        name = first + std::to_string(number);
+    return name.substr(name.find_last_of("/\\") + 1);
+}
+
+// --- Changing --------------------------------------------------------------------------------
+
 ChangeResult LogEdit::replaceLine(const std::string& line) {
     if (!m_found)
         return {};
-    const int position = m_position;
-    std::vector<std::string> lines = m_lines.entries();
-    lines[static_cast<std::size_t>(position - 1)] = line;
-    const ChangeResult result = change(lines);
-    if (result.made)
-        m_position = position;
-    return result;
+    if (!followGrowth())
+        return {false, logChangedNotice(m_files.path(m_logName))};
+    // A save that changes nothing must not cost the operator the copy of his last change.
+    if (line == this->line())
+        return {.made = true, .changedLog = false};
+    std::vector<std::string> lines = m_lines;
+    lines[static_cast<std::size_t>(m_position - 1)] = line;
+    return change(lines, Kind::replacement);
 }
 
 ChangeResult LogEdit::removeLine() {
     if (!m_found)
         return {};
-    const int position = m_position;
-    std::vector<std::string> lines = m_lines.entries();
-    lines.erase(lines.begin() + (position - 1));
-    const ChangeResult result = change(lines);
-    if (result.made) {
-        m_position = position - 1;
-        m_found = false;
-    }
-    return result;
+    if (!followGrowth())
+        return {false, logChangedNotice(m_files.path(m_logName))};
+    std::vector<std::string> lines = m_lines;
+    lines.erase(lines.begin() + (m_position - 1));
+    return change(lines, Kind::removal);
 }
 
-ChangeResult LogEdit::change(const std::vector<std::string>& lines) {
-    if (m_log.name() != m_logName || !isOnDisk(m_logName, m_logBytes))
-        return {false, logChangedNotice(m_files.path(m_logName))};
-    Change change{m_logName, m_logBytes, joinLines(lines), m_droppedLines};
-    // A save that changes nothing must not cost the operator the copy of his last change.
-    if (change.after == change.before)
-        return {true};
+// Contacts logged since the search stay behind the lines that were read. When they are the first
+// that a rewrite would drop, the operator has not been told yet, and the log counts as changed.
+bool LogEdit::followGrowth() {
+    if (m_log.name() != m_logName)
+        return false;
+    std::string bytes = m_files.readOrEmpty(m_logName);
+    if (bytes == m_logBytes)
+        return true;
+    if (!onlyGrew(bytes, m_logBytes) || (!dropsLines() && linesIn(bytes) > lineCapacity))
+        return false;
+    const int position = m_position;
+    take(m_logName, std::move(bytes));
+    m_position = position;
+    return true;
+}
+
+ChangeResult LogEdit::change(const std::vector<std::string>& lines, Kind kind) {
+    Change change{m_logName, m_logBytes, joinLines(lines), m_droppedLines, kind, m_position};
     const ChangeResult result = write(change);
-    take(change.logName, change.after);
+    takeAfter(change);
     m_change = std::move(change);
     return result;
 }
@@ -128,6 +213,16 @@ ChangeResult LogEdit::write(const Change& change) {
     return {true, std::move(notice)};
 }
 
+// After a removal nothing is found: a next search goes on with the line that moved up. A contact
+// that has another call now stands among those with that call.
+void LogEdit::takeAfter(const Change& change) {
+    take(change.logName, change.after);
+    m_found = change.kind == Kind::replacement || change.undone;
+    m_position = m_found ? change.position : change.position - 1;
+    if (m_found && (change.undone || !isContactWith(line(), m_key)))
+        m_key = trim(qso::hisCall.of(line()));
+}
+
 ChangeResult LogEdit::undo() {
     if (!m_change)
         return {};
@@ -137,26 +232,24 @@ ChangeResult LogEdit::undo() {
     if (!isOnDisk(backup, m_change->before))
         return {false, noUndoNotice(m_files.path(backup))};
 
-    Change reversed{m_change->logName, m_change->after, m_change->before, m_change->droppedLines,
-                    !m_change->undone};
+    Change reversed = *m_change;
+    std::swap(reversed.before, reversed.after);
+    reversed.undone = !reversed.undone;
     const ChangeResult result = write(reversed);
-    take(reversed.logName, reversed.after);
-    m_found = false;
+    takeAfter(reversed);
     m_change = std::move(reversed);
     return result;
 }
 
+std::vector<std::string> LogEdit::newsOfDuplicates(bool byNumber) const {
+    if (!m_change)
+        return {};
+    return duplicateNews(tableOf(m_change->before), tableOf(m_change->after), byNumber);
+}
+
 void LogEdit::take(const std::string& logName, std::string bytes) {
-    m_lines.clear();
-    m_droppedLines = 0;
-    LineReader reader(bytes);
-    while (!reader.atEnd()) {
-        const std::string_view line = reader.next();
-        if (m_lines.full())
-            ++m_droppedLines;
-        else
-            m_lines.append(std::string(line));
-    }
+    m_lines = tableOf(bytes);
+    m_droppedLines = linesIn(bytes) - lineCount();
     m_logName = logName;
     m_logBytes = std::move(bytes);
     m_position = 0;

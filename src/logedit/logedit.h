@@ -3,7 +3,7 @@
 // rewrite with its undo.
 #pragma once
 
-#include "base/boundedtable.h"
+#include "log/log.h"
 #include "platform/messages.h"
 
 #include <optional>
@@ -14,7 +14,6 @@
 namespace vantrel {
 
 class Files;
-class Log;
 
 // What a page's message label reads after an undo and after the next one, which redoes.
 inline constexpr std::string_view undoneText = " Undone....Click EXIT ";
@@ -29,6 +28,23 @@ enum class SearchResult { keyTooShort, found, notFound };
 struct ChangeResult {
     bool made = false;
     std::optional<Message> notice{}; // why nothing was written, or which lines went where
+    bool changedLog = made;          // false for a save that changes nothing
+};
+
+// A contact of the open log by what it reads, not by its number alone: the log may have changed
+// when it is looked for.
+struct ContactPlace {
+    std::string text;    // empty: no such contact
+    int alikeBefore = 0; // how many contacts before it read the same
+};
+// contact: 1 to their number.
+ContactPlace placeOf(const Contacts& contacts, int contact);
+
+// A contact that the search's key finds.
+struct Match {
+    int position; // of its line in the table
+    std::string_view line;
+    bool current; // the one found last
 };
 
 class LogEdit {
@@ -45,16 +61,35 @@ public:
     // The next such contact of the lines read by the search; the one found before stays when
     // there is none.
     SearchResult searchNext(std::string_view key);
+    // Reads the log and finds the very contact, as if its call had been searched for.
+    SearchResult find(const ContactPlace& place);
+    bool isAt(int position) const { return m_found && m_position == position; }
+    // Goes to one of matches().
+    void goTo(int position) {
+        m_position = position;
+        m_found = true;
+    }
+    // Nothing is found any more.
+    void forget();
+
+    // The contacts with the call searched for last and the one found, as they were read; valid
+    // until the next reading or change.
+    std::vector<Match> matches() const;
+    // Whether a rewrite would drop lines, and the name (without its folder) of the file in which
+    // all of them would be kept.
+    bool dropsLines() const { return m_droppedLines > 0; }
+    std::string fullCopyName() const;
 
     // True while there is a contact to change: found by a search and not deleted since.
     bool found() const { return m_found; }
     // The line found last.
-    const std::string& line() const { return m_lines.at(m_position); }
+    const std::string& line() const { return lineAt(m_position); }
 
     // Both rewrite the log whole, lines ended CR LF, and keep the log before as NAME.BAK;
     // with lines beyond the table's 2,000 those are dropped, the whole log before being kept
-    // as NAME.FULL too. Nothing is written when nothing is found, or (with a notice) when the
-    // log on the disk is no longer what the search read. Throw as Files::rewriteAll and
+    // as NAME.FULL too. A log that only grew since the search is taken as it is now. Nothing
+    // is written when nothing is found or changed, or (with a notice) when the log on the disk
+    // is no longer what the search read. Throw as Files::rewriteAll and
     // Files::keepCopy, the log then being as it was.
     ChangeResult replaceLine(const std::string& line);
     // A next search goes on with the line that moved up.
@@ -63,34 +98,48 @@ public:
     bool canUndo() const { return m_change.has_value(); }
     // Exchanges the log and its NAME.BAK: undoes the last change made here, or redoes it when
     // it was undone. Refused, with a notice, unless both are byte for byte as that left them.
-    // Afterwards nothing is found. Throws as the change.
+    // Afterwards the contact is found that came back. Throws as the change.
     ChangeResult undo();
     // The message label's text after an undo().
     std::string_view undoText() const { return m_change->undone ? undoneText : redoneText; }
+    // What the last change, or its undo, did to duplicates; see duplicateNews.
+    std::vector<std::string> newsOfDuplicates(bool byNumber) const;
 
 private:
+    enum class Kind { replacement, removal };
     // A change made here, or its undo; `before` and `after` are whole logs.
     struct Change {
         std::string logName;
         std::string before;
         std::string after;
         int droppedLines;
+        Kind kind;
+        int position; // of the line changed
         bool undone = false;
     };
 
+    int lineCount() const { return static_cast<int>(m_lines.size()); }
+    // Position 1 to lineCount().
+    const std::string& lineAt(int position) const {
+        return m_lines[static_cast<std::size_t>(position - 1)];
+    }
+    void readLog();
     SearchResult searchFrom(int position, std::string_view key);
-    ChangeResult change(const std::vector<std::string>& lines);
+    bool followGrowth();
+    ChangeResult change(const std::vector<std::string>& lines, Kind kind);
     ChangeResult write(const Change& change);
+    void takeAfter(const Change& change);
     void take(const std::string& logName, std::string bytes);
     bool isOnDisk(const std::string& name, std::string_view bytes) const;
 
     Files& m_files;
     const Log& m_log;
-    BoundedTable<std::string> m_lines{"the table of log lines", lineCapacity};
-    std::string m_logName;  // the log that the table was read from
-    std::string m_logBytes; // all of it
-    int m_droppedLines = 0; // how many of its lines the table has no room for
-    int m_position = 0;     // line found last; 0 before the first
+    std::vector<std::string> m_lines; // the first 2,000; positions count from 1
+    std::string m_key;                // that found the contact found last
+    std::string m_logName;            // the log that the table was read from
+    std::string m_logBytes;           // all of it
+    int m_droppedLines = 0;           // how many of its lines the table has no room for
+    int m_position = 0;               // line found last; 0 before the first
     bool m_found = false;
     std::optional<Change> m_change;
 };

@@ -21,6 +21,10 @@ constexpr double headingEnlargement = 1.5;
 constexpr int noteLines = 3; // room for what may have to be told at once
 constexpr int matchRows = 6;
 
+std::string searchedNote() {
+    return "THE FIRST " + std::to_string(LogEdit::lineCapacity) + " LINES WERE SEARCHED";
+}
+
 void makeBold(QWidget* widget) {
     widget->setFont(enlargedFont(widget, 1));
 }
@@ -49,7 +53,7 @@ void frmLogPage::load() {
     if (m_log.find(start.place) == SearchResult::found)
         showWithItsCall();
     else
-        tell({"THIS CONTACT IS NO LONGER IN THE LOG"});
+        tell({m_log.dropsLines() ? searchedNote() : "THIS CONTACT IS NO LONGER IN THE LOG"});
 }
 
 QWidget* frmLogPage::firstFocus() {
@@ -177,13 +181,11 @@ QHBoxLayout* frmLogPage::changeButtons() {
 // --- Finding ---------------------------------------------------------------------------------
 
 void frmLogPage::searchClicked() {
-    searchStarts();
     const std::string key = takeKey();
     showOutcome(m_log.search(key), key, notFoundText(key));
 }
 
 void frmLogPage::searchAgainClicked() {
-    searchStarts();
     const std::string key = takeKey();
     showOutcome(m_log.searchNext(key), key, lastEntryText());
 }
@@ -191,6 +193,7 @@ void frmLogPage::searchAgainClicked() {
 std::string frmLogPage::takeKey() {
     const std::string key = tidied(textOf(m_callBox));
     put(m_callBox, key);
+    searchStarts(key);
     return key;
 }
 
@@ -199,17 +202,17 @@ void frmLogPage::showOutcome(SearchResult result, const std::string& key, std::s
     if (result == SearchResult::found) {
         showFound(key);
     } else if (result == SearchResult::notFound) {
-        foundNone(key);
         say(none);
         if (m_log.dropsLines())
-            notes.push_back("THE FIRST " + std::to_string(LogEdit::lineCapacity) +
-                            " LINES WERE SEARCHED");
+            notes.push_back(searchedNote());
     }
     tell(std::move(notes));
     followLog();
 }
 
 void frmLogPage::matchChosen(const QModelIndex& index) {
+    if (!index.isValid()) // where one click both chooses and activates
+        return;
     const int position = m_matchPositions.at(static_cast<std::size_t>(index.row()));
     // What was typed over the contact that is shown already stays.
     if (!m_log.isAt(position)) {

@@ -56,9 +56,8 @@ protected:
     QLabel* messageLabel() { return m_messageLabel; }
 
     // What a page does its own way.
-    virtual void searchStarts() {}
+    virtual void searchStarts(const std::string& /*key*/) {}
     virtual void showFound(const std::string& key) = 0; // the contact is log().line()
-    virtual void foundNone(const std::string& /*key*/) {}
     virtual std::string notFoundText(const std::string& key) const = 0;
     virtual std::string_view lastEntryText() const { return "LAST ENTRY"; }
     virtual void change() = 0; // of the contact found
@@ -95,7 +94,7 @@ private:
     void changeClicked();
     void undoClicked();
 
-    // The call box's text tidied, put back into it.
+    // The call box's text tidied, put back into it: from now on it is the key.
     std::string takeKey();
     // The contact that a search found, or that there is `none`.
     void showOutcome(SearchResult result, const std::string& key, std::string_view none);

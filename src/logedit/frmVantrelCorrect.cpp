@@ -29,13 +29,15 @@ void frmVantrelCorrect::createControls() {
     connect(m_boxes.front(), &QLineEdit::textEdited, this, [this] { m_callTyped = true; });
 }
 
-void frmVantrelCorrect::showFound(const std::string& key) {
-    showBoxes(correctionBoxes(key, log().line()));
+// What is searched for, even in vain, is no correction of the call that is found already.
+void frmVantrelCorrect::searchStarts(const std::string& key) {
+    m_shown.front() = key;
+    m_callTyped = false;
+    say("");
 }
 
-void frmVantrelCorrect::foundNone(const std::string& key) {
-    m_shown.front() = key; // searched for, so it is no correction of the call that stays
-    m_callTyped = false;
+void frmVantrelCorrect::showFound(const std::string& key) {
+    showBoxes(correctionBoxes(key, log().line()));
 }
 
 std::string frmVantrelCorrect::notFoundText(const std::string& /*key*/) const {

@@ -14,9 +14,8 @@ public:
     explicit frmVantrelCorrect(const FormContext& context);
 
 protected:
-    void searchStarts() override { say(""); }
+    void searchStarts(const std::string& key) override;
     void showFound(const std::string& key) override;
-    void foundNone(const std::string& key) override;
     std::string notFoundText(const std::string& key) const override;
     void change() override;
     void clearBoxes() override;

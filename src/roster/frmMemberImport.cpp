@@ -12,6 +12,8 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include <initializer_list>
+
 namespace vantrel {
 
 namespace {
@@ -26,16 +28,22 @@ const MemberImportPage dataImportPage{
     dataListFile,
     "READS SKCCDATA.TXT FILE AND APPENDS  NEW CALLS,           SKCC#s, NAMES, and STATES TO THE "
     "EXISTING                                         SKSDBx.TXT DATABASE FILES",
-    false,
-    "READS SKCCDATA.TXT AND ADDS NEW MEMBERS"};
+    "USE TO FIND THE SKCCDATA.TXT FILE",
+    Screen::readData,
+    "READS SKCCDATA.TXT AND ADDS NEW MEMBERS",
+    "Label6",
+    changedText};
 
 const MemberImportPage memberImportPage{"frmVantrelUpdate",
                                         "Update The Data Files",
                                         MemberList::members,
                                         memberListFile,
                                         "",
-                                        true,
-                                        "READS SKCCLIST.TXT AND ADDS NEW MEMBERS"};
+                                        "USE TO FIND THE SKCCLIST.TXT FILE",
+                                        Screen::memberUpdate,
+                                        "READS SKCCLIST.TXT AND ADDS NEW MEMBERS",
+                                        "Label4",
+                                        fixedText};
 
 frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportPage& page)
     : Form(context, page.name, page.caption), m_page(page) {
@@ -43,24 +51,24 @@ frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportP
     layOut();
     using Page = frmMemberImport;
     connectHandler(m_addButton, &QPushButton::clicked, this, &Page::addMembersClicked);
-    if (m_browseButton != nullptr)
-        connectHandler(m_browseButton, &QPushButton::clicked, this, &Page::browseClicked);
+    connectHandler(m_browseButton, &QPushButton::clicked, this, &Page::browseClicked);
+    connect(m_pathBox, &QLineEdit::returnPressed, m_addButton, [this] { m_addButton->setFocus(); });
     connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
 }
 
 void frmMemberImport::createControls() {
     FormBuilder build(this);
     m_pathBox = build.text("Text1", 0, "PATH AND FILE NAME");
-    if (m_page.browses) {
-        m_browseButton = build.command("Command3", "&BROWSE", "USE TO FIND THE SKCCLIST.TXT FILE");
-        m_fixed = build.label("Label4");
-    }
+    m_browseButton = build.command("Command3", "&BROWSE", m_page.browseTip);
     m_addButton = build.command("Command2", "&ADD MBRS", m_page.addTip);
     m_exitButton = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
     m_phase = build.label("Label1");
     m_lineNumber = build.label("Label2");
     m_added = build.label("Label3");
+    m_linesRead = build.label("Label7");
+    m_changed = build.label(m_page.changedLabel);
     m_skipped = build.label("Label5");
+    setTextColour(m_skipped, cautionColour(palette()));
     m_progress = new QProgressBar(this);
     m_progress->setObjectName(QStringLiteral("ProgressBar1"));
 }
@@ -87,7 +95,7 @@ void frmMemberImport::receivePath(const std::string& path) {
 }
 
 void frmMemberImport::browseClicked() {
-    screens().openFinder(Screen::memberUpdate);
+    screens().openFinder(m_page.screen);
 }
 
 void frmMemberImport::addMembersClicked() {
@@ -97,12 +105,12 @@ void frmMemberImport::addMembersClicked() {
             {std::string(memberListMissing), BoxIcon::exclamation, platform().files.path(path)});
         return;
     }
-    enableButtons(false);
+    showRunning(true);
     bool finished = false;
     runHandler([&] { finished = runImport(); });
     if (m_closed)
         return;
-    enableButtons(true);
+    showRunning(false);
     if (finished)
         m_exitButton->setFocus();
     else
@@ -110,9 +118,8 @@ void frmMemberImport::addMembersClicked() {
 }
 
 bool frmMemberImport::runImport() {
-    for (QLabel* label : {m_lineNumber, m_added, m_fixed, m_skipped})
-        if (label != nullptr)
-            label->clear();
+    for (QLabel* label : {m_lineNumber, m_added, m_linesRead, m_changed, m_skipped})
+        label->clear();
     m_progress->reset();
     const ImportResult result =
         importMembers(platform().files, m_page.list, textOf(m_pathBox),
@@ -143,49 +150,88 @@ bool frmMemberImport::showStep(const ImportStep& step) {
 void frmMemberImport::showResult(const ImportResult& result) {
     put(m_added, addedText(m_page.list, result.added));
     put(m_skipped, skippedText(result.skipped));
-    if (m_fixed != nullptr)
-        put(m_fixed, fixedText(result.fixed));
+    put(m_linesRead, linesReadText(result.lines));
+    put(m_changed, m_page.changedText(result.fixed));
 }
 
-void frmMemberImport::enableButtons(bool enabled) {
+// What is under way shows only as long as it is; the buttons rest meanwhile.
+void frmMemberImport::showRunning(bool running) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_phase, m_lineNumber, m_progress})
+        widget->setVisible(running);
     for (QPushButton* button : {m_exitButton, m_addButton, m_browseButton})
-        if (button != nullptr)
-            button->setEnabled(enabled);
+        button->setEnabled(!running);
 }
 
 void frmMemberImport::layOut() {
     FormBuilder build(this);
     auto* page = new QVBoxLayout(this);
-    const auto addText = [&](const std::string& text) {
-        QLabel* label = build.caption(text.c_str());
-        label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        page->addWidget(label);
-    };
-    if (*m_page.explanation != '\0')
-        addText(m_page.explanation);
-    addText("The club publishes its lists at " + std::string(listsAddress));
-    addText("Then run this routine to add new members to the database - Click ADD MBRS");
+    page->addLayout(texts());
     auto* path = new QHBoxLayout;
+    path->addWidget(build.caption("LIST:", m_pathBox));
     path->addWidget(m_pathBox, 1);
-    if (m_browseButton != nullptr)
-        path->addWidget(m_browseButton);
+    path->addWidget(m_browseButton);
     page->addLayout(path);
-    page->addWidget(m_phase);
-    page->addWidget(m_lineNumber);
-    page->addWidget(m_progress);
-    page->addWidget(m_added);
-    if (m_fixed != nullptr)
-        page->addWidget(m_fixed);
-    page->addWidget(m_skipped);
+    page->addLayout(progressPart());
+    page->addLayout(resultPart());
+    page->addSpacing(fontMetrics().height());
     page->addStretch();
     auto* buttons = new QHBoxLayout;
+    m_addButton->setFont(enlargedFont(this, 1));
     buttons->addWidget(m_addButton);
+    buttons->addStretch();
     buttons->addWidget(m_exitButton);
     page->addLayout(buttons);
     // As high as its texts need when they wrap at this width.
     const int width = fontMetrics().averageCharWidth() * widthInCharacters;
     resize(width, page->totalHeightForWidth(width));
+}
+
+QLayout* frmMemberImport::texts() {
+    FormBuilder build(this);
+    auto* texts = new QVBoxLayout;
+    const std::string address = "The club publishes its lists at " + std::string(listsAddress);
+    for (const char* text :
+         {m_page.explanation, address.c_str(),
+          "Then run this routine to add new members to the database - Click ADD MBRS"}) {
+        if (*text == '\0')
+            continue;
+        QLabel* label = build.caption(text);
+        label->setWordWrap(true);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        texts->addWidget(label);
+    }
+    return texts;
+}
+
+QLayout* frmMemberImport::progressPart() {
+    auto* phase = new QHBoxLayout;
+    phase->addWidget(m_phase);
+    phase->addWidget(m_lineNumber);
+    phase->addStretch();
+    auto* part = new QVBoxLayout;
+    part->addLayout(phase);
+    part->addWidget(m_progress);
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_phase, m_lineNumber, m_progress}) {
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true); // nothing jumps when it comes and goes
+        widget->setSizePolicy(policy);
+        widget->hide();
+    }
+    return part;
+}
+
+QLayout* frmMemberImport::resultPart() {
+    m_added->setFont(enlargedFont(this, 1));
+    auto* figures = new QHBoxLayout;
+    for (QLabel* label : {m_linesRead, m_changed, m_skipped}) {
+        figures->addWidget(label);
+        figures->addSpacing(2 * fontMetrics().averageCharWidth());
+    }
+    figures->addStretch();
+    auto* part = new QVBoxLayout;
+    part->addWidget(m_added);
+    part->addLayout(figures);
+    return part;
 }
 
 } // namespace vantrel

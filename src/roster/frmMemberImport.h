@@ -21,8 +21,11 @@ struct MemberImportPage {
     MemberList list;
     std::string_view listFile; // what the path box is filled with, in the program folder
     const char* explanation;
-    bool browses; // has a button that opens the finder, and tells the numbers fixed
+    const char* browseTip;
+    Screen screen; // to which the finder hands a path back
     const char* addTip;
+    const char* changedLabel; // tells how many members' numbers changed
+    std::string (*changedText)(int changed);
 };
 
 extern const MemberImportPage dataImportPage;   // frmReadSKCCDATA
@@ -44,24 +47,28 @@ protected:
 private:
     void createControls();
     void layOut();
+    QLayout* texts();
+    QLayout* progressPart();
+    QLayout* resultPart();
 
     void browseClicked();
     void addMembersClicked();
 
     bool runImport();
+    void showRunning(bool running);
     bool showStep(const ImportStep& step);
     void showResult(const ImportResult& result);
-    void enableButtons(bool enabled);
 
     const MemberImportPage& m_page;
     QLineEdit* m_pathBox;
-    QPushButton* m_browseButton = nullptr;
+    QPushButton* m_browseButton;
     QPushButton* m_addButton;
     QPushButton* m_exitButton;
     QLabel* m_phase;
     QLabel* m_lineNumber;
     QLabel* m_added;
-    QLabel* m_fixed = nullptr;
+    QLabel* m_linesRead;
+    QLabel* m_changed;
     QLabel* m_skipped;
     QProgressBar* m_progress;
     QElapsedTimer m_sinceShown;

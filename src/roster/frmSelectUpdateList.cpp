@@ -16,6 +16,7 @@ frmSelectUpdateList::frmSelectUpdateList(const FormContext& context)
     FormBuilder build(this);
     m_downloadOption = build.jobOption("Option3", "DOWNLOAD AND SAVE SKCCDATA.TXT AND SKCCLIST.TXT",
                                        "STARTS THE FETCHER, WHICH DOWNLOADS BOTH LISTS");
+    m_lastRun = m_downloadOption;
     m_dataOption = build.jobOption("Option1", "UPDATE  USING  SKCCDATA.TXT   (First Choice)");
     m_membersOption = build.jobOption("Option2", "UPDATE  USING  SKCCLIST.TXT    (Second Choice)");
     QPushButton* exit = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
@@ -28,6 +29,10 @@ frmSelectUpdateList::frmSelectUpdateList(const FormContext& context)
     page->addLayout(first);
     page->addWidget(m_dataOption);
     page->addWidget(m_membersOption);
+    QLabel* address =
+        build.caption(("The club publishes its lists at " + std::string(listsAddress)).c_str());
+    address->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    page->addWidget(address);
     page->addStretch();
     page->addWidget(exit, 0, Qt::AlignRight);
 
@@ -39,23 +44,33 @@ frmSelectUpdateList::frmSelectUpdateList(const FormContext& context)
 }
 
 QWidget* frmSelectUpdateList::firstFocus() {
-    return m_downloadOption;
+    return m_lastRun;
 }
 
-// An option here is a job, not a choice that stays.
+// An option here is a job, not a choice that stays; the next one is likely to be beside it.
+void frmSelectUpdateList::run(QRadioButton* option) {
+    option->setChecked(false);
+    m_lastRun = option;
+}
+
 void frmSelectUpdateList::importDataClicked() {
-    m_dataOption->setChecked(false);
+    run(m_dataOption);
     screens().open(Screen::readData);
 }
 
 void frmSelectUpdateList::importMembersClicked() {
-    m_membersOption->setChecked(false);
+    run(m_membersOption);
     screens().open(Screen::memberUpdate);
 }
 
 void frmSelectUpdateList::downloadClicked() {
-    m_downloadOption->setChecked(false);
-    platform().launcher.start(platform().files.nativePath(fetcherProgram));
+    run(m_downloadOption);
+    const Files& files = platform().files;
+    try {
+        platform().launcher.start(files.nativePath(fetcherProgram));
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.code(), error.detail() + "\n\n" + downloadByHand(files.path("")));
+    }
 }
 
 } // namespace vantrel

@@ -18,6 +18,7 @@ protected:
     QWidget* firstFocus() override;
 
 private:
+    void run(QRadioButton* option);
     void importDataClicked();
     void importMembersClicked();
     void downloadClicked();
@@ -25,6 +26,7 @@ private:
     QRadioButton* m_downloadOption;
     QRadioButton* m_dataOption;
     QRadioButton* m_membersOption;
+    QRadioButton* m_lastRun; // and the first to offer
 };
 
 } // namespace vantrel

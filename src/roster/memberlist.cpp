@@ -3,6 +3,8 @@
 
 #include "roster/rosterrecord.h"
 
+#include <algorithm>
+
 namespace vantrel {
 
 namespace {
@@ -12,7 +14,8 @@ constexpr int searchedColumns = 200;
 constexpr std::size_t dataFields = 11;
 constexpr std::size_t memberFields = 6;
 constexpr std::size_t datedMemberFields = 7;
-constexpr std::string_view dateHeading = "|date issued|";
+constexpr std::string_view dateHeading = "|DATE ISSUED|";
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
 enum Field : std::size_t { memberNumber = 0, call = 1, name = 2, state = 4 };
 
@@ -34,28 +37,81 @@ void split(std::string_view line, std::vector<std::string_view>& fields) {
     fields.push_back(line.substr(start));
 }
 
+bool isBlank(std::string_view text) {
+    return trim(text).empty();
+}
+
+bool isNumber(std::string_view field) {
+    const std::string number = upper(trim(field));
+    return !number.empty() && isDigit(number.front()) &&
+           std::all_of(number.begin(), number.end(),
+                       [](char character) { return isDigit(character) || isCapital(character); });
+}
+
 } // namespace
 
-MemberListReader::MemberListReader(MemberList list)
-    : m_list(list), m_fieldCount(list == MemberList::data ? dataFields : memberFields) {}
+std::string downloadByHand(std::string_view programFolder) {
+    return "DOWNLOAD SKCCDATA.TXT FROM " + std::string(listsAddress) + ", PUT IT INTO " +
+           std::string(programFolder) +
+           " AND TAKE THE FIRST CHOICE THEN (WITH SKCCLIST.TXT THE SECOND).";
+}
+
+ListLines::ListLines(std::string_view bytes) : m_rest(bytes) {
+    if (m_rest.starts_with(utf8Mark))
+        m_rest.remove_prefix(utf8Mark.size());
+}
+
+std::string_view ListLines::next() {
+    const std::size_t end = std::min(m_rest.find_first_of("\r\n"), m_rest.size());
+    const std::string_view line = m_rest.substr(0, end);
+    m_rest.remove_prefix(end);
+    m_rest.remove_prefix(m_rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(m_rest.size(), 1));
+    return line;
+}
+
+void MemberListReader::readHeader(std::string_view header) {
+    if (m_list == MemberList::data)
+        return;
+    split(header, m_fields);
+    m_wrongList = m_wrongList || m_fields.size() > datedMemberFields + 1;
+    const bool dated = upper(header).find(dateHeading) != std::string::npos;
+    m_headersFields = dated ? datedMemberFields : memberFields;
+}
+
+// How many fields the line read last must have; 0 for a line of the other list.
+std::size_t MemberListReader::fieldCount() const {
+    if (m_list == MemberList::data)
+        return dataFields;
+    if (m_wrongList || m_fields.size() >= dataFields)
+        return 0;
+    if (m_headersFields != 0 || m_fields.size() < datedMemberFields)
+        return m_headersFields != 0 ? m_headersFields : memberFields;
+    // One separator behind six fields looks like a seventh: what stands before it tells.
+    const bool sixthIsLast =
+        isBlank(m_fields[datedMemberFields - 1]) && isNumber(m_fields[memberFields - 1]);
+    return sixthIsLast ? memberFields : datedMemberFields;
+}
 
 ListLine MemberListReader::read(std::string_view line) {
     if (isHeader(line)) {
-        if (m_list == MemberList::members && line.find(dateHeading) != std::string_view::npos)
-            m_fieldCount = datedMemberFields;
+        readHeader(line);
         return ListLine::other;
     }
-    if (trim(line).empty())
+    if (isBlank(line))
         return ListLine::other;
     std::vector<std::string_view>& fields = m_fields; // its memory is used for every line
     split(line, fields);
-    if (fields.size() < m_fieldCount)
+    const std::size_t count = fieldCount();
+    if (count == 0 || fields.size() < count)
         return ListLine::malformed;
-    if (fields.size() > m_fieldCount && fields.back().empty()) // what follows the last separator
-        fields.pop_back();
-    const std::string_view number =
-        m_list == MemberList::data ? fields[Field::memberNumber] : fields.back();
-    m_record = memberRecord(number, fields[Field::call], fields[Field::name], fields[Field::state]);
+    const auto behind = fields.begin() + static_cast<std::ptrdiff_t>(count);
+    const std::string callField = withoutSeparators(fields[Field::call]);
+    const bool numberIsLast = m_list == MemberList::members && !isBlank(fields[count - 1]);
+    const std::string_view number = fields[numberIsLast ? count - 1 : Field::memberNumber];
+    if (!std::all_of(behind, fields.end(), isBlank) || isBlank(callField) || !isNumber(number))
+        return ListLine::malformed;
+    m_record = memberRecord(number, callField, withoutSeparators(fields[Field::name]),
+                            withoutSeparators(fields[Field::state]));
     return ListLine::member;
 }
 

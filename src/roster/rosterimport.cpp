@@ -7,6 +7,7 @@
 #include "roster/rosterrecord.h"
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <unordered_map>
 #include <utility>
@@ -21,6 +22,7 @@ constexpr int wholeListInOneLine = 150; // a first line longer than this is no l
 // The lines of "SKSDB4.TXT", and of no other file, are padded with blanks to 232 columns.
 constexpr std::size_t paddedFile = 3;
 constexpr int paddedWidth = 232;
+constexpr std::string_view backupSuffix = ".BAK";
 
 constexpr std::string_view workingPhase = "<<< WORKING >>>";
 constexpr std::string_view splittingPhase = "PREPARING THE FILE";
@@ -61,6 +63,7 @@ public:
     void replace(int place, std::string_view record) { m_lines.at(place) = copyOf(record); }
 
     FileContent content() const { return {m_name, joinLines(m_lines)}; }
+    FileContent contentBefore() const { return {m_name + std::string(backupSuffix), m_bytes}; }
 
 private:
     void append(std::string_view line) {
@@ -86,10 +89,12 @@ private:
 class RosterTables {
 public:
     explicit RosterTables(const Files& files) {
-        for (std::size_t i = 0; i < rosterFiles.size(); ++i)
+        for (std::size_t i = 0; i < rosterFiles.size(); ++i) {
+            m_present[i] = files.present(rosterFiles[i]);
             m_tables.emplace_back(rosterFiles[i], rosterCapacities[i],
                                   i == paddedFile ? paddedWidth : 0,
                                   files.readOrEmpty(rosterFiles[i]));
+        }
     }
 
     void merge(const std::string& record, ImportResult& result) {
@@ -108,6 +113,9 @@ public:
 
     void save(Files& files, const std::function<void()>& between) const {
         std::vector<FileContent> contents;
+        for (std::size_t i = 0; i < m_tables.size(); ++i)
+            if (m_present[i])
+                contents.push_back(m_tables[i].contentBefore());
         for (const RosterTable& table : m_tables)
             contents.push_back(table.content());
         files.rewriteAll(contents, between);
@@ -115,11 +123,12 @@ public:
 
 private:
     std::deque<RosterTable> m_tables; // which cannot be moved
+    std::array<bool, rosterFiles.size()> m_present{};
 };
 
 BoundedTable<std::string_view> linesOf(std::string_view bytes, const std::string& path) {
     BoundedTable<std::string_view> lines("the table of " + path, listCapacity);
-    LineReader reader(bytes);
+    ListLines reader(bytes);
     while (!reader.atEnd())
         lines.append(reader.next());
     return lines;
@@ -140,17 +149,22 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     const BoundedTable<std::string_view> lines = linesOf(bytes, files.path(listPath));
 
     MemberListReader reader(list);
-    int number = 0;
     for (const std::string_view line : lines) {
-        if (!progress({mergingPhase(list), ++number, lines.size()}))
+        if (!progress({mergingPhase(list), ++result.lines, lines.size()}))
             return result;
         const ListLine kind = reader.read(line);
         if (kind == ListLine::malformed)
             ++result.skipped;
-        if (kind == ListLine::member)
+        if (kind == ListLine::member) {
+            ++result.members;
             roster.merge(reader.record(), result);
+        }
     }
 
+    if (result.members == 0) { // the wrong file: it is no reason to write anything
+        result.finished = true;
+        return result;
+    }
     if (!progress({savingPhase}))
         return result;
     // Too late to give up: the files are all saved, or none.
@@ -172,6 +186,14 @@ std::string addedText(MemberList list, int added) {
 
 std::string fixedText(int fixed) {
     return std::to_string(fixed) + " SKCC#'s Fixed";
+}
+
+std::string changedText(int changed) {
+    return std::to_string(changed) + (changed == 1 ? " NUMBER CHANGED" : " NUMBERS CHANGED");
+}
+
+std::string linesReadText(int lines) {
+    return std::to_string(lines) + (lines == 1 ? " LINE READ" : " LINES READ");
 }
 
 std::string skippedText(int skipped) {

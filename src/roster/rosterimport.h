@@ -24,14 +24,18 @@ using ImportProgress = std::function<bool(const ImportStep&)>;
 
 struct ImportResult {
     bool finished = false; // false: given up, no file touched
+    int lines = 0;         // of the list
+    int members = 0;       // in them
     int added = 0;         // members new to the roster
     int fixed = 0;         // members whose stored number differed from the list's
-    int skipped = 0;       // lines that lack fields
+    int skipped = 0;       // lines that are no member, header or blank
 };
 
 // Merges the list `listPath` into the roster files: a member already there (the first line with
 // his call) is rewritten in place, a new one appended to the file of his call's first letter.
-// All five files are then rewritten, or none; a missing one is an empty one. Throws RuntimeError
+// All five files are then rewritten, or none, and those that were there kept as they were as
+// "SKSDB1.TXT.BAK" and so on; a missing one is an empty one. A list without a member changes
+// nothing. Throws RuntimeError
 // 9 naming the table for a list of more than 20,000 lines or a roster file beyond its
 // capacity, 53 for a missing list, and as Files; no roster file is touched then.
 ImportResult importMembers(Files& files, MemberList list, std::string_view listPath,
@@ -43,7 +47,9 @@ inline constexpr std::string_view memberListMissing = "SKCCLIST.TXT IS NOT FOUND
 std::string lineNumberText(int line);
 // "DONE. . . . 3 MBRS ADDED. Click EXIT", as the list's screen words it.
 std::string addedText(MemberList list, int added);
-std::string fixedText(int fixed);
+std::string fixedText(int fixed);   // as the screen of the members' list words it
+std::string changedText(int fixed); // and that of the data list
+std::string linesReadText(int lines);
 // Empty for none.
 std::string skippedText(int skipped);
 

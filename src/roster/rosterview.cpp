@@ -18,4 +18,16 @@ RosterView viewRosterFile(const Files& files, std::size_t number) {
     return {files.path(name), lines.entries()};
 }
 
+int countMembers(const Files& files) {
+    int members = 0;
+    for (const std::string_view name : rosterFiles) {
+        const std::string bytes = files.readOrEmpty(name);
+        LineReader reader(bytes);
+        while (!reader.atEnd())
+            if (!trim(member::call.of(reader.next())).empty())
+                ++members;
+    }
+    return members;
+}
+
 } // namespace vantrel

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A roster file as the roster viewer shows it.
+// A roster file as the roster viewer shows it, and how many members all five hold.
 #pragma once
 
 #include <cstddef>
@@ -21,5 +21,9 @@ struct RosterView {
 // The items of roster file 1 to 5. Throws RuntimeError 53 when there is none, 9 for more than
 // 8,000 items.
 RosterView viewRosterFile(const Files& files, std::size_t number);
+
+// The lines of all five files that hold a call; a missing file is an empty one. Throws as
+// Files::read.
+int countMembers(const Files& files);
 
 } // namespace vantrel

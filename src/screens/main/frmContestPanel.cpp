@@ -3,7 +3,11 @@
 
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "k3y/standings.h"
+#include "output/score/scoregain.h"
+#include "output/score/scorereport.h"
 #include "screens/main/frmPaceBars.h"
+#include "shared/settings.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -92,15 +96,15 @@ ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
     for (int column = 1; column < bandColumns; ++column)
         m_bandTable->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight |
                                                                     Qt::AlignVCenter);
-    auto* bands = new QVBoxLayout;
-    bands->setContentsMargins(0, 0, 0, 0);
-    bands->addWidget(m_bandTable);
+    auto* worked = new QVBoxLayout;
+    worked->setContentsMargins(0, 0, 0, 0);
+    worked->addWidget(m_bandTable);
 
     auto* cards = new QVBoxLayout(this);
     cards->setContentsMargins(0, 0, 0, 0);
     cards->addWidget(card(this, score));
     cards->addWidget(card(this, pace));
-    cards->addWidget(card(this, bands), 1);
+    cards->addWidget(card(this, worked), 1);
     setFixedWidth(fontMetrics().averageCharWidth() * 40);
 }
 
@@ -109,7 +113,26 @@ void ContestPanel::showScore(std::string_view total, std::string_view sum) {
     put(m_sumLabel, sum);
 }
 
-void ContestPanel::showPace(const Pace& pace) {
+void ContestPanel::followLog(const Contacts& contacts, const OperatingSettings& settings) {
+    m_moments = momentsOf(contacts);
+    m_shownAt.reset();
+    if (settings.isK3y()) {
+        const Integer16 areas = areaStandings(contacts).total();
+        const Integer16 regions = regionStandings(contacts).total();
+        showScore((areas + regions).text(),
+                  "AREAS " + areas.text() + ", REGIONS " + regions.text());
+        return;
+    }
+    m_score = computeScore(contacts, settings);
+    showScore(figureText(m_score.total), scoreSum(m_score));
+}
+
+void ContestPanel::followClock(const UtcTime& utc) {
+    const std::optional<Moment> now = momentOf(utc);
+    if (!now || m_shownAt == now)
+        return;
+    m_shownAt = now;
+    const Pace pace = paceOf(m_moments, *now);
     put(m_rateLabel, rateText(pace));
     put(m_lastLabel, lastText(pace));
     m_bars->setPace(pace);

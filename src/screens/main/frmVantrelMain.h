@@ -5,12 +5,11 @@
 
 #include "forms/form.h"
 #include "forms/inputhold.h"
-#include "output/score/score.h"
 #include "rig/catlink.h"
 #include "roster/rosterlookup.h"
-#include "screens/main/frmEntryBoxes.h"
+#include "screens/main/frmMainControls.h"
+#include "screens/main/frmMainKeys.h"
 #include "screens/main/hints.h"
-#include "screens/main/pace.h"
 
 #include <initializer_list>
 #include <optional>
@@ -47,7 +46,6 @@ protected:
     bool isOwnPage() const override { return true; }
     int freeTop() const override;
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* receiver, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -64,17 +62,11 @@ private:
         std::optional<Entry> lookedUp;
     };
 
-    void createControls();
-    void layOut();
-    QHBoxLayout* rowOf(std::initializer_list<QWidget*> controls);
-    QHBoxLayout* statusRow();
-    QHBoxLayout* frequencyRow();
-    QHBoxLayout* whoIsItRow();
-    QHBoxLayout* contestRow();
     void connectHandlers();
     void connectEntryBoxes();
 
     QHBoxLayout* pageCommands();
+    MainKeys::Actions keyActions();
 
     // In the order in which the operator meets them.
     void callEdited();
@@ -99,19 +91,15 @@ private:
     int chosenContact() const;
     void openOnContact(Screen page, int contact, bool shown);
     void tellGain(Entry typed);
-    void showScore();
     void secondPassed();
     void showRead(ReadOutcome outcome);
-    bool callBoxTakes(const QKeyEvent& key);
-    bool workedListTakes(const QKeyEvent& key);
-    bool toFirstEmptyBox();
     void frequencyEntered();
     bool lookUpAndShow(Entry& typed);
     bool refusesDupe();
     bool recheckOn(const std::string& bandTag);
     std::optional<std::string> assembledLine(Entry& typed);
     void logLine(const std::string& line);
-    bool readRadio(Entry& typed);
+    bool readRadio(Entry& typed, bool asked = false);
     void stepTo(const Band& band);
     void clearEntry(Left left);
     void bringBack();
@@ -120,47 +108,18 @@ private:
     void showHint(const Hint& hint);
     void showLog();
     void toCallBox();
-    static bool isForCallBox(const QWidget& widget, const QKeyEvent& key);
 
-    EntryBoxes m_boxes;
-    QLineEdit* m_countBox;
-    WorkedList* m_workedList;
-    SuggestionList* m_suggestions;
-    ContestPanel* m_panel;
-    QLabel* m_bandLabel;
-    QLabel* m_autoReadLabel;
-    QLabel* m_fileLabel;
-    QLabel* m_dupeModeLabel;
-    MarkedLabel* m_workedBeforeLabel;
-    QLabel* m_clockLabel;
-    QLabel* m_whoLabel;
-    QLabel* m_readDot;
-    QLabel* m_stationLabel;
-    QLabel* m_markerLabel;
-    QLabel* m_hintLabel;
-    QRadioButton* m_stationOption;
-    QPushButton* m_searchButton;
-    QPushButton* m_logButton;
-    QPushButton* m_noLogButton;
-    QPushButton* m_readButton;
-    QPushButton* m_audioButton;
-    QPushButton* m_upButton;
-    QPushButton* m_downButton;
-    QPushButton* m_frequencyButton;
-    QPushButton* m_autoReadButton;
+    MainControls m_page;
+    EntryBoxes& m_boxes; // of them
     QTimer* m_second;
-
-    QHBoxLayout* m_pageCommands;
+    MainKeys m_keys;
 
     InputHold m_hold; // what is typed while the radio is read
     Roster m_roster;
     std::optional<Entry> m_lookedUp; // what the last lookup filled in
     std::optional<Searched> m_searched;
     std::optional<Cleared> m_cleared;
-    Score m_score;
     Log::Watch m_logWatch;
-    std::vector<Moment> m_moments;       // of the contacts
-    std::optional<Moment> m_paceShownAt; // the minute that the panel shows
     bool m_autoReads = true;
     bool m_broughtBack = false;  // what is in the boxes was cleared before
     bool m_refusalShown = false; // in the hint line, until the next key

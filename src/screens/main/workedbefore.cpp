@@ -12,7 +12,6 @@ namespace vantrel {
 namespace {
 
 constexpr int fewestTyped = 2;
-constexpr std::string_view more = "...";
 constexpr std::string_view between = "  ";
 
 struct Worked {
@@ -66,19 +65,12 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
         std::string text = textOf(worked);
         width += (result.empty() ? 0 : length(between)) + length(text);
         if (width > columns) {
-            result.push_back({std::string(more), false});
+            result.push_back({std::string(moreWorked), false});
             break;
         }
         result.push_back({std::move(text), worked.dupe});
     }
     return result;
-}
-
-std::string joined(const std::vector<WorkedCall>& calls) {
-    std::string text;
-    for (const WorkedCall& call : calls)
-        text += (text.empty() || call.text == more ? "" : std::string(between)) + call.text;
-    return text;
 }
 
 } // namespace vantrel

@@ -10,8 +10,11 @@
 
 namespace vantrel {
 
+// Stands for those that find no room.
+inline constexpr std::string_view moreWorked = "...";
+
 struct WorkedCall {
-    std::string text; // "K1ABC 20 40"; "..." for those that find no room
+    std::string text; // "K1ABC 20 40"
     bool dupe;        // worked on the band of the frequency box
 };
 
@@ -20,8 +23,5 @@ struct WorkedCall {
 // characters with two blanks between them.
 std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view typed,
                                      std::string_view bandTag, int columns);
-
-// All of them as one text: "K1ABC 20 40  K1ABD 80...".
-std::string joined(const std::vector<WorkedCall>& calls);
 
 } // namespace vantrel

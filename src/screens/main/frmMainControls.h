@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// The main page's controls and where they stand.
+#pragma once
+
+#include "screens/main/frmEntryBoxes.h"
+
+#include <functional>
+
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace vantrel {
+
+class ContestPanel;
+class WhoIsIt;
+class WorkedList;
+
+struct MainControls {
+    // Makes them as children of the form, in tab order; makePageCommands adds the row of commands
+    // that lead to other pages where its turn comes.
+    MainControls(QWidget* form, const std::function<QHBoxLayout*()>& makePageCommands);
+
+    EntryBoxes boxes;
+    QPushButton* frequencyButton;
+    QPushButton* searchButton;
+    QPushButton* logButton;
+    QPushButton* noLogButton;
+    QPushButton* readButton;
+    QPushButton* upButton;
+    QPushButton* downButton;
+    QRadioButton* stationOption;
+    QPushButton* audioButton;
+    QLineEdit* countBox;
+    WorkedList* workedList;
+    QLabel* bandLabel;
+    QLabel* autoReadLabel;
+    QLabel* readDot; // before the label: how the last read went
+    QLabel* fileLabel;
+    QLabel* dupeModeLabel;
+    QLabel* stationLabel;
+    QLabel* markerLabel; // what the next contact will end in
+    QLabel* hintLabel;
+    QLabel* clockLabel;
+    QLabel* whoLabel; // own call and contest
+    WhoIsIt* whoIsIt;
+    QPushButton* autoReadButton;
+    ContestPanel* panel;
+
+private:
+    void layOut(QWidget* form, QHBoxLayout* pageCommands);
+    QHBoxLayout* statusRow(QWidget* form);
+    QHBoxLayout* frequencyRow(QWidget* form);
+    QHBoxLayout* contestRow(QWidget* form);
+};
+
+} // namespace vantrel

@@ -28,6 +28,23 @@ QHBoxLayout* rowOf(std::initializer_list<QWidget*> controls) {
 
 } // namespace
 
+QHBoxLayout* pageCommandRow(QWidget* form, std::span<const PageCommand> commands,
+                            const std::function<void(const PageCommand&)>& run) {
+    FormBuilder build(form);
+    auto* row = new QHBoxLayout;
+    for (const PageCommand& command : commands) {
+        const std::string_view name = command.name;
+        if (name == "Command6" || name == "Command11")
+            row->addSpacing(form->fontMetrics().averageCharWidth() * 2);
+        if (&command == &commands.back())
+            row->addStretch();
+        QPushButton* button = build.command(command.name, command.caption, command.toolTip);
+        QObject::connect(button, &QPushButton::clicked, form, [run, command] { run(command); });
+        row->addWidget(button);
+    }
+    return row;
+}
+
 MainControls::MainControls(QWidget* form, const std::function<QHBoxLayout*()>& makePageCommands)
     : boxes(form) {
 

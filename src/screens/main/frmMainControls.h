@@ -5,6 +5,7 @@
 #include "screens/main/frmEntryBoxes.h"
 
 #include <functional>
+#include <span>
 
 class QHBoxLayout;
 class QLabel;
@@ -17,6 +18,18 @@ namespace vantrel {
 class ContestPanel;
 class WhoIsIt;
 class WorkedList;
+
+// A command of the row at the bottom, which leads to another page.
+struct PageCommand {
+    const char* name;
+    const char* caption;
+    const char* toolTip;
+    std::function<void()> action;
+};
+
+// Their row, in three groups and EXIT apart at the right. run: inside the form's guard.
+QHBoxLayout* pageCommandRow(QWidget* form, std::span<const PageCommand> commands,
+                            const std::function<void(const PageCommand&)>& run);
 
 struct MainControls {
     // Makes them as children of the form, in tab order; makePageCommands adds the row of commands

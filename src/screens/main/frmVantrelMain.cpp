@@ -63,12 +63,7 @@ QHBoxLayout* frmVantrelMain::pageCommands() {
     const auto opensOnContact = [this](Screen page, bool shown) -> Action {
         return [this, page, shown] { openOnContact(page, chosenContact(), shown); };
     };
-    const struct {
-        const char* name;
-        const char* caption;
-        const char* toolTip;
-        Action action;
-    } commands[] = {
+    const PageCommand commands[] = {
         {"Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
          opensOnContact(Screen::correct, true)},
         {"Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
@@ -83,19 +78,8 @@ QHBoxLayout* frmVantrelMain::pageCommands() {
         {"Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD", opens(Screen::bonus)},
         {"Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM", [this] { screens().quit(); }},
     };
-    FormBuilder build(this);
-    auto* row = new QHBoxLayout;
-    for (const auto& [name, caption, toolTip, action] : commands) {
-        if (name == std::string_view("Command6") || name == std::string_view("Command11"))
-            row->addSpacing(fontMetrics().averageCharWidth() * 2);
-        if (name == std::string_view("Command1"))
-            row->addStretch();
-        QPushButton* button = build.command(name, caption, toolTip);
-        connect(button, &QPushButton::clicked, this,
-                [this, action = action] { runHandler(action); });
-        row->addWidget(button);
-    }
-    return row;
+    return pageCommandRow(this, commands,
+                          [this](const PageCommand& command) { runHandler(command.action); });
 }
 
 void frmVantrelMain::connectHandlers() {
@@ -327,26 +311,15 @@ bool frmVantrelMain::refusesDupe() {
     return false;
 }
 
-// After a hit the hint line adds what this contact would bring. What cannot be logged brings
-// nothing: LOG says why.
-void frmVantrelMain::tellGain(Entry typed) {
+// After a hit the hint line adds what this contact would bring.
+void frmVantrelMain::tellGain(const Entry& typed) {
     const OperatingSettings& settings = shared().settings;
-    if (settings.isK3y())
+    const UtcTime utc = utcTime(platform().clock.now(), settings.gmtOffset);
+    const std::optional<std::string> line = lineOf(typed, settings, shared().marker, utc);
+    if (settings.isK3y() || !line)
         return;
-    std::string line;
-    try {
-        ContactFields contact = contactFrom(typed, settings, shared().marker,
-                                            utcTime(platform().clock.now(), settings.gmtOffset));
-        if (enterFrequency(contact, typed.frequency, settings) != FrequencyCheck::good)
-            return;
-        line = assembleLine(contact);
-    } catch (const RuntimeError& error) {
-        if (error.code() != ErrorCode::invalidCall)
-            throw;
-        return;
-    }
     const std::string gain =
-        scoreGain(shared().log.contacts(), m_page.panel->score(), line, settings);
+        scoreGain(shared().log.contacts(), m_page.panel->score(), *line, settings);
     if (!gain.empty())
         showHint({textOf(m_page.hintLabel) + "   " + gain});
 }

@@ -90,7 +90,7 @@ private:
     void contactChosen(const QModelIndex& index);
     int chosenContact() const;
     void openOnContact(Screen page, int contact, bool shown);
-    void tellGain(Entry typed);
+    void tellGain(const Entry& typed);
     void secondPassed();
     void showRead(ReadOutcome outcome);
     void frequencyEntered();

@@ -102,6 +102,20 @@ FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
     return khzFault(contact.frequency).empty() ? FrequencyCheck::good : FrequencyCheck::unloggable;
 }
 
+std::optional<std::string> lineOf(const Entry& entry, const OperatingSettings& settings,
+                                  std::string_view marker, const UtcTime& utc) {
+    try {
+        ContactFields contact = contactFrom(entry, settings, marker, utc);
+        std::string mhz = entry.frequency;
+        if (enterFrequency(contact, mhz, settings) == FrequencyCheck::good)
+            return assembleLine(contact);
+    } catch (const RuntimeError& error) {
+        if (error.code() != ErrorCode::invalidCall) // a setting too wide: LOG says so
+            throw;
+    }
+    return std::nullopt;
+}
+
 Message failureOnceLogged(const RuntimeError& error) {
     return {error.headline(), BoxIcon::critical, error.detail() + '\n' + std::string(isLoggedText)};
 }

@@ -83,6 +83,10 @@ enum class FrequencyCheck { good, outsideSprintBands, unloggable };
 FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
                               const OperatingSettings& settings);
 
+// The line that the boxes would be logged as; nothing where LOG would refuse them.
+std::optional<std::string> lineOf(const Entry& entry, const OperatingSettings& settings,
+                                  std::string_view marker, const UtcTime& utc);
+
 // What to tell the operator when something fails although the contact is in the log (a full
 // table, a file), once his boxes are cleared.
 Message failureOnceLogged(const RuntimeError& error);

@@ -8,6 +8,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <exception>
 #include <iterator>
 #include <optional>
 
@@ -76,12 +77,20 @@ void Log::reread() {
     follow(false);
 }
 
+// Whoever watches is told before what failed is: he shows what there is.
 void Log::follow(bool anew) {
-    struct Announcement {
-        Log& log;
-        ~Announcement() { log.tellWatchers(); }
-    } const announcement{*this};
+    std::exception_ptr failure;
+    try {
+        readAndFollow(anew);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    tellWatchers();
+    if (failure)
+        std::rethrow_exception(failure);
+}
 
+void Log::readAndFollow(bool anew) {
     const std::size_t before = contacts().size();
     std::optional<RuntimeError> tooLong;
     bool grew = false;

@@ -79,6 +79,7 @@ private:
     };
 
     void follow(bool anew);
+    void readAndFollow(bool anew);
     void tellWatchers();
     bool read();
     void addWorked(std::size_t added);

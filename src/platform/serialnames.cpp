@@ -17,6 +17,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr int mostLinks = 40; // as many as the system follows
+
 // 1 to 10; 0 for any other text.
 int portNumber(std::string_view port) {
     for (int number = 1; number <= portCount; ++number)
@@ -81,6 +83,19 @@ std::string serialDevice(const std::string& programFolder, std::string_view port
     const std::vector<fs::path> ports = allPorts(roots);
     const auto index = static_cast<std::size_t>(number - 1);
     return index < ports.size() ? ports[index].string() : std::string();
+}
+
+std::string endOfLinks(const std::string& device) {
+    fs::path path = device;
+    std::error_code error;
+    for (int link = 0; link < mostLinks && fs::is_symlink(path, error); ++link)
+        path = (path.parent_path() / fs::read_symlink(path, error)).lexically_normal();
+    return path.string();
+}
+
+std::string serialIdentity(const Files& files, std::string_view port, const SerialRoots& roots) {
+    const fs::path device = serialDevice(files.programFolder(), port, roots);
+    return device.parent_path() == roots.byId ? device.string() : target(device).string();
 }
 
 std::string serialDeviceShown(const Files& files, std::string_view port, const SerialRoots& roots) {

@@ -28,6 +28,14 @@ struct SerialRoots {
 std::string serialDevice(const std::string& programFolder, std::string_view port,
                          const SerialRoots& roots = {});
 
+// Where the links that begin at `device` end, whether anything is there or not.
+std::string endOfLinks(const std::string& device);
+
+// What tells the device behind `port` from another one that may take its place: an adapter's
+// lasting name where it has one, otherwise the device itself; "" when there is none.
+std::string serialIdentity(const Files& files, std::string_view port,
+                           const SerialRoots& roots = {});
+
 // What the start page shows beside the port: the device where its links lead to
 // ("/dev/ttyUSB0"), "no such port", or "" for no port. Throws as serialDevice.
 std::string serialDeviceShown(const Files& files, std::string_view port,

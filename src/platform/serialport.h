@@ -39,14 +39,20 @@ struct LineSettings {
 // Nothing when the text has another form ("None,n,8,1").
 std::optional<LineSettings> lineSettings(std::string_view text);
 
+// RTS while a port is open. DTR is low always: it keys many radios.
+enum class RtsLine {
+    low,
+    high, // the radio sends only when it may
+};
+
 class SerialPort {
 public:
     virtual ~SerialPort() = default;
     // Opens the port `name` ("com1" .. "com10") at `settings` ("38400,n,8,2": baud, parity
-    // letter, data bits, stop bits), no flow control, drops DTR and RTS, and discards what was
+    // letter, data bits, stop bits), no flow control, drops DTR, sets RTS, and discards what was
     // waiting. Throws SerialPortError when the port cannot be opened.
-    virtual void open(const std::string& name, const std::string& settings) = 0;
-    virtual void close() = 0;
+    virtual void open(const std::string& name, const std::string& settings, RtsLine rts) = 0;
+    virtual void close() = 0; // leaves both lines low
     // Sends the bytes. That nobody is there any more shows in readAll().
     virtual void write(std::string_view bytes) = 0;
     // Waits for input for at most `milliseconds` (events are served meanwhile), returning as

@@ -18,9 +18,9 @@ constexpr int shortestPoll = 3; // milliseconds
 
 class OpenPort {
 public:
-    OpenPort(SerialPort& port, const std::string& name, const std::string& settings)
+    OpenPort(SerialPort& port, const std::string& name, const std::string& line, RtsLine rts)
         : m_port(port) {
-        m_port.open(name, settings);
+        m_port.open(name, line, rts);
     }
     ~OpenPort() { m_port.close(); }
     OpenPort(const OpenPort&) = delete;
@@ -30,34 +30,57 @@ private:
     SerialPort& m_port;
 };
 
-// Adds what the radio sends to `reply` until it is complete or the polls are used up, each
-// lasting its share of the family's time. False when the program is being closed.
-bool awaitReply(const RadioFamily& family, SerialPort& port, std::string& reply) {
+// What is said to the radio, and what comes of it.
+struct Talk {
+    const RadioFamily& family;
+    const OperatingSettings& settings;
+    SerialPort& port;
+    std::string query;
+    std::string bytes{};
+    Heard heard{};
+};
+
+std::string lineOf(const RadioFamily& family, const OperatingSettings& settings) {
+    return (family.takesBaud ? settings.baud : "") + std::string(family.settings);
+}
+
+// Lets the family's quiet time run out, whatever is heard in it: to send into somebody else's
+// frame spoils both. False when the program is being closed.
+bool settle(const Talk& talk) {
+    while (talk.port.elapsed() < talk.family.settle) {
+        if (!talk.port.wait(talk.family.settle - talk.port.elapsed()))
+            return false;
+        talk.port.readAll();
+    }
+    return true;
+}
+
+// Takes what the radio sends until the answer is in or the polls are used up, each lasting its
+// share of the family's time. False when the program is being closed.
+bool awaitAnswer(Talk& talk) {
+    const RadioFamily& family = talk.family;
     const int polls = std::min(family.polls, family.milliseconds / shortestPoll);
     const int share = family.milliseconds / polls;
-    const int deadline = port.elapsed() + family.milliseconds;
-    for (int poll = 0; poll < polls && port.elapsed() < deadline; ++poll) {
-        if (family.complete(reply))
+    const int deadline = talk.port.elapsed() + family.milliseconds;
+    for (int poll = 0; poll < polls && talk.port.elapsed() < deadline; ++poll) {
+        if (talk.heard.answered)
             break;
-        if (!port.wait(share))
+        if (!talk.port.wait(share))
             return false;
-        reply += port.readAll();
+        talk.bytes += talk.port.readAll();
+        talk.heard = family.hear(talk.bytes, talk.query);
     }
     return true;
 }
 
 // One query and what comes back. False when the program is being closed.
-bool exchange(const RadioFamily& family, const OperatingSettings& settings, SerialPort& port,
-              std::string& reply) {
-    const std::string line(family.settings);
-    const OpenPort open(port, settings.comPort, family.takesBaud ? settings.baud + line : line);
-    if (family.settle > 0) {
-        if (!port.wait(family.settle))
-            return false;
-        port.readAll();
-    }
-    port.write(family.query(settings));
-    return awaitReply(family, port, reply);
+bool exchange(Talk& talk) {
+    const OpenPort open(talk.port, talk.settings.comPort, lineOf(talk.family, talk.settings),
+                        talk.family.rts);
+    if (!settle(talk))
+        return false;
+    talk.port.write(talk.query);
+    return awaitAnswer(talk);
 }
 
 Message failure(const RadioFamily& family, std::string_view text, const std::string& reason) {
@@ -65,32 +88,43 @@ Message failure(const RadioFamily& family, std::string_view text, const std::str
             std::string(family.errorLead) + reason};
 }
 
-Message badReply(const RadioFamily& family, const OperatingSettings& settings,
-                 std::string_view reply) {
-    if (!family.errorLead.empty())
-        return failure(family, family.message, std::string(errorText(ErrorCode::invalidCall)));
-    const std::string who = "The " + settings.rig + " on " + settings.comPort;
-    return failure(family, family.message,
-                   reply.empty() ? who + " did not answer. Is it on, and at this baud rate?"
-                                 : who + " sent no frequency. Is it the right rig and baud rate?");
+// Why there is no frequency, and what to look after, in the operator's words.
+std::string plainReason(const Talk& talk) {
+    const RadioFamily& family = talk.family;
+    const OperatingSettings& settings = talk.settings;
+    const std::string known = family.reason != nullptr ? family.reason(settings, talk.bytes) : "";
+    if (!known.empty())
+        return known;
+    const std::string line = lineOf(family, settings);
+    const bool silent = talk.bytes.empty() || talk.bytes == talk.query;
+    return "The " + settings.rig + " on " + settings.comPort +
+           (silent ? " did not answer" : " sent no frequency") + " at " +
+           line.substr(0, line.find(',')) + " baud" + (family.takesBaud ? "" : ", its fixed rate") +
+           (silent ? ". Is it on, and at this rate?" : ". Is it the right rig and rate?") +
+           (family.takesBaud ? "" : " BAUD RATE is not used for this rig.");
+}
+
+Message badAnswer(const Talk& talk) {
+    std::string words = plainReason(talk);
+    if (!talk.family.errorLead.empty())
+        words = std::string(errorText(ErrorCode::invalidCall)) + "\n" + words;
+    return failure(talk.family, talk.family.message, words);
 }
 
 ReadResult askRadio(const RadioFamily& family, const OperatingSettings& settings,
                     SerialPort& port) {
-    std::string reply;
-    std::optional<std::string> frequency;
-    for (int attempt = 0; attempt < family.attempts && !frequency; ++attempt) {
-        // A reply cut off by the time-out is dropped; a complete bad one stays, and so spoils
+    Talk talk{family, settings, port, family.query(settings)};
+    for (int attempt = 0; attempt < family.attempts && !talk.heard.mhz; ++attempt) {
+        // An answer cut off by the time-out is dropped; a complete bad one stays, and so spoils
         // the attempts that are left: a radio that talks nonsense costs no more waiting.
-        if (attempt > 0 && !family.complete(reply))
-            reply.clear();
-        if (!exchange(family, settings, port, reply))
+        if (!talk.heard.answered)
+            talk.bytes.clear();
+        if (!exchange(talk))
             return {ReadOutcome::cancelled};
-        frequency = family.parse(reply);
     }
-    if (!frequency)
-        return {ReadOutcome::failed, "", badReply(family, settings, reply)};
-    return {ReadOutcome::read, *frequency};
+    if (!talk.heard.mhz)
+        return {ReadOutcome::failed, "", badAnswer(talk)};
+    return {ReadOutcome::read, *talk.heard.mhz};
 }
 
 } // namespace
@@ -109,6 +143,12 @@ ReadResult readFrequency(const OperatingSettings& settings, SerialPort& port) {
                 failure(*family, refused ? family->refusedMessage : family->errorMessage,
                         error.what())};
     }
+}
+
+Message withFrequencyUsed(Message message, std::string_view mhz) {
+    if (!mhz.empty())
+        message.informative += "\n" + std::string(mhz) + " MHz, AS IN THE BOX, IS USED";
+    return message;
 }
 
 std::string_view autoReadText(ReadOutcome outcome) {

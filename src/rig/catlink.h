@@ -28,6 +28,9 @@ struct ReadResult {
 // Reads the radio over the port of the settings, at most 2 s. Throws nothing of its own.
 ReadResult readFrequency(const OperatingSettings& settings, SerialPort& port);
 
+// The message of a failed read at LOG, with the frequency of the box that is logged instead.
+Message withFrequencyUsed(Message message, std::string_view mhz);
+
 // What the auto-read label shows after a read with this outcome.
 std::string_view autoReadText(ReadOutcome outcome);
 

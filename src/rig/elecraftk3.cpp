@@ -12,8 +12,8 @@ const RadioFamily elecraftK3{
     .query = [](const OperatingSettings&) -> std::string { return "FA;"; },
     .polls = 500 + 10'000,
     .milliseconds = 1500,
-    .complete = hasSemicolon,
-    .parse = [](std::string_view reply) { return mhzOfAnswer(reply, "FA", 11, ';'); },
+    .hear = [](std::string_view bytes,
+               std::string_view) { return heardFrequency(bytes, "FA", 11); },
     .message = " Com Port Not Read ",
 };
 

@@ -9,11 +9,12 @@ namespace vantrel {
 const RadioFamily kenwood{
     .settings = ",n,8,1",
     .takesBaud = true,
+    .rts = RtsLine::high, // it sends nothing while RTS is low
     .query = [](const OperatingSettings&) -> std::string { return "FA;"; },
     .polls = 500,
     .milliseconds = 1500,
-    .complete = hasSemicolon,
-    .parse = [](std::string_view reply) { return mhzOfAnswer(reply, "FA", 11, ';'); },
+    .hear = [](std::string_view bytes,
+               std::string_view) { return heardFrequency(bytes, "FA", 11); },
     .message = "ERROR READING FREQUENCY FROM THE CAT PORT",
     .errorLead = "                       AN ERROR HAS OCCURED: ",
 };

@@ -3,7 +3,9 @@
 // same for all: catlink.cpp.
 #pragma once
 
-#include <optional>
+#include "platform/serialport.h"
+#include "rig/reply.h"
+
 #include <string>
 #include <string_view>
 
@@ -15,6 +17,7 @@ struct RadioFamily {
     // The port's settings: complete, or what follows the operator's baud rate.
     std::string_view settings;
     bool takesBaud;
+    RtsLine rts = RtsLine::low;
 
     std::string (*query)(const OperatingSettings& settings);
     int settle = 0;   // milliseconds of quiet before the query; what comes then is discarded
@@ -23,15 +26,19 @@ struct RadioFamily {
     // The reply's polls: so many at most, over so many milliseconds (each attempt).
     int polls;
     int milliseconds;
-    // True when all of the reply is in: nothing more is waited for.
-    bool (*complete)(std::string_view reply);
-    // The frequency in MHz with three decimals; nothing when this is no good reply.
-    std::optional<std::string> (*parse)(std::string_view reply);
+    // Finds the answer to `query` in all that came since.
+    Heard (*hear)(std::string_view bytes, std::string_view query);
+    // Why there was no frequency, in plain words, where the family knows more than others.
+    std::string (*reason)(const OperatingSettings& settings, std::string_view bytes) = nullptr;
 
     std::string_view message;          // no good reply
     std::string_view refusedMessage{}; // the port is not there; empty: as `message`
     std::string_view errorMessage{};   // the port fails otherwise; empty: as `message`
     std::string_view errorLead{};      // stands before an error's text, where there is one
+
+    // For the start page: which VFO is read, and the rate where it is the radio's to say.
+    std::string_view vfo = "VFO A";
+    std::string_view rate = "ANY BAUD";
 };
 
 extern const RadioFamily tenTecAscii;

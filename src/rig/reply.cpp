@@ -31,8 +31,22 @@ std::int64_t bigEndian(std::string_view bytes, std::size_t first) {
     return value;
 }
 
-bool hasSemicolon(std::string_view reply) {
-    return reply.find(';') != std::string_view::npos;
+std::string_view fromAnswer(std::string_view bytes, std::string_view letters) {
+    for (auto end = bytes.find(';'); end != std::string_view::npos;
+         end = bytes.find(';', end + 1)) {
+        // The last before the end: one in front of it was cut off.
+        const auto begin = bytes.rfind(letters, end);
+        if (begin != std::string_view::npos && isDigit(bytes[begin + letters.size()]))
+            return bytes.substr(begin);
+    }
+    return {};
+}
+
+Heard heardFrequency(std::string_view bytes, std::string_view letters, int digits) {
+    const std::string_view answer = fromAnswer(bytes, letters);
+    if (answer.empty())
+        return {};
+    return {true, mhzOfAnswer(answer, letters, digits, ';')};
 }
 
 } // namespace vantrel

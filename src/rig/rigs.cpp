@@ -2,6 +2,7 @@
 #include "rig/rigs.h"
 
 #include "rig/radiofamily.h"
+#include "shared/settings.h"
 
 #include <algorithm>
 
@@ -62,6 +63,28 @@ const RadioFamily* familyOf(std::string_view rig) {
         return found->family;
     // Every IC-7 and something is taken for an Icom, listed or not; other Icoms are not read.
     return rig.starts_with("IC-7") ? &icomCiv : nullptr;
+}
+
+std::string_view usualCivAddress(std::string_view rig) {
+    const auto* const found = std::find_if(
+        rigs.begin(), rigs.end(), [&](const Rig& listed) { return listed.stored() == rig; });
+    return found == rigs.end() ? std::string_view() : found->civAddress;
+}
+
+std::string rigNeeds(std::string_view rig) {
+    if (rig == noneSetting)
+        return {};
+    const RadioFamily* const family = familyOf(rig);
+    if (family == nullptr)
+        return "THIS RADIO IS NOT READ: TYPE THE FREQUENCY";
+    const std::string_view address = usualCivAddress(rig);
+    std::string needs = address.empty() ? "" : "ADDRESS " + std::string(address.substr(4)) + ", ";
+    if (family->takesBaud)
+        needs += family->rate;
+    else
+        needs +=
+            std::string(family->settings.substr(0, family->settings.find(','))) + " BAUD, FIXED";
+    return needs + ", " + std::string(family->vfo);
 }
 
 } // namespace vantrel

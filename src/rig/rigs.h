@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace vantrel {
@@ -23,5 +24,12 @@ extern const std::array<Rig, 43> rigs;
 
 // The family of a rig as the settings name it; nullptr for none.
 const RadioFamily* familyOf(std::string_view rig);
+
+// What the start page says of a rig as the settings name it: the rate and address it needs and
+// which VFO is read ("ADDRESS 6E, ANY BAUD, VFO IN USE"), or that it is not read; "" for "None".
+std::string rigNeeds(std::string_view rig);
+
+// The address such a rig usually has ("Hex 6E"); "" for none.
+std::string_view usualCivAddress(std::string_view rig);
 
 } // namespace vantrel

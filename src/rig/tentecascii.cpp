@@ -4,7 +4,22 @@
 #include "rig/reply.h"
 #include "shared/settings.h"
 
+#include <algorithm>
+
 namespace vantrel {
+
+namespace {
+
+constexpr std::size_t answerSize = 12;
+
+Heard hear(std::string_view bytes, std::string_view) {
+    bytes.remove_prefix(std::min(bytes.find_first_not_of("\r\n"), bytes.size()));
+    if (bytes.size() < answerSize)
+        return {};
+    return {true, mhzOfAnswer(bytes, "@AF", 8, '\r')};
+}
+
+} // namespace
 
 const RadioFamily tenTecAscii{
     .settings = "57600,n,8,1",
@@ -13,8 +28,7 @@ const RadioFamily tenTecAscii{
     .attempts = 5,
     .polls = 15'000,
     .milliseconds = 360, // the five together stay below two seconds
-    .complete = [](std::string_view reply) { return reply.size() >= 12; },
-    .parse = [](std::string_view reply) { return mhzOfAnswer(reply, "@AF", 8, '\r'); },
+    .hear = hear,
     .message = "A File Error has Occured - The freq was not read",
 };
 

@@ -1,20 +1,27 @@
 // SPDX-License-Identifier: MIT
 // Ten-Tec Omni VII and Jupiter: "?A" and CR is answered "A", four bytes of hertz, CR. Any of
-// the four may be a CR too, so the reply is told by its length.
+// the four may be a CR too, so the answer is told by its length.
 #include "rig/radiofamily.h"
 #include "rig/reply.h"
 #include "shared/settings.h"
+
+#include <algorithm>
 
 namespace vantrel {
 
 namespace {
 
-constexpr std::size_t replySize = 6;
+constexpr std::size_t answerSize = 6;
 
-std::optional<std::string> parse(std::string_view reply) {
-    if (reply.size() < replySize || reply[0] != 'A' || reply[5] != '\r')
-        return std::nullopt;
-    return mhzText(bigEndian(reply, 1));
+Heard hear(std::string_view bytes, std::string_view query) {
+    if (bytes.starts_with(query)) // echoed; it holds an A, too
+        bytes.remove_prefix(query.size());
+    bytes.remove_prefix(std::min(bytes.find('A'), bytes.size()));
+    if (bytes.size() < answerSize)
+        return {};
+    if (bytes[answerSize - 1] != '\r')
+        return {true};
+    return {true, mhzText(bigEndian(bytes, 1))};
 }
 
 } // namespace
@@ -25,8 +32,7 @@ const RadioFamily tenTecBinary{
     .query = [](const OperatingSettings&) -> std::string { return "?A\r"; },
     .polls = 80'000,
     .milliseconds = 1500,
-    .complete = [](std::string_view reply) { return reply.size() >= replySize; },
-    .parse = parse,
+    .hear = hear,
     .message = "COM Port not read",
 };
 

@@ -9,11 +9,11 @@ namespace vantrel {
 const RadioFamily yaesuAscii{
     .settings = ",n,8,2",
     .takesBaud = true,
+    .rts = RtsLine::high, // it sends nothing while RTS is low
     .query = [](const OperatingSettings&) -> std::string { return "FA;"; },
     .polls = 500,
     .milliseconds = 1500,
-    .complete = hasSemicolon,
-    .parse = [](std::string_view reply) { return mhzOfAnswer(reply, "FA", 8, ';'); },
+    .hear = [](std::string_view bytes, std::string_view) { return heardFrequency(bytes, "FA", 8); },
     .message = "ERROR READING FREQUENCY FROM THE CAT PORT",
     .errorLead = "                       AN ERROR HAS OCCURED: ",
 };

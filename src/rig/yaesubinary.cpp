@@ -11,10 +11,12 @@ namespace {
 
 constexpr std::size_t blockSize = 16;
 
-std::optional<std::string> parse(std::string_view reply) {
-    if (reply.size() < blockSize)
-        return std::nullopt;
-    return mhzText(bigEndian(reply, 1) * 10 / 16);
+Heard hear(std::string_view bytes, std::string_view query) {
+    if (bytes.starts_with(query)) // echoed: as a block it would be a frequency below 1 kHz
+        bytes.remove_prefix(query.size());
+    if (bytes.size() < blockSize)
+        return {};
+    return {true, mhzText(bigEndian(bytes, 1) * 10 / 16)};
 }
 
 } // namespace
@@ -22,12 +24,14 @@ std::optional<std::string> parse(std::string_view reply) {
 const RadioFamily yaesuBinary{
     .settings = ",n,8,2",
     .takesBaud = true,
+    .rts = RtsLine::high, // it sends nothing while RTS is low
     .query = [](const OperatingSettings&) { return std::string("\x00\x00\x00\x02\x10", 5); },
     .polls = 16'000,
     .milliseconds = 1500,
-    .complete = [](std::string_view reply) { return reply.size() >= blockSize; },
-    .parse = parse,
+    .hear = hear,
     .message = " THE COM PORT HAS NOT BEEN READ  ",
+    .vfo = "VFO IN USE",
+    .rate = "4800 BAUD",
 };
 
 } // namespace vantrel

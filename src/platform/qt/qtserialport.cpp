@@ -39,6 +39,10 @@ std::string realDevice(const std::string& programFolder, const std::string& name
         throw SerialPortError(Reason::notThere, name + " is not there: no such serial port.");
     std::error_code error;
     const std::filesystem::path real = std::filesystem::canonical(device, error);
+    if (error == std::errc::no_such_file_or_directory)
+        throw SerialPortError(Reason::notThere, name + " leads to " +
+                                                    shownText(endOfLinks(device)) +
+                                                    ", which is not there.");
     if (error || !std::filesystem::is_character_file(real, error))
         throw SerialPortError(Reason::notThere,
                               name + " (" + shownText(device) + ") is no serial port.");
@@ -104,7 +108,7 @@ QtSerialPort::~QtSerialPort() {
     QtSerialPort::close();
 }
 
-void QtSerialPort::open(const std::string& name, const std::string& settings) {
+void QtSerialPort::open(const std::string& name, const std::string& settings, RtsLine rts) {
     if (m_port.isOpen())
         throw SerialPortError(Reason::inUse, name + " is being read already.");
     const std::optional<LineSettings> line = lineSettings(settings);
@@ -117,9 +121,10 @@ void QtSerialPort::open(const std::string& name, const std::string& settings) {
     setLine(*line);
     if (!m_port.open(QIODevice::ReadWrite))
         throw openError(m_port, device, m_name);
-    // A port without these lines (a pseudo-terminal) refuses, and has nothing to drop.
+    // A port without these lines (a pseudo-terminal) refuses, and has nothing to set.
+    m_rtsRaised = rts == RtsLine::high;
     m_port.setDataTerminalReady(false);
-    m_port.setRequestToSend(false);
+    m_port.setRequestToSend(m_rtsRaised);
     m_port.clearError();
     m_port.clear(QSerialPort::Input); // a late answer to an earlier query is no answer to this
     m_sinceOpen.start();
@@ -141,6 +146,8 @@ void QtSerialPort::close() {
     if (!m_port.isOpen())
         return;
     m_port.clear(QSerialPort::Input); // what is still being sent goes out: it is a query, too
+    if (m_rtsRaised)
+        m_port.setRequestToSend(false);
     closeQuietly(m_port);
 }
 

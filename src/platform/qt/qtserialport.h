@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The machine's serial port. Both keying lines are dropped as soon as it is open and are not
-// touched by closing it: a radio keyed by DTR or RTS must not transmit.
+// The machine's serial port. The keying lines are set as soon as it is open, and are low when it
+// is closed: a radio keyed by DTR or RTS must not transmit.
 #pragma once
 
 #include "platform/serialport.h"
@@ -20,7 +20,7 @@ public:
     explicit QtSerialPort(const Files& files);
     ~QtSerialPort() override;
 
-    void open(const std::string& name, const std::string& settings) override;
+    void open(const std::string& name, const std::string& settings, RtsLine rts) override;
     void close() override;
     void write(std::string_view bytes) override;
     bool wait(int milliseconds) override;
@@ -35,6 +35,7 @@ private:
     std::string m_name; // "com1 (/dev/ttyUSB0)", for messages
     QSerialPort m_port;
     QElapsedTimer m_sinceOpen;
+    bool m_rtsRaised = false;
     QEventLoop* m_waiting = nullptr;
 };
 

@@ -7,7 +7,7 @@
 #include "log/logfile.h"
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "platform/serialnames.h"
+#include "platform/serialport.h"
 #include "screens/start/startlog.h"
 #include "shared/utctime.h"
 
@@ -39,14 +39,11 @@ void fill(QComboBox* combo, const ValueList& list) {
         combo->addItem(toQt(entry.shown), toQt(entry.stored));
 }
 
-std::string stored(const QComboBox* combo) {
-    return fromQt(combo->currentData().toString());
-}
-
 } // namespace
 
 frmVantrelStart::frmVantrelStart(const FormContext& context)
-    : Form(context, "frmVantrelStart", "Vantrel") {
+    : Form(context, "frmVantrelStart", "Vantrel"),
+      m_hold(this, [this] { platform().serialPort.close(); }) {
     setAttribute(Qt::WA_DeleteOnClose, false);
     createControls();
     layOut();
@@ -77,10 +74,7 @@ void frmVantrelStart::createControls() {
     m_clearBonusButton =
         build.command("Command6", "CLEAR  BONUS STATION",
                       "CLEARS THE BONUS STATION BOX-->LEAVE BLANK IF NO BONUS STN");
-    m_rigBox = build.combo("Combo1");
-    m_portBox = build.combo("Combo2");
-    m_baudBox = build.combo("Combo3");
-    m_civBox = build.combo("Combo4");
+    m_radio = std::make_unique<RadioSection>(this, platform().files);
     m_updateButton =
         build.command("Command5", "UPDATE THE DATABASE",
                       "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT");
@@ -88,7 +82,6 @@ void frmVantrelStart::createControls() {
         build.command("Command2", "&START", "ACCEPTS ALL ITEMS THIS PAGE AND STARTS PGM");
     m_exitButton = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
     m_utcLabel = build.label("Label12");
-    m_deviceLabel = build.label("Label13");
     m_oldLogLabel = build.label("Label14");
     for (const ChosenSetting& chosen : chosenSettings())
         fill(chosen.box, chosen.list());
@@ -103,11 +96,19 @@ void frmVantrelStart::connectHandlers() {
     connectHandler(m_browseButton, &QPushButton::clicked, this, &Start::browseClicked);
     connectHandler(m_newFileBox, &QComboBox::currentIndexChanged, this, &Start::newFileChosen);
     connectHandler(m_offsetBox, &QComboBox::currentIndexChanged, this, &Start::offsetChosen);
-    connectHandler(m_portBox, &QComboBox::currentIndexChanged, this, &Start::portChosen);
+    connectRadio();
     connectHandler(m_clearBonusButton, &QPushButton::clicked, this, &Start::clearBonusClicked);
     connectHandler(m_updateButton, &QPushButton::clicked, this, &Start::updateClicked);
     connectHandler(m_startButton, &QPushButton::clicked, this, &Start::startClicked);
     connect(m_exitButton, &QPushButton::clicked, this, [this] { screens().quit(); });
+}
+
+void frmVantrelStart::connectRadio() {
+    using Start = frmVantrelStart;
+    connectHandler(m_radio->rig, &QComboBox::currentIndexChanged, this, &Start::rigChosen);
+    for (const QComboBox* box : {m_radio->port, m_radio->baud, m_radio->civ})
+        connectHandler(box, &QComboBox::currentIndexChanged, this, &Start::lineChosen);
+    connectHandler(m_radio->test, &QPushButton::clicked, this, &Start::testClicked);
 }
 
 // --- Opening ---------------------------------------------------------------------------------
@@ -122,7 +123,7 @@ void frmVantrelStart::load() {
     for (const auto& [setting, box] : typedSettings())
         put(box, trim(settings.*setting));
     offsetChosen();
-    portChosen();
+    m_radio->loaded();
 }
 
 QWidget* frmVantrelStart::firstFocus() {
@@ -185,16 +186,33 @@ void frmVantrelStart::offsetChosen() {
     put(m_utcLabel, utc.time + " UTC   " + utc.date);
 }
 
-void frmVantrelStart::portChosen() {
-    put(m_deviceLabel, serialDeviceShown(platform().files, stored(m_portBox)));
-}
-
 void frmVantrelStart::clearBonusClicked() {
     put(m_bonusBox, blanks(callWidth));
 }
 
 void frmVantrelStart::updateClicked() {
     screens().open(Screen::updateList);
+}
+
+// --- Radio -----------------------------------------------------------------------------------
+
+void frmVantrelStart::rigChosen() {
+    m_radio->rigChosen();
+}
+
+void frmVantrelStart::lineChosen() {
+    m_radio->lineChosen();
+}
+
+void frmVantrelStart::testClicked() {
+    const InputHold::Scope hold(m_hold);
+    m_radio->showReading();
+    const ReadResult result = readFrequency(pageSettings(), platform().serialPort);
+    if (result.outcome == ReadOutcome::cancelled)
+        return;
+    m_radio->showRead(result);
+    if (result.outcome == ReadOutcome::failed)
+        messages().show(result.message);
 }
 
 // --- START -----------------------------------------------------------------------------------
@@ -212,6 +230,7 @@ void frmVantrelStart::startClicked() {
     }
     // Not before: a main page behind this one goes on with the log that it shows.
     shared().settings = settings;
+    m_radio->started();
     openMainPage();
 }
 
@@ -238,10 +257,10 @@ std::vector<frmVantrelStart::TypedSetting> frmVantrelStart::typedSettings() cons
 
 std::vector<frmVantrelStart::ChosenSetting> frmVantrelStart::chosenSettings() const {
     using Settings = OperatingSettings;
-    return {{&Settings::rig, m_rigBox, rigList},
-            {&Settings::comPort, m_portBox, portList},
-            {&Settings::baud, m_baudBox, baudList},
-            {&Settings::civAddress, m_civBox, civList},
+    return {{&Settings::rig, m_radio->rig, rigList},
+            {&Settings::comPort, m_radio->port, portList},
+            {&Settings::baud, m_radio->baud, baudList},
+            {&Settings::civAddress, m_radio->civ, civList},
             {&Settings::gmtOffset, m_offsetBox, offsetList},
             {&Settings::dupeMode, m_dupeModeBox, dupeModeList}};
 }
@@ -294,7 +313,7 @@ void frmVantrelStart::layOut() {
     columns->addLayout(build.section("CONTEST", contestBox()), 0, 0);
     columns->addLayout(build.section("OPERATOR", operatorBox()), 0, 1);
     columns->addLayout(build.section("LOG FILE", fileBox()), 1, 0);
-    columns->addLayout(build.section("RADIO", radioBox()), 1, 1);
+    columns->addLayout(build.section("RADIO", m_radio->layout()), 1, 1);
     columns->setColumnStretch(0, 1);
     columns->setColumnStretch(1, 1);
 
@@ -348,18 +367,6 @@ QLayout* frmVantrelStart::fileBox() {
     build.row(form, "LOG DUPES:", m_dupeModeBox);
     build.row(form, "BONUS STATION:", m_bonusBox);
     form->addRow(QString(), m_clearBonusButton);
-    return form;
-}
-
-QLayout* frmVantrelStart::radioBox() {
-    FormBuilder build(this);
-    m_deviceLabel->setWordWrap(true);
-    auto* form = new QFormLayout;
-    build.row(form, "RIG:", m_rigBox);
-    build.row(form, "COM:", m_portBox);
-    form->addRow(m_deviceLabel);
-    build.row(form, "BAUD RATE:", m_baudBox);
-    build.row(form, "ICOM      HEX:", m_civBox);
     return form;
 }
 

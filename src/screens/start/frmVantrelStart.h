@@ -3,9 +3,12 @@
 #pragma once
 
 #include "forms/form.h"
+#include "forms/inputhold.h"
+#include "screens/start/frmRadioSection.h"
 #include "screens/start/startlists.h"
 
-class QComboBox;
+#include <memory>
+
 class QLabel;
 class QLayout;
 class QLineEdit;
@@ -50,8 +53,8 @@ private:
     QLayout* contestBox();
     QLayout* operatorBox();
     QLayout* fileBox();
-    QLayout* radioBox();
     void connectHandlers();
+    void connectRadio();
 
     // In the order in which the operator meets them.
     void contestClicked();
@@ -60,7 +63,9 @@ private:
     void browseClicked();
     void newFileChosen();
     void clearBonusClicked();
-    void portChosen();
+    void rigChosen();
+    void lineChosen();
+    void testClicked();
     void updateClicked();
     void startClicked();
 
@@ -88,14 +93,12 @@ private:
     QComboBox* m_dupeModeBox;
     QLineEdit* m_bonusBox;
     QPushButton* m_clearBonusButton;
-    QComboBox* m_rigBox;
-    QComboBox* m_portBox;
-    QLabel* m_deviceLabel;
-    QComboBox* m_baudBox;
-    QComboBox* m_civBox;
+    std::unique_ptr<RadioSection> m_radio;
     QPushButton* m_updateButton;
     QPushButton* m_startButton;
     QPushButton* m_exitButton;
+
+    InputHold m_hold; // what is typed while the radio is tried
 };
 
 } // namespace vantrel

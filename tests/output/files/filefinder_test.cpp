@@ -7,8 +7,6 @@
 #include "support/errors.h"
 #include "support/tempfolder.h"
 
-#include <algorithm>
-
 namespace vantrel::test {
 namespace {
 
@@ -28,86 +26,58 @@ public:
     std::vector<std::string> mounted{"/"};
 };
 
-class FinderTest : public ::testing::Test {
-protected:
-    FinderTest() {
-        for (const char* name : {"op", "op/Logs", "op/locked", "op/b\xC3\xBCro", "op/\xD0\xB6"})
-            fs::create_directories(folder.path() / name);
-        folder.write("op/Logs/sks.CBR", "");
-        folder.write("op/Logs/back\\slash.CBR", "");
-        folder.write("op/Vantrel.CFG", "");
-    }
-    void enter(FileFinder& finder, const std::string& name) const {
-        const std::vector<std::string> all = finder.folders();
-        const auto found = std::find(all.begin(), all.end(), name);
-        ASSERT_NE(found, all.end()) << name;
-        finder.enterFolder(static_cast<std::size_t>(found - all.begin()));
-    }
-    std::string home() const { return shownText(folder.string() + "/op"); }
-
-    TempFolder folder;
+TEST(FileFinder, LeadsThroughFoldersByNamesThatTheProgramCanSay) {
+    const TempFolder folder;
+    const std::string top = folder.string();
+    for (const char* name : {"op", "op/Logs", "op/locked", "op/b\xC3\xBCro", "op/\xD0\xB6"})
+        fs::create_directories(folder.path() / name);
+    for (const char* name : {"op/Logs/sks.CBR", "op/Logs/back\\slash.CBR", "op/Vantrel.CFG"})
+        folder.write(name, "");
     SystemCalls calls;
-    Files files{folder.string() + "/op", calls};
+    const Files files(top + "/op", calls);
     FoldersWithDrives machine;
-};
-
-TEST_F(FinderTest, HandsBackTheFolderAloneOrWithTheFileChosenInIt) {
+    machine.mounted = {"/", top, top + "/op/Lo"};
     FileFinder finder(files, machine);
-    EXPECT_EQ(finder.selection(), upper(home()) + "/");
+    const auto entered = [&](const std::string& name) {
+        const std::vector<std::string> all = finder.folders();
+        finder.enterFolder(
+            static_cast<std::size_t>(std::find(all.begin(), all.end(), name) - all.begin()));
+        return finder.selection();
+    };
+    const std::string home = upper(top) + "/OP/";
+    EXPECT_EQ(finder.selection(), home);
+    EXPECT_THAT(finder.folders(), ElementsAre("..", "b\xFCro", "locked", "Logs"));
     EXPECT_THAT(finder.files(), ElementsAre("Vantrel.CFG"));
     finder.chooseFile(0);
-    EXPECT_EQ(finder.selection(), upper(home()) + "/Vantrel.CFG");
-    enter(finder, "Logs");
-    EXPECT_EQ(finder.selection(), upper(home()) + "/LOGS/");
-    EXPECT_THAT(finder.files(), ElementsAre("sks.CBR")); // the other's name cannot be said
+    EXPECT_RUNTIME_ERROR(entered("locked"), ErrorCode::permissionDenied, top + "/op/locked");
+    EXPECT_EQ(finder.selection(), home + "Vantrel.CFG") << "the operator stays put";
+
+    EXPECT_EQ(entered("b\xFCro"), home + "B\xDCRO/");
+    EXPECT_EQ(files.nativePath(finder.selection()), top + "/op/b\xC3\xBCro");
+    EXPECT_EQ(entered(".."), home);
+    EXPECT_EQ(entered("Logs"), home + "LOGS/");
+    EXPECT_THAT(finder.files(), ElementsAre("sks.CBR"));
     finder.chooseFile(0);
-    EXPECT_EQ(files.nativePath(finder.selection()), folder.string() + "/op/Logs/sks.CBR");
-}
-
-TEST_F(FinderTest, NamesInTheEightBitAlphabetAreShownInItAndOthersLeftOut) {
-    FileFinder finder(files, machine);
-    EXPECT_THAT(finder.folders(), ElementsAre("..", "b\xFCro", "locked", "Logs"));
-    enter(finder, "b\xFCro");
-    EXPECT_EQ(finder.selection(), upper(home()) + "/B\xDCRO/");
-    EXPECT_EQ(files.nativePath(finder.selection()), folder.string() + "/op/b\xC3\xBCro");
-}
-
-TEST_F(FinderTest, TrueCaseStaysWhereUpperCaseWouldLeadElsewhere) {
-    FileFinder finder(files, machine);
-    for (const char* other : {"op/LOGS", "op/logs"}) { // another folder, or either of two
-        fs::create_directory(folder.path() / other);
-        enter(finder, "Logs");
-        EXPECT_EQ(finder.selection(), home() + "/Logs/");
-        enter(finder, "..");
-        fs::remove(folder.path() / other);
-    }
-}
-
-TEST_F(FinderTest, UnreadableFolderIsAnErrorAndTheOperatorStaysPut) {
-    FileFinder finder(files, machine);
-    finder.chooseFile(0);
-    const std::string before = finder.selection();
-    EXPECT_RUNTIME_ERROR(enter(finder, "locked"), ErrorCode::permissionDenied,
-                         ::testing::HasSubstr("/locked"));
-    EXPECT_EQ(finder.selection(), before);
-    EXPECT_EQ(finder.files().size(), 1U);
-}
-
-TEST_F(FinderTest, UpwardsEndsAtTheTopAndADriveLeadsToItsTop) {
-    machine.mounted = {"/", folder.string(), folder.string() + "/op/Lo"};
-    FileFinder finder(files, machine);
-    enter(finder, "Logs");
-    EXPECT_EQ(finder.currentDrive(), 1U); // "Lo" is another folder
+    EXPECT_EQ(files.nativePath(finder.selection()), top + "/op/Logs/sks.CBR");
+    EXPECT_EQ(finder.currentDrive(), 1U) << "\"Lo\" is another folder";
     finder.openDrive(1);
-    EXPECT_EQ(finder.selection(), upper(shownText(folder.string())) + "/");
-    enter(finder, "..");
+    EXPECT_EQ(finder.selection(), upper(top) + "/");
+    entered("..");
     EXPECT_EQ(finder.currentDrive(), 0U);
     finder.openDrive(0);
     EXPECT_EQ(finder.selection(), "/");
     EXPECT_NE(finder.folders().at(0), "..");
-    enter(finder, "tmp");
-    enter(finder, "..");
-    EXPECT_EQ(finder.selection(), "/");
+    entered("tmp");
+    EXPECT_EQ(entered(".."), "/");
+
+    // The true case stays where upper case names another folder, or either of two.
+    for (const char* other : {"op/LOGS", "op/logs"}) {
+        fs::create_directory(folder.path() / other);
+        finder.openDrive(1);
+        entered("op");
+        EXPECT_EQ(entered("Logs"), top + "/op/Logs/");
+        fs::remove(folder.path() / other);
+    }
 }
 
 } // namespace

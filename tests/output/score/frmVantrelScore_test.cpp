@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/stackedbars.h"
-#include "output/score/contacts.h"
-#include "output/score/score.h"
-#include "output/score/scorereport.h"
+#include "log/shortlog.h"
 #include "support/qt/formharness.h"
 
 #include <gmock/gmock.h>
@@ -11,9 +9,6 @@
 namespace vantrel::test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-
 constexpr const char* page = "frmVantrelScore";
 
 class ScorePage : public ::testing::Test, public FormHarness {
@@ -21,99 +16,86 @@ protected:
     ScorePage() {
         folder.write("SKS.CBR", "");
         module.log.open("SKS.CBR");
-        module.settings.bonusStation = "W4BON     ";
+        module.settings.bonusStation = "W4BON";
     }
-    void openPage(const std::vector<std::string>& logged) {
-        folder.write("SKS.CBR", logOf(logged));
+    // What the page shows for the log: the figures and whether there is a picture.
+    std::string opened(FieldList fields, const std::string& contacts) {
+        folder.write("SKS.CBR", logOf(fields, contacts));
         screens.open(Screen::score);
+        return boxes();
     }
-    std::vector<std::string> boxes() const {
-        std::vector<std::string> texts;
+    std::string boxes() const {
+        std::string texts;
         for (const char* name :
              {"Text1", "Text2", "Text3", "Text4", "Text9", "Text8", "Text5", "Text6", "Text7"})
-            texts.push_back(shown(page, name));
-        return texts;
+            texts += shown(page, name) + '|';
+        return texts + (form(page)->findChild<StackedBars*>()->isVisible() ? "bars" : "");
     }
-    bool pictureShows() const { return form(page)->findChild<StackedBars*>()->isVisible(); }
-
-    // 3 contacts and 15 duplicates that bring in other figures.
-    static std::vector<std::string> anEvening() {
-        std::vector<std::string> contacts{
-            line({.call = "K9SKC", .number = "NONE", .state = "IL"}),
-            line({.call = "K9SKC", .number = "NONE", .state = "IL", .frequency = "7050"}),
-            line({.call = "W4BON", .number = "NONE", .state = "SC", .time = "0101"})};
-        for (const char* number : {"1C", "2C", "3C", "4C", "1T", "2T", "3T", "4T", "5T", "1S", "2S",
-                                   "3S", "4S", "5S", "6S"})
-            contacts.push_back(line({.number = number, .marker = "DUPE"}));
-        return contacts;
+    std::string printed() {
+        messages.expect("The File has been sent to the Printer!");
+        click(page, "Command2");
+        return joinLines(printer.jobs.back());
     }
-
-    const std::vector<std::string> contacts = anEvening();
 };
 
-TEST_F(ScorePage, ShowsTheFiguresAndThePicture) {
-    openPage(contacts);
-    // 3 x 2 + 4 x 5 + 5 x 10 + 6 x 15 + 25 + 2 x 25
-    EXPECT_THAT(boxes(), ElementsAre("3", "2", "4", "5", "6", "1", "2", "235", "241"));
-    EXPECT_EQ(shown(page, "Label13"), "DUPES ARE NOT LOGGED");
-    EXPECT_EQ(shown(page, "Label14"), " ");
-}
+TEST_F(ScorePage, ShowsAndPrintsTheFiguresOfBothKindsOfSprint) {
+    const FieldList fields{&Fields::hisCall, &Fields::hisNumber, &Fields::hisState};
+    const char* contacts = "A 1C; A 1T; A 2T; A 1S; A 2S; A 3S; K9SKC NONE; K9SKC NONE; "
+                           "K9SKC NONE; K9SKC NONE; W4BON NONE SC";
+    EXPECT_EQ(opened(fields, contacts), "11|2|1|2|3|1|4|195|217|bars");
+    EXPECT_EQ(shown(page, "Label4") + shown(page, "Label7"), "S/P/Cs:K9SKC QSOs:");
+    EXPECT_EQ(shown(page, "Label13") + shown(page, "Label14"), "DUPES ARE NOT LOGGED ");
+    const std::string path = folder.string() + "/SKS.CBR";
+    EXPECT_EQ(shown(page, "Label1"), path);
+    EXPECT_EQ(printed(), "\r\n\r\n" + path +
+                             "\r\n\r\n       Number of QSOs: 11\r\n     Number of S/P/Cs: 2\r\n"
+                             " Number of Centurions: 1\r\n   Number of Tribumes: 2\r\n"
+                             "   Number of Senators: 3\r\nNumber Bonus Stn QSOs: 1\r\n"
+                             " Number of K9SKC QSOs: 4\r\n   Total Bonus Points: 195\r\n\r\n"
+                             "         TOTAL SCORE: 217\r\n");
+    EXPECT_EQ(messages.shown.back().informative, "");
 
-TEST_F(ScorePage, EuropeanCaptionsAndLoggedDupes) {
     module.settings.contestCode = "SKSE";
     module.settings.dupeMode = "YES";
-    openPage(contacts);
-    EXPECT_THAT(boxes(), ElementsAre("3", "1", "4", "5", "6", "1", "-9", "191", "194"));
-    EXPECT_EQ(shown(page, "Label4"), "  DXCC Countries:");
-    EXPECT_EQ(shown(page, "Label7"), "      Regular Members Worked: ");
-    EXPECT_EQ(shown(page, "Label13"), "DUPES ARE LOGGED");
-    EXPECT_EQ(shown(page, "Label14"), "BUT NOT COUNTED");
+    printer.hasPrinter = false;
+    EXPECT_EQ(opened(fields, contacts), "11|1|1|2|3|1|3|98|109|bars");
+    EXPECT_EQ(shown(page, "Label4") + shown(page, "Label7"),
+              "  DXCC Countries:      Regular Members Worked: ");
+    EXPECT_EQ(shown(page, "Label13") + shown(page, "Label14"), "DUPES ARE LOGGEDBUT NOT COUNTED");
+    EXPECT_EQ(printed(), "\r\n\r\n" + path +
+                             "\r\n\r\n            Number of QSOs: 11\r\n"
+                             "  Number of DXCC Countries: 1\r\n      Number of Centurions: 1\r\n"
+                             "        Number of Tribumes: 2\r\n        Number of Senators: 3\r\n"
+                             "  Number of Bonus Stn QSOs: 1\r\n    Regular Members Worked: 3\r\n"
+                             "        Total Bonus Points: 98\r\n\r\n"
+                             "               TOTAL SCORE: 109\r\n");
+    EXPECT_EQ(folder.read("SKS-SCORE.PDF"), "a PDF");
+    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("/SKS-SCORE.PDF"));
 }
 
-TEST_F(ScorePage, AnOverflowLeavesWhatWasReached) {
+TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
+    EXPECT_EQ(opened({}, ""), "0|0|0|0|0|0|0|0|0|");
+    std::string contacts;
+    for (int i = 0; i < 1310; ++i)
+        contacts += "K9SKC NONE;";
     messages.expect("Run-time error 6: Overflow");
-    openPage(std::vector<std::string>(1310, line({.call = "K9SKC", .number = "NONE"})));
-    EXPECT_THAT(boxes(), ElementsAre("1310", "1", "0", "0", "0", "0", "1310", "32750", ""));
-}
-
-TEST_F(ScorePage, OpenedAgainItCountsAnew) {
-    openPage({});
-    EXPECT_EQ(boxes(), std::vector<std::string>(9, "0"));
-    EXPECT_FALSE(pictureShows());
-    openPage(contacts);
-    EXPECT_EQ(shown(page, "Text7"), "241");
+    EXPECT_EQ(opened({&Fields::hisCall, &Fields::hisNumber}, contacts),
+              "1310|1|0|0|0|0|1310|32750||bars");
     std::filesystem::remove(folder.path() / "SKS.CBR");
     messages.expect("Run-time error 53: File not found");
     screens.open(Screen::score);
-    EXPECT_EQ(boxes(), std::vector<std::string>(9, ""));
-    EXPECT_FALSE(pictureShows());
-}
-
-TEST_F(ScorePage, PrintsWhatItShows) {
-    openPage(contacts);
-    messages.expect("The File has been sent to the Printer!");
-    click(page, "Command2");
-    EXPECT_THAT(printer.jobs,
-                ElementsAre(scoreReport(computeScore(views(contacts), module.settings),
-                                        folder.string() + "/SKS.CBR")));
-    EXPECT_EQ(messages.shown.back().informative, "");
-
-    printer.hasPrinter = false;
-    messages.expect("The File has been sent to the Printer!");
-    click(page, "Command2");
-    EXPECT_EQ(folder.read("SKS-SCORE.PDF"), "a PDF");
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr(folder.string() + "/SKS-SCORE.PDF"));
+    EXPECT_EQ(boxes(), "|||||||||");
 }
 
 TEST_F(ScorePage, TheBonusPageCountsTheLogAsItIsOnTheDisk) {
-    const auto totalOf = [this](const std::string& name) {
-        folder.write("SKS.CBR", logOf({line({.name = name})}));
+    const auto total = [this](const std::string& name) {
+        folder.write("SKS.CBR", logOf({&Fields::hisName}, name));
         screens.open(Screen::bonus);
         return shown("frmCountBonus", "Label1");
     };
-    EXPECT_EQ(totalOf("JOHN/25"), "Total: 25");
+    EXPECT_EQ(total("JOHN/25"), "Total: 25");
     messages.expect("Run-time error 6: Overflow");
-    EXPECT_EQ(totalOf("JOHN/99999"), "");
+    EXPECT_EQ(total("JOHN/99999"), "");
 }
 
 } // namespace

@@ -1,185 +1,154 @@
 // SPDX-License-Identifier: MIT
-#include "output/score/contacts.h"
+#include "base/fixedtext.h"
+#include "log/shortlog.h"
+#include "output/score/bonuscount.h"
+#include "output/score/contestpicture.h"
 #include "output/score/score.h"
 #include "output/score/scorereport.h"
 #include "shared/settings.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/errors.h"
 
 namespace vantrel::test {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-Score scoreOf(const std::vector<std::string>& lines, const std::string& contest,
-              const std::string& bonusStation = "") {
+Score scoreOf(const char* contest, const std::string& log, const char* bonusStation = "W4BON") {
     OperatingSettings settings;
     settings.contestCode = contest;
     settings.bonusStation = bonusStation;
-    return computeScore(views(lines), settings);
+    return computeScore(contactsIn(log), settings);
 }
 
-// QSOs, S/P/Cs or countries, C, T, S, bonus station, K9SKC or regular members, bonus, total;
-// "-" for a figure that was not reached.
+// The report's figures: QSOs, S/P/Cs or countries, C, T, S, bonus station, K9SKC or regular
+// members, bonus, total.
 std::string figures(const Score& score) {
     std::string result;
-    for (const Score::Figure& figure :
-         {score.qsos, score.multipliers, score.centurions, score.tribunes, score.senators,
-          score.bonusStationQsos, score.european ? score.regularMembersWorked : score.k9skcQsos,
-          score.bonusPoints, score.total})
-        result += ' ' + (figure ? figureText(figure) : "-");
-    return result.substr(1);
+    for (const std::string& line : scoreReport(score, ""))
+        result += line.empty() ? "" : line.substr(line.rfind(' ') + 1) + '/';
+    return result;
 }
 
-struct Case {
-    const char* rule;
-    std::string contest;
-    std::vector<std::string> lines;
-    std::string figures;
-};
-void PrintTo(const Case& row, std::ostream* out) {
-    *out << row.rule;
+TEST(Score, GivesTheFiguresByEachContestsRules) {
+    const struct {
+        const char* rule;
+        const char* contest;
+        const char* contacts; // call, number, state, kHz, marker
+        const char* figures;
+    } rows[] = {
+        {"an empty log gives zeros", "SKS", "", "0/0/0/0/0/0/0/0/0/"},
+        {"the club station counts on every band, not as a duplicate", "WES",
+         "K9SKC 5S IL; K9SKC 5S IL 7050; K9SKC/9 5S IL; K9SKC 5S IL 3550 DUPE",
+         "3/1/0/0/1/0/3/90/93/"},
+        {"the bonus station counts by its whole call, not as a duplicate", "SKS",
+         "W4BON NONE; W4BONX NONE; W4BON NONE MA 14050 DUPE__", "2/1/0/0/0/1/0/25/27/"},
+        {"award numbers count once each, duplicates included", "K3Y",
+         "A 1C; A 1C MA 7050; A 1T; A 2S MA 14050 DUPE; A 3S; A 1C__X", "5/1/1/1/2/0/0/45/50/"},
+        {"a duplicate adds no region unless the log begins with it", "SKS",
+         "A 1 NY 14050 DUPE; A 1 CT 14050 DUPE; A 1 MA; A 1 MA; A 1 _MA", "3/3/0/0/0/0/0/0/9/"},
+        {"Europe: USA ALK HAW CAN DL DC YT \" MA\"; one regular member", "SKSE",
+         "A 1 MA; A 1 NY; A 1 AK; A 1 HI; A 1 ON; A 1 QC; A 1 DL; A 1 DC; A 1 YT; A 1 USA; "
+         "A 1 _MA; A 1 F 14050 DUPE",
+         "11/8/0/0/0/0/11/1/89/"},
+        {"Europe: a Senator is a regular member as well", "SKSE", "A 89S; W4BON 89S",
+         "2/1/0/0/1/1/2/41/43/"},
+        {"Europe: regular members shown may fall below zero", "SKSE",
+         "A 1C MA 14050 DUPE; A 100W MA 14050 DUPE; A NONE MA 14050 DUPE; A 2T",
+         "1/1/1/1/0/0/-3/15/16/"},
+        {"Europe: a missing number is one member; NONEX is shown as nobody's", "SKSE",
+         "A -; A -; A NONEX", "3/1/0/0/0/0/2/2/5/"},
+        {"lines cut short have empty fields", "SKSE", "QSO;QSO: 14050 CW", "2/1/0/0/0/0/2/1/3/"},
+    };
+    const FieldList fields{&Fields::hisCall, &Fields::hisNumber, &Fields::hisState,
+                           &Fields::frequency, &Fields::marker};
+    for (const auto& [rule, contest, contacts, expected] : rows)
+        EXPECT_EQ(figures(scoreOf(contest, logOf(fields, contacts))), expected) << rule;
+    for (const char* contest : {"SKS", "SKSE"}) // no bonus station is not a contact without a call
+        EXPECT_EQ(*scoreOf(contest, logOf(fields, "-"), "").bonusStationQsos, 0);
+    for (const char* country : {"USA;AL;AR;AZ;CA;CO;CT;DE;FL;GA;IA;ID;IL;IN;KS;KY;LA;MA;MD;ME;MI;"
+                                "MN;MO;MS;MT;NC;ND;NE;NH;NJ;NM;NV;NY;OH;OK;OR;PA;RI;SC;SD;TN;TX;UT;"
+                                "VA;VT;WA;WI;WV;WY",
+                                "CAN;NL;NS;QC;PE;ON;MB;AB;SK;BC;NB;NT;NU"})
+        EXPECT_EQ(*scoreOf("SKSE", logOf({&Fields::hisState}, country)).multipliers, 1);
 }
 
-class ScoreRule : public ::testing::TestWithParam<Case> {};
-
-TEST_P(ScoreRule, GivesTheFigures) {
-    EXPECT_EQ(figures(scoreOf(GetParam().lines, GetParam().contest, "W4BON")), GetParam().figures);
-}
-
-const std::string k9skcDupe =
-    line({.call = "K9SKC", .number = "5S", .state = "IL", .marker = "DUPE"});
-
-INSTANTIATE_TEST_SUITE_P(
-    Score, ScoreRule,
-    ::testing::Values(
-        Case{"AnEmptyLogGivesZeros", "SKS", {}, "0 0 0 0 0 0 0 0 0"},
-        Case{"K9SKCCountsOnEveryBandButNotAsDuplicate",
-             "WES",
-             {line({.call = "K9SKC", .number = "5S", .state = "IL"}),
-              line({.call = "K9SKC", .number = "5S", .state = "IL", .frequency = "7050"}),
-              line({.call = "K9SKC/9", .number = "5S", .state = "IL", .frequency = "3550"}),
-              k9skcDupe},
-             "3 1 0 0 1 0 3 90 93"},
-        Case{"TheBonusStationCountsByItsWholeCallButNotAsDuplicate",
-             "SKS",
-             {line({.call = "W4BON", .number = "NONE"}), line({.call = "W4BONX", .number = "NONE"}),
-              line({.call = "W4BON", .number = "NONE", .marker = "DUPE  "})},
-             "2 1 0 0 0 1 0 25 27"},
-        Case{"AwardNumbersCountOnceEachDuplicatesIncluded",
-             "K3Y",
-             {line({.number = "1C"}), line({.number = "1C", .frequency = "7050"}),
-              line({.number = "1T"}), line({.number = "2S", .marker = "DUPE"}),
-              line({.number = "3S"}), line({.number = "1C  X"})},
-             "5 1 1 1 2 0 0 45 50"},
-        Case{"ADuplicateAddsNoRegionUnlessTheLogBeginsWithIt",
-             "SKS",
-             {line({.state = "NY", .marker = "DUPE"}), line({.state = "CT", .marker = "DUPE"}),
-              line({.state = "MA"}), line({.state = "MA"}), line({.state = " MA"})},
-             "3 3 0 0 0 0 0 0 9"},
-        Case{"EuropeMapsStatesAndProvincesToCountries",
-             "SKSE",
-             {line({.state = "MA"}), line({.state = "NY"}), line({.state = "AK"}),
-              line({.state = "HI"}), line({.state = "ON"}), line({.state = "QC"}),
-              line({.state = "DL"}), line({.state = "DC"}), line({.state = "YT"}),
-              line({.state = "USA"}), line({.state = " MA"}),
-              line({.state = "F", .marker = "DUPE"})},
-             // USA ALK HAW CAN DL DC YT " MA"; all the same regular member
-             "11 8 0 0 0 0 11 1 89"},
-        Case{"EuropeASenatorIsARegularMemberAsWell",
-             "SKSE",
-             {line({.number = "89S"}), line({.call = "W4BON", .number = "89S"})},
-             "2 1 0 0 1 1 2 41 43"},
-        Case{"EuropeRegularMembersShownMayFallBelowZero",
-             "SKSE",
-             {line({.number = "1C", .marker = "DUPE"}), line({.number = "100W", .marker = "DUPE"}),
-              line({.number = "NONE", .marker = "DUPE"}), line({.number = "2T"})},
-             "1 1 1 1 0 0 -3 15 16"},
-        Case{"EuropeAMissingNumberCountsAsOneMember",
-             "SKSE",
-             {line({.number = ""}), line({.number = ""}), line({.number = "NONEX"})},
-             // "NONEX" is nobody's number and a member's all the same
-             "3 1 0 0 0 0 2 2 5"},
-        Case{"LinesCutShortYieldEmptyFields",
-             "SKSE",
-             {"QSO", "QSO: 14050 CW"},
-             "2 1 0 0 0 0 2 1 3"}),
-    [](const auto& row) { return std::string(row.param.rule); });
-
-TEST(Score, TenBlanksOfBonusStationMatchNothing) {
-    const std::vector<std::string> lines{line({.call = ""})};
-    EXPECT_EQ(scoreOf(lines, "SKS", "          ").bonusStationQsos->value(), 0);
-    EXPECT_EQ(scoreOf(lines, "SKSE", "").bonusStationQsos->value(), 0);
-}
-
-TEST(Score, EuropeKnowsEveryStateAndProvince) {
-    const std::string usa =
-        "USAAL AR AZ CA CO CT DE FL GA IA ID IL IN KS KY LA MA MD ME MI MN MO MS MT NC ND NE NH "
-        "NJ NM NV NY OH OK OR PA RI SC SD TN TX UT VA VT WA WI WV WY ";
-    const std::string canada = "CANNL NS QC PE ON MB AB SK BC NB NT NU ";
-    for (const std::string& country : {usa, canada}) {
-        std::vector<std::string> lines;
-        for (std::size_t i = 0; i < country.size(); i += 3)
-            lines.push_back(line({.state = country.substr(i, 3)}));
-        EXPECT_EQ(scoreOf(lines, "SKSE").multipliers->value(), 1);
+TEST(Score, AListTakesFourHundredValuesAndStopsBehindWhatWasReached) {
+    const std::tuple<const char*, FieldList::value_type, const char*, const char*, const char*>
+        rows[] = {{"SKS", &Fields::hisNumber, "C;", "Centurions", "401/1////////"},
+                  {"SKS", &Fields::hisNumber, "T;", "Tribunes", "401/1////////"},
+                  {"SKS", &Fields::hisNumber, "S;", "Senators", "401/1////////"},
+                  {"SKS", &Fields::hisState, ";", "S/P/Cs", "401/////////"},
+                  {"SKSE", &Fields::hisNumber, ";", "regular members", "401//0/0/0/////"}};
+    for (const auto& [contest, field, suffix, list, reached] : rows) {
+        std::string contacts;
+        for (int i = 1; i <= 400; ++i)
+            contacts += std::to_string(i) + suffix;
+        EXPECT_NE(figures(scoreOf(contest, logOf({field}, contacts))).substr(3), reached + 3);
+        const Score score = scoreOf(contest, logOf({field}, contacts + "401" + suffix));
+        EXPECT_EQ(figures(score), reached);
+        EXPECT_RUNTIME_ERROR(throw RuntimeError(score.stoppedBy.value()),
+                             ErrorCode::subscriptOutOfRange,
+                             std::string("the list of ") + list + " holds at most 400 entries");
     }
 }
 
-// --- Limits ---------------------------------------------------------------------------------
-
-std::vector<std::string> numbered(int count, const std::string& suffix) {
-    std::vector<std::string> lines;
-    for (int i = 1; i <= count; ++i)
-        lines.push_back(line({.number = std::to_string(i) + suffix}));
-    return lines;
+int bonus(const std::string& contacts) {
+    return countBonusPoints(contactsIn(logOf({&Fields::hisCall, &Fields::hisName}, contacts)))
+        .value();
 }
 
-TEST(Score, FourHundredValuesFitAndTheNextStopsBehindWhatWasReached) {
-    for (const std::string suffix : {"C", "T", "S"}) {
-        EXPECT_FALSE(scoreOf(numbered(400, suffix), "SKS").stoppedBy);
-        const Score score = scoreOf(numbered(401, suffix), "SKS");
-        ASSERT_TRUE(score.stoppedBy);
-        EXPECT_EQ(score.stoppedBy->number(), 9);
-        EXPECT_THAT(score.stoppedBy->detail(), HasSubstr("at most 400"));
-        EXPECT_EQ(figures(score), "401 1 - - - - - - -");
+TEST(BonusCount, AStationCountsOnceWithTheNumberAfterItsFirstSlash) {
+    const std::pair<const char*, int> rows[] = {
+        {"K1A JOHN; K1A /10", 10},        {"K1A JOHN/_25_X; QSO: 14050", 25},
+        {"K1A JOHN/-5; K2A AL/7", 2},     {"K1A JOHN/25; K1A JOHN/30", 25},
+        {"K1A JOHN/5/6; K1A ALAN/7", 5},  {"K1A ABCDEFGHI/; K1A JOHN/30", 0},
+        {"K1AB JOHN/1; K1ABC JOHN/2", 3}, {"K1A A/32767", 32767}};
+    for (const auto& [contacts, points] : rows)
+        EXPECT_EQ(bonus(contacts), points) << contacts;
+    // The column after the call belongs to what tells stations apart, the report does not.
+    std::string log = logOf({&Fields::hisName, &Fields::rstReceived}, "A/3 599; A/4 439; A/5");
+    log[75] = 'X';
+    EXPECT_EQ(countBonusPoints(contactsIn(log)).value(), 7);
+}
+
+TEST(BonusCount, LimitsAreRunTimeErrors) {
+    std::string contacts = "K1 A/9";
+    for (int i = 2; i <= 200; ++i)
+        contacts += "; K" + std::to_string(i) + " A/1";
+    EXPECT_EQ(bonus(contacts + "; K1 A/1"), 208);
+    EXPECT_RUNTIME_ERROR(bonus(contacts + "; K201 A/1"), ErrorCode::subscriptOutOfRange,
+                         "the list of bonus stations holds at most 200 entries");
+    for (const char* tooMuch : {"K1 A/32768", "K1 A/32767; K2 A/1"})
+        EXPECT_RUNTIME_ERROR(bonus(tooMuch), ErrorCode::overflow, HasSubstr("32768"));
+}
+
+// "00Z 0 0 2 0 0 0 0 0 0 1": contacts by band; a break before it as "... ".
+std::string picture(const std::string& contacts) {
+    const std::string log =
+        logOf({&Fields::date, &Fields::time, &Fields::frequency, &Fields::marker}, contacts);
+    std::string result;
+    for (const PictureHour& hour : contactsPerHour(contactsIn(log))) {
+        result += (hour.afterBreak ? "... " : "") + zeroPadded(hour.hour, 2) + 'Z';
+        for (const int count : hour.contacts)
+            result += ' ' + std::to_string(count);
+        result += '\n';
     }
-    std::vector<std::string> regions;
-    for (int i = 1; i <= 401; ++i)
-        regions.push_back(line({.state = std::to_string(i)}));
-    EXPECT_EQ(figures(scoreOf(regions, "SKS")), "401 - - - - - - - -");
+    return result;
 }
 
-TEST(Score, FiguresBeyondSixteenBitsStayEmptyWithAllAfterThem) {
-    std::vector<std::string> lines(1310, line({.call = "K9SKC", .number = "NONE"}));
-    const Score most = scoreOf(lines, "SKS"); // 32,750 bonus points, the total is too much
-    EXPECT_EQ(figures(most), "1310 1 0 0 0 0 1310 32750 -");
-    ASSERT_TRUE(most.stoppedBy);
-    EXPECT_EQ(most.stoppedBy->number(), 6);
-
-    lines.push_back(lines.front());
-    EXPECT_EQ(figures(scoreOf(lines, "SKS")), "1311 1 0 0 0 0 1311 - -");
-}
-
-// --- The report -----------------------------------------------------------------------------
-
-TEST(ScoreReport, HasItsLinesInTheirOrderAndNothingWhereAFigureIsMissing) {
-    const Score score =
-        scoreOf({line({.call = "K9SKC", .number = "5S"}), line({.number = "7C"})}, "WES", "W4BON");
-    EXPECT_THAT(scoreReport(score, "/logs/WES.CBR"),
-                ElementsAre("", "", "/logs/WES.CBR", "", "       Number of QSOs: 2",
-                            "     Number of S/P/Cs: 1", " Number of Centurions: 1",
-                            "   Number of Tribumes: 0", "   Number of Senators: 1",
-                            "Number Bonus Stn QSOs: 0", " Number of K9SKC QSOs: 1",
-                            "   Total Bonus Points: 45", "", "         TOTAL SCORE: 47"));
-    // More than 400 regular members.
-    EXPECT_THAT(scoreReport(scoreOf(numbered(401, ""), "SKSE"), "/logs/E.CBR"),
-                ElementsAre("", "", "/logs/E.CBR", "", "            Number of QSOs: 401",
-                            "  Number of DXCC Countries: ", "      Number of Centurions: 0",
-                            "        Number of Tribumes: 0", "        Number of Senators: 0",
-                            "  Number of Bonus Stn QSOs: ", "    Regular Members Worked: ",
-                            "        Total Bonus Points: ", "", "               TOTAL SCORE: "));
+TEST(ContestPicture, ContactsPerHourAndBandOfTheLastFortyEightHours) {
+    EXPECT_EQ(picture("07-01-2011 0000; 2011-06-30 2359; 2011-06-30 2300 7040; 2011-06-30 2301;"
+                      "2011-06-30 0659 50125; 2011-06-30 2302 14050 DUPE; 2011-13-01;"
+                      "0000-01-01; 2011-06-30 2400; 2011-06-30 12_0; QSO: 14050 CW"),
+              "06Z 0 0 0 0 0 0 0 0 0 1\n"
+              "... 23Z 0 0 1 0 2 0 0 0 0 0\n"
+              "00Z 0 0 0 0 1 0 0 0 0 0\n");
+    std::string contacts;
+    for (int i = 0; i < 49; ++i)
+        contacts += "2011-06-" + std::to_string(10 + i / 24) + ' ' + zeroPadded(i % 24, 2) + "00;";
+    const std::string hours = picture(contacts);
+    EXPECT_EQ(std::count(hours.begin(), hours.end(), 'Z'), 48);
+    EXPECT_EQ(hours.substr(0, 2), "01");
 }
 
 } // namespace

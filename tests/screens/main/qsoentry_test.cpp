@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // From the boxes to the line: what is cut, padded, refused, and whom the dupe checks find.
-#include "k3y/k3ylines.h"
 #include "screens/main/bandring.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
@@ -121,6 +120,11 @@ TEST(Duplicate, IsSameBandAndCallBeginningWithWhatIsTyped) {
 
 // Unlike the ordinary check, the start of a call is not the call.
 TEST(K3yDupe, IsTheSameCallNumberAndBand) {
+    const auto k3yLine = [](const char* call, const char* khz, const char* number,
+                            const char* marker = "      ") {
+        return contactLine(
+            {.frequency = khz, .hisCall = call, .hisNumber = number, .marker = marker});
+    };
     const std::string logged = k3yLine("K3Y/1", "14050", "123456", "K3Y/EU");
     const struct {
         const char* name;
@@ -129,7 +133,7 @@ TEST(K3yDupe, IsTheSameCallNumberAndBand) {
         bool dupe;
     } rows[] = {
         {"same, another tag", logged, k3yLine("K3Y/1", "14062", "123456", "DUPE"), true},
-        {"another band", logged, k3yLine("K3Y/1", "7050", "123456"), false},
+        {"another band", logged, k3yLine("K3Y/1", " 7050", "123456"), false},
         {"another operator", logged, k3yLine("K3Y/1", "14050", "12345"), false},
         {"a longer call", logged, k3yLine("K3Y/1/P", "14050", "123456"), false},
         {"a shorter call", logged, k3yLine("K3Y/", "14050", "123456"), false},

@@ -4,9 +4,11 @@
 #pragma once
 
 #include "app/appscreens.h"
+#include "base/fixedtext.h"
 #include "fakes/fakeclock.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "platform/qt/latin1.h"
 #include "platform/qt/qteventloop.h"
 #include "platform/qt/qtlauncher.h"
 #include "platform/qt/qtmessages.h"
@@ -16,44 +18,65 @@
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
 #include "support/qt/hands.h"
+#include "support/tempfolder.h"
 
-#include <filesystem>
-#include <functional>
-#include <string>
-#include <string_view>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QTest>
+#include <QTimer>
 
 namespace vantrel::test {
 
 class Stage : public Hands {
 public:
-    // Everything is played in `folder`, which is emptied first; pictures go to its
-    // "pictures" folder.
-    explicit Stage(const std::filesystem::path& folder);
+    // Everything is played in `where`, which is emptied first; pictures go to its "pictures"
+    // folder.
+    explicit Stage(const std::filesystem::path& where) : folder(emptied(where)) {}
 
     // Runs `action`, which must bring up a message box with this text; takes a picture of
     // it and presses Yes or OK.
-    void confirming(const std::string& text, const std::function<void()>& action);
+    void confirming(const std::string& text, const std::function<void()>& action) {
+        std::string came;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, qApp, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return;
+            watch.stop();
+            came = fromQt(box->text());
+            save(box, "message");
+            QAbstractButton* yes = box->button(QMessageBox::Yes);
+            QTest::mouseClick(yes != nullptr ? yes : box->button(QMessageBox::Ok), Qt::LeftButton);
+        });
+        watch.start(50);
+        action();
+        EXPECT_EQ(came, text);
+    }
 
     // Saves "NN-name.png" of the form as it looks now.
-    void picture(const char* formName, const std::string& name);
+    void picture(const char* formName, const std::string& name) {
+        QTest::qWait(50); // long enough for a real display to paint
+        save(form(formName), name);
+    }
 
     // Types into a box and presses Enter there.
-    void enter(const char* formName, const char* name, std::string_view text);
-    // Leaves by the page's EXIT.
-    void leave(const char* formName);
+    void enter(const char* formName, const char* name, std::string_view text) {
+        type(formName, name, text);
+        press(formName, name, Qt::Key_Return);
+    }
+    // Takes a picture of the form and leaves it by its EXIT.
+    void leave(const char* formName, const std::string& name) {
+        picture(formName, name);
+        click(formName, "Command1");
+        settle();
+    }
 
-    // A file of the folder.
-    void write(const std::string& name, const std::string& bytes) const;
-    std::string read(const std::string& name) const;
-
-    // Throw with both texts unless they are equal; a file byte for byte.
-    void check(const std::string& what, const std::string& got, const std::string& expected) const;
-    void checkFile(const std::string& name, const std::string& expected) const;
-
-    std::filesystem::path folder;
+    Folder folder;
     FakeClock clock;
     SystemCalls calls;
-    Files files;
+    Files files{folder.string(), calls};
     QtMessages messages;
     QtEventLoop eventLoop;
     QtSerialPort serialPort{files};
@@ -65,7 +88,23 @@ public:
     AppScreens screens{module, platform};
 
 private:
-    void save(QWidget* window, const std::string& name);
+    // Anybody else's folder is left alone.
+    static std::filesystem::path emptied(const std::filesystem::path& where) {
+        namespace fs = std::filesystem;
+        const fs::path ownMark = where / ".vantrel-tour";
+        if (fs::exists(where) && !fs::is_empty(where) && !fs::exists(ownMark))
+            throw std::runtime_error(where.string() + " holds files that are not a tour's");
+        fs::remove_all(where);
+        fs::create_directories(where / "pictures");
+        std::ofstream(ownMark) << "played here\n";
+        return fs::canonical(where);
+    }
+
+    void save(QWidget* window, const std::string& name) {
+        const std::string file = zeroPadded(++m_pictures, 2) + '-' + name + ".png";
+        const auto path = folder.path() / "pictures" / file;
+        EXPECT_TRUE(window->grab().save(QString::fromStdString(path.string()))) << path;
+    }
 
     int m_pictures = 0;
 };

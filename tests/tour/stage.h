@@ -22,10 +22,14 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeySequence>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QTest>
 #include <QTimer>
+
+#include <set>
 
 namespace vantrel::test {
 
@@ -59,6 +63,7 @@ public:
     void picture(const char* formName, const std::string& name) {
         QTest::qWait(50); // long enough for a real display to paint
         save(form(formName), name);
+        checkForm(form(formName));
     }
 
     // Types into a box and presses Enter there.
@@ -104,6 +109,29 @@ private:
         const std::string file = zeroPadded(++m_pictures, 2) + '-' + name + ".png";
         const auto path = folder.path() / "pictures" / file;
         EXPECT_TRUE(window->grab().save(QString::fromStdString(path.string()))) << path;
+    }
+
+    // What holds for every screen: names and Alt keys stand once, text is plain, and it fits.
+    static void checkForm(const QWidget* form) {
+        std::set<QString> names;
+        for (const QWidget* control : form->findChildren<QWidget*>()) {
+            const QString name = control->objectName();
+            EXPECT_TRUE(name.isEmpty() || name.startsWith(u"qt_") || names.insert(name).second)
+                << form->objectName().toStdString() << ' ' << name.toStdString();
+        }
+        // The two captions of the backup page share a letter and are known so.
+        std::set<QString> keys;
+        for (const QAbstractButton* button : form->findChildren<QAbstractButton*>()) {
+            const QString key = QKeySequence::mnemonic(button->text()).toString();
+            EXPECT_TRUE(key.isEmpty() || keys.insert(key).second ||
+                        form->objectName() == u"frmVantrelBackup")
+                << form->objectName().toStdString() << ' ' << button->text().toStdString();
+        }
+        for (const QLabel* label : form->findChildren<QLabel*>())
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+        EXPECT_TRUE(QRect(0, 0, 1366, 700).contains(QRect({}, form->size())) ||
+                    qEnvironmentVariableIsSet("VANTREL_TOUR_POINTS"))
+            << form->objectName().toStdString() << " does not fit on a small screen";
     }
 
     int m_pictures = 0;

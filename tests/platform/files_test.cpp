@@ -128,7 +128,7 @@ TEST_F(FilesTest, LinkedLogIsWrittenAtItsTargetWhosePermissionsAreKept) {
 // The window lives on while the disk is waited for, and a contact can be logged.
 TEST_F(FilesTest, SecondReplacingOfSeveralFilesMeanwhileIsRefused) {
     struct SlowDisk : SystemCalls {
-        int sync(int) override { return ::usleep(30'000); }
+        int sync(int) override { return ::usleep(100'000); }
     } slowDisk;
     Files slow(folder.string(), slowDisk);
     int turns = 0;

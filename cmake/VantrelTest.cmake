@@ -24,7 +24,7 @@ function(vantrel_tests room)
 
   if(form_tests AND VANTREL_FORMS)
     add_executable(test_forms_${name} ${form_tests})
-    target_link_libraries(test_forms_${name} PRIVATE forms_test_support forms_test_main)
+    target_link_libraries(test_forms_${name} PRIVATE forms_test_support)
     # Pseudo-terminals are numbered anew at once: the lock file of one that a test has just let
     # go would stop another test that gets its number meanwhile.
     set(lock "")

@@ -5,6 +5,8 @@
 
 #include "platform/systemcalls.h"
 
+#include <cerrno>
+#include <fcntl.h>
 #include <string>
 
 namespace vantrel::test {
@@ -17,35 +19,69 @@ struct Crash {};
 class FailingCalls : public SystemCalls {
 public:
     // The n-th call of this kind from now (1 is the next) fails with `error`, and so do all
-    // later ones of the kind when `always`.
-    void failAt(Call kind, int n, int error, bool always = false);
+    // later ones of the kind when `always`; none when n is 0.
+    void failAt(Call kind, int n, int error, bool always = false) {
+        m_failure = {kind, n, error, always};
+    }
     // The n-th call that changes the disk from now (open to create, write, truncate, rename,
-    // link, remove) is not done: Crash is thrown, and by every later one too.
-    void crashAt(int n);
-    void heal();
-    // How many calls that change the disk were made since the last heal() or crashAt().
-    int changes() const { return m_changes; }
+    // link, remove) is not done: Crash is thrown, and by every later one too; never when 0.
+    void crashAt(int n) { m_untilCrash = n; }
+    void heal() { *this = FailingCalls(); }
 
-    int open(const std::string& path, int flags, unsigned mode) override;
-    long write(int file, const char* bytes, std::size_t count) override;
-    long read(int file, char* bytes, std::size_t count) override;
-    int sync(int file) override;
-    int truncate(int file, long long size) override;
-    int rename(const std::string& from, const std::string& to) override;
-    int link(const std::string& from, const std::string& to) override;
-    int remove(const std::string& path) override;
+    int open(const std::string& path, int flags, unsigned mode) override {
+        const bool fails = (flags & O_CREAT) != 0 ? changeFails(Call::open) : callFails(Call::open);
+        return fails ? -1 : SystemCalls::open(path, flags, mode);
+    }
+    // A full disk takes what still fits before it refuses, and a crash leaves a part as well.
+    long write(int file, const char* bytes, std::size_t count) override {
+        const long part = SystemCalls::write(file, bytes, count / 2);
+        if (part < 0 || changeFails(Call::write))
+            return -1;
+        const long rest = SystemCalls::write(file, bytes + part, count - static_cast<size_t>(part));
+        return rest < 0 ? -1 : part + rest;
+    }
+    long read(int file, char* bytes, std::size_t count) override {
+        return callFails(Call::read) ? -1 : SystemCalls::read(file, bytes, count);
+    }
+    // Nothing here outlives the test: no need to wait for the disk.
+    int sync(int) override { return callFails(Call::sync) ? -1 : 0; }
+    int truncate(int file, long long size) override {
+        return changeFails(Call::truncate) ? -1 : SystemCalls::truncate(file, size);
+    }
+    int rename(const std::string& from, const std::string& to) override {
+        return changeFails(Call::rename) ? -1 : SystemCalls::rename(from, to);
+    }
+    int link(const std::string& from, const std::string& to) override {
+        return changeFails(Call::link) ? -1 : SystemCalls::link(from, to);
+    }
+    int remove(const std::string& path) override {
+        return changeFails(Call::remove) ? -1 : SystemCalls::remove(path);
+    }
 
 private:
-    bool fails(Call kind);
-    void changing();
+    bool changeFails(Call kind) {
+        if (m_untilCrash == 1)
+            throw Crash();
+        m_untilCrash -= m_untilCrash > 0 ? 1 : 0;
+        return callFails(kind);
+    }
+    bool callFails(Call kind) {
+        if (kind != m_failure.kind)
+            return false;
+        const int n = m_failure.countdown--;
+        const bool fails = n == 1 || (m_failure.always && n < 1);
+        if (fails)
+            errno = m_failure.error;
+        return fails;
+    }
 
-    bool m_failing = false;
-    Call m_kind = Call::open;
-    int m_countdown = 0;
-    int m_error = 0;
-    bool m_always = false;
-    int m_crashAt = 0; // 0: never
-    int m_changes = 0;
+    struct {
+        Call kind;
+        int countdown;
+        int error;
+        bool always;
+    } m_failure{};
+    int m_untilCrash = 0;
 };
 
 } // namespace vantrel::test

@@ -6,8 +6,10 @@
 #include "platform/serialport.h"
 
 #include <deque>
+#include <gtest/gtest.h>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantrel::test {
@@ -23,11 +25,48 @@ struct Answer {
 
 class FakeSerialPort : public SerialPort {
 public:
-    void open(const std::string& name, const std::string& settings) override;
+    void open(const std::string& name, const std::string& settings) override {
+        EXPECT_FALSE(m_open) << "opened twice";
+        opened.push_back(name + ' ' + settings);
+        if (refusal)
+            throw *refusal;
+        m_open = true;
+        m_openedAt = m_now;
+        m_answer = {};
+        m_input.clear();
+    }
     void close() override { m_open = false; }
-    void write(std::string_view bytes) override;
-    bool wait(int milliseconds) override;
-    std::string readAll() override;
+    void write(std::string_view bytes) override {
+        EXPECT_TRUE(m_open) << "written while closed";
+        sent.emplace_back(bytes);
+        m_passes = 0;
+        m_answer = {};
+        if (answers.empty())
+            return;
+        m_answer = answers.front();
+        answers.pop_front();
+        EXPECT_EQ(bytes, m_answer.query);
+    }
+    bool wait(int milliseconds) override {
+        EXPECT_GT(milliseconds, 0);
+        ++m_passes;
+        if (++waits == closesOnWait || !m_open)
+            return false;
+        m_input += std::exchange(noise, {});
+        const int piece = m_passes - m_answer.pass;
+        if (piece >= 0 && piece < m_answer.pieces) {
+            m_input +=
+                m_answer.reply.substr(pieceStart(piece), pieceStart(piece + 1) - pieceStart(piece));
+            m_gone = m_answer.vanishes && piece + 1 == m_answer.pieces;
+        }
+        m_now += m_input.empty() ? milliseconds : 1;
+        return true;
+    }
+    std::string readAll() override {
+        if (m_gone && m_input.empty())
+            throw SerialPortError(SerialPortError::Reason::lost, "com1 has been unplugged.");
+        return std::exchange(m_input, {});
+    }
     int elapsed() const override { return m_now - m_openedAt; }
 
     bool isOpen() const { return m_open; }
@@ -44,12 +83,17 @@ public:
     int waits = 0;
 
 private:
+    std::size_t pieceStart(int piece) const {
+        return m_answer.reply.size() * static_cast<std::size_t>(piece) /
+               static_cast<std::size_t>(m_answer.pieces);
+    }
+
     bool m_open = false;
     bool m_gone = false;
     int m_now = 0;
     int m_openedAt = 0;
     int m_passes = 0; // waits since the last query
-    std::optional<Answer> m_answer;
+    Answer m_answer;
     std::string m_input;
 };
 

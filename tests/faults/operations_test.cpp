@@ -1,185 +1,213 @@
 // SPDX-License-Identifier: MIT
-// The operator's whole operations while the disk fails: each system call in turn, a disk that
-// is really full, one that is read-only. Nothing that was there is lost, what failed says so,
-// and the next try succeeds.
+// The operator's whole operations while the disk fails (each system call in turn, a disk that is
+// really full, one that is read-only) and while the program is killed, again and again on one
+// folder. Nothing that was told as done is lost, every file is the old or the new one, what
+// failed says so, and the next try or the next start goes on.
 #include "fakes/failingcalls.h"
 #include "fakes/fakeclock.h"
+#include "log/log.h"
 #include "log/logfile.h"
-#include "logedit/correction.h"
+#include "log/qsoline.h"
 #include "logedit/logedit.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 #include "output/files/backup.h"
 #include "platform/files.h"
+#include "platform/programfolder.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterrecord.h"
 #include "roster/rostersort.h"
-#include "screens/main/qsoentry.h"
-#include "shared/module1.h"
+#include "shared/settings.h"
 #include "support/contacts.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
 
+#include <array>
 #include <cerrno>
-#include <cstring>
+#include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <functional>
 #include <map>
-#include <ostream>
+#include <optional>
+#include <random>
+#include <set>
 #include <sys/mount.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace vantrel::test {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::AnyOf;
 
 const std::string logName = "SKS061611.CBR";
-const std::string copyName = "BACKUP/" + logName;
 
-// Every file of the folder and of the backup folder in it; nothing for what is hidden.
-using Snapshot = std::map<std::string, std::string>;
+// The program as it stands when an operation begins: started, with the log open.
+struct World {
+    World(const TempFolder& folder, SystemCalls& calls, bool withChange = false)
+        : files(folder.string(), calls) {
+        files.recover();
+        settings = loadSettings(files);
+        log.open(logName);
+        if (withChange)
+            correct();
+    }
 
-Snapshot snapshotOf(const TempFolder& folder) {
-    Snapshot result;
-    for (const std::string& name : folder.names())
-        if (!name.starts_with('.') && fs::is_regular_file(folder.path() / name))
-            result[name] = folder.read(name);
-    if (folder.has(copyName))
-        result[copyName] = folder.read(copyName);
-    return result;
+    void logContact() { log.append(contactLine({.hisCall = "N" + std::to_string(number)})); }
+    void select() {
+        const Contacts& contacts = log.contacts();
+        if (!contacts.empty())
+            edit.search(trim(qso::hisCall.of(contacts[number % contacts.size()])));
+    }
+    void correct() {
+        select();
+        if (edit.found())
+            edit.replaceLine(withField(edit.line(), qso::hisName, "X" + std::to_string(number)));
+    }
+    void remove() {
+        select();
+        edit.removeLine();
+    }
+    void saveBonusStation() {
+        settings.bonusStation = "B" + std::to_string(number);
+        saveSettings(files, settings);
+    }
+    // All members get the same new name: a mixture of two imports is neither of them.
+    void import() {
+        std::string list = "skccnr|call\r\n";
+        for (int i = 0; i < 50; ++i)
+            list += std::to_string(3000 - i) + "T|" + "AKNWD"[i % 5] + std::to_string(i) + "XY|G" +
+                    std::to_string(number) + "|TOWN|MA|||||||\r\n";
+        files.rewrite(dataListFile, list);
+        importMembers(files, MemberList::data, dataListFile,
+                      [](const ImportStep&) { return true; });
+    }
+
+    Files files;
+    OperatingSettings settings;
+    Log log{files};
+    LogEdit edit{files, log};
+    unsigned long number = 20; // chooses the contact, and stands in whatever is written
+};
+
+struct Operation {
+    std::string_view name;
+    void (*run)(World&);
+};
+
+const Operation operations[] = {
+    {"log a contact", [](World& world) { world.logContact(); }},
+    {"correct", [](World& world) { world.correct(); }},
+    {"delete", [](World& world) { world.remove(); }},
+    {"undo", [](World& world) { world.edit.undo(); }},
+    {"start a new log", [](World& world) { startNewLog(world.files, logName, logHeaderLines); }},
+    {"save the settings", [](World& world) { world.saveBonusStation(); }},
+    {"import", [](World& world) { world.import(); }},
+    {"sort", [](World& world) { sortRosterFiles(world.files); }},
+    {"ADIF", [](World& world) { exportAdif(world.files, world.log); }},
+    {"strict ADIF",
+     [](World& world) { exportStrictAdif(world.files, FakeClock(), "0", world.log); }},
+    {"back up", [](World& world) { backUpLog(world.files, logName, "BACKUP"); }},
+};
+
+// The worked stations follow whatever was done.
+void carryOut(const Operation& operation, World& world) {
+    operation.run(world);
+    world.log.reread();
 }
-
-// The log ends so near the end of a page that one contact more needs another page.
-constexpr int contacts = 74;
 
 void fill(const TempFolder& folder) {
     std::string log = logHeaderLines;
-    for (int i = 0; i < contacts; ++i)
+    // It ends so near the end of a page that one contact more needs another page.
+    for (int i = 0; i < 74; ++i)
         log += contactLine({.hisCall = "K" + std::to_string(100 + i) + "ABC"}) + "\r\n";
     folder.write(logName, log);
-    folder.write("StnsWorked.TXT", "");
     folder.write("Vantrel.CFG", std::string(13, '\n') + "NO\r\n");
-    std::string list = "skccnr|call\r\n";
-    for (int i = 0; i < 50; ++i)
-        list += std::to_string(3000 - i) + "T|" + "AKNWD"[i % 5] + std::to_string(i) +
-                "XY|TOM|TOWN|MA|||||||\r\n";
-    folder.write(std::string(dataListFile), list);
     for (const std::string_view name : rosterFiles)
         folder.write(std::string(name), "Z9ZZ      9T        OLD       MA \r\n"
                                         "Y9YY      8T        OLD       MA \r\n");
     fs::create_directory(folder.path() / "BACKUP");
-    folder.write(copyName, "an earlier copy\r\n");
+    folder.write("BACKUP/" + logName, "an earlier copy\r\n");
 }
 
-// The program as it stands when the operation begins: started, with the log open.
-struct World {
-    explicit World(Files& itsFiles) : files(itsFiles) {
-        files.recover();
-        module.settings.logFileName = logName;
-        module.settings.myCall = "W1ABC";
-        module.log.open(logName);
+// Every file of the folder and of those in it; nothing for what is hidden.
+using Snapshot = std::map<std::string, std::string>;
+
+Snapshot snapshotOf(const TempFolder& folder) {
+    Snapshot result;
+    for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
+        const std::string name = entry.path().lexically_relative(folder.path()).string();
+        if (entry.is_regular_file() && !entry.path().filename().string().starts_with('.'))
+            result[name] = folder.read(name);
     }
-
-    Files& files;
-    Module1 module{files};
-    FakeClock clock;
-    LogEdit log{files, module.log};
-    bool sequelFailed = false; // done, but what follows from it failed
-};
-
-struct Operation {
-    const char* name;
-    void (*run)(World&);
-};
-
-void PrintTo(const Operation& operation, std::ostream* out) {
-    *out << operation.name;
+    return result;
 }
 
-// What was done is done, whether or not the worked stations can follow.
-void follow(World& world) {
-    try {
-        world.module.log.reread();
-    } catch (const RuntimeError&) {
-        world.sequelFailed = true;
-    }
+void expectNoScratch(const TempFolder& folder) {
+    for (const std::string& name : folder.names())
+        EXPECT_TRUE(!name.starts_with('.') || name == ".vantrel-lock") << name;
 }
 
-void logContact(World& world) {
-    world.module.log.append(contactLine({.hisCall = "N1NEW"}));
-    follow(world);
-}
-
-void changeLine(World& world, void (*change)(LogEdit&)) {
-    if (world.log.search("K120ABC") == SearchResult::found)
-        change(world.log);
-    follow(world);
-}
-
-void correct(LogEdit& log) {
-    const CorrectionBoxes shown = correctionBoxes("", log.line());
-    CorrectionBoxes typed = shown;
-    typed[1] = "CORRECTED";
-    log.replaceLine(corrected(log.line(), shown, typed).line);
-}
-
-void import(World& world) {
-    const ImportResult result = importMembers(world.files, MemberList::data, dataListFile,
-                                              [](const ImportStep&) { return true; });
-    EXPECT_TRUE(result.finished);
-}
-
-const Operation operations[] = {
-    {"LogContact", logContact},
-    {"Correct", [](World& world) { changeLine(world, correct); }},
-    {"Delete", [](World& world) { changeLine(world, [](LogEdit& log) { log.removeLine(); }); }},
-    {"StartNewLog", [](World& world) { startNewLog(world.files, logName, logHeaderLines); }},
-    {"SaveSettings", [](World& world) { saveSettings(world.files, world.module.settings); }},
-    {"Import", import},
-    {"Sort", [](World& world) { sortRosterFiles(world.files); }},
-    {"Adif", [](World& world) { exportAdif(world.files, world.module.log); }},
-    {"StrictAdif",
-     [](World& world) { exportStrictAdif(world.files, world.clock, "0", world.module.log); }},
-    {"BackUp", [](World& world) { backUpLog(world.files, logName, "BACKUP"); }},
-};
-
-// The folder after an operation that nothing disturbed.
-Snapshot afterwards(const Operation& operation) {
-    TempFolder folder;
-    fill(folder);
-    FailingCalls calls;
-    Files files(folder.string(), calls);
-    World world(files);
-    operation.run(world);
-    return snapshotOf(folder);
-}
-
-// What belongs together: the log and its copy of before, the five roster files unless they are
-// sorted, each other file.
+// What belongs together: the log and its copies of before, the five roster files unless they
+// are sorted, each other file.
 std::string groupOf(const std::string& name, const Operation& operation) {
-    if (name.starts_with("SKSDB") && operation.name != std::string_view("Sort"))
+    if (name.starts_with("SKSDB") && operation.name != "sort")
         return "the roster";
-    return name == logName + ".BAK" ? logName : name;
+    return name.starts_with(logName) ? logName : name;
 }
 
-using Groups = std::map<std::string, Snapshot>;
-
-Groups groupsOf(const Snapshot& snapshot, const Operation& operation) {
-    Groups groups;
-    for (const auto& [name, bytes] : snapshot)
-        groups[groupOf(name, operation)][name] = bytes;
-    return groups;
+// Each group of files is as it was or as it should become.
+void expectOldOrNew(const TempFolder& folder, const Snapshot& before, const Snapshot& after,
+                    const Operation& operation) {
+    Snapshot found = snapshotOf(folder);
+    // A log is kept first and begun anew then: an end between leaves a copy more, nothing less.
+    if (found[logName] == before.at(logName))
+        std::erase_if(found, [&](const auto& file) {
+            return file.first.starts_with(logName + ".OLD") && before.count(file.first) == 0;
+        });
+    std::map<std::string, std::array<Snapshot, 3>> groups;
+    const std::array<const Snapshot*, 3> states{&found, &before, &after};
+    for (std::size_t i = 0; i < states.size(); ++i)
+        for (const auto& [name, bytes] : *states[i])
+            groups[groupOf(name, operation)][i][name] = bytes;
+    for (const auto& [name, files] : groups)
+        EXPECT_THAT(files[0], ::testing::AnyOf(files[1], files[2])) << name;
 }
 
-class Disturbed : public ::testing::TestWithParam<Operation> {
-protected:
-    // The operation, while something is wrong; true when it, or what follows from it, failed.
-    static bool fails(World& world, std::optional<ErrorCode> expected = {}) {
+// One operation, tried again and again while something else is wrong.
+class Trial {
+public:
+    explicit Trial(const Operation& operation) : m_operation(operation) {
+        TempFolder folder;
+        FailingCalls calls;
+        fill(folder);
+        World world(folder, calls, m_operation.name == "undo");
+        carryOut(m_operation, world);
+        m_after = snapshotOf(folder);
+    }
+
+    // True when the operation failed while the harm was done. Healed, the next try succeeds.
+    bool fails(const TempFolder& folder, SystemCalls& calls, const std::function<void()>& harm,
+               const std::function<void()>& heal, std::optional<ErrorCode> expected = {}) const {
+        fill(folder);
+        World world(folder, calls, m_operation.name == "undo");
+        const Snapshot before = snapshotOf(folder);
+        harm();
+        const bool failed = attemptFails(world, expected);
+        heal();
+        expectOldOrNew(folder, failed ? before : m_after, m_after, m_operation);
+        World next(folder, calls);
+        EXPECT_FALSE(attemptFails(next));
+        expectNoScratch(folder);
+        return failed;
+    }
+
+private:
+    bool attemptFails(World& world, std::optional<ErrorCode> expected = {}) const {
         try {
-            GetParam().run(world);
-            return world.sequelFailed;
+            carryOut(m_operation, world);
+            return false;
         } catch (const RuntimeError& error) {
             EXPECT_EQ(error.code(), expected.value_or(error.code())) << error.what();
             EXPECT_THAT(error.detail(), ::testing::HasSubstr(world.files.programFolder()));
@@ -187,146 +215,163 @@ protected:
         }
     }
 
-    // Each group of files is as it was or as it should become; all of them when nothing failed.
-    void expectOldOrNew(const TempFolder& folder, const Snapshot& before, bool failed) const {
-        Groups old = groupsOf(before, GetParam());
-        Groups wanted = groupsOf(m_after, GetParam());
-        Groups found = groupsOf(snapshotOf(folder), GetParam());
-        for (auto& [name, files] : found) {
-            if (failed)
-                EXPECT_THAT(files, AnyOf(old[name], wanted[name])) << name;
-            else
-                EXPECT_EQ(files, wanted[name]) << name;
-        }
-        for (const auto& [name, files] : old)
-            EXPECT_TRUE(found.count(name) == 1) << name << " is gone";
-    }
-
-    void expectNextTrySucceeds(const TempFolder& folder, Files& files) const {
-        World world(files);
-        EXPECT_FALSE(fails(world));
-        for (const std::string& name : folder.names())
-            EXPECT_EQ(name.find(".vantrel-"), std::string::npos) << name;
-    }
-
-    const Snapshot m_after = afterwards(GetParam());
+    const Operation& m_operation;
+    ::testing::ScopedTrace m_trace{__FILE__, __LINE__, m_operation.name};
+    Snapshot m_after; // when nothing disturbs it
 };
 
-TEST_P(Disturbed, ByAnyCallFailing) {
-    const struct {
-        Call kind;
-        int error;
-    } failures[] = {{Call::open, EMFILE}, {Call::read, EIO},     {Call::write, ENOSPC},
-                    {Call::sync, EIO},    {Call::rename, EROFS}, {Call::remove, EPERM}};
-    for (const auto& failure : failures) {
-        int failed = 0;
-        int unharmed = 0; // times in a row: there is no such call any more
-        for (int n = 1; unharmed < 3; ++n) {
-            SCOPED_TRACE("call of kind " + std::to_string(static_cast<int>(failure.kind)) +
-                         ", number " + std::to_string(n));
-            TempFolder folder;
-            fill(folder);
-            FailingCalls calls;
-            Files files(folder.string(), calls);
-            World world(files);
-            const Snapshot before = snapshotOf(folder);
-            calls.failAt(failure.kind, n, failure.error, n % 2 == 0);
-            const bool thisFailed = fails(world);
+// One kind of call fails at its n-th time, every other n at all later times too, until n is more
+// than there are. Returns how often the operation failed.
+int failEachCall(const Trial& trial, Call kind, int error) {
+    int failed = 0;
+    int unharmed = 0; // times in a row: there is no such call any more
+    for (int n = 1; unharmed < 3 && !::testing::Test::HasFailure(); ++n) {
+        SCOPED_TRACE("call number " + std::to_string(n));
+        const TempFolder folder;
+        FailingCalls calls;
+        const auto harm = [&] { calls.failAt(kind, n, error, n % 2 == 0); };
+        const auto heal = [&] {
             calls.heal();
-            failed += thisFailed ? 1 : 0;
-            unharmed = thisFailed ? 0 : unharmed + 1;
             // What could not even be put back or removed is left to the next start.
-            if (failure.kind == Call::rename || failure.kind == Call::remove)
-                files.recover();
-            expectOldOrNew(folder, before, thisFailed);
-            if (!HasFailure())
-                expectNextTrySucceeds(folder, files);
-            ASSERT_FALSE(HasFailure());
-        }
-        const bool mustFail =
-            failure.kind == Call::open || failure.kind == Call::write || failure.kind == Call::sync;
-        EXPECT_TRUE(failed > 0 || !mustFail) << "nothing was opened, written or synced";
+            if (kind == Call::rename || kind == Call::remove)
+                Files(folder.string(), calls).recover();
+        };
+        const bool thisFailed = trial.fails(folder, calls, harm, heal);
+        failed += thisFailed ? 1 : 0;
+        unharmed = thisFailed ? 0 : unharmed + 1;
+    }
+    return failed;
+}
+
+TEST(Operation, WithAnyCallFailing) {
+    for (const Operation& operation : operations) {
+        const Trial trial(operation);
+        EXPECT_GT(failEachCall(trial, Call::open, EMFILE), 0) << "it opens files";
+        EXPECT_GT(failEachCall(trial, Call::write, ENOSPC), 0) << "it writes";
+        EXPECT_GT(failEachCall(trial, Call::sync, EIO), 0) << "it waits for the disk";
+        failEachCall(trial, Call::read, EIO);
+        failEachCall(trial, Call::rename, EROFS);
+        failEachCall(trial, Call::remove, EPERM);
     }
 }
 
-// A small disk of its own; skipped where the machine does not let us have one.
-class SmallDisk : public Disturbed {
-protected:
-    void SetUp() override {
-        if (::mount("tmpfs", m_folder.string().c_str(), "tmpfs", 0, "size=512k") != 0)
-            GTEST_SKIP() << "a small disk cannot be mounted here (" << std::strerror(errno)
-                         << "): run as root to try a full one";
-        m_mounted = true;
-        fill(m_folder);
-    }
-    void TearDown() override {
-        if (m_mounted)
-            ::umount2(m_folder.string().c_str(), MNT_DETACH);
-    }
+// A small disk of its own, of pages of 4,096 bytes.
+struct SmallDisk {
+    ~SmallDisk() { ::umount2(folder.string().c_str(), MNT_DETACH); }
 
-    // Leaves so many pages of 4,096 bytes.
-    void fillDisk(int pages) const {
-        const fs::path filler = m_folder.path() / ".filler";
-        const int file = ::open(filler.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-        const std::string page(4096, 'x');
-        while (::write(file, page.data(), page.size()) > 0) {
-        }
-        ::close(file);
-        const auto size = fs::file_size(filler);
-        fs::resize_file(filler, size - static_cast<std::uintmax_t>(pages) * page.size());
+    bool mount(unsigned long flags, unsigned long pages) const {
+        const std::string size = "nr_blocks=" + std::to_string(pages);
+        return ::mount("tmpfs", folder.string().c_str(), "tmpfs", flags, size.c_str()) == 0;
     }
-    void restore() const {
-        fs::remove(m_folder.path() / ".filler");
-        for (const std::string& name : m_folder.names())
-            fs::remove_all(m_folder.path() / name);
-        fill(m_folder);
-    }
-
-    TempFolder m_folder;
-    SystemCalls m_calls;
-    Files m_files{m_folder.string(), m_calls};
-
-private:
-    bool m_mounted = false;
+    TempFolder folder;
 };
 
-TEST_P(SmallDisk, FullAtAnyMoment) {
-    bool failed = true;
-    int failures = 0;
-    for (int pages = 0; failed && pages < 60; ++pages) {
-        SCOPED_TRACE(std::to_string(pages) + " pages free");
-        World world(m_files);
-        const Snapshot before = snapshotOf(m_folder);
-        fillDisk(pages);
-        failed = fails(world, ErrorCode::diskFull);
-        failures += failed ? 1 : 0;
-        expectOldOrNew(m_folder, before, failed);
-        fs::remove(m_folder.path() / ".filler");
-        if (!HasFailure())
-            expectNextTrySucceeds(m_folder, m_files);
-        ASSERT_FALSE(HasFailure());
-        restore();
+TEST(Operation, OnAReadOnlyDiskAndOneFullAtAnyMoment) {
+    if (!SmallDisk().mount(0, 128))
+        GTEST_SKIP() << "a small disk cannot be mounted here: run as root to try a full one";
+    for (const Operation& operation : operations) {
+        const Trial trial(operation);
+        const auto fails = [&](unsigned long flags, unsigned long freePages, ErrorCode expected) {
+            SCOPED_TRACE("free pages: " + std::to_string(freePages));
+            const SmallDisk disk;
+            EXPECT_TRUE(disk.mount(0, 128));
+            SystemCalls calls;
+            const auto harm = [&] {
+                const fs::space_info space = fs::space(disk.folder.path());
+                const unsigned long used = (space.capacity - space.free) / 4096;
+                EXPECT_TRUE(disk.mount(MS_REMOUNT | flags, used + freePages));
+            };
+            const auto heal = [&] { EXPECT_TRUE(disk.mount(MS_REMOUNT, 128)); };
+            return trial.fails(disk.folder, calls, harm, heal, expected);
+        };
+        EXPECT_TRUE(fails(MS_RDONLY, 60, ErrorCode::pathFileAccess));
+        unsigned long freePages = 0;
+        while (freePages < 60 && fails(0, freePages, ErrorCode::diskFull))
+            ++freePages;
+        EXPECT_TRUE(freePages > 0 && freePages < 60) << freePages << " is room enough";
     }
-    EXPECT_FALSE(failed) << "with room enough it succeeds";
-    EXPECT_GT(failures, 0) << "the disk was never full";
 }
 
-TEST_P(SmallDisk, ReadOnly) {
-    World world(m_files);
-    const Snapshot before = snapshotOf(m_folder);
-    ASSERT_EQ(::mount("tmpfs", m_folder.string().c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, ""), 0);
-    EXPECT_TRUE(fails(world, ErrorCode::pathFileAccess));
-    EXPECT_EQ(snapshotOf(m_folder), before);
-    ASSERT_EQ(::mount("tmpfs", m_folder.string().c_str(), "tmpfs", MS_REMOUNT, ""), 0);
-    expectNextTrySucceeds(m_folder, m_files);
+// What an evening consists of: logging, and the rest now and then.
+const Operation& nextOperation(World& world, std::mt19937& random) {
+    world.number = random() % 1'000'000;
+    const std::size_t choice = random() % 20;
+    return operations[choice < std::size(operations) ? choice : 0];
 }
 
-std::string nameOf(const ::testing::TestParamInfo<Operation>& row) {
-    return row.param.name;
+// One life of the program: it tells a byte when it has started, and one for each operation as
+// soon as the operator would take it for done.
+[[noreturn]] void live(const TempFolder& folder, unsigned long dice, int told) {
+    const FolderLock lock(folder.string());
+    SystemCalls calls;
+    World world(folder, calls);
+    for (std::mt19937 random(dice); lock.held() && ::write(told, "+", 1) == 1;) {
+        world.log.reread();
+        nextOperation(world, random).run(world);
+    }
+    std::abort();
 }
 
-INSTANTIATE_TEST_SUITE_P(Operations, Disturbed, ::testing::ValuesIn(operations), nameOf);
-INSTANTIATE_TEST_SUITE_P(Operations, SmallDisk, ::testing::ValuesIn(operations), nameOf);
+// Such a life, killed at some moment. Returns how many operations it has told as done.
+unsigned long liveAndDie(const TempFolder& folder, unsigned long dice, unsigned long microseconds) {
+    int ends[2];
+    const pid_t process = ::pipe2(ends, O_CLOEXEC) == 0 ? ::fork() : -1;
+    if (process < 0) // killing it would mean everybody
+        std::abort();
+    if (process == 0)
+        live(folder, dice, ends[1]);
+    ::close(ends[1]);
+    char byte = 0;
+    EXPECT_EQ(::read(ends[0], &byte, 1), 1) << "it does not start";
+    EXPECT_FALSE(FolderLock(folder.string()).held()) << "while the program runs";
+    ::usleep(static_cast<unsigned>(microseconds));
+    ::kill(process, SIGKILL);
+    int status = 0;
+    ::waitpid(process, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "it ended by itself";
+    EXPECT_TRUE(FolderLock(folder.string()).held()) << "after the program was killed";
+    unsigned long done = 0;
+    while (::read(ends[0], &byte, 1) == 1)
+        ++done;
+    ::close(ends[0]);
+    return done;
+}
+
+TEST(KilledProgram, LosesNothingItHasToldAndGoesOn) {
+    const bool isLong = std::getenv("VANTREL_LONG") != nullptr;
+    const unsigned long kills = isLong ? 500 : 20;
+    const unsigned long dice = isLong ? std::random_device()() : 1; // short runs are all alike
+    unsigned long operationsDone = 0;
+    std::set<std::string_view> cutOff; // the kinds of operation that a kill has hit
+    const TempFolder folder;
+    fill(folder);
+    for (unsigned long life = dice + 1; life <= dice + kills && !HasFailure(); ++life) {
+        SCOPED_TRACE("dice " + std::to_string(dice) + ", life " + std::to_string(life - dice));
+        const TempFolder undisturbed;
+        fs::copy(folder.path(), undisturbed.path(), fs::copy_options::recursive);
+        std::mt19937 random(life);
+        const unsigned long moment = random() % (isLong ? 200'000 : 60'000);
+        const unsigned long done = liveAndDie(folder, life, moment);
+
+        // The same life as far as it was told; one operation more may have been done.
+        FailingCalls calls;
+        World world(undisturbed, calls);
+        random.seed(life);
+        for (unsigned long i = 0; i < done; ++i)
+            carryOut(nextOperation(world, random), world);
+        const Snapshot told = snapshotOf(undisturbed);
+        const Operation& last = nextOperation(world, random);
+        carryOut(last, world);
+
+        const World nextStart(folder, calls);
+        expectOldOrNew(folder, told, snapshotOf(undisturbed), last);
+        expectNoScratch(folder);
+        operationsDone += done;
+        cutOff.insert(last.name);
+    }
+    EXPECT_GT(operationsDone, 0U) << "killed before there was any work";
+    EXPECT_GT(cutOff.size(), isLong ? 7U : 0U) << "kills must hit all kinds of work";
+}
 
 } // namespace
 } // namespace vantrel::test

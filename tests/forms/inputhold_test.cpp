@@ -5,7 +5,6 @@
 #include "platform/qt/latin1.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -15,34 +14,24 @@
 #include <QWindow>
 
 #include <functional>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <string>
 #include <utility>
 
 namespace vantrel::test {
 namespace {
 
-using ::testing::ElementsAre;
 using Step = std::function<void()>;
 
-void runOnce(Step& step) {
-    if (const Step now = std::exchange(step, nullptr))
-        now();
-}
-
-using Log = std::vector<std::string>;
-
 // Two boxes and a button; Enter in a box, Alt+G and a click start the handler, which waits.
-struct Window : QWidget {
-    explicit Window(Log& itsLog) : log(itsLog) {
+struct Page : QWidget {
+    explicit Page(std::string& itsStory) : story(itsStory) {
         setAttribute(Qt::WA_DeleteOnClose); // it may be the only owner of what its handlers use
         auto* layout = new QVBoxLayout(this);
         for (QWidget* control : std::initializer_list<QWidget*>{first, second, go})
             layout->addWidget(control);
-        connect(go, &QPushButton::clicked, this, &Window::handle);
+        connect(go, &QPushButton::clicked, this, &Page::handle);
         for (QLineEdit* box : {first, second})
-            connect(box, &QLineEdit::returnPressed, this, &Window::handle);
+            connect(box, &QLineEdit::returnPressed, this, &Page::handle);
         show();
         activateWindow();
         first->setFocus();
@@ -50,145 +39,115 @@ struct Window : QWidget {
     }
 
     void handle() {
-        waitAndLog();
-        runOnce(afterHandler);
+        {
+            const InputHold::Scope scope(hold);
+            story += '<' + shown();
+            run(&Page::whileWaiting);
+            QCoreApplication::processEvents();
+            run(&Page::afterWait);
+            story += ' ' + shown() + '>';
+        }
+        run(&Page::afterHandler);
     }
-
-    void waitAndLog() {
-        const InputHold::Scope scope(hold);
-        log.push_back("begin " + shown());
-        const QPointer<Window> self(this);
-        QEventLoop loop;
-        waiting = &loop;
-        QTimer::singleShot(40, &loop, &QEventLoop::quit);
-        QTimer::singleShot(5, this, [this] { runOnce(duringWait); });
-        loop.exec();
-        waiting = nullptr;
-        ASSERT_TRUE(self) << "the window went while its handler was running";
-        runOnce(afterWait);
-        log.push_back("end " + shown());
+    void run(Step Page::*step) {
+        if (const Step now = std::exchange(this->*step, nullptr))
+            now();
     }
-
     std::string shown() const { return fromQt(first->text()) + '|' + fromQt(second->text()); }
 
     QLineEdit* first = new QLineEdit(this);
     QLineEdit* second = new QLineEdit(this);
     QPushButton* go = new QPushButton(QStringLiteral("&Go"), this);
-    QEventLoop* waiting = nullptr;
-    InputHold hold{this, [this] { waiting->quit(); }};
-    Step duringWait;   // inside the next wait
-    Step afterWait;    // in the scope
-    Step afterHandler; // behind it, where errors are shown
-    Log& log;
+    InputHold hold{this, [this] { story += " given up"; }};
+    Step whileWaiting; // in the next handler
+    Step afterWait;    // in the scope, where the handler's own boxes stand
+    Step afterHandler; // behind it, where an error's box stands
+    std::string& story;
 };
 
-// Keys either come from the system to the window, or a test hands them to a control.
-enum class Source { system, control };
+// Keys come from the system to the window, or a test hands them to a control.
+struct Holding : ::testing::TestWithParam<bool> {
+    ~Holding() override { delete page; }
 
-struct Holding : ::testing::TestWithParam<Source> {
-    static void key(QWidget* window, QWidget* control, Qt::Key key,
-                    Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        if (GetParam() == Source::system)
+    static void key(QWidget* window, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        if (GetParam())
             QTest::keyClick(window->windowHandle(), key, modifiers);
         else
-            QTest::keyClick(control, key, modifiers);
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
-    void key(Qt::Key which, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        key(window, QApplication::focusWidget(), which, modifiers);
+    // Small letters, and "\t", "\n" and "!" for Tab, Enter and Alt+G.
+    void type(std::string_view keys) const {
+        for (const char character : keys)
+            if (character == '!')
+                key(page, Qt::Key_G, Qt::AltModifier);
+            else
+                key(page, character == '\n'   ? Qt::Key_Return
+                          : character == '\t' ? Qt::Key_Tab
+                                              : Qt::Key(Qt::Key_A + character - 'a'));
     }
-    // Small letters, and "\t" and "\n" for the Tab and Enter keys.
-    void type(const char* keys) {
-        for (; *keys != '\0'; ++keys)
-            key(*keys == '\n'   ? Qt::Key_Return
-                : *keys == '\t' ? Qt::Key_Tab
-                                : Qt::Key(Qt::Key_A + *keys - 'a'));
-    }
-    static void settle() { QTest::qWait(150); }
 
-    Log log;
-    QPointer<Window> window{new Window(log)};
-    ~Holding() override { delete window; }
+    std::string story;
+    QPointer<Page> page{new Page(story)};
 };
 
 TEST_P(Holding, KeysShortcutsAndClicksComeAfterTheHandlerInOrderAndFollowTheFocus) {
-    window->duringWait = [this] {
-        type("b\n");
-        window->duringWait = [this] { type("f"); }; // while c to e are still kept
-        type("c");
-        key(Qt::Key_G, Qt::AltModifier);
-        type("d\te");
-        QTest::mouseClick(window->go, Qt::LeftButton);
-    };
-    type("a\n");
-    settle();
-    EXPECT_THAT(log, ElementsAre("begin a|", "end a|", "begin ab|", "end ab|", "begin abc|",
-                                 "end abc|", "begin abcd|e", "end abcd|e"));
-    EXPECT_EQ(window->shown(), "abcd|ef");
-}
-
-// Another handler of the page lets the window live for a while, too.
-TEST_P(Holding, KeysTypedWhileKeptOnesAreDeliveredComeBehindThem) {
-    window->duringWait = [this] { type("\nb"); };
-    window->afterWait = [this] {
-        window->afterWait = [this] {
-            window->afterHandler = [this] {
-                QTimer::singleShot(5, window, [this] { type("c"); });
-                QTest::qWait(30);
+    page->whileWaiting = [this] {
+        type("b\nc!d\te");
+        QTest::mouseClick(page->go, Qt::LeftButton);
+        page->whileWaiting = [this] { type("f"); }; // while c to e are still kept
+        page->afterHandler = [this] {
+            page->afterHandler = [this] { // and while they are being delivered
+                type("g");
+                QCoreApplication::processEvents();
             };
         };
     };
     type("a\n");
-    settle();
-    EXPECT_EQ(window->shown(), "abc|");
+    QTest::qWait(50);
+    EXPECT_EQ(story, "<a| a|><ab| ab|><abc| abc|><abcd|e abcd|e>");
+    EXPECT_EQ(page->shown(), "abcd|efg");
 }
 
-// The handler's own boxes stand inside the scope, an error's box behind it.
 TEST_P(Holding, KeptKeysDoNotAnswerMessageBoxesAndTheirOwnKeysDo) {
-    for (Step Window::*moment : {&Window::afterWait, &Window::afterHandler}) {
-        SCOPED_TRACE(moment == &Window::afterWait ? "inside" : "behind");
-        window->first->clear();
-        log.clear();
-        window->duringWait = [this] {
-            key(Qt::Key_Escape);
+    for (Step Page::*moment : {&Page::afterWait, &Page::afterHandler}) {
+        page->first->clear();
+        story.clear();
+        page->whileWaiting = [this] {
+            key(page, Qt::Key_Escape);
             type("\nx");
         };
         int answer = -1;
-        bool boxStood = false;
-        window->*moment = [&] {
-            QMessageBox box(QMessageBox::NoIcon, QString(), QStringLiteral("?"),
-                            QMessageBox::Yes | QMessageBox::No, window);
+        page->*moment = [this, &answer] {
+            QMessageBox box(QMessageBox::NoIcon, {}, QStringLiteral("?"),
+                            QMessageBox::Yes | QMessageBox::No, page);
             QTimer::singleShot(60, &box, [&] {
-                boxStood = box.isVisible();
-                key(&box, &box, Qt::Key_Escape);
+                story += box.isVisible() ? " box" : " gone";
+                key(&box, Qt::Key_Escape);
             });
             answer = box.exec();
-            window->activateWindow();
+            page->activateWindow();
         };
         type("a\n");
-        settle();
-        EXPECT_TRUE(boxStood);
+        QTest::qWait(50);
+        const bool inside = moment == &Page::afterWait;
+        EXPECT_EQ(story, inside ? "<a| box a|><a| a|>" : "<a| a|> box<a| a|>");
         EXPECT_EQ(answer, QMessageBox::No);
-        EXPECT_THAT(log, ElementsAre("begin a|", "end a|", "begin a|", "end a|"));
-        EXPECT_EQ(window->shown(), "ax|");
+        EXPECT_EQ(page->shown(), "ax|");
     }
 }
 
 TEST_P(Holding, ClosingTheWindowEndsTheWaitAndHappensAfterTheHandler) {
-    window->duringWait = [this] {
+    page->whileWaiting = [this] {
         type("b\n");
-        window->close();
-        EXPECT_FALSE(window->waiting->isRunning());
+        page->close();
     };
     type("a\n");
-    settle();
-    EXPECT_FALSE(window);
-    EXPECT_THAT(log, ElementsAre("begin a|", "end a|"));
+    QTest::qWait(50);
+    EXPECT_FALSE(page);
+    EXPECT_EQ(story, "<a| given up a|>");
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, Holding, ::testing::Values(Source::system, Source::control),
-                         [](const auto& row) {
-                             return row.param == Source::system ? "FromTheSystem" : "ToAControl";
-                         });
+INSTANTIATE_TEST_SUITE_P(KeysOfTheSystem, Holding, ::testing::Bool());
 
 } // namespace
 } // namespace vantrel::test

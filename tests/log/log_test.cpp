@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The open log: which contacts it has, and that the worked stations follow it, byte for byte.
 #include "fakes/failingcalls.h"
+#include "log/bands.h"
 #include "log/log.h"
+#include "log/logfile.h"
+#include "log/outputfiles.h"
 #include "log/qsoline.h"
+#include "platform/clock.h"
 #include "platform/files.h"
 #include "support/contacts.h"
 #include "support/errors.h"
@@ -14,142 +17,169 @@ namespace vantrel::test {
 namespace {
 
 using namespace std::string_literals;
-using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
+
+TEST(Bands, EachHasItsLabelAndTheSixOfTheSprintsTheirTextOfTenCharacters) {
+    std::string all;
+    for (const char* mhz : {"1.820", "3.5", "7.", "10.120", "14.", "18.080", "21", "24.910",
+                            "28.050", "50.1", " 7.040", "7"}) {
+        const Band* band = bandOfMhz(mhz);
+        all.append(band == nullptr ? "none" : band->label).append("=");
+        all.append(bandTextOf(mhz, "as before")).append("; ");
+    }
+    EXPECT_EQ(all, "160M=160 Meters; 80M=80 Meters ; 40M=40 Meters ; 30M=as before; "
+                   "20M=20 Meters ; 17M=as before; 15M=15 Meters ; 12M=as before; "
+                   "10M=10 Meters ; none=as before; none=as before; none=as before; ");
+}
+
+TEST(QsoLine, IsReadAndChangedInItsColumns) {
+    // Fields as wide as they may be: some touch on my side, none does on his.
+    const std::string line = "QSO:  7040 CW 2011-06-16 0012 W1ABCDEF/P 599 JOHNATHANX "
+                             "ONT12345SK1ABCDEF/P 579 BARTHOLOME BRI 54321TK3Y/EU";
+    std::string fields;
+    for (const Column column :
+         {qso::head, qso::frequency, qso::bandTag, qso::mode, qso::date, qso::time, qso::myCall,
+          qso::rstSent, qso::myName, qso::myState, qso::myNumber, qso::hisCall, qso::rstReceived,
+          qso::hisName, qso::hisState, qso::hisNumber, qso::marker})
+        fields.append(column.of(line)) += '|';
+    EXPECT_EQ(fields, "QSO: | 7040| 7|CW|2011-06-16|0012|W1ABCDEF/P|599|JOHNATHANX|ONT|12345S|"
+                      "K1ABCDEF/P|579|BARTHOLOME|BRI|54321T|K3Y/EU|");
+    for (const char* marker : {"DUPE", "DUPE  ", "DUP", " DUPE"})
+        EXPECT_EQ(isDupe(line.substr(0, 101) + marker), marker[0] == 'D' && marker[3] == 'E');
+    EXPECT_EQ(withField(line, qso::hisCall, "W9XYZ"),
+              line.substr(0, 65) + "W9XYZ     " + line.substr(75));
+    EXPECT_EQ(withField("QSO: 14050", qso::date, "2011-06-16 X"), "QSO: 14050    2011-06-16");
+}
+
+TEST(OutputFiles, AreNamedAfterTheLog) {
+    EXPECT_EQ(adifFileName("SKS"), "ADI");
+    EXPECT_RUNTIME_ERROR(adifFileName("AB"), ErrorCode::invalidCall,
+                         "the log's name \"AB\" has no extension to replace");
+    EXPECT_EQ(scorePdfName("/A.B/LOG"), "/A.B/LOG-SCORE.PDF");
+    EXPECT_EQ(logPdfName("A.B\\LOG.CBR"), "A.B\\LOG-LOG.PDF");
+}
 
 const std::string contact = contactLine({});
 const std::string entry = "K9SKC     | CLUB      |5000S  | IL  | 14050 | 0012 | 2011-06-16|      ";
+constexpr const char* name = "SKS061611.CBR";
 
 // A contact whose call tells its place in the log.
 std::string contactNumber(int number) {
-    return withField(contact, qso::hisCall, "K" + std::to_string(number));
-}
-
-std::string logOf(int contacts) {
-    std::string log = logHeaderLines;
-    for (int i = 1; i <= contacts; ++i)
-        log += contactNumber(i) + "\r\n";
-    return log;
+    return contactLine({.hisCall = "K" + std::to_string(number)});
 }
 
 class OpenLog : public ::testing::Test {
 protected:
-    void open(const std::string& bytes) {
-        m_folder.write(name, bytes);
-        m_log.open(name);
+    void open(int contacts) {
+        std::string bytes = logHeaderLines;
+        for (int i = 1; i <= contacts; ++i)
+            bytes += contactNumber(i) + "\r\n";
+        folder.write(name, bytes);
+        log.open(name);
     }
     // List and file say the same, entry by entry what the contacts are.
-    void expectWorked(const std::vector<std::string>& contacts) {
-        std::vector<std::string> expected;
-        for (const std::string& line : contacts)
-            expected.push_back(workedLine(line));
-        EXPECT_EQ(m_log.worked(), expected);
-        EXPECT_EQ(m_folder.read("StnsWorked.TXT"), joinLines(expected));
+    void expectContacts(const std::vector<std::string>& contacts) {
+        EXPECT_THAT(log.contacts(), ElementsAreArray(contacts));
+        ASSERT_EQ(log.worked().size(), contacts.size());
+        for (std::size_t i = 0; i < contacts.size(); ++i)
+            EXPECT_EQ(log.worked()[i], workedLine(contacts[i]));
+        EXPECT_EQ(folder.read("StnsWorked.TXT"), joinLines(log.worked()));
     }
 
-    static constexpr const char* name = "SKS061611.CBR";
-    TempFolder m_folder;
-    FailingCalls m_calls;
-    Files m_files{m_folder.string(), m_calls};
-    Log m_log{m_files};
+    TempFolder folder;
+    FailingCalls calls;
+    Files files{folder.string(), calls};
+    Log log{files};
 };
 
-TEST(WorkedEntry, IsBuiltFromTheColumnsThatTheLineHas) {
-    EXPECT_EQ(workedLine(withField(contact, qso::marker, "K3Y/EU")),
-              entry.substr(0, 64) + "K3Y/EU");
-    EXPECT_EQ(workedLine(contact + "noted later"), entry);
-    EXPECT_EQ(workedLine(contact.substr(0, 101) + "DUPE"), entry.substr(0, 64) + "DUPE");
-    // An editor that strips trailing blanks leaves a line of 100 columns.
-    EXPECT_EQ(workedLine(contact.substr(0, 100)), entry.substr(0, 64));
-    EXPECT_EQ(workedLine("QSO: 14050 CW 2011-06-16 0012"),
-              "| |       |  | 14050 | 0012 | 2011-06-16|");
+TEST_F(OpenLog, HasTheContactItemsInFileOrderAndTheWorkedStationsOfTheirColumns) {
+    folder.write("stnsworked.txt", "of another log\r\n");
+    // A line with a comma: what follows is an item of its own, and may be a contact.
+    folder.write(name, logHeaderLines + contact + "noted, QS\r\nnote,QSO: A\0B\r\n"s +
+                           "  QSO: 14050 CW 2011-06-16 0012\n" + contact.substr(0, 100));
+    log.open(name);
+    EXPECT_THAT(log.contacts(),
+                ElementsAre(contact + "noted", "QSO: A\0B"s, "QSO: 14050 CW 2011-06-16 0012",
+                            contact.substr(0, 100)));
+    EXPECT_EQ(folder.read("stnsworked.txt"), entry + "\r\n| |       |  | A\0B |  | |\r\n"s +
+                                                 "| |       |  | 14050 | 0012 | 2011-06-16|\r\n" +
+                                                 entry.substr(0, 64) + "\r\n");
+    EXPECT_RUNTIME_ERROR(log.open("GONE.CBR"), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
+    EXPECT_TRUE(log.contacts().empty() && log.worked().empty());
 }
 
-// A line with a comma: what follows is an item of its own, and may be a contact.
-TEST_F(OpenLog, HasTheContactItemsInFileOrder) {
-    m_folder.write("stnsworked.txt", "of another log\r\n");
-    open(logHeaderLines + "\r\n" + contact +
-         "\r\n#\r\nQSO: 14050 CW A, B\r\nnote,QSO: A\0B\r\n  QSO: 3550  \n"s);
-    EXPECT_THAT(m_log.contacts(),
-                ElementsAre(contact, "QSO: 14050 CW A", "QSO: A\0B"s, "QSO: 3550  "));
-    EXPECT_EQ(m_folder.read("stnsworked.txt"), joinLines(m_log.worked()));
-    EXPECT_EQ(m_log.worked().front(), entry);
-    EXPECT_RUNTIME_ERROR(m_log.open("GONE.CBR"), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
-    EXPECT_EQ(m_log.count(), 0);
-    EXPECT_THAT(m_log.worked(), IsEmpty());
-}
-
-TEST_F(OpenLog, HoldsTwelveThousandAndSaysSoAtTheNext) {
-    m_folder.write(name, logOf(12001));
-    EXPECT_RUNTIME_ERROR(m_log.open(name), ErrorCode::subscriptOutOfRange,
-                         AllOf(HasSubstr(name), HasSubstr("12000")));
-    EXPECT_EQ(m_log.count(), 12000);
-    EXPECT_EQ(m_log.contacts().back(), contactNumber(12000));
-    EXPECT_EQ(m_log.worked().size(), 1000U);
-    m_folder.write(name, logOf(12000));
-    m_log.reread();
-    EXPECT_EQ(m_log.count(), 12000);
-}
-
-TEST_F(OpenLog, TheThousandthIsListedAndTheNextIsNot) {
-    open(logOf(998));
+TEST_F(OpenLog, HoldsTwelveThousandAndListsAThousandAsWorked) {
+    EXPECT_RUNTIME_ERROR(open(12001), ErrorCode::subscriptOutOfRange,
+                         files.path(name) + ": the QSO table holds at most 12000 contacts");
+    EXPECT_EQ(log.contacts().back(), contactNumber(12000));
+    EXPECT_EQ(log.worked().size(), 1000U);
+    open(12000);
+    open(998);
     for (const int number : {999, 1000, 1001, 1002}) {
-        m_log.append(contactNumber(number));
-        m_log.reread();
+        log.append(contactNumber(number));
+        log.reread();
     }
-    EXPECT_EQ(m_log.count(), 1002);
-    ASSERT_EQ(m_log.worked().size(), 1000U);
-    EXPECT_EQ(m_log.worked().back(), workedLine(contactNumber(1000)));
-    EXPECT_EQ(m_folder.read("StnsWorked.TXT"), joinLines(m_log.worked()));
+    EXPECT_EQ(log.count(), 1002);
+    EXPECT_EQ(log.worked().back(), workedLine(contactNumber(1000)));
+    EXPECT_EQ(folder.read("StnsWorked.TXT"), joinLines(log.worked()));
 }
 
-// Whatever happened to the log from outside, the count being what it may.
-TEST_F(OpenLog, WorkedStationsFollowALogThatSomebodyElseChanged) {
+TEST_F(OpenLog, FollowsALogThatSomebodyElseChanged) {
     const std::string other = contactNumber(77);
     const std::string third = contactNumber(3);
-    const std::vector<std::vector<std::string>> logs{
-        {contact, third}, {other, third},   {contact, third, other}, {contact}, {},
-        {contact, other}, {contact, other}, {other, other, other},
-    };
-    open(logHeaderLines);
     int told = 0;
-    m_log.watch([&told] { ++told; });
-    for (const auto& contacts : logs) {
-        m_folder.write(name, logHeaderLines + joinLines(contacts));
-        m_log.reread();
-        EXPECT_THAT(m_log.contacts(), ElementsAreArray(contacts));
-        expectWorked(contacts);
-        // And with one contact logged on top of it.
-        m_log.append(third);
-        m_log.reread();
-        std::vector<std::string> grown = contacts;
-        grown.push_back(third);
-        EXPECT_THAT(m_log.contacts(), ElementsAreArray(grown));
-        expectWorked(grown);
+    open(0);
+    log.watch([&told] { ++told; });
+    const std::vector<std::string> logs[] = {{contact, third}, {other, third},   {},
+                                             {contact},        {contact, other}, {contact, other}};
+    for (std::vector<std::string> contacts : logs) {
+        folder.write(name, logHeaderLines + joinLines(contacts));
+        log.reread();
+        expectContacts(contacts);
+        log.append(third); // and one more
+        log.reread();
+        contacts.push_back(third);
+        expectContacts(contacts);
     }
-    EXPECT_EQ(told, static_cast<int>(2 * logs.size()));
+    EXPECT_EQ(told, 12);
     // A last line without its end, and what is written on to it.
-    m_folder.write(name, contact + "\r\n" + other.substr(0, 80));
-    m_log.reread();
-    m_folder.write(name, contact + "\r\n" + other + "\r\n");
-    m_log.reread();
-    expectWorked({contact, other});
+    folder.write(name, contact + "\r\n" + other.substr(0, 80));
+    log.reread();
+    folder.write(name, contact + "\r\n" + other + "\r\n");
+    log.reread();
+    expectContacts({contact, other});
+    // Worked stations that cannot be written are made anew with the next contact.
+    log.append(third);
+    calls.failAt(Call::write, 1, ENOSPC);
+    EXPECT_RUNTIME_ERROR(log.reread(), ErrorCode::diskFull, HasSubstr("StnsWorked.TXT"));
+    log.reread(); // nothing is new: a full disk keeps nobody from seeing his score
+    log.append(other);
+    log.reread();
+    expectContacts({contact, other, third, other});
 }
 
-TEST_F(OpenLog, FailingWorkedFileIsMadeAnewWithTheNextContact) {
-    open(logHeaderLines);
-    m_log.append(contact);
-    m_calls.failAt(Call::write, 1, ENOSPC);
-    EXPECT_RUNTIME_ERROR(m_log.reread(), ErrorCode::diskFull, HasSubstr("StnsWorked.TXT"));
-    EXPECT_THAT(m_log.worked(), ElementsAre(entry));
-    m_log.reread(); // nothing is new: a full disk keeps nobody from seeing his score
-    EXPECT_EQ(m_folder.read("StnsWorked.TXT"), "");
-    m_log.append(contact);
-    m_log.reread();
-    expectWorked({contact, contact});
+TEST_F(OpenLog, StartingANewOneKeepsWhateverCountsAsAContact) {
+    const std::string header = logHeader("SKS", "W1ABC", "1234T");
+    for (const std::string& before : {""s, header, logHeader("WES", "W1XYZ", "1")}) {
+        folder.write(name, before);
+        EXPECT_EQ(startNewLog(files, name, header), "");
+        EXPECT_EQ(folder.read(name), logHeaderLines);
+    }
+    const std::pair<std::string, std::string> logs[] = {{contact, name + ".OLD"s},
+                                                        {"note,QSO: 14050\r\n", name + ".OLD2"s}};
+    for (const auto& [before, copy] : logs) {
+        folder.write(name, before);
+        EXPECT_EQ(startNewLog(files, name, header), folder.string() + "/" + copy);
+        EXPECT_EQ(folder.read(copy), before);
+    }
+    EXPECT_THAT(folder.names(), ElementsAre(name, logs[0].second, logs[1].second));
+    EXPECT_RUNTIME_ERROR(logHeader("SKS", "W1ABC", "1234567"), ErrorCode::invalidCall,
+                         HasSubstr("the SKCC number"));
+    EXPECT_RUNTIME_ERROR(startNewLog(files, "   ", header), ErrorCode::pathFileAccess,
+                         "the new file needs a name: type one into the file name box");
+    EXPECT_EQ(defaultLogName("SKSE", {2009, 6, 1, 0, 0, 0}), "SKSE060109.CBR");
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Members, and the lines that the club's two lists have of them.
+// Members, and the lines that the club's list has of them.
 #pragma once
 
 #include <array>
@@ -30,12 +30,6 @@ inline std::vector<ListedMember> madeUpMembers(int count) {
 inline std::string dataLine(const ListedMember& m, std::size_t i) {
     return m.number + "|" + m.call + "|" + m.name + "|Some, Town|" + m.state +
            "||1234|291|01 Jan 2010|02 Feb 2011|" + (i % 3 == 0 ? "" : "|");
-}
-
-// The line of "SKCCLIST.TXT" in its dated form.
-inline std::string memberLine(const ListedMember& m, std::size_t i) {
-    return std::to_string(i) + "|" + m.call + "|" + m.name + "|Town|" + m.state + "|2010-01-02|" +
-           m.number + (i % 3 == 0 ? "" : "|");
 }
 
 } // namespace vantrel::test

@@ -1,33 +1,59 @@
 // SPDX-License-Identifier: MIT
-// A folder of its own for one test, removed with all it holds, and bytes in and out of it.
+// A folder, and bytes in and out of its files; one of its own for each test, removed at the end.
 #pragma once
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vantrel::test {
 
-class TempFolder {
+class Folder {
 public:
-    TempFolder();
-    ~TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
+    explicit Folder(std::filesystem::path path) : m_path(std::move(path)) {}
 
     const std::filesystem::path& path() const { return m_path; }
     std::string string() const { return m_path.string(); }
 
-    void write(const std::string& name, std::string_view bytes) const;
+    void write(const std::string& name, std::string_view bytes) const {
+        std::ofstream file(m_path / name, std::ios::binary);
+        EXPECT_TRUE(file << bytes << std::flush) << "cannot write " << name;
+    }
     // The file's bytes; fails the test and returns "" when it cannot be read.
-    std::string read(const std::string& name) const;
-    bool has(const std::string& name) const;
+    std::string read(const std::string& name) const {
+        std::ifstream file(m_path / name, std::ios::binary);
+        EXPECT_TRUE(file) << "no file " << name;
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+    bool has(const std::string& name) const { return std::filesystem::exists(m_path / name); }
     // The names in the folder, sorted.
-    std::vector<std::string> names() const;
+    std::vector<std::string> names() const {
+        std::vector<std::string> result;
+        for (const auto& entry : std::filesystem::directory_iterator(m_path))
+            result.push_back(entry.path().filename());
+        std::sort(result.begin(), result.end());
+        return result;
+    }
 
 private:
-    std::filesystem::path m_path;
+    const std::filesystem::path m_path;
+};
+
+class TempFolder : public Folder {
+public:
+    TempFolder()
+        : Folder(::mkdtemp(
+              (std::filesystem::temp_directory_path() / "vantrel-test-XXXXXX").string().data())) {}
+    ~TempFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path(), ignored);
+    }
 };
 
 } // namespace vantrel::test

@@ -4,9 +4,11 @@
 #pragma once
 
 #include "app/appscreens.h"
+#include "base/fixedtext.h"
 #include "fakes/fakeclock.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "platform/qt/latin1.h"
 #include "platform/qt/qteventloop.h"
 #include "platform/qt/qtlauncher.h"
 #include "platform/qt/qtmessages.h"
@@ -16,44 +18,70 @@
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
 #include "support/qt/hands.h"
+#include "support/tempfolder.h"
 
-#include <filesystem>
-#include <functional>
-#include <string>
-#include <string_view>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QTest>
+#include <QTimer>
+
+#include <set>
 
 namespace vantrel::test {
 
 class Stage : public Hands {
 public:
-    // Everything is played in `folder`, which is emptied first; pictures go to its
-    // "pictures" folder.
-    explicit Stage(const std::filesystem::path& folder);
+    // Everything is played in `where`, which is emptied first; pictures go to its "pictures"
+    // folder.
+    explicit Stage(const std::filesystem::path& where) : folder(emptied(where)) {}
 
     // Runs `action`, which must bring up a message box with this text; takes a picture of
     // it and presses Yes or OK.
-    void confirming(const std::string& text, const std::function<void()>& action);
+    void confirming(const std::string& text, const std::function<void()>& action) {
+        std::string came;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, qApp, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return;
+            watch.stop();
+            came = fromQt(box->text());
+            save(box, "message");
+            QAbstractButton* yes = box->button(QMessageBox::Yes);
+            QTest::mouseClick(yes != nullptr ? yes : box->button(QMessageBox::Ok), Qt::LeftButton);
+        });
+        watch.start(50);
+        action();
+        EXPECT_EQ(came, text);
+    }
 
     // Saves "NN-name.png" of the form as it looks now.
-    void picture(const char* formName, const std::string& name);
+    void picture(const char* formName, const std::string& name) {
+        QTest::qWait(50); // long enough for a real display to paint
+        save(form(formName), name);
+        checkForm(form(formName));
+    }
 
     // Types into a box and presses Enter there.
-    void enter(const char* formName, const char* name, std::string_view text);
-    // Leaves by the page's EXIT.
-    void leave(const char* formName);
+    void enter(const char* formName, const char* name, std::string_view text) {
+        type(formName, name, text);
+        press(formName, name, Qt::Key_Return);
+    }
+    // Takes a picture of the form and leaves it by its EXIT.
+    void leave(const char* formName, const std::string& name) {
+        picture(formName, name);
+        click(formName, "Command1");
+        settle();
+    }
 
-    // A file of the folder.
-    void write(const std::string& name, const std::string& bytes) const;
-    std::string read(const std::string& name) const;
-
-    // Throw with both texts unless they are equal; a file byte for byte.
-    void check(const std::string& what, const std::string& got, const std::string& expected) const;
-    void checkFile(const std::string& name, const std::string& expected) const;
-
-    std::filesystem::path folder;
+    Folder folder;
     FakeClock clock;
     SystemCalls calls;
-    Files files;
+    Files files{folder.string(), calls};
     QtMessages messages;
     QtEventLoop eventLoop;
     QtSerialPort serialPort{files};
@@ -65,7 +93,46 @@ public:
     AppScreens screens{module, platform};
 
 private:
-    void save(QWidget* window, const std::string& name);
+    // Anybody else's folder is left alone.
+    static std::filesystem::path emptied(const std::filesystem::path& where) {
+        namespace fs = std::filesystem;
+        const fs::path ownMark = where / ".vantrel-tour";
+        if (fs::exists(where) && !fs::is_empty(where) && !fs::exists(ownMark))
+            throw std::runtime_error(where.string() + " holds files that are not a tour's");
+        fs::remove_all(where);
+        fs::create_directories(where / "pictures");
+        std::ofstream(ownMark) << "played here\n";
+        return fs::canonical(where);
+    }
+
+    void save(QWidget* window, const std::string& name) {
+        const std::string file = zeroPadded(++m_pictures, 2) + '-' + name + ".png";
+        const auto path = folder.path() / "pictures" / file;
+        EXPECT_TRUE(window->grab().save(QString::fromStdString(path.string()))) << path;
+    }
+
+    // What holds for every screen: names and Alt keys stand once, text is plain, and it fits.
+    static void checkForm(const QWidget* form) {
+        std::set<QString> names;
+        for (const QWidget* control : form->findChildren<QWidget*>()) {
+            const QString name = control->objectName();
+            EXPECT_TRUE(name.isEmpty() || name.startsWith(u"qt_") || names.insert(name).second)
+                << form->objectName().toStdString() << ' ' << name.toStdString();
+        }
+        // The two captions of the backup page share a letter and are known so.
+        std::set<QString> keys;
+        for (const QAbstractButton* button : form->findChildren<QAbstractButton*>()) {
+            const QString key = QKeySequence::mnemonic(button->text()).toString();
+            EXPECT_TRUE(key.isEmpty() || keys.insert(key).second ||
+                        form->objectName() == u"frmVantrelBackup")
+                << form->objectName().toStdString() << ' ' << button->text().toStdString();
+        }
+        for (const QLabel* label : form->findChildren<QLabel*>())
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+        EXPECT_TRUE(QRect(0, 0, 1366, 700).contains(QRect({}, form->size())) ||
+                    qEnvironmentVariableIsSet("VANTREL_TOUR_POINTS"))
+            << form->objectName().toStdString() << " does not fit on a small screen";
+    }
 
     int m_pictures = 0;
 };

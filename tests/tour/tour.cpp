@@ -1,20 +1,348 @@
 // SPDX-License-Identifier: MIT
 // Plays an operator through the program in real windows, takes a picture of each screen and
 // compares the files that come of it byte for byte.
-#include "tour/scenes.h"
+#include "fakes/qt/ptyradio.h"
+#include "screens/start/startlog.h"
+#include "support/contacts.h"
 #include "tour/stage.h"
 
-#include <QApplication>
+#include <QPrinterInfo>
 
 #include <cstdio>
-#include <cstdlib>
-#include <exception>
 
+namespace vantrel::test {
 namespace {
+
+constexpr const char* startPage = "frmVantrelStart";
+constexpr const char* mainPage = "frmVantrelMain";
+constexpr const char* filesPage = "frmVantrelFiles";
+const std::string contestLog = "SKS061611.CBR";
+
+struct Station {
+    std::string call;
+    std::string name;
+    std::string state;
+    std::string number;
+    bool isMember = true; // in the roster that writeRoster() makes
+};
+const Station joe{"K1ABC", "JOE", "CT", "0123T"};
+const Station club{"K9SKC", "CLUB", "IL", "5000S"};
+const Station ann{"N4XYZ", "ANN", "NC", "8123C"};
+const Station klaus{"DL1QRS", "KLAUS", "DL", "9010"};
+const Station bob{"W5NEW", "BOB", "TX", "NONE", false};
+const Station sue{"VE3ABC", "SUE", "ON", "4411T", false};
+const Station ian{"G4AAA/P", "IAN", "G", "77S", false};
+
+void writeRoster(const Stage& stage) {
+    const auto record = [](const Station& member) {
+        return padded(member.call, 10) + padded(member.number, 10) + padded(member.name, 10) +
+               padded(member.state, 3) + "\r\n";
+    };
+    stage.folder.write("SKSDB2.TXT", record(joe) + record(club));
+    stage.folder.write("SKSDB3.TXT", record(ann));
+    stage.folder.write("SKSDB5.TXT", record(klaus));
+}
+
+// What the log must gain by a contact.
+std::string contactWith(const Station& station, const std::string& khz = "14050",
+                        const std::string& marker = "      ") {
+    return contactLine({.frequency = khz,
+                        .hisCall = station.call,
+                        .hisName = station.name,
+                        .hisState = station.state,
+                        .hisNumber = station.number,
+                        .marker = marker}) +
+           "\r\n";
+}
+
+// As the exchange is heard: the roster knows a member's, the others' is typed.
+void enterContact(Stage& stage, const Station& station) {
+    stage.enter(mainPage, "Text2", station.call);
+    if (station.isMember)
+        return;
+    stage.type(mainPage, "Text3", station.name);
+    stage.type(mainPage, "Text4", station.state);
+    stage.type(mainPage, "Text5", station.number);
+}
+
+void logContact(Stage& stage, const Station& station) {
+    enterContact(stage, station);
+    stage.press(mainPage, station.isMember ? "Text2" : "Text5", Qt::Key_Return);
+}
+
+// --- A sprint, from the empty start page to a dozen contacts -------------------------------
+
+void fillStartPage(Stage& stage) {
+    stage.screens.open(Screen::start);
+    stage.press(startPage, "Text2", Qt::Key_Escape); // leaves neither this page nor the next
+    stage.picture(startPage, "start-fresh");
+    stage.click(startPage, "Option1");
+    stage.type(startPage, "Text2", "w1abc");
+    stage.type(startPage, "Text6", "john");
+    stage.type(startPage, "Text7", "ma");
+    stage.type(startPage, "Text8", "1234t");
+    stage.click(startPage, "Command4");
+    EXPECT_EQ(stage.shown(startPage, "Text9"), contestLog);
+    stage.confirming(std::string(newFileQuestion),
+                     [&] { stage.choose(startPage, "Combo7", "YES"); });
+    stage.type(startPage, "Text10", "k9skc");
+    stage.picture(startPage, "start-filled");
+    stage.click(startPage, "Command2");
+    stage.picture(mainPage, "main-empty");
+}
+
+void playContest(Stage& stage) {
+    writeRoster(stage);
+    fillStartPage(stage);
+    std::string expected = logHeaderLines;
+    const struct {
+        const char* tuned; // "": stays
+        Station station;
+        const char* khz;
+    } contest[] = {{"", joe, "14050"},     {"", ann, "14050"},      {"", bob, "14050"},
+                   {"7045", joe, " 7045"}, {"", klaus, " 7045"},    {"3.55", club, " 3550"},
+                   {"", sue, " 3550"},     {"21050", ian, "21050"}, {"", ann, "21050"},
+                   {"1820", club, " 1820"}};
+    for (const auto& heard : contest) {
+        if (*heard.tuned != '\0')
+            stage.enter(mainPage, "Text7", heard.tuned);
+        logContact(stage, heard.station);
+        EXPECT_EQ(stage.folder.read(contestLog), expected += contactWith(heard.station, heard.khz));
+    }
+    // A duplicate on 20 m: the word comes up, and nothing is left in the boxes.
+    stage.enter(mainPage, "Text7", "14");
+    stage.enter(mainPage, "Text2", "k1abc");
+    stage.picture("frmVantrelDupe", "dupe");
+    EXPECT_EQ(stage.shown(mainPage, "Text2"), "");
+    // His number came through, his call did not: the first Enter yields the call, the second
+    // looks it up, the third logs.
+    stage.enter(mainPage, "Text7", "14050");
+    stage.enter(mainPage, "Text2", "9010");
+    EXPECT_EQ(stage.shown(mainPage, "Text2"), "DL1QRS    ");
+    stage.press(mainPage, "Text2", Qt::Key_Return);
+    stage.picture(mainPage, "main-looked-up");
+    stage.press(mainPage, "Text2", Qt::Key_Return);
+    stage.enter(mainPage, "Text7", "14.055");
+    logContact(stage, club);
+    EXPECT_EQ(stage.folder.read(contestLog),
+              expected + contactWith(klaus) + contactWith(club, "14055"));
+    EXPECT_EQ(stage.shown(mainPage, "Text1"), "12");
+    stage.picture(mainPage, "main-contest");
+}
+
+// --- Score, files and lists ----------------------------------------------------------------
+
+// Presses the button that prints; on a machine with a printer nothing is sent to it.
+void print(Stage& stage, const char* form, const char* button, const std::string& message,
+           const std::string& pdf) {
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        return;
+    stage.confirming(message, [&] { stage.click(form, button); });
+    EXPECT_EQ(stage.folder.read(pdf).substr(0, 5), "%PDF-");
+}
+
+void playAfterContest(Stage& stage) {
+    constexpr const char* score = "frmVantrelScore";
+    stage.click(mainPage, "Command11");
+    // 12 contacts, 7 regions; 1 Centurion, 2 Tribunes, 2 Senators, the club and bonus station
+    // three times.
+    EXPECT_EQ(stage.shown(score, "Text6") + ' ' + stage.shown(score, "Text7"), "205 289");
+    print(stage, score, "Command2", "The File has been sent to the Printer!",
+          "SKS061611-SCORE.PDF");
+    stage.leave(score, "score");
+    stage.click(mainPage, "Command16");
+    EXPECT_EQ(stage.shown("frmCountBonus", "Label1"), "Total: 0");
+    stage.leave("frmCountBonus", "bonus");
+
+    stage.click(mainPage, "Command9");
+    stage.click(filesPage, "Option14");
+    stage.click(filesPage, "Option6");
+    stage.click(filesPage, "Option7");
+    EXPECT_EQ(stage.lines("frmVantrelList", "List1").at(1),
+              "<FREQ:6>14.050<BAND:3>20M<MODE:2>CW<QSO_DATE:8>20110616<TIME_ON:4>0012"
+              "<RST_SENT:3>599<CALL:5>K1ABC<RST_RCVD:3>599<NAME:3>JOE<STATE:2>CT"
+              "<SKCC_NR:5>0123T<COMMENT:15>SKCC NR: 0123T<EOR>");
+    stage.leave("frmVantrelList", "list-adif");
+    print(stage, filesPage, "Option12", "THE FILE HAS BEEN SENT TO THE PRINTER",
+          "SKS061611-LOG.PDF");
+    stage.click(filesPage, "Option3");
+    EXPECT_EQ(stage.lines("frmVantrelShowDB", "List1").at(0), "N4XYZ     8123C     ANN       NC ");
+    stage.leave("frmVantrelShowDB", "members");
+    stage.leave(filesPage, "files");
+}
+
+// --- Roster import, correction, deletion, editor, backup -----------------------------------
+
+void importTheRoster(Stage& stage) {
+    constexpr const char* choice = "frmSelectUpdateList";
+    constexpr const char* import = "frmReadSKCCDATA";
+    stage.folder.write("skccdata.txt",
+                       "SKCCNR|CALL|NAME|QTH|SPC|OLDCALL|SKCC|DXCODE|JOINDATE|CENTDATE|TRIBDATE\r\n"
+                       "123S|K1ABC|Joe|Town|CT||||||\r\n7|N7NEW|Nora|Town|AZ||||||\r\n");
+    stage.click(mainPage, "Command9");
+    stage.click(filesPage, "Option11");
+    stage.click(choice, "Option2");
+    stage.leave("frmVantrelUpdate", "update-members");
+    stage.click(choice, "Option1");
+    stage.click(import, "Command2");
+    EXPECT_EQ(stage.shown(import, "Label3"), "DONE. . . . 1 MBRS ADDED. Click EXIT");
+    EXPECT_EQ(stage.folder.read("SKSDB2.TXT"), "K1ABC     123S      JOE       CT \r\n"
+                                               "K9SKC     5000S     CLUB      IL \r\n");
+    stage.leave(import, "import-done");
+    stage.leave(choice, "update-choice");
+    stage.press(filesPage, "Command1", Qt::Key_Escape);
+}
+
+// The log must be as before but for one piece.
+void expectChanged(const Stage& stage, std::string log, const std::string& what,
+                   const std::string& by) {
+    log.replace(log.find(what), what.size(), by);
+    EXPECT_EQ(stage.folder.read(contestLog), log);
+}
+
+void changeTheLog(Stage& stage) {
+    constexpr const char* correction = "frmVantrelCorrect";
+    std::string log = stage.folder.read(contestLog);
+    stage.click(mainPage, "Command7");
+    stage.enter(correction, "Text1", "w5new");
+    stage.type(correction, "Text2", "robert");
+    stage.click(correction, "Command2");
+    expectChanged(stage, log, "BOB       ", "ROBERT    ");
+    stage.click(correction, "Command5");
+    EXPECT_EQ(stage.folder.read(contestLog), log);
+    stage.click(correction, "Command5");
+    expectChanged(stage, log, "BOB       ", "ROBERT    ");
+    stage.leave(correction, "correction");
+
+    log = stage.folder.read(contestLog);
+    stage.click(mainPage, "Command8");
+    stage.enter("frmVantrelDelete", "Text1", "g4aaa");
+    stage.picture("frmVantrelDelete", "deletion");
+    stage.click("frmVantrelDelete", "Command2");
+    expectChanged(stage, log, contactWith(ian, "21050"), "");
+    stage.click("frmVantrelDelete", "Command1");
+    EXPECT_EQ(stage.shown(mainPage, "Text1"), "11");
+
+    constexpr const char* editor = "frmVantrelEDITcbr";
+    log = stage.folder.read(contestLog);
+    stage.click(mainPage, "Command9");
+    stage.click(filesPage, "Option9");
+    stage.enter(editor, "Text1", "ve3abc");
+    stage.type(editor, "Text11", "579");
+    stage.click(editor, "Command2");
+    // The editor rebuilds the line, with its own idea of the report sent and a shorter marker.
+    expectChanged(stage, log,
+                  "599 JOHN       MA 1234T VE3ABC     599 SUE        ON  4411T       \r\n",
+                  "559 JOHN       MA 1234T VE3ABC     579 SUE        ON  4411T     \r\n");
+    stage.leave(editor, "editor");
+    stage.press(filesPage, "Command1", Qt::Key_Escape);
+}
+
+void playUpkeep(Stage& stage) {
+    importTheRoster(stage);
+    changeTheLog(stage);
+    constexpr const char* backup = "frmVantrelBackup";
+    std::filesystem::create_directory(stage.folder.path() / "backup");
+    stage.click(mainPage, "Command10");
+    stage.click(backup, "Command3");
+    stage.leave("frmFileFinder", "finder");
+    stage.enter(backup, "Text1", (stage.folder.path() / "backup").string());
+    EXPECT_EQ(stage.shown(backup, "Label3"), "DONE......CLICK EXIT");
+    EXPECT_EQ(stage.folder.read("backup/" + contestLog), stage.folder.read(contestLog));
+    stage.leave(backup, "backup");
+}
+
+// --- The K3Y event: a station under its tag, a duplicate logged, another dropped ------------
+
+void playK3yEvent(Stage& stage) {
+    const std::string log = "K3Y.CBR";
+    const Station europe{"GB0SKC", "IAN", "G", "77S", false};
+    std::string expected = logHeaderLines + contactWith({"K3Y/3", "CLUB", "IL", "2820S"}, " 7030") +
+                           contactWith({"K3Y/0", "CLUB", "IL", "8123C"}, "10120") +
+                           contactWith({"K3Y/5", "CLUB", "IL", "55C"}, "21050") +
+                           contactWith({"K3Y/KH6", "CLUB", "IL", "4411T"}, " 1820");
+    stage.folder.write(log, expected);
+    stage.screens.open(Screen::start);
+    stage.type(startPage, "Text1", "k3y");
+    stage.type(startPage, "Text9", log);
+    stage.choose(startPage, "Combo6", "YES");
+    stage.click(startPage, "Command2");
+    EXPECT_EQ(stage.shown(mainPage, "Text1"), "04");
+
+    // The tag is chosen when the station is known to be one, just before logging.
+    enterContact(stage, europe);
+    stage.click(mainPage, "Option1");
+    stage.click("frmK3Ybox", "Option1");
+    stage.leave("frmK3Ybox", "k3y-box");
+    EXPECT_EQ(stage.shown(mainPage, "Label23"), "-- K3Y/EU --");
+    stage.picture(mainPage, "main-k3y-tag");
+    stage.press(mainPage, "Text5", Qt::Key_Return);
+    EXPECT_EQ(stage.folder.read(log), expected += contactWith(europe, "14050", "K3Y/EU"));
+
+    constexpr const char* dupe = "frmCheckDupeK3Y";
+    logContact(stage, europe);
+    stage.picture(dupe, "k3y-dupe");
+    stage.click(dupe, "Command2");
+    EXPECT_EQ(stage.folder.read(log), expected += contactWith(europe, "14050", "DUPE"));
+    logContact(stage, europe);
+    stage.press(dupe, "Command1", Qt::Key_Escape);
+    EXPECT_EQ(stage.folder.read(log), expected);
+    EXPECT_EQ(stage.shown(mainPage, "Text1"), "06");
+
+    stage.click(mainPage, "Command11");
+    EXPECT_EQ(stage.shown("frmK3YStandings", "Label2"), "TOTAL:  3");
+    stage.picture("frmK3YStandings", "k3y-standings");
+    stage.click("frmK3YStandings", "Command2");
+    EXPECT_EQ(stage.shown("frmK3YStandings2", "Label2"), "TOTAL:  2");
+    EXPECT_EQ(stage.shown("frmK3YStandings2", "Text665"), europe.call);
+    stage.leave("frmK3YStandings2", "k3y-standings-regions");
+}
+
+// --- An evening with a radio on the cable that changes bands and takes its time to answer ---
+
+void playRadioEvening(Stage& stage) {
+    const std::string log = "RADIO.CBR";
+    PtyRadio radio(radioNamed("Kenwood"));
+    radio.delay = 100;
+    radio.hertz = 10'120'000;
+    writeRoster(stage); // whatever was imported before
+    std::filesystem::create_symlink(radio.device(), stage.folder.path() / "com1");
+    std::string expected = logHeaderLines;
+    stage.folder.write(log, expected);
+    stage.screens.open(Screen::start);
+    stage.click(startPage, "Option1");
+    stage.type(startPage, "Text9", log);
+    stage.choose(startPage, "Combo1", "TS-2000");
+    stage.choose(startPage, "Combo2", "Com1");
+    stage.choose(startPage, "Combo3", "9600");
+    EXPECT_EQ(stage.shown(startPage, "Label13"), radio.device());
+    stage.picture(startPage, "start-radio");
+    stage.click(startPage, "Command2");
+    // It is read as soon as the page shows; 30 m has no band text of its own.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return stage.shown(mainPage, "Text7") == "10.120"; }));
+    EXPECT_EQ(stage.shown(mainPage, "Label10"), "20 Meters ");
+    const struct {
+        long hertz;
+        Station station;
+        const char* shown;
+        const char* khz;
+    } evening[] = {{14'020'000, joe, "14.020 20 Meters ", "14020"},
+                   {7'025'400, ann, "7.025 40 Meters ", " 7025"},
+                   {28'999'990, klaus, "28.999 10 Meters ", "28999"},
+                   {1'825'000, club, "1.825 160 Meters", " 1825"}};
+    for (const auto& worked : evening) {
+        radio.hertz = worked.hertz;
+        logContact(stage, worked.station);
+        EXPECT_EQ(stage.folder.read(log), expected += contactWith(worked.station, worked.khz));
+        EXPECT_EQ(stage.shown(mainPage, "Text7") + ' ' + stage.shown(mainPage, "Label10"),
+                  worked.shown);
+    }
+    stage.picture(mainPage, "main-radio");
+}
 
 // The looks that pictures are taken in: VANTREL_TOUR_POINTS, the font's size, and
 // VANTREL_TOUR_PALETTE=dark.
-void dress(QApplication& application) {
+void dress() {
     if (const int points = qEnvironmentVariableIntValue("VANTREL_TOUR_POINTS")) {
         QFont font = QApplication::font();
         font.setPointSize(points);
@@ -22,7 +350,7 @@ void dress(QApplication& application) {
     }
     if (qgetenv("VANTREL_TOUR_PALETTE") != "dark")
         return;
-    application.setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(QStringLiteral("Fusion"));
     const QColor window(0x2B, 0x2B, 0x2B);
     QPalette dark(QColor(0x3C, 0x3C, 0x3C), window);
     dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
@@ -31,14 +359,16 @@ void dress(QApplication& application) {
 }
 
 } // namespace
+} // namespace vantrel::test
 
 int main(int argc, char** argv) {
     using namespace vantrel::test;
-    if (std::getenv("QT_QPA_PLATFORM") == nullptr && std::getenv("DISPLAY") == nullptr)
-        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    if (std::getenv("DISPLAY") == nullptr)
+        ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    dress(application);
+    GTEST_FLAG_SET(throw_on_failure, true);
+    dress();
     if (argc != 2) {
         std::fprintf(stderr, "usage: tour FOLDER (emptied first)\n");
         return 2;
@@ -48,7 +378,7 @@ int main(int argc, char** argv) {
         for (const auto scene :
              {playContest, playAfterContest, playUpkeep, playK3yEvent, playRadioEvening})
             scene(stage);
-        std::printf("tour: log and pictures are in %s\n", stage.folder.c_str());
+        std::printf("tour: log and pictures are in %s\n", stage.folder.string().c_str());
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "tour: %s\n", error.what());

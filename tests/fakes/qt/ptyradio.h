@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 // A radio on a pseudo-terminal: hears what is really sent, sees the line's real settings and
-// answers through the event loop, at once, late, in pieces, or not at all.
+// answers through the event loop, at once, late or not at all.
 #pragma once
 
 #include "fakes/radios.h"
 
-#include <QObject>
 #include <QSocketNotifier>
 
 #include <functional>
@@ -18,9 +17,8 @@ namespace vantrel::test {
 
 class PtyRadio : public QObject {
 public:
-    PtyRadio();
     explicit PtyRadio(const Radio& radio);
-    ~PtyRadio() override;
+    ~PtyRadio() override { vanish(); }
 
     // The terminal to open: "/dev/pts/3".
     const std::string& device() const { return m_device; }
@@ -30,21 +28,17 @@ public:
     // The line as it is now, the way the last one who opened it left it.
     termios line() const;
     // Sends without having been asked.
-    void send(std::string_view bytes);
+    void send(std::string_view bytes) const;
     // Pulls the plug; there is no radio and no port any more.
     void vanish();
 
     // The reply to what came since the last reply; "" while the query is not complete.
     std::function<std::string(std::string_view query)> answer;
-    long hertz = 14'025'000; // of a radio made from a Radio
-    int delay = 0;           // milliseconds before the first piece
-    int pieces = 1;
-    int pause = 0; // milliseconds between pieces
-    bool vanishesAfterFirstPiece = false;
+    long hertz = 14'025'000;
+    int delay = 0; // milliseconds before the reply
 
 private:
     void hear();
-    void reply(const std::string& bytes);
 
     int m_master = -1;
     int m_slave = -1; // held open: a terminal without a user hangs up

@@ -1,68 +1,147 @@
 // SPDX-License-Identifier: MIT
-#include "log/outputfiles.h"
+#include "base/fixedtext.h"
+#include "base/version.h"
+#include "log/log.h"
+#include "log/shortlog.h"
 #include "output/adif/adif.h"
-#include "output/score/contacts.h"
-#include "support/errors.h"
+#include "output/adif/strictadif.h"
+#include "platform/clock.h"
+#include "support/tempfolder.h"
+
+#include <array>
+#include <cstdio>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
 
 namespace vantrel::test {
 namespace {
 
-using ::testing::HasSubstr;
-
-std::string adifOf(const std::vector<std::string>& lines) {
-    return adifText(views(lines));
+// What follows `head` in each record, with its length: "6>14.050|5>7.045|".
+std::string inEach(const std::string& head, const std::string& file) {
+    std::string result;
+    for (std::size_t at = 0, end = 0; (end = file.find("<EOR>", at)) != file.npos; at = end + 5) {
+        const std::size_t value = std::min(file.find(head, at), file.size()) + head.size();
+        result += value < end ? file.substr(value, file.find('<', value) - value) + '|' : "|";
+    }
+    return result;
 }
 
-std::string wrapped(const std::string& records) {
-    return "<EOH>\r\n" + records + "<EOF>\r\n";
+std::string customary(FieldList fields, const std::string& contacts) {
+    return adifText(contactsIn(logOf(fields, contacts)));
 }
 
-const std::string plainRecord =
-    "<FREQ:6>14.050<BAND:3>20M<MODE:2>CW<QSO_DATE:8>20110616<TIME_ON:4>0012<RST_SENT:3>599"
-    "<CALL:5>K1ABC<RST_RCVD:3>579<NAME:4>JOHN<STATE:2>MA<SKCC_NR:5>1234T<COMMENT:15>SKCC NR: 1234T"
-    "<EOR>\r\n";
-
-TEST(Adif, EveryContactIsALineAndDuplicatesAreWrittenToo) {
-    EXPECT_EQ(adifOf({}), wrapped(""));
-    EXPECT_EQ(adifOf({line({.number = "1234T"}), line({.number = "1234T", .marker = "DUPE"})}),
-              wrapped(plainRecord + plainRecord));
+TEST(Adif, EveryContactIsALineWithTheQuirksThatReadersRelyOn) {
+    const std::string record = "<FREQ:6>14.050<BAND:3>20M<MODE:2>CW<QSO_DATE:8>20110616"
+                               "<TIME_ON:4>0012<RST_SENT:3>599<CALL:5>K1ABC<RST_RCVD:3>579"
+                               "<NAME:3>TOM<STATE:2>MA<SKCC_NR:5>1234T<COMMENT:15>SKCC NR: 1234T"
+                               "<EOR>\r\n";
+    EXPECT_EQ(customary({&Fields::hisNumber, &Fields::rstReceived, &Fields::marker},
+                        "1234T 579; 1234T 579 DUPE"),
+              "<EOH>\r\n" + record + record + "<EOF>\r\n");
+    EXPECT_THAT(
+        customary({}, "QSO:  7045 CW 2011-0"),
+        ::testing::HasSubstr("<FREQ:5>7.045<BAND:3>40M<MODE:2>CW<QSO_DATE:8>20110<TIME_ON:4>"
+                             "<RST_SENT:3><CALL:0><RST_RCVD:3><NAME:0><STATE:0>"
+                             "<SKCC_NR:0><COMMENT:9>SKCC NR: <EOR>\r\n"));
+    // What is no frequency, and what is outside the bands, leaves that of the contact before.
+    const std::string tuned = customary({&Fields::frequency}, "-; 50125; 1825; 472; 50125");
+    EXPECT_EQ(inEach("<FREQ:", tuned), "0>|6>50.125|5>1.825|5>1.825|6>50.125|");
+    EXPECT_EQ(inEach("<BAND:", tuned), "0>|0>|4>160M|4>160M|4>160M|");
+    const std::string numbers = customary({&Fields::hisNumber}, "89S; -");
+    EXPECT_EQ(inEach("<SKCC_NR:", numbers), "3>89S|0>|");
+    EXPECT_EQ(inEach("<COMMENT:", numbers), "15>SKCC NR: 89S|15>SKCC NR: |"); // as if padded
+    EXPECT_EQ(inEach("<CONT:", customary({&Fields::marker}, "K3Y/EU; K3Y/0_")), "2>EU||");
+    EXPECT_EQ(inEach("<QSO_DATE:", customary({&Fields::date}, "07-01-2011")), "8>07-0-211|");
 }
 
-TEST(Adif, AFrequencyThatIsNoneAndOneOutsideTheBandsLeaveTheOneBefore) {
-    const auto record = [](const std::string& start) {
-        return start + plainRecord.substr(plainRecord.find("<MODE"));
+std::string strict(const std::string& log) {
+    return strictAdifText(contactsIn(log), "20110616 001230");
+}
+
+const std::string threeContacts =
+    logOf({&Fields::hisCall, &Fields::hisNumber, &Fields::hisState, &Fields::hisName,
+           &Fields::frequency, &Fields::date, &Fields::marker, &Fields::myCall, &Fields::myState},
+          "K1ABC 1234T; DL1QRS NONE DL J\xDCRGEN 7045 07-01-2011 DUPE DK9ABC DL;"
+          "VE3XYZ/W1 12345C MA JOHN 50125 2012-02-30 K3Y/0_");
+
+TEST(StrictAdif, WholeFile) {
+    const std::string head =
+        "<ADIF_VER:5>3.1.4 <PROGRAMID:7>VANTREL <PROGRAMVERSION:" + std::to_string(version.size()) +
+        '>' + std::string(version);
+    EXPECT_EQ(strict(threeContacts),
+              "Contacts logged with Vantrel\r\n" + head +
+                  " <CREATED_TIMESTAMP:15>20110616 001230 <EOH>\r\n"
+                  "<CALL:5>K1ABC <QSO_DATE:8>20110616 <TIME_ON:4>0012 <BAND:3>20m <FREQ:6>14.050 "
+                  "<MODE:2>CW <RST_RCVD:3>599 <NAME:3>TOM <STATE:2>MA <DXCC:3>291 <SKCC:5>1234T "
+                  "<RST_SENT:3>599 <STATION_CALLSIGN:5>W1ABC <OPERATOR:5>W1ABC <MY_STATE:2>MA "
+                  "<MY_DXCC:3>291 <EOR>\r\n"
+                  "<CALL:6>DL1QRS <QSO_DATE:8>20110701 <TIME_ON:4>0012 <BAND:3>40m <FREQ:5>7.045 "
+                  "<MODE:2>CW <RST_RCVD:3>599 <NAME:6>JURGEN <NOTES:7>DL NONE <RST_SENT:3>599 "
+                  "<STATION_CALLSIGN:6>DK9ABC <OPERATOR:6>DK9ABC <APP_VANTREL_DUPE:1>Y <EOR>\r\n"
+                  "<CALL:9>VE3XYZ/W1 <QSO_DATE:8>20120301 <TIME_ON:4>0012 <FREQ:6>50.125 "
+                  "<MODE:2>CW <RST_RCVD:3>599 <NAME:4>JOHN <STATE:2>MA <DXCC:3>291 <SKCC:6>12345C "
+                  "<RST_SENT:3>599 <STATION_CALLSIGN:5>W1ABC <OPERATOR:5>W1ABC <MY_STATE:2>MA "
+                  "<MY_DXCC:3>291 <APP_VANTREL_K3Y:5>K3Y/0 <EOR>\r\n");
+}
+
+TEST(StrictAdif, ValuesOutsideTheirFieldAreLeftOutOrNoted) {
+    const auto expect = [](const std::string& head, FieldList fields, const char* contacts,
+                           const char* values) {
+        EXPECT_EQ(inEach(head, strict(logOf(fields, contacts))), values) << contacts;
     };
-    std::vector<std::string> contacts;
-    for (const char* frequency : {"", "50125", "1825", "472", "50125"})
-        contacts.push_back(line({.number = "1234T", .frequency = frequency}));
-    EXPECT_EQ(adifOf(contacts),
-              wrapped(record("<FREQ:0><BAND:0>") + record("<FREQ:6>50.125<BAND:0>") +
-                      record("<FREQ:5>1.825<BAND:4>160M") + record("<FREQ:5>1.825<BAND:4>160M") +
-                      record("<FREQ:6>50.125<BAND:4>160M")));
+    expect("<QSO_DATE:", {&Fields::date},
+           "01-01-2012; 1930-12-31; 1929-12-31; 2011-13-01; 2011-00-01; 2011-06-00; 2011-06-32;"
+           "2011-6-16_",
+           "8>20120101 |8>19301231 |||||||");
+    expect("<TIME_ON:", {&Fields::time}, "2359; 2400; 2360; 12_0", "4>2359 ||||");
+    expect("<FREQ:", {&Fields::frequency}, "472; 14.05; -", "5>0.472 |||");
+    expect("<NAME:", {&Fields::hisName}, "\xDF\x80\xE9\a\xF8_\xC6", "9>ss?e?o AE |");
+    expect("<MODE:", {}, "QSO: 14050 C", "1>C |");
+    expect("<SKCC:", {&Fields::hisNumber}, "12345; 12S; 100W; NONE; -", "5>12345 |3>12S ||||");
+    expect("<NOTES:", {&Fields::hisNumber}, "12345; 100W; -", "|4>100W ||");
+    // A state needs a call of its country.
+    const FieldList state{&Fields::hisCall, &Fields::hisState};
+    expect("<DXCC:", state, "K5A OK; N5A OK; OK1A OK; AL7X AK; NH6X HI; AA3X DC; AM1X AZ; VE3A MA",
+           "3>291 |3>291 ||1>6 |3>110 |3>291 |||");
+    expect("<DXCC:", state,
+           "VY1A YT; VA3A ON; VG3A ON; VO3A ON; VX3A ON; CF3A ON; CK3A ON; CY3A ON;"
+           "CZ3A ON; XJ3A ON; XO3A ON; K1A -",
+           "1>1 |1>1 |1>1 |1>1 |1>1 |1>1 |1>1 |1>1 |1>1 |1>1 |1>1 ||");
+    expect("<NOTES:", state,
+           "VH3A ON; VW3A ON; VZ3A ON; CE3A ON; CL3A ON; CX3A ON; XI3A ON; XP3A ON;"
+           "ON4A ON; K1A ON",
+           "2>ON |2>ON |2>ON |2>ON |2>ON |2>ON |2>ON |2>ON |2>ON |2>ON |");
 }
 
-TEST(Adif, QuirksThatReadersRelyOn) {
-    // The comment's length is the padded number's; the trimmed number stands in it.
-    EXPECT_THAT(adifOf({line({.number = "89S"})}),
-                HasSubstr("<SKCC_NR:3>89S<COMMENT:15>SKCC NR: 89S<EOR>"));
-    EXPECT_THAT(adifOf({line({.number = ""})}), HasSubstr("<SKCC_NR:0><COMMENT:15>SKCC NR: <EOR>"));
-    // Only a marker of six characters has a continent.
-    EXPECT_THAT(adifOf({line({.marker = "K3Y/EU"})}), HasSubstr("1234<CONT:2>EU<EOR>"));
-    EXPECT_THAT(adifOf({line({.marker = "K3Y/0 "})}), HasSubstr("1234<EOR>"));
-    // A date written month first is cut at the same columns.
-    EXPECT_THAT(adifOf({line({.date = "07-01-2011"})}), HasSubstr("<QSO_DATE:8>07-0-211<TIME_ON"));
-    // A line cut short has short and empty items.
-    EXPECT_EQ(adifOf({"QSO:  7045 CW 2011-0"}),
-              wrapped("<FREQ:5>7.045<BAND:3>40M<MODE:2>CW<QSO_DATE:8>20110<TIME_ON:4><RST_SENT:3>"
-                      "<CALL:0><RST_RCVD:3><NAME:0><STATE:0><SKCC_NR:0><COMMENT:9>SKCC NR: "
-                      "<EOR>\r\n"));
+TEST(StrictAdif, CreationTimeIsUtcByTheCalendar) {
+    EXPECT_EQ(creationTime({2012, 2, 28, 22, 5, 9}, "5"), "20120229 030509");
+    EXPECT_EQ(creationTime({2011, 12, 31, 23, 59, 59}, "1"), "20120101 005959");
+    EXPECT_EQ(creationTime({2012, 1, 1, 1, 15, 0}, "-2"), "20111231 231500");
 }
 
-TEST(OutputFiles, NamesBesideTheLog) {
-    EXPECT_EQ(adifFileName("SKS"), "ADI");
-    EXPECT_RUNTIME_ERROR(adifFileName("AB"), ErrorCode::invalidCall, HasSubstr("AB"));
-    EXPECT_EQ(scorePdfName("/A.B/LOG"), "/A.B/LOG-SCORE.PDF");
-    EXPECT_EQ(logPdfName("A.B\\LOG.CBR"), "A.B\\LOG-LOG.PDF");
+// Independent readers, one strict about values, one about framing: each takes every contact.
+TEST(StrictAdif, OtherProgramsReadWhatStandsInTheLog) {
+    const TempFolder folder;
+    folder.write("SKS-STRICT.ADI", strict(threeContacts));
+    const std::string scripts = VANTREL_OUTPUT_TESTS;
+    std::string missing; // readers, or what runs them
+    for (const std::string& reader :
+         {"NODE_PATH=$(npm root --global 2>/dev/null) node " + scripts + "/readadif.js ",
+          "python3 " + scripts + "/readadif.py "}) {
+        FILE* pipe = ::popen((reader + folder.string() + "/SKS-STRICT.ADI 2>&1").c_str(), "r");
+        std::array<char, 1000> printed{};
+        std::ignore = std::fread(printed.data(), 1, printed.size() - 1, pipe);
+        const int status = WEXITSTATUS(::pclose(pipe));
+        if (status == 77 || status == 127)
+            missing += reader;
+        else
+            EXPECT_EQ(upper(printed.data()), "K1ABC|20M|14.050|CW|20110616|0012|1234T\n"
+                                             "DL1QRS|40M|7.045|CW|20110701|0012|\n"
+                                             "VE3XYZ/W1||50.125|CW|20120301|0012|12345C\n");
+    }
+    if (!missing.empty())
+        GTEST_SKIP() << "not installed (scripts/install-deps adif): " << missing;
 }
 
 } // namespace

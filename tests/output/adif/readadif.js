@@ -10,10 +10,8 @@ try {
 } catch {
     process.exit(77);
 }
-
 const text = require('fs').readFileSync(process.argv[2], 'latin1');
-const { qsos } = reader.ADIF.parse(text).toObject();
-for (const qso of qsos) {
+for (const qso of reader.ADIF.parse(text).toObject().qsos) {
     const fields = ['CALL', 'BAND', 'FREQ', 'MODE', 'QSO_DATE', 'TIME_ON', 'SKCC'];
     console.log(fields.map(name => qso[name] ?? '').join('|'));
 }

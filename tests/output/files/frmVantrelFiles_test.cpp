@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
+// The file screen and what it opens, the backup and the finder.
+#include "base/fixedtext.h"
+#include "log/shortlog.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
-#include "output/score/contacts.h"
 #include "support/qt/formharness.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
 #include <QRadioButton>
+#include <QTest>
 
-#include <cerrno>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -15,152 +20,204 @@ namespace vantrel::test {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::SizeIs;
 
 constexpr const char* page = "frmVantrelFiles";
 constexpr const char* viewer = "frmVantrelShowDB";
 constexpr const char* list = "frmVantrelList";
+constexpr const char* backup = "frmVantrelBackup";
+constexpr const char* finder = "frmFileFinder";
 
 class FilesPage : public ::testing::Test, public FormHarness {
 protected:
     FilesPage() {
         module.settings.logFileName = "SKS.CBR";
-        folder.write("SKS.CBR", logOf(contacts));
+        folder.write("SKS.CBR", log);
         module.log.open("SKS.CBR");
         screens.open(Screen::files);
     }
-
-    static std::string itemFile(int items) {
-        std::string bytes;
-        while (items-- > 0)
-            bytes += "X\r\n";
-        return bytes;
+    void clickFor(const std::string& message, const char* name, const char* form = page) {
+        messages.expect(message);
+        click(form, name);
+    }
+    void keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        settle();
+    }
+    // Clicks so many times on a line of the finder's list.
+    void clickLine(const char* name, const std::string& text, int times) {
+        auto* view = control<QAbstractItemView>(finder, name);
+        const std::vector<std::string> all = lines(finder, name);
+        const auto row = static_cast<int>(std::find(all.begin(), all.end(), text) - all.begin());
+        const QPoint place = view->visualRect(view->model()->index(row, 0)).center();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        if (times == 2)
+            QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     }
 
-    const std::vector<std::string> contacts{line({.number = "1234T"}),
-                                            line({.frequency = "7045", .marker = "DUPE"})};
+    const std::string contacts = logOf({&Fields::hisNumber, &Fields::marker}, "1234T; 77S DUPE");
+    const std::string log = logHeaderLines + contacts;
 };
 
-TEST_F(FilesPage, WritesBothAdifFilesAndSaysWhere) {
-    click(page, "Option6");
-    EXPECT_EQ(folder.read("SKS.ADI"), adifText(views(contacts)));
-    EXPECT_EQ(shown(page, "Label5"), "ADIF FILE CREATED AT:");
-    EXPECT_EQ(shown(page, "Text2"), folder.string() + "/SKS.ADI");
-
+TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
+    press(page, "Option5", Qt::Key_Down); // an arrow key runs no job
+    EXPECT_FALSE(folder.has("SKS.ADI"));
+    for (int i = 0; i < 2; ++i) {
+        folder.write("SKS.ADI", "");
+        click(page, "Option6");
+        EXPECT_EQ(folder.read("SKS.ADI"), adifText(contactsIn(contacts)));
+        EXPECT_EQ(shown(page, "Label5"), "ADIF FILE CREATED AT:");
+        EXPECT_EQ(shown(page, "Text2"), folder.string() + "/SKS.ADI");
+    }
     clock.time = {2011, 6, 16, 22, 12, 30};
     module.settings.gmtOffset = "5";
     click(page, "Option14");
-    EXPECT_EQ(folder.read("SKS-STRICT.ADI"), strictAdifText(views(contacts), "20110617 031230"));
+    EXPECT_EQ(folder.read("SKS-STRICT.ADI"),
+              strictAdifText(contactsIn(contacts), "20110617 031230"));
     EXPECT_EQ(shown(page, "Text2"), folder.string() + "/SKS-STRICT.ADI");
-
-    folder.write("SKS.CBR", logOf(std::vector<std::string>(12001, contacts[0])));
-    messages.expect("Run-time error 9: Subscript out of range");
-    click(page, "Option6");
-    folder.write("SKS.CBR", logOf({}));
-    module.log.reread();
-    calls.failAt(Call::write, 1, ENOSPC);
-    messages.expect("Run-time error 61: Disk full");
-    click(page, "Option6");
-    EXPECT_EQ(folder.read("SKS.ADI"), adifText(views(contacts)));
-    calls.heal();
-    click(page, "Option6"); // a job runs on each click
-    EXPECT_EQ(folder.read("SKS.ADI"), adifText({}));
-}
-
-TEST_F(FilesPage, ALogThatIsCalledLikeItsAdifFileIsNotWrittenOver) {
-    folder.write("sks.adi", logOf(contacts));
-    module.log.open("SKS.ADI");
-    messages.expect("Run-time error 75: Path/File access error");
-    click(page, "Option6");
-    EXPECT_EQ(folder.read("sks.adi"), logOf(contacts));
-    EXPECT_EQ(shown(page, "Text2"), "");
+    EXPECT_TRUE(control<QRadioButton>(page, "Option14")->isChecked());
+    EXPECT_FALSE(control<QRadioButton>(page, "Option6")->isChecked());
+    folder.write("SKS.ADI", log);
+    module.log.open("sks.adi"); // a log that is called like its ADIF file
+    clickFor("Run-time error 75: Path/File access error", "Option6");
+    EXPECT_EQ(folder.read("SKS.ADI"), log);
 }
 
 TEST_F(FilesPage, PrintsEveryItemOfTheLog) {
+    const std::string sent = "THE FILE HAS BEEN SENT TO THE PRINTER";
     printer.hasPrinter = false;
-    messages.expect("THE FILE HAS BEEN SENT TO THE PRINTER");
-    click(page, "Option12");
-    EXPECT_THAT(printer.jobs.back(),
-                ElementsAre("SKS.CBR", "", "Contest: SKS", "My Call: W1ABC", "My SKCC#: 1234T ",
-                            "Count: 66 to HisCall", contacts[0], contacts[1]));
+    clickFor(sent, "Option12");
+    EXPECT_EQ(joinLines(printer.jobs.back()),
+              "SKS.CBR\r\n\r\nContest: SKS\r\nMy Call: W1ABC\r\nMy SKCC#: 1234T \r\n"
+              "Count: 66 to HisCall\r\n" +
+                  contacts);
     EXPECT_EQ(folder.read("SKS-LOG.PDF"), "a PDF");
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr(folder.string() + "/SKS-LOG.PDF"));
-
-    folder.write("SKS-LOG.PDF", "the one before");
-    calls.failAt(Call::write, 1, ENOSPC);
-    messages.expect("Run-time error 61: Disk full");
-    click(page, "Option12");
-    EXPECT_EQ(folder.read("SKS-LOG.PDF"), "the one before");
-    calls.heal();
-
-    folder.write("SKS.CBR", itemFile(12000));
-    messages.expect("THE FILE HAS BEEN SENT TO THE PRINTER");
-    click(page, "Option12");
-    EXPECT_THAT(printer.jobs.back(), SizeIs(12002));
-    folder.write("SKS.CBR", itemFile(12001));
-    messages.expect("Run-time error 9: Subscript out of range");
-    click(page, "Option12");
-    EXPECT_THAT(printer.jobs, SizeIs(3));
+    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("/SKS-LOG.PDF"));
+    folder.write("SKS.CBR", std::string(12000, '\n'));
+    clickFor(sent, "Option12");
+    folder.write("SKS.CBR", std::string(12001, '\n'));
+    clickFor("Run-time error 9: Subscript out of range", "Option12");
+    EXPECT_EQ(printer.jobs.size(), 2U);
 }
 
-TEST_F(FilesPage, ShowsEachMemberFile) {
-    messages.expect("Run-time error 53: File not found");
-    click(page, "Option3");
-    folder.write("SKSDB3.TXT", itemFile(8001));
-    messages.expect("Run-time error 9: Subscript out of range");
-    click(page, "Option3");
+TEST_F(FilesPage, ShowsAndSortsEachMemberFile) {
+    folder.write("SKSDB3.TXT", std::string(8001, '\n'));
+    clickFor("Run-time error 9: Subscript out of range", "Option3");
     EXPECT_FALSE(isOpen(viewer));
     for (const std::string number : {"1", "2", "3", "4", "5"}) {
         folder.write("SKSDB" + number + ".TXT", "CALL" + number + "     0002\r\nX, Y\r\n");
         click(page, ("Option" + number).c_str());
         EXPECT_THAT(lines(viewer, "List1"), ElementsAre("CALL" + number + "     0002", "X", "Y"));
         EXPECT_EQ(shown(viewer, "Label1"), folder.string() + "/SKSDB" + number + ".TXT   3 LINES");
+        folder.write("SKSDB" + number + ".TXT", "K2A       0002\r\nK1A       0001\r\n");
     }
-}
-
-TEST_F(FilesPage, SortsTheMemberFiles) {
-    for (const char* name : {"SKSDB1.TXT", "SKSDB2.TXT", "SKSDB3.TXT", "SKSDB4.TXT", "SKSDB5.TXT"})
-        folder.write(name, "K2A       0002\r\nK1A       0001\r\n");
-    messages.expect("THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s");
-    click(page, "Option13");
+    clickFor("THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s", "Option13");
     EXPECT_EQ(folder.read("SKSDB5.TXT"), "K1A       0001\r\nK2A       0002\r\n");
 }
 
-TEST_F(FilesPage, ListsTheAdifFileOrTheLogAndReturnsHere) {
-    click(page, "Option6");
+TEST_F(FilesPage, ListsTheAdifFileOrTheLogAndReturnsHereOrToTheMainPage) {
+    clickFor("Run-time error 53: File not found", "Option7");
+    EXPECT_EQ(shown(list, "Label1"), folder.string() + "/SKS.ADI   0 LINES");
+    folder.write("SKS.ADI", "<EOH>, 1\r\n\r\nJ\xDCRGEN <b>\r\n");
     click(page, "Option7");
-    EXPECT_EQ(lines(list, "List1").front(), "<EOH>");
+    EXPECT_THAT(lines(list, "List1"), ElementsAre("<EOH>, 1", "", "J\xDCRGEN <b>"));
+    const auto leave = [&] {
+        EXPECT_EQ(lines(list, "List1").front(), " Contest: SKS");
+        click(list, "Command1");
+        settle();
+        return QApplication::activeWindow();
+    };
     click(page, "Option8");
-    EXPECT_EQ(lines(list, "List1").front(), " Contest: SKS");
-    click(page, "Option7");
-    click(list, "Command1");
-    settle();
-    EXPECT_EQ(QApplication::activeWindow(), form(page));
-
+    EXPECT_EQ(leave(), form(page));
     click(page, "Option7"); // the main page takes it over for the log
     screens.open(Screen::main);
     settle();
     click("frmVantrelMain", "Command6");
-    EXPECT_EQ(lines(list, "List1").front(), " Contest: SKS");
-    click(list, "Command1");
-    settle();
-    EXPECT_EQ(QApplication::activeWindow(), form("frmVantrelMain"));
+    EXPECT_EQ(leave(), form("frmVantrelMain"));
 }
 
-TEST_F(FilesPage, TheLastJobRunIsTheOneChosen) {
-    for (const std::string option : {"Option6", "Option14", "Option14"}) {
-        click(page, option.c_str());
-        for (const char* other : {"Option6", "Option14"})
-            EXPECT_EQ(control<QRadioButton>(page, other)->isChecked(), other == option);
+TEST_F(FilesPage, TheListFindsOnwardsAndCopiesWhatIsSelected) {
+    folder.write("SKS.CBR", "K1ABC\r\nW1XYZ  \r\nK1ABD\r\n");
+    click(page, "Option8");
+    settle();
+    auto* view = control<QAbstractItemView>(list, "List1");
+    keys(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("k1ab"));
+    EXPECT_EQ(view->currentIndex().row(), 0);
+    for (const auto& [key, row] : {std::pair(Qt::Key_Return, 2), std::pair(Qt::Key_F3, 0)}) {
+        keys(key); // the second goes round the end
+        EXPECT_EQ(view->currentIndex().row(), row);
     }
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
+    EXPECT_EQ(shown(list, "Label2"), "NOT FOUND");
+    keys(Qt::Key_Escape); // ends the finding, the next one closes
+    keys(Qt::Key_Down, Qt::ShiftModifier);
+    keys(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "K1ABC\nW1XYZ  \n");
+    keys(Qt::Key_Escape);
+    EXPECT_FALSE(isOpen(list));
 }
 
-TEST_F(FilesPage, ArrowKeysRunNoJob) {
-    press(page, "Option5", Qt::Key_Down);
+TEST_F(FilesPage, TheBackupCopiesEveryByteHoweverTheFolderIsTyped) {
+    std::filesystem::create_directory(folder.path() / "copies");
+    module.log.open(folder.string() + "\\SKS.CBR"); // as the finder hands it back
+    screens.open(Screen::backup);
+    EXPECT_EQ(shown(backup, "Label5"), folder.string() + "/SKS.CBR");
+    for (const char* nowhere : {" ", "nowhere"}) {
+        type(backup, "Text1", nowhere);
+        clickFor("Run-time error 76: Path not found", "Command2", backup);
+        EXPECT_EQ(shown(backup, "Label3") + shown(backup, "Text1"), nowhere);
+    }
+    folder.write("SKS.CBR", std::string(13000, '\n')); // more lines than contacts are counted
+    for (const std::string& typed : {std::string(" COPIES\\  "), folder.string()}) { // onto itself
+        type(backup, "Text1", typed);
+        click(backup, "Command2");
+        EXPECT_EQ(shown(backup, "Label3"), "DONE......CLICK EXIT");
+    }
+    for (const char* file : {"SKS.CBR", "copies/SKS.CBR"})
+        EXPECT_EQ(folder.read(file), std::string(13000, '\n'));
+}
+
+// Names that the program cannot say are left out; the true case stays where upper case would
+// name two folders; a folder that cannot be read leaves the operator where he is.
+TEST_F(FilesPage, TheFinderLeadsToFoldersAndHandsBackWhatIsChosen) {
+    for (const char* name : {"b\xC3\xBCro", "gone", "Logs", "logs", "\xD0\xB6"})
+        std::filesystem::create_directory(folder.path() / name);
+    folder.write("back\\slash.CBR", "");
+    const std::string top = upper(folder.string());
+    screens.open(Screen::backup);
+    click(backup, "Command3");
+    EXPECT_THAT(lines(finder, "filList"), ElementsAre("SKS.CBR", "StnsWorked.TXT"));
+    EXPECT_THAT(lines(finder, "dirList"),
+                ::testing::UnorderedElementsAre("..", "b\xFCro", "gone", "Logs", "logs"));
+    std::filesystem::remove(folder.path() / "gone");
+    messages.expect("Run-time error 76: Path not found");
+    clickLine("dirList", "gone", 2);
+    const std::pair<const char*, std::string> ways[] = {
+        {"Logs", folder.string() + "/Logs/"}, {"..", top + "/"}, {"b\xFCro", top + "/B\xDCRO/"}};
+    for (const auto& [name, selected] : ways) {
+        clickLine("dirList", name, 2);
+        EXPECT_EQ(shown(finder, "Label5"), selected);
+    }
+    click(finder, "Command1");
     settle();
-    EXPECT_FALSE(folder.has("SKS.ADI"));
-    EXPECT_TRUE(messages.shown.empty());
+    EXPECT_FALSE(isOpen(finder));
+    EXPECT_EQ(shown(backup, "Text1"), top + "/B\xDCRO/");
+    EXPECT_EQ(QApplication::focusWidget(), control(backup, "Text1"));
+
+    screens.open(Screen::start);
+    click("frmVantrelStart", "Command3");
+    clickLine("filList", "SKS.CBR", 1);
+    click(finder, "Command1");
+    settle();
+    EXPECT_EQ(shown("frmVantrelStart", "Text9"), top + "/SKS.CBR");
+    click("frmVantrelStart", "Command3");
+    auto* drives = control<QComboBox>(finder, "drvList");
+    drives->activated(drives->currentIndex()); // the drive that shows leads to its top
+    EXPECT_EQ(shown(finder, "Label5"), drives->itemText(0).toStdString());
+    EXPECT_NE(lines(finder, "dirList").at(0), "..");
+    clickLine("dirList", "tmp", 2);
+    clickLine("dirList", "..", 2);
+    EXPECT_EQ(shown(finder, "Label5"), "/");
 }
 
 } // namespace

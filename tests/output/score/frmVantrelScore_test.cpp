@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+// The figures of the score and bonus pages by each contest's rules, and the picture of the hours.
+#include "base/fixedtext.h"
 #include "forms/stackedbars.h"
-#include "output/score/contacts.h"
-#include "output/score/score.h"
-#include "output/score/scorereport.h"
+#include "log/shortlog.h"
+#include "output/score/contestpicture.h"
 #include "support/qt/formharness.h"
 
 #include <gmock/gmock.h>
@@ -11,109 +12,203 @@
 namespace vantrel::test {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 constexpr const char* page = "frmVantrelScore";
+const std::string overflow = "Run-time error 6: Overflow";
+const std::string tooMany = "Run-time error 9: Subscript out of range";
 
 class ScorePage : public ::testing::Test, public FormHarness {
 protected:
     ScorePage() {
         folder.write("SKS.CBR", "");
         module.log.open("SKS.CBR");
-        module.settings.bonusStation = "W4BON     ";
+        module.settings.bonusStation = "W4BON";
     }
-    void openPage(const std::vector<std::string>& logged) {
-        folder.write("SKS.CBR", logOf(logged));
+    // What the page shows: QSOs, S/P/Cs or countries, C, T, S, bonus station, K9SKC or regular
+    // members, bonus, total.
+    std::string figures() {
         screens.open(Screen::score);
-    }
-    std::vector<std::string> boxes() const {
-        std::vector<std::string> texts;
+        std::string texts;
         for (const char* name :
              {"Text1", "Text2", "Text3", "Text4", "Text9", "Text8", "Text5", "Text6", "Text7"})
-            texts.push_back(shown(page, name));
-        return texts;
+            texts += shown(page, name) + '/';
+        return texts + (form(page)->findChild<StackedBars*>()->isVisible() ? "" : "no picture");
     }
-    bool pictureShows() const { return form(page)->findChild<StackedBars*>()->isVisible(); }
-
-    // 3 contacts and 15 duplicates that bring in other figures.
-    static std::vector<std::string> anEvening() {
-        std::vector<std::string> contacts{
-            line({.call = "K9SKC", .number = "NONE", .state = "IL"}),
-            line({.call = "K9SKC", .number = "NONE", .state = "IL", .frequency = "7050"}),
-            line({.call = "W4BON", .number = "NONE", .state = "SC", .time = "0101"})};
-        for (const char* number : {"1C", "2C", "3C", "4C", "1T", "2T", "3T", "4T", "5T", "1S", "2S",
-                                   "3S", "4S", "5S", "6S"})
-            contacts.push_back(line({.number = number, .marker = "DUPE"}));
-        return contacts;
+    std::string opened(const char* contest, const std::string& contacts,
+                       FieldList fields = {&Fields::hisCall, &Fields::hisNumber, &Fields::hisState,
+                                           &Fields::frequency, &Fields::marker}) {
+        module.settings.contestCode = contest;
+        folder.write("SKS.CBR", logOf(fields, contacts));
+        return figures();
     }
-
-    const std::vector<std::string> contacts = anEvening();
+    std::string printed() {
+        messages.expect("The File has been sent to the Printer!");
+        click(page, "Command2");
+        return joinLines(printer.jobs.back());
+    }
+    std::string bonus(const std::string& log) {
+        folder.write("SKS.CBR", log);
+        screens.open(Screen::bonus);
+        return shown("frmCountBonus", "Label1");
+    }
 };
 
-TEST_F(ScorePage, ShowsTheFiguresAndThePicture) {
-    openPage(contacts);
-    // 3 x 2 + 4 x 5 + 5 x 10 + 6 x 15 + 25 + 2 x 25
-    EXPECT_THAT(boxes(), ElementsAre("3", "2", "4", "5", "6", "1", "2", "235", "241"));
-    EXPECT_EQ(shown(page, "Label13"), "DUPES ARE NOT LOGGED");
-    EXPECT_EQ(shown(page, "Label14"), " ");
+TEST_F(ScorePage, ShowsTheFiguresByEachContestsRules) {
+    const struct {
+        const char* rule;
+        const char* contest;
+        const char* contacts; // call, number, state, kHz, marker
+        const char* figures;
+    } rows[] = {
+        {"an empty log gives zeros", "SKS", "", "0/0/0/0/0/0/0/0/0/no picture"},
+        {"the club station counts on every band, not as a duplicate", "WES",
+         "K9SKC 5S IL; K9SKC 5S IL 7050; K9SKC/9 5S IL; K9SKC 5S IL 3550 DUPE",
+         "3/1/0/0/1/0/3/90/93/"},
+        {"the bonus station counts by its whole call, not as a duplicate", "SKS",
+         "W4BON NONE; W4BONX NONE; W4BON NONE MA 14050 DUPE__", "2/1/0/0/0/1/0/25/27/"},
+        {"award numbers count once each, duplicates included", "K3Y",
+         "A 1C; A 1C MA 7050; A 1T; A 2S MA 14050 DUPE; A 3S; A 1C__X", "5/1/1/1/2/0/0/45/50/"},
+        {"a duplicate adds no region unless the log begins with it", "SKS",
+         "A 1 NY 14050 DUPE; A 1 CT 14050 DUPE; A 1 MA; A 1 MA; A 1 _MA", "3/3/0/0/0/0/0/0/9/"},
+        {"Europe: USA ALK HAW CAN DL DC YT \" MA\"; one regular member", "SKSE",
+         "A 1 MA; A 1 NY; A 1 AK; A 1 HI; A 1 ON; A 1 QC; A 1 DL; A 1 DC; A 1 YT; A 1 USA; "
+         "A 1 _MA; A 1 F 14050 DUPE",
+         "11/8/0/0/0/0/11/1/89/"},
+        {"Europe: a Senator is a regular member as well", "SKSE", "A 89S; W4BON 89S",
+         "2/1/0/0/1/1/2/41/43/"},
+        {"Europe: regular members shown may fall below zero", "SKSE",
+         "A 1C MA 14050 DUPE; A 100W MA 14050 DUPE; A NONE MA 14050 DUPE; A 2T",
+         "1/1/1/1/0/0/-3/15/16/"},
+        {"Europe: a missing number is one member; NONEX is shown as nobody's", "SKSE",
+         "A -; A -; A NONEX", "3/1/0/0/0/0/2/2/5/"},
+        {"lines cut short have empty fields", "SKSE", "QSO;QSO: 14050 CW",
+         "2/1/0/0/0/0/2/1/3/no picture"},
+    };
+    for (const auto& [rule, contest, contacts, expected] : rows)
+        EXPECT_EQ(opened(contest, contacts), expected) << rule;
+    for (const char* country : {"USA;AL;AR;AZ;CA;CO;CT;DE;FL;GA;IA;ID;IL;IN;KS;KY;LA;MA;MD;ME;MI;"
+                                "MN;MO;MS;MT;NC;ND;NE;NH;NJ;NM;NV;NY;OH;OK;OR;PA;RI;SC;SD;TN;TX;UT;"
+                                "VA;VT;WA;WI;WV;WY",
+                                "CAN;NL;NS;QC;PE;ON;MB;AB;SK;BC;NB;NT;NU"})
+        EXPECT_THAT(opened("SKSE", country, {&Fields::hisState}), HasSubstr("/1/0/0/0/0/"));
+    module.settings.bonusStation = "          "; // none: not that of a contact without a call
+    for (const char* contest : {"SKS", "SKSE"})
+        EXPECT_THAT(opened(contest, "-"), HasSubstr("1/1/0/0/0/0/"));
 }
 
-TEST_F(ScorePage, EuropeanCaptionsAndLoggedDupes) {
-    module.settings.contestCode = "SKSE";
-    module.settings.dupeMode = "YES";
-    openPage(contacts);
-    EXPECT_THAT(boxes(), ElementsAre("3", "1", "4", "5", "6", "1", "-9", "191", "194"));
-    EXPECT_EQ(shown(page, "Label4"), "  DXCC Countries:");
-    EXPECT_EQ(shown(page, "Label7"), "      Regular Members Worked: ");
-    EXPECT_EQ(shown(page, "Label13"), "DUPES ARE LOGGED");
-    EXPECT_EQ(shown(page, "Label14"), "BUT NOT COUNTED");
-}
-
-TEST_F(ScorePage, AnOverflowLeavesWhatWasReached) {
-    messages.expect("Run-time error 6: Overflow");
-    openPage(std::vector<std::string>(1310, line({.call = "K9SKC", .number = "NONE"})));
-    EXPECT_THAT(boxes(), ElementsAre("1310", "1", "0", "0", "0", "0", "1310", "32750", ""));
-}
-
-TEST_F(ScorePage, OpenedAgainItCountsAnew) {
-    openPage({});
-    EXPECT_EQ(boxes(), std::vector<std::string>(9, "0"));
-    EXPECT_FALSE(pictureShows());
-    openPage(contacts);
-    EXPECT_EQ(shown(page, "Text7"), "241");
+TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
+    const std::tuple<const char*, FieldList::value_type, const char*, const char*, const char*>
+        rows[] = {{"SKS", &Fields::hisNumber, "C;", "Centurions", "401/1////////"},
+                  {"SKS", &Fields::hisNumber, "T;", "Tribunes", "401/1////////"},
+                  {"SKS", &Fields::hisNumber, "S;", "Senators", "401/1////////"},
+                  {"SKS", &Fields::hisState, ";", "S/P/Cs", "401/////////"},
+                  {"SKSE", &Fields::hisNumber, ";", "regular members", "401//0/0/0/////"}};
+    for (const auto& [contest, field, suffix, name, reached] : rows) {
+        std::string contacts;
+        for (int i = 1; i <= 400; ++i)
+            contacts += std::to_string(i) + suffix;
+        if (field == &Fields::hisState)
+            messages.expect(overflow); // 400 times 400
+        EXPECT_NE(opened(contest, contacts, {field}).substr(3), reached + 3);
+        messages.expect(tooMany);
+        EXPECT_EQ(opened(contest, contacts + "401" + suffix, {field}), reached);
+        EXPECT_THAT(messages.shown.back().informative,
+                    HasSubstr(std::string("the list of ") + name + " holds at most 400 entries"));
+    }
+    std::string contacts;
+    for (int i = 0; i < 1310; ++i)
+        contacts += "K9SKC NONE;";
+    messages.expect(overflow);
+    EXPECT_EQ(opened("SKS", contacts), "1310/1/0/0/0/0/1310/32750//");
     std::filesystem::remove(folder.path() / "SKS.CBR");
     messages.expect("Run-time error 53: File not found");
-    screens.open(Screen::score);
-    EXPECT_EQ(boxes(), std::vector<std::string>(9, ""));
-    EXPECT_FALSE(pictureShows());
+    EXPECT_EQ(figures(), "/////////no picture");
 }
 
 TEST_F(ScorePage, PrintsWhatItShows) {
-    openPage(contacts);
-    messages.expect("The File has been sent to the Printer!");
-    click(page, "Command2");
-    EXPECT_THAT(printer.jobs,
-                ElementsAre(scoreReport(computeScore(views(contacts), module.settings),
-                                        folder.string() + "/SKS.CBR")));
+    const char* contacts = "A 1C; A 1T; A 2T; A 1S; A 2S; A 3S; K9SKC NONE; K9SKC NONE; "
+                           "K9SKC NONE; K9SKC NONE; W4BON NONE SC";
+    EXPECT_EQ(opened("SKS", contacts), "11/2/1/2/3/1/4/195/217/");
+    EXPECT_EQ(shown(page, "Label4") + shown(page, "Label7"), "S/P/Cs:K9SKC QSOs:");
+    EXPECT_EQ(shown(page, "Label13") + shown(page, "Label14"), "DUPES ARE NOT LOGGED ");
+    const std::string path = folder.string() + "/SKS.CBR";
+    EXPECT_EQ(shown(page, "Label1"), path);
+    EXPECT_EQ(printed(), "\r\n\r\n" + path +
+                             "\r\n\r\n       Number of QSOs: 11\r\n     Number of S/P/Cs: 2\r\n"
+                             " Number of Centurions: 1\r\n   Number of Tribumes: 2\r\n"
+                             "   Number of Senators: 3\r\nNumber Bonus Stn QSOs: 1\r\n"
+                             " Number of K9SKC QSOs: 4\r\n   Total Bonus Points: 195\r\n\r\n"
+                             "         TOTAL SCORE: 217\r\n");
     EXPECT_EQ(messages.shown.back().informative, "");
 
+    module.settings.dupeMode = "YES";
     printer.hasPrinter = false;
-    messages.expect("The File has been sent to the Printer!");
-    click(page, "Command2");
+    EXPECT_EQ(opened("SKSE", contacts), "11/1/1/2/3/1/3/98/109/");
+    EXPECT_EQ(shown(page, "Label4") + shown(page, "Label7"),
+              "  DXCC Countries:      Regular Members Worked: ");
+    EXPECT_EQ(shown(page, "Label13") + shown(page, "Label14"), "DUPES ARE LOGGEDBUT NOT COUNTED");
+    EXPECT_EQ(printed(), "\r\n\r\n" + path +
+                             "\r\n\r\n            Number of QSOs: 11\r\n"
+                             "  Number of DXCC Countries: 1\r\n      Number of Centurions: 1\r\n"
+                             "        Number of Tribumes: 2\r\n        Number of Senators: 3\r\n"
+                             "  Number of Bonus Stn QSOs: 1\r\n    Regular Members Worked: 3\r\n"
+                             "        Total Bonus Points: 98\r\n\r\n"
+                             "               TOTAL SCORE: 109\r\n");
     EXPECT_EQ(folder.read("SKS-SCORE.PDF"), "a PDF");
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr(folder.string() + "/SKS-SCORE.PDF"));
+    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("/SKS-SCORE.PDF"));
 }
 
-TEST_F(ScorePage, TheBonusPageCountsTheLogAsItIsOnTheDisk) {
-    const auto totalOf = [this](const std::string& name) {
-        folder.write("SKS.CBR", logOf({line({.name = name})}));
-        screens.open(Screen::bonus);
-        return shown("frmCountBonus", "Label1");
-    };
-    EXPECT_EQ(totalOf("JOHN/25"), "Total: 25");
-    messages.expect("Run-time error 6: Overflow");
-    EXPECT_EQ(totalOf("JOHN/99999"), "");
+TEST_F(ScorePage, TheBonusPageCountsAStationOnceWithTheNumberAfterItsFirstSlash) {
+    const FieldList fields{&Fields::hisCall, &Fields::hisName};
+    const std::pair<const char*, int> rows[] = {
+        {"K1A JOHN; K1A /10", 10},        {"K1A JOHN/_25_X; QSO: 14050", 25},
+        {"K1A JOHN/-5; K2A AL/7", 2},     {"K1A JOHN/25; K1A JOHN/30", 25},
+        {"K1A JOHN/5/6; K1A ALAN/7", 5},  {"K1A ABCDEFGHI/; K1A JOHN/30", 0},
+        {"K1AB JOHN/1; K1ABC JOHN/2", 3}, {"K1A A/32767", 32767}};
+    for (const auto& [contacts, points] : rows)
+        EXPECT_EQ(bonus(logOf(fields, contacts)), "Total: " + std::to_string(points)) << contacts;
+    // The column after the call belongs to what tells stations apart, the report does not.
+    std::string log = logOf({&Fields::hisName, &Fields::rstReceived}, "A/3 599; A/4 439; A/5");
+    log[75] = 'X';
+    EXPECT_EQ(bonus(log), "Total: 7");
+    std::string contacts = "K1 A/9";
+    for (int i = 2; i <= 200; ++i)
+        contacts += "; K" + std::to_string(i) + " A/1";
+    EXPECT_EQ(bonus(logOf(fields, contacts + "; K1 A/1")), "Total: 208");
+    messages.expect(tooMany);
+    EXPECT_EQ(bonus(logOf(fields, contacts + "; K201 A/1")), "");
+    messages.expect(overflow);
+    EXPECT_EQ(bonus(logOf(fields, "K1 A/32767; K2 A/1")), "");
+}
+
+// "00Z 0 0 2 0 0 0 0 0 0 1": contacts by band; a break before it as "... ".
+std::string picture(const std::string& contacts) {
+    const std::string log =
+        logOf({&Fields::date, &Fields::time, &Fields::frequency, &Fields::marker}, contacts);
+    std::string result;
+    for (const PictureHour& hour : contactsPerHour(contactsIn(log))) {
+        result += (hour.afterBreak ? "... " : "") + zeroPadded(hour.hour, 2) + 'Z';
+        for (const int count : hour.contacts)
+            result += ' ' + std::to_string(count);
+        result += '\n';
+    }
+    return result;
+}
+
+TEST(ContestPicture, ContactsPerHourAndBandOfTheLastFortyEightHours) {
+    EXPECT_EQ(picture("07-01-2011 0000; 2011-06-30 2359; 2011-06-30 2300 7040; 2011-06-30 2301;"
+                      "2011-06-30 0659 50125; 2011-06-30 2302 14050 DUPE; 2011-13-01;"
+                      "0000-01-01; 2011-06-30 2400; 2011-06-30 12_0; QSO: 14050 CW"),
+              "06Z 0 0 0 0 0 0 0 0 0 1\n"
+              "... 23Z 0 0 1 0 2 0 0 0 0 0\n"
+              "00Z 0 0 0 0 1 0 0 0 0 0\n");
+    std::string contacts;
+    for (int i = 0; i < 49; ++i)
+        contacts += "2011-06-" + std::to_string(10 + i / 24) + ' ' + zeroPadded(i % 24, 2) + "00;";
+    const std::string hours = picture(contacts);
+    EXPECT_EQ(std::count(hours.begin(), hours.end(), 'Z'), 48);
+    EXPECT_EQ(hours.substr(0, 2), "01");
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 #include "fakes/failingcalls.h"
 #include "fakes/fakeclock.h"
 #include "fakes/fakedevices.h"
-#include "fakes/fakemessages.h"
 #include "fakes/fakeserialport.h"
 #include "platform/files.h"
 #include "platform/platform.h"

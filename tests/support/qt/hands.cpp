@@ -7,20 +7,13 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
+#include <QVariant>
 
 namespace vantrel::test {
 
 namespace {
-
-QWidget* visibleForm(const char* name) {
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->isVisible() && widget->objectName() == QLatin1String(name))
-            return widget;
-    return nullptr;
-}
 
 // Keys go to the line inside an editable combo, as they do when one clicks into it.
 QWidget* keyTarget(QWidget* control) {
@@ -30,28 +23,24 @@ QWidget* keyTarget(QWidget* control) {
 
 } // namespace
 
-QWidget* Hands::form(const char* name) const {
-    QWidget* found = visibleForm(name);
-    if (found == nullptr)
-        throw std::runtime_error(std::string("no form ") + name + " shows");
-    return found;
+bool Hands::isOpen(const char* name) const {
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->objectName() == QLatin1String(name))
+            return true;
+    return false;
 }
 
-bool Hands::isOpen(const char* name) const {
-    return visibleForm(name) != nullptr;
+QWidget* Hands::form(const char* name) const {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->objectName() == QLatin1String(name))
+            return widget;
+    throw std::runtime_error(std::string("no form ") + name + " shows");
 }
 
 std::string Hands::shown(const char* formName, const char* name) const {
-    QWidget* found = control(formName, name);
-    if (auto* box = qobject_cast<QLineEdit*>(found))
-        return fromQt(box->text());
-    if (auto* label = qobject_cast<QLabel*>(found))
-        return fromQt(label->text());
-    if (auto* combo = qobject_cast<QComboBox*>(found))
-        return fromQt(combo->currentText());
-    if (auto* button = qobject_cast<QAbstractButton*>(found))
-        return fromQt(button->text());
-    throw std::runtime_error(std::string(name) + " shows no text");
+    const QWidget* found = control(formName, name);
+    const QVariant text = found->property("text");
+    return fromQt((text.isValid() ? text : found->property("currentText")).toString());
 }
 
 std::vector<std::string> Hands::lines(const char* formName, const char* name) const {

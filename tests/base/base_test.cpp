@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "base/boundedtable.h"
+#include "base/fixedtext.h"
+#include "base/integer16.h"
+#include "base/itemreader.h"
+#include "support/errors.h"
+
+namespace vantrel::test {
+namespace {
+
+TEST(FixedText, OneByteIsOneColumnAndWhatIsBeyondTheEndIsShortOrEmpty) {
+    EXPECT_EQ(mid("ABCDE", 2, 3), "BCD");
+    EXPECT_EQ(mid("ABCDE", 4, 9), "DE");
+    EXPECT_EQ(mid("ABCDE", 6, 1), "");
+    EXPECT_EQ(right("ABCDE", 2), "DE");
+    EXPECT_EQ(right("A", 6), "A");
+    EXPECT_EQ(trim(" \ta b  "), "\ta b");
+    EXPECT_EQ(trim("   "), "");
+    // Capitals: e acute, o slash, thorn; not division sign, sharp s, y with diaeresis.
+    EXPECT_EQ(upper("az`{\xE0\xE9\xF8\xFE\xF7\xDF\xFF 9"), "AZ`{\xC0\xC9\xD8\xDE\xF7\xDF\xFF 9");
+    EXPECT_EQ(withoutSeparatorsAndQuotes("A,B\tC\rD\"\x1F\x7F"), "A B C D   ");
+    EXPECT_EQ(padded("MAX", 3, "") + rightAligned("7040", 5) + leftAligned("ABC", 2), "MAX 7040AB");
+    EXPECT_RUNTIME_ERROR(padded("MAXI", 3, "the state"), ErrorCode::invalidCall,
+                         "the state is longer than 3 characters: \"MAXI\"");
+    EXPECT_EQ(countCapitals("@AZ["), 2);
+    const std::pair<const char*, int> numbers[] = {{"0123T", 123}, {"  -59:", -59}, {"+7/", 7},
+                                                   {"T12", 0},     {"-", 0},        {"--3", 0}};
+    for (const auto& [text, value] : numbers)
+        EXPECT_EQ(numericValue(text), value) << text;
+    EXPECT_RUNTIME_ERROR(numericValue("99999999999999999999"), ErrorCode::overflow,
+                         "the number 99999999999999999999");
+}
+
+TEST(Limits, CountersAndTablesHoldTheirRangeAndNothingBeyond) {
+    Integer16 high = 32766;
+    EXPECT_EQ((++high).text(), "32767");
+    EXPECT_RUNTIME_ERROR(++high, ErrorCode::overflow, "32768 is beyond 16 bits (-32768 to 32767)");
+    EXPECT_EQ(high - 32767 - 32767 - 1, -32768);
+    EXPECT_RUNTIME_ERROR(Integer16(-32768) - 1, ErrorCode::overflow, ::testing::_);
+    BoundedTable<int> table("the list", 1);
+    EXPECT_FALSE(table.full());
+    table.append(10);
+    EXPECT_TRUE(table.full() && table.at(1) == 10);
+    EXPECT_RUNTIME_ERROR(table.append(30), ErrorCode::subscriptOutOfRange,
+                         "the list holds at most 1 entries");
+    for (const int index : {0, 2})
+        EXPECT_RUNTIME_ERROR(table.at(index), ErrorCode::subscriptOutOfRange,
+                             "the list has no entry " + std::to_string(index));
+}
+
+template <typename Reader>
+std::string allOf(std::string_view text) {
+    std::string result;
+    Reader reader(text);
+    while (!reader.atEnd())
+        result.append(reader.next()) += '|';
+    EXPECT_RUNTIME_ERROR(reader.next(), ErrorCode::inputPastEnd, ::testing::HasSubstr("line"));
+    return result;
+}
+
+// Leading blanks go, trailing ones and tabs stay, a blank line is an item; quotes keep commas
+// and blanks up to the end of the line, what follows them is dropped; a lone CR is ordinary.
+TEST(Readers, SplitAtLineEndsAndItemsAtCommasOutsideQuotes) {
+    EXPECT_EQ(allOf<ItemReader>(""), "");
+    EXPECT_EQ(allOf<ItemReader>("  a ,\tb  \r\n\r\n   \nc,\r\n  \" d,e \"junk,f\r\n\"g,h\ni\"j\rk"),
+              "a |\tb  |||c|| d,e |f|g,h|i\"j\rk|");
+    EXPECT_EQ(allOf<LineReader>("  a,\"b\" \r\n\r\nc\na\r\r\nb\rd"), "  a,\"b\" ||c|a\r|b\rd|");
+}
+
+} // namespace
+} // namespace vantrel::test

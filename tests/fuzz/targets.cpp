@@ -1,0 +1,450 @@
+// SPDX-License-Identifier: MIT
+// Every reader of what others have written, and what must hold whatever that is. The fuzzing
+// engine, or the replay of a corpus, calls one target with one input after the other; a property
+// that does not hold ends the program.
+#include "base/itemreader.h"
+#include "fakes/failingcalls.h"
+#include "fakes/fakeclock.h"
+#include "fakes/fakeserialport.h"
+#include "fakes/radios.h"
+#include "k3y/standings.h"
+#include "log/logfile.h"
+#include "logedit/correction.h"
+#include "logedit/deletion.h"
+#include "logedit/editor.h"
+#include "logedit/logedit.h"
+#include "output/adif/adif.h"
+#include "output/adif/strictadif.h"
+#include "output/files/printlog.h"
+#include "output/score/bonuscount.h"
+#include "output/score/contactdate.h"
+#include "output/score/contestpicture.h"
+#include "output/score/scorereport.h"
+#include "platform/files.h"
+#include "rig/catlink.h"
+#include "roster/rosterimport.h"
+#include "roster/rosterlookup.h"
+#include "screens/main/dupecheck.h"
+#include "screens/main/frequency.h"
+#include "screens/main/k3ystation.h"
+#include "screens/main/qsoentry.h"
+#include "screens/main/workedbefore.h"
+#include "screens/start/startlists.h"
+#include "shared/utctime.h"
+#include "support/contacts.h"
+#include "support/tempfolder.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <optional>
+
+#undef NDEBUG // a property is no debugging aid
+#include <cassert>
+
+namespace vantrel::test {
+namespace {
+
+// The input begins with texts that end at a tab each, so that inputs can be written by hand: takes
+// the next one off.
+std::string take(std::string& input) {
+    const std::string text = input.substr(0, input.find('\t'));
+    input.erase(0, text.size() + 1);
+    return text;
+}
+
+// The first character of the next one as a choice: 0 to count - 1.
+std::size_t choice(std::string& input, std::size_t count) {
+    return static_cast<unsigned char>(take(input).c_str()[0]) % count;
+}
+
+// The run-time error that the step ended with, if it did. No other exception may leave it.
+template <typename Step>
+std::optional<ErrorCode> errorOf(Step step) {
+    try {
+        step();
+        return std::nullopt;
+    } catch (const RuntimeError& error) {
+        return error.code();
+    }
+}
+
+// A program folder; what an input leaves there the next one finds.
+const TempFolder disk;
+FailingCalls calls; // which do not wait for the disk
+Files files(disk.string(), calls);
+
+template <typename Reader>
+std::vector<std::string> allOf(Reader&& reader) {
+    std::vector<std::string> all;
+    while (!reader.atEnd())
+        all.emplace_back(reader.next());
+    assert(errorOf([&] { reader.next(); }) == ErrorCode::inputPastEnd);
+    return all;
+}
+
+// Comma-delimited items, and lines: written again as read they read the same.
+void itemReader(std::string input) {
+    ItemReader items(input);
+    const std::vector<std::string> read = allOf(items);
+    std::string again;
+    for (const std::string& item : read) {
+        // Quoted where the reader would otherwise end it or drop its blanks.
+        const bool bare = item.find(',') == std::string::npos && !item.starts_with(' ');
+        again += bare ? item + "\r\n" : '"' + item + "\"\r\n";
+    }
+    assert(allOf(ItemReader(again)) == read);
+
+    const std::vector<std::string> readLines = allOf(LineReader(input));
+    assert(static_cast<int>(readLines.size()) == items.line()); // both see the same lines
+    again = joinLines(readLines);
+    assert(allOf(LineReader(again)) == readLines);
+}
+
+// A log, read by everything that only looks at contacts: table, worked stations, dupe check,
+// bonus count, picture of the hours, print.
+void log(std::string input) {
+    const Contacts contacts = contactsIn(input);
+    for (const std::string_view line : contacts) {
+        const std::string_view call = trimRight(qso::hisCall.of(line));
+        assert(isDuplicate(contacts, call, qso::bandTag.of(line))); // a contact is its own
+        assert(length(call) < 2 || !workedBefore(contacts, call, 1000).empty());
+        assert(length(workedLine(line)) <= 70);
+        const auto day = contactDay(line);
+        assert(!day || day->ok());
+        const auto time = contactTime(line);
+        assert(!time || (time->hour >= 0 && time->hour < 24 && time->minute < 60));
+    }
+    assert(contactsPerHour(contacts).size() <= pictureHours);
+    errorOf([&] { countBonusPoints(contacts); });
+    assert(logPrintLines("A.CBR", input).size() >= 2 + contacts.size());
+}
+
+// A log, scored by each contest's rules: figures that agree with each other, or why they end.
+void score(std::string input) {
+    constexpr std::string_view contests[] = {contestSks, contestSkse, contestWes, contestK3y};
+    OperatingSettings settings;
+    settings.contestCode = contests[choice(input, std::size(contests))];
+    settings.bonusStation = take(input);
+    const Contacts contacts = contactsIn(input);
+    const Score score = computeScore(contacts, settings);
+    assert(score.total.has_value() != score.stoppedBy.has_value());
+    assert(scoreReport(score, "A.CBR").size() == scoreReport(Score(), "A.CBR").size());
+    if (score.stoppedBy)
+        return;
+    assert(*score.qsos == std::count_if(contacts.begin(), contacts.end(), std::not_fn(isDupe)));
+    assert(*score.total == *score.qsos * *score.multipliers + *score.bonusPoints);
+    for (const Score::Figure& figure : {score.multipliers, score.centurions, score.tribunes,
+                                        score.senators, score.bonusStationQsos})
+        assert(*figure >= 0 && *figure <= static_cast<int>(contacts.size()));
+}
+
+// A log of the event: both standings fill cells from its contacts and count what they fill.
+void standings(std::string input) {
+    const Contacts contacts = contactsIn(input);
+    for (const Standings& standings : {areaStandings(contacts), regionStandings(contacts)}) {
+        int filled = 0;
+        for (int row = 1; row <= static_cast<int>(standings.rows().size()); ++row)
+            for (int column = 1; column <= static_cast<int>(bands.size()); ++column) {
+                const StandingsCell& cell = standings.cell(row, column);
+                filled += static_cast<int>(cell.filled);
+                assert(cell.filled ? input.find(cell.text) != input.npos : cell.text.empty());
+            }
+        assert(standings.total() >= filled && (filled == 0) == (standings.total() == 0));
+        assert(standings.total() <= static_cast<int>(contacts.size())); // each counts once at most
+    }
+}
+
+using Record = std::map<std::string, std::string, std::less<>>;
+
+// Takes the fields up to the one called `last` off `rest`, each "<NAME:4>JOHN" or "<EOR>" with
+// what stands before it.
+Record takeRecord(std::string_view& rest, std::string_view last) {
+    Record record;
+    while (record.find(last) == record.end()) {
+        rest.remove_prefix(std::min(rest.find('<'), rest.size()));
+        const std::size_t end = rest.find('>');
+        assert(end != std::string_view::npos);
+        const std::string_view head = rest.substr(1, end - 1);
+        const std::size_t colon = std::min(head.find(':'), head.size());
+        const auto size =
+            static_cast<std::size_t>(numericValue(midToEnd(head, static_cast<int>(colon) + 2)));
+        assert(end + 1 + size <= rest.size());
+        assert(record.emplace(head.substr(0, colon), rest.substr(end + 1, size)).second); // once
+        rest.remove_prefix(end + 1 + size);
+    }
+    return record;
+}
+
+bool isPlain(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
+}
+
+// A log, exported as ADIF: every contact is one record, and a reader of the strict file that goes
+// by the lengths gets back what stands in the log.
+void adif(std::string input) {
+    // The offset comes from the settings file, where somebody may have written anything.
+    const std::string offset = take(input);
+    std::string created = "20110616 001230";
+    errorOf([&] { created = creationTime(FakeClock().now(), offset); });
+    assert(created.size() == 15 && created[8] == ' ');
+
+    const Contacts contacts = contactsIn(input);
+    const std::string strictFile = strictAdifText(contacts, created);
+    std::string_view rest(strictFile);
+    takeRecord(rest, "EOH");
+    // Its fields may hold what looks like another one: only the frame is the same for any log.
+    const std::string customaryFile = adifText(contacts);
+    LineReader lines(customaryFile);
+    assert(lines.next() == "<EOH>");
+    for (const std::string_view line : contacts) {
+        const std::string_view call = trim(qso::hisCall.of(line));
+        const std::string_view customary = lines.next();
+        assert(customary.ends_with("<EOR>") && customary.find(call) != customary.npos);
+        const Record record = takeRecord(rest, "EOR");
+        for (const auto& [name, value] : record)
+            assert(isPlain(value) && value.empty() == (name == "EOR"));
+        assert(!isPlain(call) || call.empty() || record.at("CALL") == call);
+        const auto band = record.find("BAND");
+        assert(band == record.end() || upper(band->second) == bandOfMhz(record.at("FREQ"))->label);
+    }
+    assert(rest == "\r\n" && lines.next() == "<EOF>");
+}
+
+// Anything typed into the boxes: a contact is refused, or it becomes one line of the log with
+// every field in its columns, and every reader finds it there.
+void contact(std::string input) {
+    OperatingSettings settings;
+    settings.contestCode = choice(input, 2) == 0 ? contestSks : contestK3y;
+    settings.gmtOffset = offsetList()[choice(input, offsetList().size())].stored;
+    const std::size_t tag = choice(input, k3yStations.size() + 1);
+    const std::string marker(tag == k3yStations.size() ? dupeMarker : k3yStations[tag].marker);
+    FakeClock clock;
+    clock.time.day = 1 + static_cast<int>(choice(input, 31));
+    Entry entry;
+    for (std::string* text :
+         {&settings.myCall, &settings.myName, &settings.myState, &settings.myNumber,
+          &settings.contestText, &entry.call, &entry.name, &entry.state, &entry.number,
+          &entry.rstSent, &entry.rstReceived, &entry.frequency})
+        *text = take(input);
+    if (errorOf([&] { settings = storedSettings(settings); }) || !canBeLogged(entry))
+        return;
+    const UtcTime utc = utcTime(clock.now(), settings.gmtOffset);
+    ContactFields fields = contactFrom(entry, settings, marker, utc);
+    std::string mhz = frequencyAsEntered(entry.frequency);
+    assert(frequencyAsEntered(mhz) == mhz);
+    if (enterFrequency(fields, mhz, settings) != FrequencyCheck::good)
+        return;
+    for (std::string* box :
+         {&entry.name, &entry.state, &entry.number, &entry.rstSent, &entry.rstReceived})
+        *box = withoutSeparators(*box);
+    const std::string line = assembleLine(fields);
+    assert(line == contactLine({fields.frequency, utc.date, utc.time, settings.myCall,
+                                entry.rstSent, settings.myName, settings.myState, settings.myNumber,
+                                upper(callAsEntered(entry.call)), entry.rstReceived, entry.name,
+                                entry.state, entry.number, marker}));
+
+    const std::string bytes = logHeader(settings.contestText, settings.myCall, settings.myNumber) +
+                              line + "\r\n" + line + "\r\n";
+    assert(contactsIn(bytes) == Contacts({line, line})); // and its header is none
+    log(bytes);
+    assert(isK3yDupe(contactsIn(bytes), line));
+    assert(length(workedLine(line)) == (isDupe(line) ? 68 : 70));
+    assert(workedLine(line).find(',') == std::string::npos);
+}
+
+// A box left alone is an empty text; a cleared one is a blank.
+template <typename Boxes>
+Boxes typedOver(Boxes boxes, std::string& input) {
+    for (std::string& box : boxes)
+        if (const std::string text = take(input); !text.empty())
+            box = text;
+    return boxes;
+}
+
+bool staysOneContact(std::string_view after, std::string_view before) {
+    return isContact(after) && after.find('\n') == after.npos &&
+           (before.find(',') != before.npos || after.find(',') == after.npos);
+}
+
+// Anything typed into the correction page and the editor over any contact line: what was changed
+// stands in its columns, the rest is as it was, and the line stays a contact.
+void logEdit(std::string input) {
+    const std::string line = "QSO" + take(input);
+    if (line.find('\n') != std::string::npos)
+        return;
+    assert(length(deletionCallText(line)) <= 33 && length(deletionDetailText(line)) <= 35);
+
+    std::string forEditor = input;
+    const EditorBoxes boxes = tidiedBoxes(typedOver(editorBoxes(line), forEditor));
+    assert(tidiedBoxes(boxes) == boxes);
+    const std::string rebuilt = rebuiltLine(line, boxes);
+    assert(staysOneContact(rebuilt, line) && length(rebuilt) == qso::dupeColumns.last());
+    assert(qso::hisCall.of(rebuilt) == boxes[9]);
+
+    const CorrectionBoxes shown = correctionBoxes(take(input), line);
+    const CorrectionBoxes typed = typedOver(shown, input);
+    const Correction result = corrected(line, shown, typed);
+    assert(staysOneContact(result.line, line));
+    std::string others = result.line;
+    for (std::size_t i = 0; i < typed.size(); ++i) {
+        const Column column = correctionFields[i].column;
+        if (typed[i] == shown[i])
+            continue;
+        assert(trim(column.of(result.line)) == trim(left(tidied(typed[i]), column.width)));
+        others = withField(others, column, column.of(line));
+    }
+    assert(others == leftAligned(line, length(others)));
+    assert(corrected(result.line, result.boxes, result.boxes).line == result.line);
+}
+
+// A radio's reply, in pieces: each family reads a frequency that can be logged, or none and says
+// so.
+void radioReply(std::string input) {
+    const Radio& radio = radios().at(choice(input, radios().size()));
+    const int pieces = 1 + static_cast<int>(choice(input, 40));
+    FakeSerialPort port;
+    for (int query = 0; query < radio.queries; ++query)
+        port.answers.push_back({radio.query, input, 1, pieces});
+    const auto [outcome, mhz, message] = readFrequency(settingsFor(radio), port);
+    assert(port.waited() <= 2000 * radio.queries);
+    assert((outcome == ReadOutcome::read) == !mhz.empty());
+    assert(!mhz.empty() || !message.text.empty());
+    const std::size_t point = mhz.find('.');
+    assert(mhz.empty() || ((point == 1 || point == 2) && mhz.size() == point + 4 &&
+                           isLoggableKhz(khzField(completedFrequency(mhz)))));
+}
+
+// One of the club's lists, merged into any roster: whoever is on the list is found afterwards,
+// and merging it once more changes nothing.
+void rosterImport(std::string input) {
+    const MemberList list = choice(input, 2) == 0 ? MemberList::data : MemberList::members;
+    const std::string before = take(input);
+    disk.write(std::string(memberListFile), input);
+    for (const std::string_view name : rosterFiles)
+        disk.write(std::string(name), before);
+    int added = 0;
+    const auto import = [&] {
+        added = importMembers(files, list, memberListFile, [](auto&) { return true; }).added;
+        std::string merged;
+        for (const std::string_view name : rosterFiles)
+            merged += std::string(name) + '\n' + files.read(name);
+        return merged;
+    };
+    const std::string once = import();
+    assert(import() == once && added == 0);
+
+    Roster roster(files);
+    MemberListReader reader(list);
+    for (LineReader lines(input); !lines.atEnd();) {
+        if (reader.read(lines.next()) != ListLine::member)
+            continue;
+        const std::string call(trim(member::call.of(reader.record())));
+        assert(length(reader.record()) == member::width);
+        assert(call.empty() || roster.findByCall(call) ||
+               call.find_first_not_of("0123456789/ABCDEFGHIJKLMNOPQRSTUVWXYZ") != call.npos);
+    }
+}
+
+// The columns of the first record that is wanted; "nobody" when there is none.
+template <typename Wanted>
+std::string firstRecord(std::string_view bytes, Wanted wanted) {
+    for (ItemReader reader(bytes); !reader.atEnd();)
+        if (const std::string_view record = reader.next(); wanted(record))
+            return std::string(left(record, member::width));
+    return "nobody";
+}
+
+// Any text in the call box, looked up in any roster file: the lookups find what a plain look
+// through the file finds.
+void rosterLookup(std::string input) {
+    const std::string typed = take(input);
+    for (const std::string_view name : rosterFiles)
+        calls.remove((disk.path() / name).string());
+    disk.write(std::string(rosterFiles.at(rosterFileOf(typed))), input);
+    Roster roster(files);
+    const auto found = roster.findByCall(typed);
+    assert((found ? found->call + found->number + found->name + found->state : "nobody") ==
+           firstRecord(input, [&](auto record) { return trim(member::call.of(record)) == typed; }));
+
+    const std::string key = numberKey(upper(trim(typed)));
+    const NumberMatch match = roster.findByNumber(typed);
+    assert((match.outcome == NumberLookup::notANumber) == (countCapitals(upper(typed)) > 1));
+    const std::string record = firstRecord(input, [&](auto text) {
+        return !key.empty() && midToEnd(text, member::number.first).starts_with(key);
+    });
+    assert(match.outcome == NumberLookup::notANumber ||
+           (match.outcome == NumberLookup::found ? match.call : "nobody") ==
+               left(record, member::call.width));
+    const std::string number = normalisedNumber(typed);
+    assert(normalisedNumber(number) == number && numberKey(number) == numberKey(typed));
+}
+
+// The start page shows what was read and hands back what its lists can hold.
+OperatingSettings throughTheStartPage(OperatingSettings settings) {
+    const auto choose = [](std::string& value, const std::vector<ListEntry>& list,
+                           std::string_view otherwise = noneSetting) {
+        value = list[static_cast<std::size_t>(positionOf(list, value, otherwise))].stored;
+    };
+    choose(settings.rig, rigList());
+    choose(settings.comPort, portList());
+    choose(settings.baud, baudList());
+    choose(settings.civAddress, civList());
+    choose(settings.gmtOffset, offsetList(), "0");
+    choose(settings.dupeMode, dupeModeList(), "NO");
+    if (settings.contestCode != contestWes && settings.contestCode != contestK3y)
+        settings.contestCode = contestSks;
+    return storedSettings(settings);
+}
+
+// A settings file, taken through the start page's lists and START: what START saved is what the
+// next start reads.
+void settings(std::string input) {
+    files.rewrite(configurationFile, input);
+    bool loaded = false;
+    const auto error = errorOf([&] {
+        const OperatingSettings settings = loadSettings(files);
+        loaded = true;
+        saveSettings(files, throughTheStartPage(settings));
+    });
+    assert(!error || *error == (loaded ? ErrorCode::invalidCall : ErrorCode::inputPastEnd));
+    if (error)
+        return;
+    const std::string saved = files.read(configurationFile);
+    saveSettings(files, throughTheStartPage(loadSettings(files)));
+    assert(files.read(configurationFile) == saved);
+}
+
+struct Target {
+    std::string_view name;
+    void (*run)(std::string);
+};
+
+constexpr Target targets[] = {{"adif", adif},
+                              {"contact", contact},
+                              {"itemreader", itemReader},
+                              {"log", log},
+                              {"logedit", logEdit},
+                              {"radioreply", radioReply},
+                              {"rosterimport", rosterImport},
+                              {"rosterlookup", rosterLookup},
+                              {"score", score},
+                              {"settings", settings},
+                              {"standings", standings}};
+
+} // namespace
+} // namespace vantrel::test
+
+// What the fuzzing engine calls, for the target that the environment names.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const char* const name = std::getenv("VANTREL_FUZZ_TARGET");
+    for (const vantrel::test::Target& target : vantrel::test::targets)
+        if (name != nullptr && target.name == name) {
+            target.run(std::string(data, data + size));
+            return 0;
+        }
+    std::fputs("VANTREL_FUZZ_TARGET names no target\n", stderr);
+    std::abort();
+}

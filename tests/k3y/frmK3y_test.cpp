@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+// The event's screens: dupe question, tag, call area and standings.
+#include "log/shortlog.h"
+#include "support/qt/formharness.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTest>
+
+#include <cerrno>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace vantrel::test {
+namespace {
+
+constexpr const char* mainPage = "frmVantrelMain";
+constexpr const char* startPage = "frmVantrelStart";
+constexpr const char* dupeBox = "frmCheckDupeK3Y";
+constexpr const char* tagBox = "frmK3Ybox";
+constexpr const char* areaPage = "frmVantrelCallArea";
+constexpr const char* areas = "frmK3YStandings";
+constexpr const char* regions = "frmK3YStandings2";
+
+std::string eventLog(const std::string& contacts) {
+    return logOf({&Fields::hisCall, &Fields::frequency, &Fields::hisNumber, &Fields::marker},
+                 contacts);
+}
+
+class K3yEvent : public ::testing::Test, protected FormHarness {
+protected:
+    K3yEvent() {
+        module.settings = {"W1ABC", "K3Y",  "0",    "None", "JOHN",    "MA", "1234T",
+                           "None",  "None", "None", "K3Y",  "K3Y.CBR", "",   "YES"};
+    }
+    void openMainPage(const std::string& contacts) {
+        folder.write("K3Y.CBR", eventLog(contacts));
+        screens.open(Screen::main);
+        settle();
+    }
+    void pressButton(const char* page, const char* button) {
+        click(page, button);
+        settle();
+    }
+    void logAgain() {
+        const char* typed[][2] = {
+            {"Text2", "GB0SKC"}, {"Text3", "TOM"}, {"Text4", "MA"}, {"Text5", "77T"}};
+        for (const auto& [box, text] : typed)
+            type(mainPage, box, text);
+        pressButton(mainPage, "Command3");
+        EXPECT_TRUE(form(dupeBox)->isModal());
+    }
+    std::string boxes() const {
+        return shown(mainPage, "Text2") + shown(mainPage, "Text3") + shown(mainPage, "Text4") +
+               shown(mainPage, "Text5");
+    }
+    // A page's row texts, its filled cells and what they show, and the total.
+    std::string filled(const char* page) const {
+        std::string texts;
+        for (const QLabel* label : form(page)->findChildren<QLabel*>())
+            if (label->text().startsWith(u"K3Y/"))
+                texts += label->text().toStdString() + ' ';
+        for (const QLineEdit* cell : form(page)->findChildren<QLineEdit*>())
+            if (cell->palette().color(QPalette::Base) == QColor(Qt::blue) &&
+                cell->palette().color(QPalette::Text) == QColor(Qt::white))
+                texts += cell->objectName().toStdString() + '=' + cell->text().toStdString() + "; ";
+        return texts + shown(page, "Label2");
+    }
+};
+
+TEST_F(K3yEvent, ADupeIsLoggedOrDroppedAtTheOperatorsWord) {
+    const std::string worked = "GB0SKC 14060 77T K3Y/EU";
+    openMainPage(worked);
+    for (const std::string number : {"78T", "77T"}) { // only the same operator is a dupe
+        folder.write("SKSDB5.TXT", "GB0SKC    " + number + "       TOM       MA \r\n");
+        type(mainPage, "Text2", "GB0SKC");
+        if (number == "77T")
+            messages.expect(" <<<<<< THIS IS A DUPLICATE QSO >>>>>> ");
+        press(mainPage, "Text2", Qt::Key_Return);
+    }
+    sound.alarms = 0;
+    module.marker = "K3Y/EU";
+    const std::function<void()> ways[] = {[&] { click(dupeBox, "Command1"); },
+                                          [&] { press(dupeBox, "Command1", Qt::Key_Escape); },
+                                          [&] { form(dupeBox)->close(); }};
+    for (const auto& leave : ways) {
+        logAgain();
+        leave();
+        settle();
+        EXPECT_FALSE(isOpen(dupeBox));
+        EXPECT_EQ(folder.read("K3Y.CBR"), eventLog(worked));
+        EXPECT_EQ(boxes(), "    ");
+        EXPECT_EQ(QApplication::focusWidget(), control(mainPage, "Text2"));
+    }
+    EXPECT_EQ(sound.alarms, 3);
+    click(mainPage, "Command12"); // AUDIO OFF
+    logAgain();
+    EXPECT_EQ(sound.alarms, 3);
+    // The box stays until the line is on the disk.
+    calls.failAt(Call::sync, 1, ENOSPC);
+    messages.expect("Run-time error 61: Disk full");
+    pressButton(dupeBox, "Command2");
+    calls.heal();
+    EXPECT_EQ(folder.read("K3Y.CBR"), eventLog(worked));
+    calls.failAt(Call::write, 2, ENOSPC); // the worked stations
+    messages.expect("Run-time error 61: Disk full");
+    pressButton(dupeBox, "Command2");
+    EXPECT_FALSE(isOpen(dupeBox));
+    EXPECT_EQ(folder.read("K3Y.CBR"), eventLog(worked + ";GB0SKC 14050 77T DUPE"));
+    EXPECT_EQ(boxes(), "");
+    EXPECT_EQ(module.marker, "K3Y/EU"); // for the next contact
+}
+
+TEST_F(K3yEvent, EachTagHoldsAtOnceAndOpeningTheBoxAgainClearsItButNotTheTag) {
+    openMainPage("");
+    const char* tags[] = {"K3Y/EU", "K3Y/AF", "K3Y/AS", "K3Y/OC", "K3Y/NA", "K3Y/SA", "      "};
+    for (int choice = 6; choice >= 0; --choice) {
+        click(mainPage, "Option1");
+        for (const QRadioButton* option : form(tagBox)->findChildren<QRadioButton*>())
+            EXPECT_FALSE(option->isChecked());
+        click(tagBox, ("Option" + std::to_string(choice + 1)).c_str());
+        const std::string tag = tags[choice];
+        EXPECT_EQ(module.marker, tag);
+        EXPECT_EQ(shown(mainPage, "Label23"), choice == 6 ? "   None     " : "-- " + tag + " --");
+        pressButton(tagBox, "Command1");
+        EXPECT_FALSE(isOpen(tagBox));
+    }
+}
+
+TEST_F(K3yEvent, ACallAreaGivesTheLogsNameUntilItIsAborted) {
+    clock.time = {2010, 1, 5, 20, 0, 0};
+    screens.open(Screen::start);
+    type(startPage, "Text2", "kh6/w1a/4");
+    type(startPage, "Text9", "MINE.CBR");
+    choose(startPage, "Combo5", "5"); // not saved yet: 01:00 UTC the next day
+    click(startPage, "Option4");
+    auto* list = control<QAbstractItemView>(areaPage, "List1");
+    std::istringstream codes("01 02 03 04 05 06 07 08 09 00 KH KL KP NA SA EU AF AS OC");
+    std::string code;
+    for (int row = 0; codes >> code; ++row) {
+        list->scrollTo(list->model()->index(row, 0));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          list->visualRect(list->model()->index(row, 0)).center());
+        EXPECT_TRUE(shown(areaPage, "Label3").ends_with(code)) << code;
+        EXPECT_EQ(shown(startPage, "Text9"), "2010-01-06-K3Y-" + code + "-KH6-W1A-4.CBR");
+    }
+    EXPECT_EQ(shown(areaPage, "Label3"), "Oceania\t   OC");
+    pressButton(areaPage, "Command2");
+    EXPECT_FALSE(isOpen(areaPage));
+    EXPECT_EQ(shown(startPage, "Text9"), "MINE.CBR");
+}
+
+// The first contact stays in its cell, be it a dupe; other bands and other calls fill nothing.
+// Area 5 on 15M counts until 20M is worked, and never afterwards.
+TEST_F(K3yEvent, StandingsOfTheAreasFillACellOnEachBand) {
+    openMainPage("K3Y/1 1820; K3Y/2 3550; K3Y/3 7030 3T; K3Y/3 7045 33T; K3Y/4 10120 44 DUPE;"
+                 "K3Y/5 21050 1T; K3Y/5 21051 2T; K3Y/5 14050 3T; K3Y/5 21052 4T; K3Y/6 18080;"
+                 "K3Y/7 21050; K3Y/8 24910; K3Y/9 28050; K3Y/0 28050 NONE; QSO: 7030;"
+                 "K3Y/1 50100; K3Y/1 5332; K3Y/1 -; K3Y/EU; K3Y; K3Y/1/P; W1AB1; K3Y/X; k3y/1");
+    pressButton(mainPage, "Command11");
+    EXPECT_EQ(filled(areas),
+              "K3Y/1 K3Y/2 K3Y/3 K3Y/4 K3Y/5 K3Y/6 K3Y/7 K3Y/8 K3Y/9 K3Y/0 Text1=1234  ; "
+              "Text11=1234  ; Text21=3T    ; Text31=44    ; Text41=3T    ; Text43=2T    ; "
+              "Text51=1234  ; Text61=1234  ; Text71=1234  ; Text81=1234  ; Text90=NONE  ; "
+              "TOTAL:  12");
+    // The pages take each other's place, and each reads the log anew.
+    pressButton(areas, "Command2");
+    EXPECT_FALSE(isOpen(areas));
+    folder.write("K3Y.CBR", eventLog("K3Y/1 1820 1T"));
+    pressButton(regions, "Command2");
+    EXPECT_FALSE(isOpen(regions));
+    EXPECT_THAT(filled(areas), ::testing::EndsWith("K3Y/0 Text1=1T    ; TOTAL:  1"));
+    pressButton(areas, "Command1");
+    EXPECT_FALSE(isOpen(areas));
+    EXPECT_EQ(QApplication::focusWidget(), control(mainPage, "Text2"));
+    std::filesystem::remove(folder.path() / "K3Y.CBR");
+    messages.expect("Run-time error 53: File not found");
+    pressButton(mainPage, "Command11");
+    EXPECT_THAT(filled(areas), ::testing::EndsWith("K3Y/0 "));
+}
+
+// Outlying areas are told by their calls and count once, then for a continent; continents are
+// told by the tag, and a call that ends in one takes the line's end for it. Alaska on 160M counts
+// until 80M is worked.
+TEST_F(K3yEvent, StandingsOfTheRegionsAreOutlyingAreasAndContinents) {
+    openMainPage("K3Y/KH6 14050 1T K3Y/OC; K3Y/KH6 14051 2T K3Y/OC; K3Y/KH6 14052 3T K3Y/OC;"
+                 "K3Y/KL7 1820 1T; K3Y/KL7 1821 2T; K3Y/KL7 3550 3T; K3Y/KL7 1822 4T;"
+                 "K3Y/KP4 21040 4T; K3Y/KH 28040 5T; K3Y/1; K3Y/K; K3Y/KX; W1ABC/KH; W1A/KH;"
+                 "K3Y/KH 50100; VK2SKC 28040 1T K3Y/OC; GB0SKC 7030 1T K3Y/EU;"
+                 "K3Y/SA 14050 1T K3Y/SA; K3Y/AF 1820 1T K3Y/AS; EA8ABC 3550 1T K3Y/AF;"
+                 "VE3SKC 10110 1T K3Y/NA; G3ABC/EU 21050 1T XXXXSA; G3ABC 7030 1T XXXXSA;"
+                 "K3Y/EU; K3Y/EU 14050 1T DUPE; GB0SKC 14050 1T DUPE; QSOEU");
+    screens.open(Screen::standings2);
+    EXPECT_EQ(filled(regions),
+              "K3Y/KH K3Y/KL K3Y/KP K3Y/NA K3Y/SA K3Y/EU K3Y/AF K3Y/AS K3Y/OC Text115=1T    ; "
+              "Text119=5T    ; Text221=2T    ; Text222=3T    ; Text337=4T    ; Text444=VE3SKC; "
+              "Text555=K3Y/SA; Text557=G3ABC/EU; Text663=GB0SKC; Text772=EA8ABC; Text881=K3Y/AF; "
+              "Text995=K3Y/KH6; Text999=VK2SKC; TOTAL:  14");
+}
+
+} // namespace
+} // namespace vantrel::test

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+// What the program finds on a machine: files by names without case, folders and drives, the
+// folder of its own files, the device behind a port.
+#include "base/fixedtext.h"
+#include "platform/filenames.h"
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/programfolder.h"
+#include "platform/serialnames.h"
+#include "platform/serialport.h"
+#include "platform/systemcalls.h"
+#include "support/errors.h"
+#include "support/tempfolder.h"
+
+#include <memory>
+#include <tuple>
+#include <unistd.h>
+
+namespace vantrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+// A machine made of a few files.
+struct Machine : ::testing::Test {
+    void makeFolders(std::initializer_list<const char*> names) const {
+        for (const char* name : names)
+            fs::create_directories(at(name));
+    }
+    void link(const char* target, const char* name) const { fs::create_symlink(target, at(name)); }
+    std::string at(const std::string& name) const { return folder.string() + '/' + name; }
+
+    TempFolder folder;
+};
+
+TEST_F(Machine, NamesAreFoundWithoutCaseAndNewOnesStayAsGiven) {
+    makeFolders({"Logs"});
+    for (const char* name : {"Logs/x.cbr", "a.cbr", "A.CBR", "\xE9.cbr", "\xC3\xA9.adi"})
+        folder.write(name, "");
+    link("gone", "Link.cbr"); // an entry all the same
+    const std::pair<const char*, const char*> rows[] = {
+        {"LOGS/X.CBR", "Logs/x.cbr"},
+        {"LOGS\\//\\X.CBR", "Logs/x.cbr"},
+        {"\\LOGS\\X.CBR", "Logs/x.cbr"},
+        {"LOGS\\New.CBR", "Logs/New.CBR"},
+        {"Gone\\New.CBR", "Gone/New.CBR"},
+        {"LOGS\\X.CBR\\New.CBR", "Logs/x.cbr/New.CBR"},
+        {"LINK.CBR", "Link.cbr"},
+        {"a.cbr", "a.cbr"},
+        {"A.CBR", "A.CBR"},
+        {"\xC9.CBR", "\xC3\x89.CBR"}, // not the file whose name is no UTF-8 at all
+        {"\xC9.ADI", "\xC3\xA9.adi"},
+    };
+    for (const auto& [name, found] : rows)
+        EXPECT_EQ(resolveName(folder.string(), name), at(found)) << name;
+    EXPECT_EQ(resolveName("/nowhere", upper(at("logs"))), at("Logs")) << "from the top";
+    EXPECT_RUNTIME_ERROR(resolveName(folder.string(), "a.CBR\\NEW"), ErrorCode::pathFileAccess,
+                         AllOf(HasSubstr(at("a.cbr")), HasSubstr(at("A.CBR"))));
+}
+
+TEST(NativeText, EveryLatin1CharacterComesBackAndOthersAreAQuestionMarkEach) {
+    std::string all;
+    for (int byte = 1; byte < 256; ++byte)
+        all += static_cast<char>(byte);
+    EXPECT_EQ(latin1Text(nativeText(all)), all);
+    const std::pair<const char*, const char*> rows[] = {
+        {"a\xE2\x82\xAC z", "a? z"},           // euro sign
+        {"\xF0\x9F\x93\xBB\xC3\xA9", "?\xE9"}, // four bytes, then two
+        {"\xC3", "?"},                         // cut off
+        {"\xE9t", "?t"},                       // a bare Latin-1 byte
+        {"\xC5\x81\xC0\xAF", "??"},            // L with stroke, an overlong slash
+    };
+    for (const auto& [native, shown] : rows) {
+        EXPECT_EQ(latin1Text(native), std::nullopt) << shown;
+        EXPECT_EQ(shownText(native), shown);
+    }
+}
+
+TEST_F(Machine, ContentIsFoldersAndRegularFilesInOrderHiddenOnesOut) {
+    makeFolders({"logs", "Old", ".git"});
+    for (const char* name : {"b.CBR", "A.CBR", ".secret", "a.CBR"})
+        folder.write(name, "");
+    link("logs", "link");
+    link("A.CBR", "linked.CBR");
+    link("nowhere", "broken");
+    link("/dev/null", "device");
+    const FolderContent content = SystemFolders().content(folder.string());
+    EXPECT_THAT(content.folders, ElementsAre("link", "logs", "Old"));
+    EXPECT_THAT(content.files, ElementsAre("A.CBR", "a.CBR", "b.CBR", "linked.CBR"));
+    EXPECT_RUNTIME_ERROR(SystemFolders().content(at("gone")), ErrorCode::pathNotFound,
+                         HasSubstr("/gone"));
+}
+
+TEST_F(Machine, DrivesAreTheTopAndTheVolumesMountedOnFolders) {
+    makeFolders({"stick", "my disk", "nas", "image", "memory"});
+    const std::pair<const char*, std::string> mounts[] = {
+        {"/dev/sda1", "/"},          {"/dev/sdb1", at("stick")},       {"tmpfs", at("memory")},
+        {"/dev/sdb1", at("stick")},  {"/dev/sdc1", at("my\\040disk")}, {"host:/y", at("nas")},
+        {"/dev/loop3", at("image")}, {"/dev/sdd1", at("gone")}};
+    std::string table;
+    for (const auto& [device, place] : mounts)
+        table += std::string(device) + ' ' + place + " ext4 rw 0 0\n";
+    folder.write("mounts", table + "\nshort\n");
+    EXPECT_THAT(SystemFolders(at("mounts")).drives(),
+                ElementsAre("/", at("my disk"), at("nas"), at("stick")));
+    EXPECT_THAT(SystemFolders(at("missing")).drives(), ElementsAre("/"));
+}
+
+// --- The program's own folder --------------------------------------------------------------
+
+struct ProgramFolder : Machine {
+    ProgramFolder() {
+        makeFolders({"bin", "carried", "share/applications"});
+        fs::permissions(folder.path(), fs::perms::all); // nobody makes his own folder in it
+    }
+    // Nothing is read-only to the system's administrator, so he becomes nobody meanwhile.
+    std::string chosenWhenReadOnly() const {
+        fs::permissions(at("bin"), fs::perms(0555));
+        const std::shared_ptr<void> afterwards(nullptr, [this](void*) {
+            std::ignore = ::setresuid(0, 0, 0);
+            fs::permissions(at("bin"), fs::perms(0755));
+        });
+        std::ignore = ::setresuid(65534, 65534, 0);
+        return chooseProgramFolder(at("bin"), own);
+    }
+
+    std::string own = at("home/share/Vantrel");
+};
+
+TEST_F(ProgramFolder, CarriedAlongKeepsTheFilesAndReadOnlyWithDataIsNoEmptyWorldElsewhere) {
+    EXPECT_EQ(chooseProgramFolder(at("bin"), own), at("bin"));
+    for (const char* data : {"bin/vantrel.cfg", "bin/mylog.cbr"}) {
+        folder.write(data, "");
+        EXPECT_RUNTIME_ERROR(chosenWhenReadOnly(), ErrorCode::permissionDenied,
+                             HasSubstr(at("bin")));
+        fs::remove(at(data));
+    }
+    EXPECT_FALSE(folder.has("home"));
+    EXPECT_EQ(chosenWhenReadOnly(), own);
+    EXPECT_TRUE(fs::is_directory(own));
+}
+
+// The administrator may write among the system's programs. Files of his there would stop
+// everybody else's start, and ones that lie there already must not.
+TEST_F(ProgramFolder, InstalledForAllGivesEachUserHisOwnWhateverHeMayWrite) {
+    folder.write("share/applications/org.vantrel.Vantrel.desktop", "[Desktop Entry]\n");
+    EXPECT_EQ(chooseProgramFolder(at("carried"), own), at("carried"));
+    folder.write("home", "a file in the way");
+    EXPECT_RUNTIME_ERROR(chooseProgramFolder(at("bin"), own), ErrorCode::pathFileAccess,
+                         HasSubstr(own));
+    fs::remove(at("home"));
+    folder.write("bin/Vantrel.CFG", "");
+    EXPECT_EQ(chooseProgramFolder(at("bin"), own), own);
+    EXPECT_EQ(chosenWhenReadOnly(), own);
+}
+
+TEST_F(ProgramFolder, IsHeldByOneProgramUntilItEnds) {
+    for (int i = 0; i < 2; ++i) {
+        const FolderLock first(folder.string());
+        EXPECT_TRUE(first.held());
+        EXPECT_FALSE(FolderLock(folder.string()).held());
+    }
+    EXPECT_RUNTIME_ERROR(FolderLock(at("gone")), ErrorCode::pathFileAccess, HasSubstr("gone"));
+}
+
+// --- Serial ports ------------------------------------------------------------------------
+
+struct SerialNames : Machine {
+    SerialNames() { makeFolders({"program", "by-id", "tty", "dev"}); }
+
+    // A device node as udev and the kernel list it.
+    void plug(const std::string& tty, const std::string& byId = {}) const {
+        folder.write("dev/" + tty, "");
+        fs::create_directories(at("tty/" + tty + "/device"));
+        if (!byId.empty())
+            link(("../dev/" + tty).c_str(), ("by-id/" + byId).c_str());
+    }
+    // The device's name, behind its links.
+    std::string shown(std::string_view port) const {
+        return fs::path(serialDeviceShown(files, port, {at("by-id"), at("tty"), at("dev")}))
+            .filename();
+    }
+
+    SystemCalls calls;
+    Files files{at("program"), calls};
+};
+
+TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
+    plug("ttyACM0", "usb-Z_radio-if00");
+    plug("ttyUSB0", "usb-A_adapter-if00-port0");
+    makeFolders({"tty/tty1"}); // a console
+    plug("ttyS0");
+    folder.write("tty/ttyS0/type", "0\n"); // a place kept free
+    plug("ttyS1");
+    folder.write("tty/ttyS1/type", "4\n");
+    const auto expectPorts =
+        [this](std::initializer_list<std::pair<const char*, const char*>> rows) {
+            for (const auto& [port, device] : rows)
+                EXPECT_EQ(shown(port), device) << port;
+        };
+    expectPorts({{"com1", "ttyUSB0"},
+                 {"com2", "ttyACM0"},
+                 {"com3", "ttyS1"},
+                 {"com4", "no such port"},
+                 {"com10", "no such port"},
+                 {"None", ""},
+                 {"com0", ""},
+                 {"com11", ""},
+                 {"com1x", ""}});
+    // A link in the program's folder goes first.
+    link("../dev/ttyS1", "program/COM1");
+    link("../dev/gone", "program/com2");
+    expectPorts({{"com1", "ttyS1"}, {"com2", "no such port"}});
+    folder.write("program/Com1", "");
+    EXPECT_RUNTIME_ERROR(shown("com1"), ErrorCode::pathFileAccess, HasSubstr("COM1"));
+}
+
+TEST(LineSettingsText, IsTakenApartOrRefused) {
+    const LineSettings line = lineSettings("138400,e,7,2").value();
+    EXPECT_EQ(std::tuple(line.baud, line.parity, line.dataBits, line.stopBits),
+              std::tuple(138400, 'e', 7, 2));
+    for (const char* bad : {"None,n,8,1", ",n,8,1", "9600,n,8", "9600,x,8,1", "9600,n,9,1",
+                            "9600,n,8,3", "9600,n,8,1,", "9600;n,8,1", "9999999,n,8,1", ""})
+        EXPECT_FALSE(lineSettings(bad)) << bad;
+}
+
+} // namespace
+} // namespace vantrel::test

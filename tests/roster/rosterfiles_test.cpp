@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+// The five roster files: brought up to date from the club's lists, sorted, and looked up in.
+#include "base/fixedtext.h"
+#include "platform/files.h"
+#include "platform/systemcalls.h"
+#include "roster/clublist.h"
+#include "roster/rosterimport.h"
+#include "roster/rosterlookup.h"
+#include "roster/rostersort.h"
+#include "support/errors.h"
+#include "support/tempfolder.h"
+
+namespace vantrel::test {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using Counts = std::array<int, 3>; // members added and fixed, lines skipped
+
+class RosterFiles : public ::testing::Test {
+protected:
+    Counts import(MemberList list, const std::string& bytes) {
+        folder.write("list.txt", bytes);
+        const auto result =
+            importMembers(files, list, "list.txt", [](const ImportStep&) { return true; });
+        return {result.added, result.fixed, result.skipped};
+    }
+
+    TempFolder folder;
+    SystemCalls calls;
+    Files files{folder.string(), calls};
+};
+
+std::string record(const std::string& call, const std::string& number) {
+    return leftAligned(call, 10) + leftAligned(number, 10) + "JOHN      MA \r\n";
+}
+
+TEST_F(RosterFiles, AListRewritesItsMembersInPlaceAndAddsTheOthersAtTheEnd) {
+    const std::vector<ListedMember> members{
+        {"12C", "  k1abc", "christopher j", "mass"},
+        {"12S", "K1LONGCALL/P", " Ann", ""},
+        {" 12345t", "K3C", "   Maximilian", " G"}, // the blanks cost him his last letters
+        {"", "K1AB", "Zo\xEB\xDF", "MA"}, // the record there is too short for a call's columns
+        {"1", "aa1a", "", "ny"},
+        {"120", "N7N", "Ned", "ME"},
+        {"7T", "W1AW", "Hiram", "CT"},
+        {"6", "W2OLD", "Olga", "NY"}, // his number was right
+        {"25000", "ve3abc", "Vera", "ONT"},
+        {"12T", "K1ABC", "Chris", "MA"}, // once more, in his place
+    };
+    std::string list;
+    for (std::size_t i = 0; i < members.size(); ++i)
+        list += dataLine(members[i], i) + (i % 2 == 0 ? "\r\n" : "\n");
+    // Only the lines of this file are padded.
+    const std::string longer = "W9LONG    0005      LENNY     IL " + std::string(210, '.') + "\r\n";
+    folder.write("SKSDB2.TXT", "K1AAA     0001      ANN       RI \r\n"
+                               "K1ABC     0123C     JOHN      MA and more\n\r\n"
+                               "K1ABC     0999      DOUBLE    MA \r\nK1AB");
+    folder.write("SKSDB4.TXT", "W1\r\n" + longer + "W2OLD     0006      OLD       NY ");
+    EXPECT_EQ(import(MemberList::data, list), (Counts{7, 2, 0}));
+    EXPECT_EQ(folder.read("SKSDB1.TXT"), "AA1A      0001                NY \r\n");
+    EXPECT_EQ(folder.read("SKSDB2.TXT"), "K1AAA     0001      ANN       RI \r\n"
+                                         "K1ABC     0012T     CHRIS     MA \r\n\r\n"
+                                         "K1ABC     0999      DOUBLE    MA \r\nK1AB\r\n"
+                                         "K1LONGCALL012S      ANN          \r\n"
+                                         "K3C       12345T    MAXIMIL   G  \r\n"
+                                         "K1AB                ZO\xCB\xDF      MA \r\n");
+    EXPECT_EQ(folder.read("SKSDB3.TXT"), "N7N       0120      NED       ME \r\n");
+    EXPECT_EQ(folder.read("SKSDB4.TXT"),
+              leftAligned("W1", 232) + "\r\n" + longer +
+                  leftAligned("W2OLD     0006      OLGA      NY ", 232) + "\r\n" +
+                  leftAligned("W1AW      0007T     HIRAM     CT ", 232) + "\r\n");
+    EXPECT_EQ(folder.read("SKSDB5.TXT"), "VE3ABC    25000     VERA      ONT\r\n");
+}
+
+TEST_F(RosterFiles, HeadersAndBlankLinesAreNobodyAndShortLinesAreCounted) {
+    const std::string town(178, 'Q'); // the last separator wanted is in column 200
+    const std::string lines =
+        "SKCCNR|A|B|C|D|E|F|G|H|I|J|\r\n\r\n  \r\n1|K1SHORT|JOHN|Q|MA|||||\r\n"
+        "2|K1FAR|JOHN|Q" +
+        town + "|MA||||||\r\n3|K1FIT|JOHN|" + town + "|MA||||||";
+    EXPECT_EQ(import(MemberList::data, lines), (Counts{1, 0, 2}));
+    EXPECT_EQ(import(MemberList::members,
+                     "skccnr|call|name|city|state|ccnr\r\n123|K1A|JOHN|X|MA|123T\r\n"
+                     "124|K1B|JOHN|X|MA|124C|\r\n125|K1C|JOHN|X|MA|\r\n126|K1D|JOHN|X|MA\r\n"
+                     "skccnr|call|name|city|state|date issued|ccnr\r\n"
+                     "127|K1E|JOHN|X|MA|2010-01-02\r\n127|K1B|JOHN|X|MA|2010-01-02|5"),
+              (Counts{3, 1, 2}));
+    EXPECT_EQ(folder.read("SKSDB2.TXT"), record("K1FIT", "0003") + record("K1A", "0123T") +
+                                             record("K1B", "0005") + record("K1C", ""));
+}
+
+TEST_F(RosterFiles, WhatDoesNotFitATableIsErrorNineAndTouchesNoFile) {
+    const std::string list(20000, '\n');
+    for (const auto& [name, lines] : {std::pair{"SKSDB1.TXT", 5000U},
+                                      {"SKSDB2.TXT", 10000U},
+                                      {"SKSDB3.TXT", 5000U},
+                                      {"SKSDB4.TXT", 7000U},
+                                      {"SKSDB5.TXT", 5000U}}) {
+        folder.write(name, list.substr(0, lines));
+        EXPECT_EQ(import(MemberList::data, list), (Counts{0, 0, 0}));
+        folder.write(name, list.substr(0, lines + 1U));
+        EXPECT_RUNTIME_ERROR(import(MemberList::data, ""), ErrorCode::subscriptOutOfRange,
+                             AllOf(HasSubstr(name), HasSubstr(std::to_string(lines))));
+        EXPECT_EQ(folder.read(name), list.substr(0, lines + 1U));
+        folder.write(name, "");
+    }
+    EXPECT_RUNTIME_ERROR(import(MemberList::data, list + "\n"), ErrorCode::subscriptOutOfRange,
+                         AllOf(HasSubstr("list.txt"), HasSubstr("20000")));
+}
+
+TEST_F(RosterFiles, AreSortedByTheNumberWhateverItsLetterEqualOnesInPlace) {
+    import(MemberList::data, ""); // makes all five
+    const std::string wide = leftAligned("W1A       0001", 232);
+    const std::string equal = record("K1", "0123T") + record("K3", "0123") + record("K4", "0123C");
+    folder.write("SKSDB1.TXT", record("K9", "12345S") + equal + record("ABCDEFGHI1", "0002") +
+                                   wide + "\n" + record("K5", "X9") + "K6        0002");
+    folder.write("SKSDB5.TXT", std::string(8000, '\n'));
+    sortRosterFiles(files);
+    // A call of ten characters lends its last one to the key.
+    EXPECT_EQ(folder.read("SKSDB1.TXT"), record("K5", "X9") + wide + "\r\nK6        0002\r\n" +
+                                             equal + record("ABCDEFGHI1", "0002") +
+                                             record("K9", "12345S"));
+    folder.write("SKSDB5.TXT", std::string(8001, '\n'));
+    EXPECT_RUNTIME_ERROR(sortRosterFiles(files), ErrorCode::subscriptOutOfRange,
+                         AllOf(HasSubstr("SKSDB5.TXT"), HasSubstr("8000")));
+    std::filesystem::remove(folder.path() / "SKSDB5.TXT");
+    EXPECT_RUNTIME_ERROR(sortRosterFiles(files), ErrorCode::fileNotFound, HasSubstr("SKSDB5.TXT"));
+}
+
+TEST_F(RosterFiles, AreLookedUpByCallAndByNumberAsTheyAreNow) {
+    Roster roster(files);
+    EXPECT_FALSE(roster.findByCall("K1ABC"));
+    // What a comma ends is a record, and a call is looked for in 8,000 of them.
+    folder.write("SKSDB2.TXT", "K1LONG    01234     FIVE      MA \r\n" + record("K1ABC", "0123T") +
+                                   record("K1ABC", "9999") + "K1CCC\r\n" + std::string(7995, '\n') +
+                                   "K1HALF    9001      A,B\r\nK1OVER    0777      OVER      MA ");
+    folder.write("SKSDB5.TXT", record("VE3ABC", "0123") + "VE3SSS    123S      S  ON \r\n" +
+                                   record("VE3SEV", "0007C"));
+    std::string found;
+    for (const char* typed : {"K1ABC", "K1CCC", "K1HALF", "B", "K1OVER", "k1abc", "K1ABC "})
+        if (const auto member = roster.findByCall(typed))
+            found += member->call + "|" + member->number + "|" + member->name + "|" +
+                     member->state + "\n";
+    EXPECT_EQ(found, "K1ABC     |0123T     |JOHN      |MA \nK1CCC|||\nK1HALF    |9001      |A|\n");
+    found.clear();
+    for (const char* typed : {"123", "0123c", " 7t ", "123s", "777", "0123S", "T", "AB12"})
+        found += typed + ("=" + roster.findByNumber(typed).call) + "\n";
+    EXPECT_EQ(found, "123=K1LONG    \n0123c=K1LONG    \n 7t =VE3SEV    \n123s=VE3SSS    \n"
+                     "777=K1OVER    \n0123S=\nT=\nAB12=\n");
+    EXPECT_EQ(roster.findByNumber("AB12").outcome, NumberLookup::notANumber);
+    EXPECT_EQ(roster.findByNumber("T").outcome, NumberLookup::nobody);
+    for (const char* number : {"0124", "0125"}) { // as long, and at the same moment
+        folder.write("SKSDB5.TXT", record("VE3ABC", number));
+        EXPECT_EQ(roster.findByNumber(number).call, "VE3ABC    ");
+    }
+}
+
+} // namespace
+} // namespace vantrel::test

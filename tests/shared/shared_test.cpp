@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "base/fixedtext.h"
+#include "platform/files.h"
+#include "platform/systemcalls.h"
+#include "shared/settings.h"
+#include "shared/utctime.h"
+#include "support/errors.h"
+#include "support/tempfolder.h"
+
+namespace vantrel::test {
+namespace {
+
+TEST(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
+    const TempFolder folder;
+    SystemCalls calls;
+    Files files(folder.string(), calls);
+    saveSettings(files, loadSettings(files)); // there is no file yet
+    EXPECT_EQ(folder.read("Vantrel.CFG"), "\r\nSKS\r\n0\r\nNone\r\n\r\n\r\n\r\nNone\r\nNone\r\n"
+                                          "None\r\nSKS\r\n\r\n\r\nNO\r\n");
+    const std::string stored = "W1ABC\r\nSKSE\r\n-5\r\nHex 6A\r\nJOHN      \r\nMA \r\n1234T \r\n"
+                               "FTdx5000\r\ncom1\r\n38400\r\nA B  C\r\nMY  LOG .CBR\r\n"
+                               "K9SKC     \r\nYES\r\n";
+    saveSettings(files, storedSettings({" w1abc ", "SKSE", "-5", "Hex 6A", " John ", "ma", "1234t",
+                                        "FTdx5000", "com1", "38400", "a,b\r\nC", "my,\"Log\n.cbr",
+                                        "k9skc", "YES"}));
+    EXPECT_EQ(folder.read("Vantrel.CFG"), stored);
+    const OperatingSettings settings = loadSettings(files);
+    EXPECT_EQ(settings.myName + settings.myState + settings.myNumber + settings.bonusStation,
+              "JOHNMA1234TK9SKC");
+    folder.write("Vantrel.CFG", std::string(13, '\n') + "YES"); // empty values are values
+    EXPECT_EQ(loadSettings(files).rig + loadSettings(files).dupeMode, "YES");
+    folder.write("Vantrel.CFG", stored.substr(0, stored.rfind("YES")));
+    EXPECT_RUNTIME_ERROR(loadSettings(files), ErrorCode::inputPastEnd,
+                         folder.string() + "/Vantrel.CFG: line 14 (dupe mode) is missing");
+
+    const std::tuple<std::string OperatingSettings::*, std::string, const char*> rows[] = {
+        {&OperatingSettings::myCall, "W1ABC/QRP/P", "the call is longer"},
+        {&OperatingSettings::myName, "BARTHOLOMEW", "the name is longer"},
+        {&OperatingSettings::myState, "MASS", "the state is longer"},
+        {&OperatingSettings::myNumber, "12345SX", "the SKCC number is longer"},
+        {&OperatingSettings::bonusStation, "K9SKC/QRP/P", "the bonus station is longer"}};
+    for (const auto& [field, value, said] : rows) {
+        OperatingSettings wide;
+        wide.*field = value;
+        EXPECT_RUNTIME_ERROR(storedSettings(wide), ErrorCode::invalidCall,
+                             ::testing::HasSubstr(said));
+        wide.*field = value.substr(1);
+        EXPECT_EQ(storedSettings(wide).*field, value.substr(1));
+    }
+}
+
+TEST(UtcTime, RollsTheDateAsTheLogsHaveAlwaysDone) {
+    const struct {
+        const char* rule;
+        LocalTime local;
+        const char* offset;
+        std::string utc;
+    } rows[] = {
+        {"west: the last hour of the day", {2011, 6, 16, 18, 5, 0}, "5", "2305 2011-06-16"},
+        {"west: midnight is tomorrow", {2011, 6, 8, 19, 0, 0}, " +5 ", "0000 2011-06-09"},
+        {"east: the date stays the local one", {2012, 1, 1, 1, 15, 0}, "-2", "2315 2012-01-01"},
+        {"east: UTC midnight", {2011, 6, 16, 2, 15, 0}, "-2", "0015 2011-06-16"},
+        {"a month's first is month first", {2011, 12, 31, 23, 0, 0}, "2", "0100 01-01-2012"},
+        {"not yet the year's end", {2011, 12, 30, 23, 0, 0}, "2", "0100 2011-12-31"},
+        {"February always has 28 days", {2012, 2, 28, 23, 0, 0}, "2", "0100 03-01-2012"},
+        {"so the 29th has a next day", {2012, 2, 29, 23, 0, 0}, "2", "0100 2012-02-30"},
+        {"an empty offset", {2011, 6, 16, 9, 5, 0}, "", "0905 2011-06-16"},
+    };
+    for (const auto& row : rows) {
+        const UtcTime utc = utcTime(row.local, row.offset);
+        EXPECT_EQ(utc.time + ' ' + utc.date, row.utc) << row.rule;
+    }
+    for (int month = 1; const int days : {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30}) {
+        const UtcTime utc = utcTime({2011, month++, days, 23, 0, 0}, "2");
+        EXPECT_EQ(utc.date, zeroPadded(month, 2) + "-01-2011");
+    }
+}
+
+} // namespace
+} // namespace vantrel::test

@@ -7,6 +7,7 @@
 #include "fakes/fakeclock.h"
 #include "fakes/fakeserialport.h"
 #include "fakes/radios.h"
+#include "k3y/k3ystation.h"
 #include "k3y/standings.h"
 #include "log/logfile.h"
 #include "logedit/correction.h"
@@ -26,7 +27,6 @@
 #include "roster/rosterlookup.h"
 #include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
-#include "screens/main/k3ystation.h"
 #include "screens/main/qsoentry.h"
 #include "screens/main/workedbefore.h"
 #include "screens/start/startlists.h"
@@ -109,8 +109,8 @@ void log(std::string input) {
     const Contacts contacts = contactsIn(input);
     for (const std::string_view line : contacts) {
         const std::string_view call = trimRight(qso::hisCall.of(line));
-        assert(isDuplicate(contacts, call, qso::bandTag.of(line))); // a contact is its own
-        assert(length(call) < 2 || !workedBefore(contacts, call, 1000).empty());
+        assert(!duplicateOf(contacts, call, qso::bandTag.of(line)).empty()); // a contact is its own
+        assert(length(call) < 2 || !workedBefore(contacts, call, "", 1000).empty());
         assert(length(workedLine(line)) <= 70);
         const auto day = contactDay(line);
         assert(!day || day->ok());
@@ -314,7 +314,7 @@ void radioReply(std::string input) {
     assert(!mhz.empty() || !message.text.empty());
     const std::size_t point = mhz.find('.');
     assert(mhz.empty() || ((point == 1 || point == 2) && mhz.size() == point + 4 &&
-                           isLoggableKhz(khzField(completedFrequency(mhz)))));
+                           khzFault(khzField(completedFrequency(mhz))).empty()));
 }
 
 // One of the club's lists, merged into any roster: whoever is on the list is found afterwards,

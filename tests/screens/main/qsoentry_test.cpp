@@ -57,15 +57,19 @@ void expectEach(std::string (*rule)(std::string_view), const Row (&rows)[size]) 
 }
 
 TEST(Frequency, BoxCompletionAndKhzField) {
-    expectEach(frequencyAsEntered,
-               {{"1820", "1.820"},   {"1999", "1.999"},      {"3550", "3.550"},
-                {"7040", "7.040"},   {"10120", "10.120"},    {"14050", "14.050"},
-                {"18080", "18.080"}, {"21050", "21.050"},    {"24900", "24.900"},
-                {"28050", "28.050"}, {"7.0", "7.000"},       {"14.", "14.000"},
-                {"3.5605", "3.560"}, {" 7040 ", "7.040"},    {"1700", "1700"},
-                {"50125", "50125"},  {"14", "14"},           {"", ""},
-                {".", "."},          {"14.05.0", "14.05.0"}, {"14.O50", "14.O50"},
-                {"O.5", "O.5"}});
+    expectEach(frequencyAsEntered, {{"1820", "1.820"},    {"1999", "1.999"},
+                                    {"3550", "3.550"},    {"7040", "7.040"},
+                                    {"10120", "10.120"},  {"14050", "14.050"},
+                                    {"18080", "18.080"},  {"21050", "21.050"},
+                                    {"24900", "24.900"},  {"28050", "28.050"},
+                                    {"7.0", "7.000"},     {"14.", "14.000"},
+                                    {"3.5605", "3.560"},  {"705", "7.050"},
+                                    {"181", "1.810"},     {"14,05", "14.050"},
+                                    {"K,3", "K,3"},       {" 7040 ", "7.040"},
+                                    {"1700", "1700"},     {"50125", "50125"},
+                                    {"14", "14"},         {"", ""},
+                                    {".", "."},           {"14.05.0", "14.05.0"},
+                                    {"14.O50", "14.O50"}, {"O.5", "O.5"}});
     // "7.0400" has one zero too many; the log takes it.
     expectEach(completedFrequency, {{"7", "7.000"},
                                     {"7.", "7.000"},
@@ -79,10 +83,12 @@ TEST(Frequency, BoxCompletionAndKhzField) {
                           {"7.0400", " 7040"},
                           {"50125", "50125"},
                           {"145.500", "145.5"}});
-    for (const char* field : {"145.5", "     ", "QRL  ", "", "7040"})
-        EXPECT_FALSE(isLoggableKhz(field)) << field;
-    for (const char* mhz : {"10.120", "18.080", "24.900"})
-        EXPECT_TRUE(isOutsideSprintBands(mhz)) << mhz;
+    for (const char* field : {"145.5", "     ", "QRL  ", "", "7040", "14 50", " 4050", "13999"})
+        EXPECT_NE(khzFault(field), "") << field; // "7040" would shift every column behind it
+    for (const char* field : {" 7040", "14050", " 5355", "29050", "50125", "53999"})
+        EXPECT_EQ(khzFault(field), "") << field;
+    for (const char* mhz : {"10.120", "18.080", "24.900", "101205"})
+        EXPECT_TRUE(isOutsideSprintBands(mhz, khzField(mhz))) << mhz;
     expectEach(bandTagOf, {{"1.820", " 1"}, {"3.550", " 3"}, {"7.040", " 7"}, {"28.050", "28"}});
 }
 
@@ -111,11 +117,18 @@ TEST(Duplicate, IsSameBandAndCallBeginningWithWhatIsTyped) {
     } rows[] = {{"K1AB", "14", true},    {"K1ABC     ", "14", true}, {"W1AW", " 7", true},
                 {"K1ABCD", "14", false}, {"K1ABC", " 7", false},     {"k1abc", "14", false}};
     for (const auto& row : rows)
-        EXPECT_EQ(isDuplicate(contacts, row.call, row.band), row.dupe) << row.call << row.band;
-    EXPECT_EQ(workedBefore(contacts, "K", 80), "");
-    EXPECT_EQ(workedBefore(contacts, "K1", 80), "K1ABC 20  K1ABD 50125");
-    EXPECT_EQ(workedBefore(contacts, "K1ABCD", 80), "");
-    EXPECT_EQ(workedBefore(contacts, "K1", 20), "K1ABC 20...");
+        EXPECT_EQ(!duplicateOf(contacts, row.call, row.band).empty(), row.dupe)
+            << row.call << row.band;
+    const auto worked = [&](const char* typed, int columns) {
+        std::string text;
+        for (const WorkedCall& call : workedBefore(contacts, typed, "14", columns))
+            text += call.text + (call.dupe ? "! " : " ");
+        return text;
+    };
+    EXPECT_EQ(worked("K", 80), "");
+    EXPECT_EQ(worked("K1", 80), "K1ABC 20! K1ABD 50125 ");
+    EXPECT_EQ(worked("K1ABCD", 80), "");
+    EXPECT_EQ(worked("K1", 20), "K1ABC 20! ... ");
 }
 
 // Unlike the ordinary check, the start of a call is not the call.

@@ -82,6 +82,13 @@ std::string Files::stamp(std::string_view name) const {
     return stamp;
 }
 
+std::optional<std::chrono::sys_seconds> Files::writtenAt(std::string_view name) const {
+    struct stat status {};
+    if (::stat(nativePath(name).c_str(), &status) != 0)
+        return {};
+    return std::chrono::sys_seconds(std::chrono::seconds(status.st_mtim.tv_sec));
+}
+
 std::string Files::readOrEmpty(std::string_view name) const {
     return present(name) ? read(name) : std::string();
 }

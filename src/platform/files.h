@@ -4,7 +4,9 @@
 
 #include "platform/replacement.h"
 
+#include <chrono>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,6 +43,8 @@ public:
     // A text that is another one whenever the file's content may be. Empty when that cannot
     // be told: no such file, or one written within the last two seconds.
     std::string stamp(std::string_view name) const;
+    // When the file was written last, by UTC; nothing when there is none.
+    std::optional<std::chrono::sys_seconds> writtenAt(std::string_view name) const;
     // Appends `line` and CR LF, on the disk when this returns; creates a missing file. A
     // last line without a line end is ended first. On failure the file is as it was.
     void appendLine(std::string_view name, std::string_view line);

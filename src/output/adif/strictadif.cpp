@@ -3,7 +3,6 @@
 
 #include "base/integer16.h"
 #include "base/version.h"
-#include "log/bands.h"
 #include "log/outputfiles.h"
 #include "log/qsoline.h"
 #include "output/adif/adifitem.h"
@@ -83,11 +82,30 @@ std::string megahertz(std::string_view field) {
     return std::to_string(value / 1000) + '.' + zeroPadded(value % 1000, 3);
 }
 
-// "20m" for a frequency in MHz, as ADIF's own list spells it; empty outside our bands.
-std::string bandName(std::string_view mhz) {
-    const Band* band = bandOfMhz(mhz);
-    return band == nullptr ? std::string()
-                           : std::string(left(band->label, length(band->label) - 1)) + 'm';
+// ADIF's own list of bands, as far as contests are run on them. A logger refuses a contact
+// whose band does not hold its frequency.
+struct AdifBand {
+    std::string_view name;
+    int first; // kHz
+    int last;
+};
+constexpr std::array<AdifBand, 9> adifBands{{{"160m", 1800, 2000},
+                                             {"80m", 3500, 4000},
+                                             {"40m", 7000, 7300},
+                                             {"30m", 10100, 10150},
+                                             {"20m", 14000, 14350},
+                                             {"17m", 18068, 18168},
+                                             {"15m", 21000, 21450},
+                                             {"12m", 24890, 24990},
+                                             {"10m", 28000, 29700}}};
+
+// Empty when the field of kHz lies in none.
+std::string_view bandName(std::string_view field) {
+    const long long khz = numericValue(field);
+    for (const AdifBand& band : adifBands)
+        if (khz >= band.first && khz <= band.last)
+            return band.name;
+    return {};
 }
 
 // Digits, and the award letter if any. "100W" is a non-member's power and "NONE" nobody's.
@@ -194,7 +212,8 @@ void appendDay(std::string& bytes, std::string_view contact) {
 
 void appendFrequency(std::string& bytes, std::string_view contact) {
     const std::string mhz = megahertz(qso::frequency.of(contact));
-    appendField(bytes, "<BAND:", bandName(mhz));
+    appendField(bytes,
+                "<BAND:", mhz.empty() ? std::string_view() : bandName(qso::frequency.of(contact)));
     appendField(bytes, "<FREQ:", mhz);
 }
 
@@ -223,6 +242,10 @@ void appendContact(std::string& bytes, std::string_view contact) {
     bytes += "<EOR>\r\n";
 }
 
+bool canBeWritten(std::string_view contact) {
+    return contactMoment(contact) && !trim(qso::hisCall.of(contact)).empty();
+}
+
 void appendHeader(std::string& bytes, std::string_view created) {
     bytes += "Contacts logged with Vantrel\r\n";
     appendField(bytes, "<ADIF_VER:", adifVersion);
@@ -240,7 +263,8 @@ std::string strictAdifText(const Contacts& contacts, std::string_view created) {
     bytes.reserve((contacts.size() + 1) * typicalRecord);
     appendHeader(bytes, created);
     for (const std::string_view contact : contacts)
-        appendContact(bytes, contact);
+        if (canBeWritten(contact))
+            appendContact(bytes, contact);
     return bytes;
 }
 
@@ -256,12 +280,22 @@ std::string creationTime(const LocalTime& local, std::string_view gmtOffset) {
            zeroPadded(local.minute, 2) + zeroPadded(local.second, 2);
 }
 
-std::string exportStrictAdif(Files& files, const Clock& clock, std::string_view gmtOffset,
-                             Log& log) {
+std::string contactsWritten(const StrictAdifFile& file) {
+    return std::to_string(file.written) + " WRITTEN" +
+           (file.leftOut == 0
+                ? ""
+                : ", " + std::to_string(file.leftOut) + " LEFT OUT: NO CALL, DATE OR TIME");
+}
+
+StrictAdifFile exportStrictAdif(Files& files, const Clock& clock, std::string_view gmtOffset,
+                                Log& log) {
     log.reread();
+    const Contacts& contacts = log.contacts();
     const std::string name = strictAdifFileName(log.name());
-    files.rewrite(name, strictAdifText(log.contacts(), creationTime(clock.now(), gmtOffset)));
-    return files.path(name);
+    files.rewrite(name, strictAdifText(contacts, creationTime(clock.now(), gmtOffset)));
+    const auto written =
+        static_cast<std::size_t>(std::count_if(contacts.begin(), contacts.end(), canBeWritten));
+    return {files.path(name), written, contacts.size() - written};
 }
 
 } // namespace vantrel

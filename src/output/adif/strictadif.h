@@ -14,15 +14,25 @@ class Clock;
 class Files;
 struct LocalTime;
 
-// The file's bytes: a header, then a line per contact. `created`: "YYYYMMDD HHMMSS", UTC.
+// The file's bytes: a header, then a line per contact but those that no logger could take in,
+// without a call, a date or a time of day. `created`: "YYYYMMDD HHMMSS", UTC.
 std::string strictAdifText(const Contacts& contacts, std::string_view created);
 
 // "YYYYMMDD HHMMSS" in UTC, `gmtOffset` hours after local time.
 std::string creationTime(const LocalTime& local, std::string_view gmtOffset);
 
-// Reads the log again and writes NAME-STRICT.ADI beside it. Returns that file's full
-// path, to show. Throws as Log::reread and Files::rewrite; the file is then as it was.
-std::string exportStrictAdif(Files& files, const Clock& clock, std::string_view gmtOffset,
-                             Log& log);
+struct StrictAdifFile {
+    std::string path;    // to show
+    std::size_t written; // contacts
+    std::size_t leftOut; // likewise
+};
+
+// "27 WRITTEN, 1 LEFT OUT: NO CALL, DATE OR TIME"; "27 WRITTEN" when none was.
+std::string contactsWritten(const StrictAdifFile& file);
+
+// Reads the log again and writes NAME-STRICT.ADI beside it. Throws as Log::reread and
+// Files::rewrite; the file is then as it was.
+StrictAdifFile exportStrictAdif(Files& files, const Clock& clock, std::string_view gmtOffset,
+                                Log& log);
 
 } // namespace vantrel

@@ -6,12 +6,15 @@
 #include "log/outputfiles.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
+#include "output/files/fileresults.h"
 #include "output/files/printlog.h"
 #include "platform/files.h"
 #include "platform/printjob.h"
 #include "roster/rostersort.h"
 #include "roster/rosterview.h"
+#include "shared/utctime.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -25,15 +28,17 @@ frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     m_mainPageButton = build.command("Command1", "&MAIN PAGE", "BACK TO THE MAIN PAGE");
     m_adifCaption = build.label("Label5");
     m_adifPath = build.output("Text2");
+    m_adifPath->setAlignment(Qt::AlignLeft);
     m_adifCaption->setBuddy(m_adifPath);
+    m_adifContacts = build.label("Label6");
 
     auto* page = new QVBoxLayout(this);
     page->addLayout(options, 1);
     page->addWidget(m_adifCaption);
     page->addWidget(m_adifPath);
+    page->addWidget(m_adifContacts);
     page->addWidget(m_mainPageButton, 0, Qt::AlignRight);
     connect(m_mainPageButton, &QPushButton::clicked, this, &QWidget::close);
-    openAtPageSize();
 }
 
 // All jobs, in the order in which they stand on the screen and Tab passes them.
@@ -41,26 +46,35 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
     const auto members = [this](std::size_t number) { return [=, this] { showMembers(number); }; };
     const auto opens = [this](Screen screen) { return [=, this] { screens().open(screen); }; };
     const auto lists = [this](ListedFile file) { return [=, this] { screens().openList(file); }; };
+    const auto membersOf = [this](std::size_t number) {
+        return [=, this] { return membersText(platform().files, number); };
+    };
+    const auto adif = [this] { return writtenNow(adifFileName(shared().log.name())); };
+    const auto strictAdif = [this] { return writtenNow(strictAdifFileName(shared().log.name())); };
+    const auto log = [this] { return logText(shared().log.name(), shared().log.count().value()); };
     return {
         {"MEMBERS",
-         {{"Option1", "SHOW MEMBERS &A...", "SHOWS SKSDB1.TXT", members(1)},
-          {"Option2", "SHOW MEMBERS &K...", "SHOWS SKSDB2.TXT", members(2)},
-          {"Option3", "SHOW MEMBERS &N...", "SHOWS SKSDB3.TXT", members(3)},
-          {"Option4", "SHOW MEMBERS &W...", "SHOWS SKSDB4.TXT", members(4)},
-          {"Option5", "SHOW MEMBERS OF ALL &OTHER CALLS", "SHOWS SKSDB5.TXT", members(5)},
+         {{"Option1", "SHOW MEMBERS &A...", "SHOWS SKSDB1.TXT", members(1), membersOf(1)},
+          {"Option2", "SHOW MEMBERS &K...", "SHOWS SKSDB2.TXT", members(2), membersOf(2)},
+          {"Option3", "SHOW MEMBERS &N...", "SHOWS SKSDB3.TXT", members(3), membersOf(3)},
+          {"Option4", "SHOW MEMBERS &W...", "SHOWS SKSDB4.TXT", members(4), membersOf(4)},
+          {"Option5", "SHOW MEMBERS OF ALL &OTHER CALLS", "SHOWS SKSDB5.TXT", members(5),
+           membersOf(5)},
           {"Option13", "SORT THE DATA&BASE BY SKCC#", "SORTS ALL FIVE MEMBER FILES",
            [this] { sortMembers(); }},
           {"Option11", "&UPDATE THE DATABASE",
            "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT",
-           opens(Screen::updateList)}}},
+           opens(Screen::updateList), [this] { return allMembersText(platform().files); }}}},
         {"LOG",
          {{"Option6", "MAKE AN AD&IF FILE", "WRITES THE LOG AS AN ADIF FILE",
-           [this] { exportLog(); }},
+           [this] { exportLog(); }, adif},
           {"Option14", "ADIF FILE FOR OTHER LOGGERS",
            "WRITES THE LOG STRICTLY BY ADIF 3.1, BESIDE THE OTHER ADIF FILE",
-           [this] { exportLogStrictly(); }},
-          {"Option7", "&LIST THE ADIF FILE", "DISPLAYS THE ADIF FILE", lists(ListedFile::adif)},
-          {"Option8", "LIST THE LO&G", "DISPLAYS OF FULL CABRILLO FILE", lists(ListedFile::log)},
+           [this] { exportLogStrictly(); }, strictAdif},
+          {"Option7", "&LIST THE ADIF FILE", "DISPLAYS THE ADIF FILE", lists(ListedFile::adif),
+           adif},
+          {"Option8", "LIST THE LO&G", "DISPLAYS OF FULL CABRILLO FILE", lists(ListedFile::log),
+           log},
           {"Option9", "&EDIT THE LOG", "CHANGES ANY FIELD OF A CONTACT", opens(Screen::editor)},
           {"Option12", "&PRINT THE LOG", "PRINTS THE WHOLE CABRILLO FILE", [this] { printLog(); }},
           {"Option10", "&START PAGE", "CONTEST, OPERATOR, LOG FILE, RADIO", opens(Screen::start)}}},
@@ -70,22 +84,59 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
 void frmVantrelFiles::createOptions(QHBoxLayout* page) {
     FormBuilder build(this);
     for (const Group& group : groups()) {
-        auto* column = new QVBoxLayout;
-        for (const Job& job : group.jobs) {
-            QRadioButton* option = build.jobOption(job.name, job.caption, job.toolTip);
-            connect(option, &QRadioButton::clicked, this,
-                    [this, run = job.run] { runHandler(run); });
-            column->addWidget(option);
-            if (m_firstOption == nullptr)
-                m_firstOption = option;
-        }
-        column->addStretch();
+        auto* column = new QGridLayout;
+        for (const Job& job : group.jobs)
+            addOption(job, column);
+        column->setRowStretch(column->rowCount(), 1);
+        column->setColumnStretch(1, 1);
         page->addLayout(build.section(group.title, column));
     }
 }
 
+void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
+    FormBuilder build(this);
+    QRadioButton* option = build.jobOption(job.name, job.caption, job.toolTip);
+    connect(option, &QRadioButton::clicked, this,
+            [this, option, task = job.run] { run(option, task); });
+    if (m_lastRun == nullptr)
+        m_lastRun = option;
+    const int row = column->rowCount();
+    column->addWidget(option, row, 0);
+    if (!job.result)
+        return;
+    QLabel* result = build.label((job.name + std::string("Result")).c_str());
+    setTextColour(result, dimmedColour(palette()));
+    column->addWidget(result, row, 1);
+    m_results.push_back({result, job.result});
+}
+
 QWidget* frmVantrelFiles::firstFocus() {
-    return m_firstOption;
+    return m_lastRun;
+}
+
+void frmVantrelFiles::bringToFront() {
+    showResults();
+    Form::bringToFront();
+}
+
+// What an earlier job made is not what a job that fails now has made.
+void frmVantrelFiles::run(QRadioButton* option, const std::function<void()>& job) {
+    m_lastRun = option;
+    showAdifFile({});
+    const QPointer<Form> self(this);
+    runHandler(job);
+    if (self)
+        showResults();
+}
+
+void frmVantrelFiles::showResults() {
+    for (const Result& result : m_results) {
+        try {
+            put(result.label, result.text());
+        } catch (const RuntimeError&) {
+            put(result.label, "CANNOT BE READ"); // the job itself says why
+        }
+    }
 }
 
 // --- Member files ----------------------------------------------------------------------------
@@ -103,17 +154,28 @@ void frmVantrelFiles::sortMembers() {
 // --- The log ---------------------------------------------------------------------------------
 
 void frmVantrelFiles::exportLog() {
-    showAdifPath(exportAdif(platform().files, shared().log));
+    showAdifFile(exportAdif(platform().files, shared().log));
 }
 
 void frmVantrelFiles::exportLogStrictly() {
-    showAdifPath(exportStrictAdif(platform().files, platform().clock, shared().settings.gmtOffset,
-                                  shared().log));
+    const StrictAdifFile file = exportStrictAdif(platform().files, platform().clock,
+                                                 shared().settings.gmtOffset, shared().log);
+    showAdifFile(file.path);
+    put(m_adifContacts, contactsWritten(file));
+    setTextColour(m_adifContacts, file.leftOut == 0 ? QColor() : cautionColour(palette()));
 }
 
-void frmVantrelFiles::showAdifPath(const std::string& path) {
-    put(m_adifCaption, adifCreated);
+// Without a path: none was made.
+void frmVantrelFiles::showAdifFile(const std::string& path) {
+    put(m_adifCaption, path.empty() ? std::string_view() : adifCreated);
     put(m_adifPath, path);
+    m_adifPath->setToolTip(m_adifPath->text());
+    m_adifContacts->clear();
+}
+
+std::string frmVantrelFiles::writtenNow(const std::string& name) {
+    const std::string today = utcTime(platform().clock.now(), shared().settings.gmtOffset).date;
+    return writtenText(platform().files, name, today);
 }
 
 void frmVantrelFiles::printLog() {

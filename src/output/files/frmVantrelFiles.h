@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+class QGridLayout;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -23,6 +24,9 @@ class frmVantrelFiles : public Form {
 public:
     explicit frmVantrelFiles(const FormContext& context);
 
+    // What stands beside the jobs may have changed while another page was in front.
+    void bringToFront() override;
+
 protected:
     QWidget* firstFocus() override;
 
@@ -32,6 +36,11 @@ private:
         const char* caption;
         const char* toolTip;
         std::function<void()> run;
+        std::function<std::string()> result = {}; // how its file is now
+    };
+    struct Result {
+        QLabel* label;
+        std::function<std::string()> text;
     };
     struct Group {
         const char* title;
@@ -40,17 +49,23 @@ private:
 
     std::vector<Group> groups();
     void createOptions(QHBoxLayout* page);
+    void addOption(const Job& job, QGridLayout* column);
 
+    void run(QRadioButton* option, const std::function<void()>& job);
+    void showResults();
     void showMembers(std::size_t number);
     void sortMembers();
     void exportLog();
     void exportLogStrictly();
-    void showAdifPath(const std::string& path);
+    void showAdifFile(const std::string& path);
+    std::string writtenNow(const std::string& name);
     void printLog();
 
-    QRadioButton* m_firstOption = nullptr;
+    QRadioButton* m_lastRun = nullptr; // has the focus; the first job before one was run
+    std::vector<Result> m_results;
     QLabel* m_adifCaption;
     QLineEdit* m_adifPath;
+    QLabel* m_adifContacts; // how many were written and left out
     QPushButton* m_mainPageButton;
 };
 

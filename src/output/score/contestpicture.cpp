@@ -12,36 +12,61 @@ namespace chrono = std::chrono;
 
 namespace {
 
-using Hour = chrono::sys_time<chrono::hours>;
-using ContactsByBand = decltype(PictureHour::contacts);
+constexpr chrono::hours shortLog{3};
+constexpr chrono::minutes hour{60};
+constexpr chrono::minutes shortStep{10};
 
-std::size_t bandIndex(std::string_view contact) {
-    const Band* band = bandOfKhz(qso::bandTag.of(contact));
-    return band == nullptr ? bands.size() : static_cast<std::size_t>(band - bands.data());
+using ContactsByBand = decltype(PictureBar::contacts);
+using ContactsByMoment = std::map<Moment, ContactsByBand>;
+
+Moment stepOf(Moment moment, chrono::minutes step) {
+    return moment - moment.time_since_epoch() % step;
 }
 
-int hourOfDay(Hour hour) {
-    return static_cast<int>((hour - chrono::floor<chrono::days>(hour)).count());
+// The contacts of each step, under its beginning.
+ContactsByMoment bySteps(const ContactsByMoment& minutes, chrono::minutes step) {
+    ContactsByMoment steps;
+    for (const auto& [moment, counts] : minutes)
+        for (std::size_t i = 0; i < counts.size(); ++i)
+            steps[stepOf(moment, step)][i] += counts[i];
+    return steps;
+}
+
+int minuteOfDay(Moment moment) {
+    return static_cast<int>((moment - chrono::floor<chrono::days>(moment)).count());
 }
 
 } // namespace
 
-std::vector<PictureHour> contactsPerHour(const Contacts& contacts) {
-    std::map<Hour, ContactsByBand> hours;
-    for (const std::string_view contact : contacts) {
-        const auto day = contactDay(contact);
-        const auto time = contactTime(contact);
-        if (day && time && !isDupe(contact))
-            ++hours[chrono::sys_days(*day) + chrono::hours(time->hour)][bandIndex(contact)];
-    }
-    while (hours.size() > pictureHours)
-        hours.erase(hours.begin());
+std::size_t bandIndexOf(std::string_view contact) {
+    const Band* band = bandOfKhz(qso::bandTag.of(contact));
+    return band == nullptr ? bands.size() : static_cast<std::size_t>(band - bands.data());
+}
 
-    std::vector<PictureHour> picture;
-    Hour expected = hours.empty() ? Hour() : hours.begin()->first;
-    for (const auto& [hour, counts] : hours) {
-        picture.push_back({hourOfDay(hour), hour != expected, counts});
-        expected = hour + chrono::hours(1);
+ContestPicture contestPicture(const Contacts& contacts) {
+    ContactsByMoment minutes;
+    for (const std::string_view contact : contacts)
+        if (const auto moment = contactMoment(contact); moment && !isDupe(contact))
+            ++minutes[*moment][bandIndexOf(contact)];
+    if (minutes.empty())
+        return {};
+
+    const Moment first = minutes.begin()->first;
+    const Moment last = minutes.rbegin()->first;
+    const bool isShort = last - first < shortLog;
+    const chrono::minutes step = isShort ? shortStep : hour;
+    ContactsByMoment steps = bySteps(minutes, step);
+    if (isShort)
+        for (Moment moment = stepOf(first, step); moment < last; moment += step)
+            steps[moment]; // a pause shows as bars of no height
+    while (steps.size() > pictureHours)
+        steps.erase(steps.begin());
+
+    ContestPicture picture{static_cast<int>(step.count()), {}};
+    Moment expected = steps.begin()->first;
+    for (const auto& [moment, counts] : steps) {
+        picture.bars.push_back({minuteOfDay(moment), moment != expected, counts});
+        expected = moment + step;
     }
     return picture;
 }

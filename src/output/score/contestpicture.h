@@ -1,25 +1,35 @@
 // SPDX-License-Identifier: MIT
-// Contacts per hour by band: what the score screen's picture shows.
+// Contacts by band as the contest went on: what the score screen's picture shows.
 #pragma once
 
 #include "log/bands.h"
 #include "log/log.h"
 
 #include <array>
+#include <cstddef>
+#include <string_view>
 #include <vector>
 
 namespace vantrel {
 
-// One clock hour (UTC) in which contacts were made.
-struct PictureHour {
-    int hour;                                     // 0 to 23
+// Index in `bands` of the one that a contact was made on; bands.size() for none of them.
+std::size_t bandIndexOf(std::string_view contact);
+
+struct PictureBar {
+    int minuteOfDay;                              // when it begins, UTC
     bool afterBreak;                              // no contact in the hour before it
     std::array<int, bands.size() + 1> contacts{}; // as `bands`; the last: on none of them
 };
 
-// The last 48 hours with contacts, oldest first. Duplicates are left out, like in the score, and
-// lines without a readable date and time.
+struct ContestPicture {
+    int minutesPerBar;
+    std::vector<PictureBar> bars; // oldest first
+};
+
+// A log that spans less than three hours in steps of ten minutes, also those without contacts; a
+// longer one by the clock hours in which contacts were made, the last 48 of them. Duplicates are
+// left out, like in the score, and lines without a readable date and time.
 inline constexpr int pictureHours = 48;
-std::vector<PictureHour> contactsPerHour(const Contacts& contacts);
+ContestPicture contestPicture(const Contacts& contacts);
 
 } // namespace vantrel

@@ -12,14 +12,52 @@
 #include "platform/printjob.h"
 #include "platform/qt/latin1.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace vantrel {
 
 namespace {
-constexpr int figureColumns = 8;
-constexpr double totalEnlargement = 1.5;
+constexpr int figureColumns = 6;
+constexpr int minutesPerHour = 60;
+constexpr double totalEnlargement = 2;
+
+// The figure stands close behind its caption.
+void keepNarrow(QLineEdit* figure) {
+    setColumns(figure, figureColumns);
+    figure->setMaximumWidth(figure->minimumWidth());
+}
+
+// A table to read: no frames, no numbers of rows, as large as what it holds.
+QTableWidget* makeTable(QWidget* page, const char* name) {
+    auto* table = new QTableWidget(page);
+    table->setObjectName(QString::fromLatin1(name));
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setFocusPolicy(Qt::NoFocus);
+    table->setShowGrid(false);
+    table->setFrameShape(QFrame::NoFrame);
+    QPalette flat(table->palette());
+    flat.setColor(QPalette::Base, Qt::transparent);
+    table->setPalette(flat);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setMinimumSectionSize(page->fontMetrics().height());
+    table->verticalHeader()->setDefaultSectionSize(page->fontMetrics().height());
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    return table;
+}
+
+QTableWidgetItem* cell(std::string_view text) {
+    auto* item = new QTableWidgetItem(toQt(text));
+    item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return item;
+}
 } // namespace
 
 frmVantrelScore::frmVantrelScore(const FormContext& context)
@@ -27,13 +65,13 @@ frmVantrelScore::frmVantrelScore(const FormContext& context)
     createControls();
     layOut();
     connectHandlers();
-    openAtPageSize();
 }
 
 void frmVantrelScore::createControls() {
     FormBuilder build(this);
-    m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE SCORE");
     m_printButton = build.command("Command2", "&PRINT", "PRINTS THE SCORE");
+    m_copyButton = build.command("Command3", "&COPY", "COPIES THE REPORT AS TEXT");
+    m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE SCORE");
     m_qsos = build.output("Text1");
     m_multipliers = build.output("Text2");
     m_centurions = build.output("Text3");
@@ -43,16 +81,20 @@ void frmVantrelScore::createControls() {
     m_contestFigure = build.output("Text5");
     m_bonusPoints = build.output("Text6");
     m_total = build.output("Text7");
+    m_sum = build.label("Label20");
+    m_copied = build.label("Label21");
     m_logPath = build.label("Label1");
     m_multiplierCaption = build.label("Label4");
     m_contestFigureCaption = build.label("Label7");
     m_dupesLogged = build.label("Label13");
     m_dupesNotCounted = build.label("Label14");
+    m_bands = makeTable(this, "Table1");
     m_picture = new StackedBars(this);
 }
 
 void frmVantrelScore::connectHandlers() {
     connectHandler(m_printButton, &QPushButton::clicked, this, &frmVantrelScore::printClicked);
+    connectHandler(m_copyButton, &QPushButton::clicked, this, &frmVantrelScore::copyClicked);
     connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
 }
 
@@ -66,10 +108,13 @@ void frmVantrelScore::load() {
     m_score = Score();
     showLabels();
     showScore();
+    m_bands->hide();
     m_picture->hide();
+    m_copied->clear();
     shared().log.reread();
     m_score = computeScore(shared().log.contacts(), shared().settings);
     showScore();
+    showBands();
     showPicture();
     if (m_score.stoppedBy)
         throw *m_score.stoppedBy;
@@ -98,57 +143,95 @@ void frmVantrelScore::showScore() {
     show(m_contestFigure, m_score.european ? m_score.regularMembersWorked : m_score.k9skcQsos);
     show(m_bonusPoints, m_score.bonusPoints);
     show(m_total, m_score.total);
+    put(m_sum, totalText(m_score));
+}
+
+void frmVantrelScore::showBands() {
+    const std::vector<BandScore> worked = bandScores(shared().log.contacts(), shared().settings);
+    m_bands->setVisible(!worked.empty());
+    m_bands->setColumnCount(3);
+    m_bands->setHorizontalHeaderLabels(
+        {QStringLiteral("BAND"), QStringLiteral("QSOs"),
+         m_score.european ? QStringLiteral("NEW DXCC") : QStringLiteral("NEW S/P/C")});
+    m_bands->setRowCount(static_cast<int>(worked.size()));
+    for (int row = 0; row < m_bands->rowCount(); ++row) {
+        const BandScore& band = worked[static_cast<std::size_t>(row)];
+        m_bands->setItem(row, 0, cell(band.band));
+        m_bands->setItem(row, 1, cell(std::to_string(band.qsos)));
+        m_bands->setItem(row, 2, cell(std::to_string(band.newMultipliers)));
+    }
 }
 
 void frmVantrelScore::showPicture() {
+    const ContestPicture picture = contestPicture(shared().log.contacts());
+    const bool byHours = picture.minutesPerBar == minutesPerHour;
     std::vector<QString> series;
     for (const Band& band : bands)
         series.push_back(toQt(band.label));
     series.push_back(QStringLiteral("OTHER"));
     std::vector<StackedBar> bars;
-    for (const PictureHour& hour : contactsPerHour(shared().log.contacts()))
-        bars.push_back({toQt(zeroPadded(hour.hour, 2) + "Z"),
-                        {hour.contacts.begin(), hour.contacts.end()},
-                        hour.afterBreak});
+    for (const PictureBar& bar : picture.bars) {
+        const std::string hour = zeroPadded(bar.minuteOfDay / minutesPerHour, 2);
+        const std::string minute = zeroPadded(bar.minuteOfDay % minutesPerHour, 2);
+        bars.push_back({toQt(hour + (byHours ? "Z" : minute)),
+                        {bar.contacts.begin(), bar.contacts.end()},
+                        bar.afterBreak});
+    }
     m_picture->setVisible(!bars.empty());
-    m_picture->setBars(QStringLiteral("CONTACTS PER HOUR (UTC)"), series, bars);
+    m_picture->setBars(byHours ? QStringLiteral("CONTACTS PER HOUR (UTC)")
+                               : QStringLiteral("CONTACTS PER 10 MINUTES (UTC)"),
+                       series, bars);
 }
 
-// --- Printing --------------------------------------------------------------------------------
+// --- The report ------------------------------------------------------------------------------
+
+std::vector<std::string> frmVantrelScore::report() const {
+    return scoreReport(m_score, textOf(m_logPath));
+}
 
 void frmVantrelScore::printClicked() {
-    const std::string& log = shared().log.name();
-    Files& files = platform().files;
-    const std::string note = sendToPrinter(
-        platform().printer, files, scoreReport(m_score, files.path(log)), scorePdfName(log));
+    const std::string note =
+        sendToPrinter(platform().printer, platform().files, wrappedForPaper(report()),
+                      scorePdfName(shared().log.name()));
     messages().show({std::string(reportPrinted), BoxIcon::exclamation, note});
     m_exitButton->setFocus();
+}
+
+void frmVantrelScore::copyClicked() {
+    QString text;
+    for (const std::string& line : report())
+        text += toQt(line) + QLatin1Char('\n');
+    QApplication::clipboard()->setText(text);
+    put(m_copied, "COPIED");
 }
 
 // --- Layout ----------------------------------------------------------------------------------
 
 void frmVantrelScore::layOut() {
-    auto* dupes = new QVBoxLayout;
-    dupes->addStretch();
-    dupes->addWidget(m_dupesLogged, 0, Qt::AlignHCenter);
-    dupes->addWidget(m_dupesNotCounted, 0, Qt::AlignHCenter);
-    dupes->addStretch();
+    FormBuilder build(this);
+    auto* left = new QVBoxLayout;
+    left->addLayout(figures());
+    left->addStretch();
+    left->addLayout(total());
+    auto* card = new QVBoxLayout;
+    card->addWidget(m_bands);
     auto* score = new QHBoxLayout;
-    score->addStretch();
-    score->addLayout(figures());
-    score->addStretch();
-    score->addLayout(dupes);
+    score->addLayout(left);
+    score->addSpacing(fontMetrics().height());
+    score->addLayout(build.section("BANDS", card));
     score->addStretch();
     auto* commands = new QHBoxLayout;
-    commands->addStretch();
     commands->addWidget(m_printButton);
+    commands->addWidget(m_copyButton);
+    commands->addWidget(m_copied);
+    commands->addStretch();
     commands->addWidget(m_exitButton);
 
+    m_logPath->setWordWrap(true);
     auto* page = new QVBoxLayout(this);
     page->addWidget(m_logPath);
     page->addLayout(score);
     page->addWidget(m_picture, 1);
-    page->addStretch();
     page->addLayout(commands);
 }
 
@@ -165,17 +248,28 @@ QFormLayout* frmVantrelScore::figures() {
     build.row(form, "Bonus Station QSOs:", m_bonusStationQsos);
     form->addRow(m_contestFigureCaption, m_contestFigure);
     build.row(form, "Total Bonus Points:", m_bonusPoints);
-    build.row(form, "TOTAL SCORE:", m_total);
+    for (QLabel* caption : {m_multiplierCaption, m_contestFigureCaption})
+        setTextColour(caption, dimmedColour(palette()));
     m_multiplierCaption->setBuddy(m_multipliers);
     m_contestFigureCaption->setBuddy(m_contestFigure);
-    for (QWidget* widget : {form->labelForField(m_total), static_cast<QWidget*>(m_total)})
-        widget->setFont(enlargedFont(this, totalEnlargement));
-    for (int row = 0; row < form->rowCount(); ++row) {
-        auto* box = static_cast<QLineEdit*>(form->itemAt(row, QFormLayout::FieldRole)->widget());
-        box->setAlignment(Qt::AlignRight);
-        setColumns(box, figureColumns);
-    }
+    for (int row = 0; row < form->rowCount(); ++row)
+        keepNarrow(static_cast<QLineEdit*>(form->itemAt(row, QFormLayout::FieldRole)->widget()));
     return form;
+}
+
+// Large, how it comes about beside it, and below what became of the duplicates.
+QLayout* frmVantrelScore::total() {
+    FormBuilder build(this);
+    m_total->setFont(enlargedFont(this, totalEnlargement));
+    keepNarrow(m_total);
+    auto* grid = new QGridLayout;
+    grid->addWidget(build.caption("TOTAL SCORE:", m_total), 0, 0);
+    grid->addWidget(m_sum, 1, 0);
+    grid->addWidget(m_total, 0, 1, 2, 1);
+    grid->addWidget(m_dupesLogged, 2, 0, 1, 2);
+    grid->addWidget(m_dupesNotCounted, 3, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    return grid;
 }
 
 } // namespace vantrel

@@ -2,6 +2,7 @@
 #include "output/score/score.h"
 
 #include "log/qsoline.h"
+#include "output/score/contestpicture.h"
 #include "output/score/regioncodes.h"
 #include "shared/settings.h"
 
@@ -80,9 +81,9 @@ struct AwardNumbers {
         score.tribunes = counts[1];
         score.senators = counts[2];
     }
-    Integer16 points() const {
-        return centurionPoints * centurions.count() + tribunePoints * tribunes.count() +
-               senatorPoints * senators.count();
+    int points() const {
+        return centurionPoints * centurions.count().value() +
+               tribunePoints * tribunes.count().value() + senatorPoints * senators.count().value();
     }
 };
 
@@ -100,6 +101,18 @@ private:
     std::string m_call;
     bool m_isSet;
 };
+
+// The figures that the others add up to. Where they go beyond 16 bits the operator is told what
+// the whole would be.
+void enterTotal(Score& score, int bonusPoints) {
+    const int total = score.qsos->value() * score.multipliers->value() + bonusPoints;
+    try {
+        score.bonusPoints = bonusPoints;
+        score.total = total;
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.code(), "THE WHOLE SCORE WOULD BE " + std::to_string(total));
+    }
+}
 
 // --- All contests but the European sprint ---------------------------------------------------
 
@@ -129,8 +142,8 @@ void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Sc
     awards.enter(score);
     score.k9skcQsos = clubStationQsos;
     score.bonusStationQsos = bonusStationQsos;
-    score.bonusPoints = awards.points() + clubStationPoints * *score.k9skcQsos +
-                        bonusStationPoints * *score.bonusStationQsos;
+    enterTotal(score, awards.points() + clubStationPoints * clubStationQsos +
+                          bonusStationPoints * bonusStationQsos);
 }
 
 // --- The European sprint --------------------------------------------------------------------
@@ -189,11 +202,32 @@ void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& sett
     score.multipliers = countries.count();
     // What is shown as regular members worked: Senators are not taken off.
     score.regularMembersWorked = *score.qsos - *score.centurions - *score.tribunes - noMembers;
-    score.bonusPoints =
-        awards.points() + bonusStationPoints * *score.bonusStationQsos + *score.membersPoints;
+    enterTotal(score, awards.points() + bonusStationPoints * bonusStationQsos +
+                          score.membersPoints->value());
 }
 
 } // namespace
+
+std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSettings& settings) {
+    const bool european = settings.contestCode == contestSkse;
+    std::array<BandScore, bands.size() + 1> all{};
+    std::unordered_set<std::string_view> codes;
+    for (const std::string_view contact : contacts) {
+        BandScore& band = all[bandIndexOf(contact)];
+        const bool dupe = isDupe(contact);
+        const std::string_view state = qso::hisState.of(contact);
+        band.qsos += dupe ? 0 : 1;
+        if (!dupe || (codes.empty() && !european)) // as the score has it
+            band.newMultipliers += codes.insert(european ? countryOf(state) : state).second ? 1 : 0;
+    }
+    std::vector<BandScore> worked;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i].band = i < bands.size() ? bands[i].label : "OTHER";
+        if (all[i].qsos + all[i].newMultipliers > 0)
+            worked.push_back(all[i]);
+    }
+    return worked;
+}
 
 Score computeScore(const Contacts& contacts, const OperatingSettings& settings) {
     Score score;
@@ -203,7 +237,6 @@ Score computeScore(const Contacts& contacts, const OperatingSettings& settings) 
             scoreEuropeanSprint(contacts, settings, score);
         else
             scoreSprint(contacts, settings, score);
-        score.total = *score.qsos * *score.multipliers + *score.bonusPoints;
     } catch (const RuntimeError& error) {
         score.stoppedBy = error;
     }

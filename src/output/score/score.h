@@ -7,6 +7,8 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
+#include <vector>
 
 namespace vantrel {
 
@@ -36,6 +38,17 @@ struct Score {
     // 32,767. The figures reached before it stand.
     std::optional<RuntimeError> stoppedBy;
 };
+
+// What was made on one band.
+struct BandScore {
+    std::string_view band; // "160M", "OTHER" for those on none
+    int qsos;              // without duplicates
+    int newMultipliers;    // worked there first
+};
+
+// The bands on which there was something, from the lowest frequency up. Over all of them they
+// make the score's QSOs and multipliers.
+std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSettings& settings);
 
 // The score of a log's contact lines by the rules of `settings.contestCode`. Never throws a
 // RuntimeError: see Score::stoppedBy.

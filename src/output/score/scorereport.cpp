@@ -38,6 +38,8 @@ constexpr ReportLines europeanLines{{
 }};
 constexpr ReportLine europeanTotal{"               TOTAL SCORE: ", &Score::total};
 
+constexpr std::size_t paperColumns = 72; // of 12 points, on the narrower of the two papers
+
 std::string printed(const ReportLine& line, const Score& score) {
     return std::string(line.label) + figureText(score.*line.figure);
 }
@@ -48,6 +50,13 @@ std::string figureText(const Score::Figure& figure) {
     return figure ? figure->text() : std::string();
 }
 
+std::string totalText(const Score& score) {
+    if (!score.total)
+        return {};
+    return score.qsos->text() + " x " + score.multipliers->text() + " + " +
+           score.bonusPoints->text();
+}
+
 std::vector<std::string> scoreReport(const Score& score, std::string_view logPath) {
     std::vector<std::string> lines{"", "", std::string(logPath), ""};
     for (const ReportLine& line : score.european ? europeanLines : sprintLines)
@@ -55,6 +64,21 @@ std::vector<std::string> scoreReport(const Score& score, std::string_view logPat
     lines.emplace_back();
     lines.push_back(printed(score.european ? europeanTotal : sprintTotal, score));
     return lines;
+}
+
+std::vector<std::string> wrappedForPaper(const std::vector<std::string>& lines) {
+    std::vector<std::string> wrapped;
+    for (std::string_view rest : lines) {
+        while (rest.size() > paperColumns) {
+            const std::size_t separator = rest.substr(0, paperColumns).find_last_of("/\\");
+            const std::size_t cut =
+                separator == std::string_view::npos ? paperColumns : separator + 1;
+            wrapped.emplace_back(rest.substr(0, cut));
+            rest.remove_prefix(cut);
+        }
+        wrapped.emplace_back(rest);
+    }
+    return wrapped;
 }
 
 } // namespace vantrel

@@ -25,7 +25,7 @@ struct Answer {
 
 class FakeSerialPort : public SerialPort {
 public:
-    void open(const std::string& name, const std::string& settings) override {
+    void open(const std::string& name, const std::string& settings, RtsLine) override {
         EXPECT_FALSE(m_open) << "opened twice";
         opened.push_back(name + ' ' + settings);
         if (refusal)

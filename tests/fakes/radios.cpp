@@ -77,6 +77,19 @@ const Radio& radioNamed(const std::string& name) {
                          [&](const Radio& radio) { return radio.name == name; });
 }
 
+std::vector<std::string> straysOf(const Radio& radio) {
+    using namespace std::string_literals;
+    if (radio.query.ends_with(';')) // busy, a report nobody asked for, the tail of an answer
+        return {"?;", "IF00014020000     -000000 0003000000 ;", "5000;", "\r\n", radio.query};
+    if (radio.name == "IcomCiv") // the dial turned, another radio, a late answer, a tail
+        return {"\xFE\xFE\x00\x6A\x00\x00\x00\x02\x14\x00\xFD"s,
+                "\xFE\xFE\xE0\x58\x03\x00\x00\x02\x14\x00\xFD"s,
+                "\xFE\xFE\xE0\x6A\x03\x00\x00\x02\x14\x00\xFD"s, "\x02\x14\x00\xFD"s, "\r\n"};
+    if (radio.name == "TenTecBinary")
+        return {"\r\n", "\x01\x02\r", radio.query};
+    return {radio.name == "TenTecAscii" ? "\r\n" : radio.query};
+}
+
 OperatingSettings settingsFor(const Radio& radio) {
     OperatingSettings settings;
     settings.rig = radio.rig;

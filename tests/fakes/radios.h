@@ -31,6 +31,10 @@ inline void PrintTo(const Radio& radio, std::ostream* out) {
 const std::vector<Radio>& radios();
 const Radio& radioNamed(const std::string& name);
 
+// What may stand in front of its answer, each by itself and several times; the last is the query
+// echoed by an interface, which comes once.
+std::vector<std::string> straysOf(const Radio& radio);
+
 // Settings with this radio on `com1`.
 OperatingSettings settingsFor(const Radio& radio);
 

@@ -210,6 +210,10 @@ TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
                  {"com0", ""},
                  {"com11", ""},
                  {"com1x", ""}});
+    const SerialRoots roots{at("by-id"), at("tty"), at("dev")};
+    EXPECT_EQ(serialIdentity(files, "com1", roots), at("by-id/usb-A_adapter-if00-port0"));
+    EXPECT_EQ(serialIdentity(files, "com3", roots), at("dev/ttyS1"));
+    EXPECT_EQ(serialIdentity(files, "com4", roots), "");
     // A link in the program's folder goes first.
     link("../dev/ttyS1", "program/COM1");
     link("../dev/gone", "program/com2");

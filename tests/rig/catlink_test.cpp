@@ -7,7 +7,7 @@
 #include "rig/radiofamily.h"
 #include "rig/rigs.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace vantrel::test {
 namespace {
@@ -52,16 +52,23 @@ TEST_P(CatLink, IsAskedOnceAndReadAsSoonAsItsReplyIsIn) {
 TEST_P(CatLink, WithoutAFrequencyItIsGivenUpWithItsMessage) {
     const Radio& radio = GetParam();
     const bool tellsError = radio.noReplyText == radioNamed("Kenwood").noReplyText;
-    const auto shown = [&](const std::string& what) {
+    const std::string rate = radio.lineSettings.substr(0, radio.lineSettings.find(','));
+    const bool fixed = radio.baud != rate;
+    const auto shown = [&](const std::string& what, const std::string& question) {
         return radio.noReplyText + '\n' +
-               (tellsError ? lead + "Invalid procedure call or argument"
-                           : "The " + radio.rig + " on com1 " + what);
+               (tellsError ? lead + "Invalid procedure call or argument\n" : "") + "The " +
+               radio.rig + " on com1 " + what + " at " + rate + " baud" +
+               (fixed ? ", its fixed rate" : "") + question +
+               (fixed ? " BAUD RATE is not used for this rig." : "");
     };
-    EXPECT_EQ(read(radio), shown("did not answer. Is it on, and at this baud rate?"));
+    EXPECT_EQ(read(radio),
+              shown("did not answer", radio.name == "IcomCiv"
+                                          ? " and address 6A. Is it on, and set to these?"
+                                          : ". Is it on, and at this rate?"));
     EXPECT_EQ(port.sent, std::vector(static_cast<std::size_t>(radio.queries), radio.query));
     EXPECT_GE(port.waited(), 1400) << "slow radios need their time";
     EXPECT_EQ(read(radio, {{radio.query, radio.reply(999)}}),
-              shown("sent no frequency. Is it the right rig and baud rate?"));
+              shown("sent no frequency", ". Is it the right rig and rate?"));
     EXPECT_EQ(read(radio, {{radio.query, "\xFE", 1, 1, true}}),
               (radio.name == "IcomCiv" ? " AN ERROR HAS OCCURED " : radio.noReplyText) + '\n' +
                   (tellsError ? lead : "") + "com1 has been unplugged.");
@@ -71,32 +78,55 @@ TEST_P(CatLink, WithoutAFrequencyItIsGivenUpWithItsMessage) {
     EXPECT_EQ(port.waits, 3);
 }
 
+TEST_P(CatLink, IsReadPastWhatStandsInFrontOfItsAnswerAndNotAskedAgain) {
+    const Radio& radio = GetParam();
+    const std::string reply = radio.reply(14'025'000);
+    for (const std::string& stray : straysOf(radio)) {
+        std::string bytes = stray;
+        for (int times = stray == radio.query ? 1 : 10; times > 1; --times)
+            bytes += stray;
+        EXPECT_EQ(read(radio, {{radio.query, bytes + reply, 1, 5}}), on + "14.025") << stray;
+        EXPECT_EQ(port.sent.size(), 1U);
+        EXPECT_LE(port.waited(), 60);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Radios, CatLink, ::testing::ValuesIn(radios()),
                          [](const auto& row) { return row.param.name; });
 
 TEST(Reply, OfTheRightFormIsAFrequencyAndNoOtherIs) {
     const std::string civ = "\xFE\xFE\x6A\xE0\x03\xFD\xFE\xFE\xE0\x6A\x03";
     const std::tuple<const char*, const RadioFamily&, std::string, const char*> rows[] = {
-        {"another command", kenwood, "IF00014025000;", "none"},
         {"letter among the digits", kenwood, "FA0001402500x;", "none"},
         {"too many digits", yaesuAscii, "FA014025000;", "none"},
         {"100 MHz: not logged as 0", kenwood, "FA00100000000;", "none"},
         {"below", kenwood, "FA00099999999;", "99.999"},
-        {"K2 cut short", elecraftK2, "FT0;FA00014025000", "none"},
+        {"K2 cut short", elecraftK2, "FT0;FA00014025000", "waits"},
         {"K2 without VFO", elecraftK2, "FT2;FA00014025000;FB00021050000;MD3;", "none"},
         {"K2 on VFO B", elecraftK2, "FT1;FA00014025000;FB00007025000;MD3;", "7.025"},
-        {"Omni of another letter", tenTecBinary, "B\x01\x02\x03\x04\r", "none"},
+        {"Omni of another letter", tenTecBinary, "B\x01\x02\x03\x04\r", "waits"},
         {"Omni without end", tenTecBinary, "A\x01\x02\x03\x04\x05", "none"},
         // 7,015,693 Hz is 00 6B 0D 0D: ends that are data.
         {"Omni with CRs", tenTecBinary, "A\x00\x6B\x0D\x0D\r"s, "7.015"},
         {"CI-V of another radio", icomCiv,
-         "\xFE\xFE\x6A\xE0\x03\xFD\xFE\xFE\xE0\x58\x03\x00\x50\x02\x14\xFD"s, "none"},
+         "\xFE\xFE\x6A\xE0\x03\xFD\xFE\xFE\xE0\x58\x03\x00\x50\x02\x14\xFD"s, "waits"},
         {"hex in CI-V digits", icomCiv, civ + "\x00\x5A\x02\x14\xFD"s, "none"},
         // The oldest radios of the list send four pairs only.
         {"CI-V of four pairs", icomCiv, civ + "\x00\x50\x02\x14\xFD"s, "14.025"},
+        {"another radio of the bus", icomCiv,
+         civ.substr(0, 6) + "\xFE\xFE\xE0\x58\x03\x00\x00\x02\x14\x00\xFD"s + civ.substr(6) +
+             "\x00\x50\x02\x14\x00"s,
+         "14.025"},
+        {"CI-V cut in the pairs", icomCiv, civ + "\xFF\xFD", "none"},
+        {"CI-V from 100 MHz", icomCiv, civ + "\x00\x50\x02\x44\x01\xFD"s, "none"},
+        {"an answer cut off, then a whole one", kenwood, "FA0001FA00014025000;", "14.025"},
+        {"a bad answer first", kenwood, "FA14025000;FA00014025000;", "none"},
     };
-    for (const auto& [name, family, reply, mhz] : rows)
-        EXPECT_EQ(family.parse(reply).value_or("none"), mhz) << name;
+    const OperatingSettings icom = settingsFor(radioNamed("IcomCiv"));
+    for (const auto& [name, family, reply, mhz] : rows) {
+        const Heard heard = family.hear(reply, family.query(icom));
+        EXPECT_EQ(heard.mhz.value_or(heard.answered ? "none" : "waits"), mhz) << name;
+    }
 }
 
 TEST_F(CatLink, OrionIsAskedAgainUntilItAnswersUnlessItTalksNonsense) {
@@ -109,11 +139,20 @@ TEST_F(CatLink, OrionIsAskedAgainUntilItAnswersUnlessItTalksNonsense) {
     EXPECT_EQ(port.waits, 1);
 }
 
-TEST_F(CatLink, CivTrafficBeforeTheQueryIsDiscardedAndAddressesOutsideTheListAreLeftOut) {
-    settings = settingsFor(radioNamed("IcomCiv"));
-    port.noise = "\xFE\xFE\x00\x6A\x00\x00\x50\x02\x14\x00\xFD"s;
-    port.answers = {{radioNamed("IcomCiv").query, radioNamed("IcomCiv").reply(7'025'000)}};
+TEST_F(CatLink, IcomSaysWhatIsMissingAndAddressesOutsideTheListAreLeftOut) {
+    const Radio& radio = radioNamed("IcomCiv");
+    settings = settingsFor(radio);
+    port.noise = straysOf(radio).back(); // the quiet time before the query runs to its end
+    port.answers = {{radio.query, radio.reply(7'025'000)}};
     EXPECT_EQ(read(), on + "7.025");
+    EXPECT_EQ(port.waited(), 10 + 1);
+    for (const auto& [reply, words] :
+         {std::pair{radio.query, "Only the query came back at 1200 baud and address 6A: the radio"},
+          {radio.reply(14'025'000).substr(6), "CI-V echo back is off"},
+          {radio.reply(144'025'000), "The IC-7800 on com1 is above 100 MHz"}})
+        EXPECT_THAT(read(radio, {{radio.query, reply}}), ::testing::HasSubstr(words));
+    settings.civAddress = "None";
+    EXPECT_THAT(read(), ::testing::HasSubstr("No address is chosen for the IC-7800"));
     settings.civAddress = "Hex 6a";
     EXPECT_EQ(icomCiv.query(settings), "\xFE\xFE\xE0\x03\xFD");
     settings.civAddress = "Hex 04";
@@ -134,6 +173,8 @@ TEST_F(CatLink, PortsThatCannotBeOpenedSayWhy) {
     EXPECT_EQ(read(), on);
     settings.comPort = "None";
     EXPECT_EQ(read(), "AUTO READ OFF");
+    EXPECT_EQ(withFrequencyUsed({"text", BoxIcon::critical, "why"}, "14.033").informative,
+              "why\n14.033 MHz, AS IN THE BOX, IS USED");
 }
 
 TEST(Rigs, AreReadByTheNameTheSettingsHoldAndOnlyIcomsHaveAnAddress) {
@@ -143,6 +184,7 @@ TEST(Rigs, AreReadByTheNameTheSettingsHoldAndOnlyIcomsHaveAnAddress) {
         EXPECT_EQ(rig.civAddress.starts_with("Hex "), rig.family == &icomCiv) << rig.model;
     }
     EXPECT_EQ(familyOf("IC-7850"), &icomCiv) << "taken for an Icom, though not listed";
+    EXPECT_EQ(rigNeeds("FT-1000MP") + rigNeeds("None"), "4800 BAUD, VFO IN USE");
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "support/contacts.h"
 #include "support/qt/formharness.h"
 
+#include <QTest>
+
 #include <cerrno>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -125,6 +127,44 @@ TEST_F(StartPageTest, MainPageKeepsItsLogUntilAnotherIsOpen) {
     start("n,w.cbr");
     EXPECT_EQ(shown(mainPage, "Label12"), "FILE NAME:  N W.CBR");
     EXPECT_EQ(shown(mainPage, "Text1"), "00");
+}
+
+TEST_F(StartPageTest, RigBringsItsAddressSaysWhatItNeedsAndIsTried) {
+    screens.open(Screen::start);
+    choose(page, "Combo2", "Com1");
+    for (const auto& [rig, shows] :
+         {std::pair{"IC-756Pro3", "Hex 6E ADDRESS 6E, ANY BAUD, VFO IN USE"},
+          {"FTdx-5000", "Hex 6E THIS RADIO IS NOT READ: TYPE THE FREQUENCY"},
+          {"IC-718", "Hex 5E ADDRESS 5E, ANY BAUD, VFO IN USE"},
+          {"K-3", "Hex 5E 38400 BAUD, FIXED, VFO A"}}) {
+        choose(page, "Combo1", rig);
+        EXPECT_EQ(shown(page, "Combo4") + ' ' + shown(page, "Label17"), shows);
+        EXPECT_EQ(control(page, "Command8")->isEnabled(), shown(page, "Combo1") != "FTdx-5000");
+    }
+    serialPort.answers = {{"FA;", "FA00014025000;"}};
+    click(page, "Command8");
+    EXPECT_EQ(shown(page, "Label17"), "14.025 MHz");
+    messages.expect(" Com Port Not Read ");
+    click(page, "Command8");
+    choose(page, "Combo4", "Hex 58");
+    choose(page, "Combo1", "IC-7800");
+    EXPECT_EQ(shown(page, "Combo4"), "Hex 58"); // his own choice
+}
+
+TEST_F(StartPageTest, DeviceFollowsWhatIsPluggedInAndIsComparedWithTheLastStart) {
+    const auto plug = [this](const char* device) {
+        std::filesystem::remove(folder.path() / "com1");
+        std::filesystem::create_symlink(device, folder.path() / "com1");
+    };
+    folder.write("sks.cbr", contacts);
+    screens.open(Screen::start);
+    choose(page, "Combo2", "Com1");
+    plug("/dev/zero");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown(page, "Label13") == "/dev/zero"; }));
+    start("sks.cbr");
+    plug("/dev/null");
+    screens.open(Screen::start);
+    EXPECT_EQ(shown(page, "Label13"), "/dev/null - WAS /dev/zero AT THE LAST START");
 }
 
 } // namespace

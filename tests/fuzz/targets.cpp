@@ -315,6 +315,12 @@ void radioReply(std::string input) {
     const std::size_t point = mhz.find('.');
     assert(mhz.empty() || ((point == 1 || point == 2) && mhz.size() == point + 4 &&
                            khzFault(khzField(completedFrequency(mhz))).empty()));
+
+    // In front of a good answer, bytes without the family's letters change nothing.
+    std::erase_if(input, [&](char byte) { return radio.query.find(byte) < 2; });
+    port.answers = {{radio.query, input + radio.reply(14'025'000), 1, pieces}};
+    assert(straysOf(radio).size() < 2 ||
+           readFrequency(settingsFor(radio), port).frequency == "14.025");
 }
 
 // One of the club's lists, merged into any roster: whoever is on the list is found afterwards,

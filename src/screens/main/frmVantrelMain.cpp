@@ -245,7 +245,7 @@ void frmVantrelMain::searchClicked() {
         toCallBox();
         return;
     }
-    if (!readRadio(typed))
+    if (!readRadio(typed, Asks::search))
         return;
     if (trim(typed.frequency).empty()) {
         messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
@@ -370,7 +370,7 @@ std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
     const OperatingSettings& settings = shared().settings;
     ContactFields contact = contactFrom(typed, settings, shared().marker,
                                         utcTime(platform().clock.now(), settings.gmtOffset));
-    if (!readRadio(typed))
+    if (!readRadio(typed, Asks::log))
         return std::nullopt;
     const FrequencyCheck check = enterFrequency(contact, typed.frequency, settings);
     if (!showFrequency(typed.frequency))
@@ -450,15 +450,15 @@ bool frmVantrelMain::showFrequency(const std::string& mhz) {
 void frmVantrelMain::readClicked() {
     const InputHold::Scope hold(m_hold);
     Entry typed = m_boxes.entry();
-    if (readRadio(typed, true))
+    if (readRadio(typed, Asks::operatorHimself))
         toCallBox();
 }
 
 // Reads the radio's frequency, if there is a radio, into the box and the entry. A radio that
 // does not answer is reported and the frequency in the box stands. False when the program is
 // being closed: the handler then ends at once.
-bool frmVantrelMain::readRadio(Entry& typed, bool asked) {
-    const ReadResult result = m_autoReads || asked
+bool frmVantrelMain::readRadio(Entry& typed, Asks asks) {
+    const ReadResult result = m_autoReads || asks == Asks::operatorHimself
                                   ? readFrequency(shared().settings, platform().serialPort)
                                   : ReadResult{ReadOutcome::noRadio};
     if (result.outcome == ReadOutcome::cancelled)
@@ -469,7 +469,8 @@ bool frmVantrelMain::readRadio(Entry& typed, bool asked) {
         showFrequency(typed.frequency);
     }
     if (result.outcome == ReadOutcome::failed)
-        messages().show(result.message);
+        messages().show(asks == Asks::log ? withFrequencyUsed(result.message, typed.frequency)
+                                          : result.message);
     return true;
 }
 

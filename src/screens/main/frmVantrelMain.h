@@ -51,6 +51,8 @@ protected:
 private:
     // What the boxes hold after a contact is dropped: nothing, or a single blank each.
     enum class Left { nothing, oneBlank };
+    // Who asks the radio: the last one also when AUTO READ is off.
+    enum class Asks { search, log, operatorHimself };
     // What SEARCH looked for, until another call is typed.
     struct Searched {
         std::string call;
@@ -99,7 +101,7 @@ private:
     bool recheckOn(const std::string& bandTag);
     std::optional<std::string> assembledLine(Entry& typed);
     void logLine(const std::string& line);
-    bool readRadio(Entry& typed, bool asked = false);
+    bool readRadio(Entry& typed, Asks asks);
     void stepTo(const Band& band);
     void clearEntry(Left left);
     void bringBack();

@@ -59,6 +59,8 @@ protected:
 };
 
 TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
+    settle();
+    EXPECT_EQ(QApplication::focusWidget(), control(page, "Option1"));
     press(page, "Option5", Qt::Key_Down); // an arrow key runs no job
     EXPECT_FALSE(folder.has("SKS.ADI"));
     for (int i = 0; i < 2; ++i) {

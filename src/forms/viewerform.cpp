@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/viewerform.h"
 
+#include "base/fixedtext.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
@@ -18,29 +19,41 @@ namespace vantrel {
 
 namespace {
 
+constexpr int fewestRows = 8;
+constexpr int mostRows = 24;
+constexpr int mostDigits = 14; // "12000 OF 12000"
+
 // Gives every line the width of the longest: the list asks for one line's size only and takes
 // it for all, so that it opens at once however many there are.
 class LineDelegate : public QStyledItemDelegate {
 public:
-    LineDelegate(QObject* parent, std::size_t columns)
-        : QStyledItemDelegate(parent), m_columns(columns) {}
+    LineDelegate(QObject* parent, int columns) : QStyledItemDelegate(parent), m_columns(columns) {}
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const int text =
-            option.fontMetrics.horizontalAdvance(QLatin1Char('0')) * static_cast<int>(m_columns);
+        const int text = option.fontMetrics.horizontalAdvance(QLatin1Char('0')) * m_columns;
         const int margins = option.fontMetrics.averageCharWidth() * 2;
         return {text + margins, QStyledItemDelegate::sizeHint(option, index).height()};
     }
 
 private:
-    std::size_t m_columns;
+    int m_columns;
 };
 
-std::size_t longestOf(const std::vector<std::string>& lines) {
+int longestOf(const std::vector<std::string>& lines) {
     std::size_t longest = 0;
     for (const std::string& line : lines)
         longest = std::max(longest, line.size());
-    return longest;
+    return static_cast<int>(longest);
+}
+
+// Upper and lower case are the same.
+std::vector<int> rowsWith(const std::vector<std::string>& lines, std::string_view text) {
+    const std::string wanted = upper(text);
+    std::vector<int> rows;
+    for (std::size_t row = 0; row < lines.size(); ++row)
+        if (wanted.empty() || upper(lines[row]).find(wanted) != std::string::npos)
+            rows.push_back(static_cast<int>(row));
+    return rows;
 }
 
 } // namespace
@@ -50,16 +63,19 @@ ViewerForm::ViewerForm(const FormContext& context, const char* name, const char*
     createControls();
     layOut();
     connectHandlers();
-    openAtPageSize();
 }
 
 void ViewerForm::createControls() {
     FormBuilder build(this);
     m_list = build.list("List1", "CTRL+F FINDS, CTRL+C COPIES THE SELECTED LINES");
-    m_findBox = build.text("Text1", 0, "ENTER OR F3 FINDS THE NEXT LINE, ESC ENDS");
+    m_findBox =
+        build.text("Text1", 0, "ENTER OR F3 FINDS THE NEXT LINE, ESC GOES BACK TO THE LIST");
     m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE LIST");
     m_pathLabel = build.label("Label1");
     m_foundLabel = build.label("Label2");
+    m_headingLabel = build.label("Label3");
+    m_headingLabel->setFont(fixedWidthFont());
+    m_headingLabel->hide();
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTextElideMode(Qt::ElideNone);
     m_lines = new LineListModel(this);
@@ -68,24 +84,26 @@ void ViewerForm::createControls() {
 
 void ViewerForm::layOut() {
     FormBuilder build(this);
-    m_findRow = new QWidget(this);
-    auto* row = new QHBoxLayout(m_findRow);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(build.caption("FIND", m_findBox));
-    row->addWidget(m_findBox, 1);
-    row->addWidget(m_foundLabel);
-    m_findRow->hide();
+    auto* commands = new QHBoxLayout;
+    commands->addWidget(build.caption("FIND", m_findBox));
+    commands->addWidget(m_findBox, 1);
+    commands->addWidget(m_foundLabel);
+    commands->addSpacing(fontMetrics().height());
+    commands->addWidget(m_exitButton);
+    m_foundLabel->setMinimumWidth(fontMetrics().averageCharWidth() * mostDigits);
 
     auto* page = new QVBoxLayout(this);
     page->addWidget(m_pathLabel);
+    page->addWidget(m_headingLabel);
     page->addWidget(m_list, 1);
-    page->addWidget(m_findRow);
-    page->addWidget(m_exitButton, 0, Qt::AlignRight);
+    page->addLayout(commands);
 }
 
 void ViewerForm::connectHandlers() {
     connectHandler(m_findBox, &QLineEdit::textChanged, this, &ViewerForm::findTyped);
     connectHandler(m_findBox, &QLineEdit::returnPressed, this, &ViewerForm::findNext);
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &ViewerForm::showPlace);
     connect(m_exitButton, &QPushButton::clicked, this, [this] { close(); });
     const auto onKeys = [this](QKeySequence::StandardKey keys, void (ViewerForm::*handler)()) {
         connectHandler(new QShortcut(keys, this), &QShortcut::activated, this, handler);
@@ -100,57 +118,89 @@ QWidget* ViewerForm::firstFocus() {
     return m_list;
 }
 
-void ViewerForm::showLines(const std::string& path, std::vector<std::string> lines) {
+void ViewerForm::setHeading(std::string_view heading) {
+    // Over the text of the lines, which begins behind the list's frame and the line's margin.
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_list) + 1;
+    m_headingLabel->setContentsMargins(m_list->frameWidth() + margin, 0, 0, 0);
+    put(m_headingLabel, heading);
+    m_headingLabel->show();
+}
+
+void ViewerForm::showLines(const std::string& path, std::vector<std::string> lines,
+                           std::size_t current) {
     put(m_pathLabel, path + "   " + std::to_string(lines.size()) + " LINES");
+    m_columns = longestOf(lines);
     QAbstractItemDelegate* old = m_list->itemDelegate();
-    m_list->setItemDelegate(new LineDelegate(m_list, longestOf(lines)));
+    m_list->setItemDelegate(new LineDelegate(m_list, m_columns));
     old->deleteLater();
     m_lines->setLines(std::move(lines));
-    if (m_lines->rowCount() > 0)
-        m_list->setCurrentIndex(m_lines->index(0));
+    m_found = rowsWith(m_lines->lines(), textOf(m_findBox));
+    m_list->setCurrentIndex(m_lines->index(static_cast<int>(current)));
+    showPlace();
+    updateGeometry();
+}
+
+// The list's hint is the same whatever it holds.
+QSize ViewerForm::sizeHint() const {
+    return Form::sizeHint() - m_list->sizeHint() +
+           listSize().expandedTo({m_list->sizeHint().width(), 0});
+}
+
+QSize ViewerForm::listSize() const {
+    const int columnWidth = m_list->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_list);
+    const int frame = 2 * m_list->frameWidth();
+    const int rows = std::clamp(m_lines->rowCount(), fewestRows, mostRows);
+    const int margins = columnWidth * 2;
+    return {columnWidth * m_columns + margins + scrollBar + frame,
+            m_list->fontMetrics().height() * (rows + 1) + scrollBar + frame};
 }
 
 // --- Finding ---------------------------------------------------------------------------------
 
 void ViewerForm::openFind() {
-    m_findRow->show();
     m_findBox->setFocus();
     m_findBox->selectAll();
 }
 
 void ViewerForm::findTyped() {
-    findFrom(std::max(0, m_list->currentIndex().row()));
+    m_found = rowsWith(m_lines->lines(), textOf(m_findBox));
+    goToFound(m_list->currentIndex().row());
 }
 
 void ViewerForm::findNext() {
-    findFrom(m_list->currentIndex().row() + 1);
+    goToFound(m_list->currentIndex().row() + 1);
 }
 
-// Upper and lower case are the same; behind the last line it goes on at the first.
-void ViewerForm::findFrom(int row) {
-    m_foundLabel->clear();
-    if (m_findBox->text().isEmpty() || m_lines->rowCount() == 0)
-        return;
-    const QModelIndexList found =
-        m_lines->match(m_lines->index(row % m_lines->rowCount()), Qt::DisplayRole,
-                       m_findBox->text(), 1, Qt::MatchContains | Qt::MatchWrap);
-    if (found.isEmpty())
-        put(m_foundLabel, "NOT FOUND");
+// The first one from that row on; behind the last line it goes on at the first.
+void ViewerForm::goToFound(int row) {
+    if (!m_findBox->text().isEmpty() && !m_found.empty()) {
+        const auto next = std::lower_bound(m_found.begin(), m_found.end(), row);
+        m_list->setCurrentIndex(m_lines->index(next == m_found.end() ? m_found.front() : *next));
+    }
+    showPlace();
+}
+
+// "12 OF 145": where among the lines found, or among all of them, the current one stands.
+void ViewerForm::showPlace() {
+    const std::string count = std::to_string(m_found.size());
+    const auto place =
+        std::lower_bound(m_found.begin(), m_found.end(), m_list->currentIndex().row());
+    if (m_found.empty())
+        put(m_foundLabel, m_findBox->text().isEmpty() ? "" : "NOT FOUND");
+    else if (place == m_found.end() || *place != m_list->currentIndex().row())
+        put(m_foundLabel, count + " FOUND");
     else
-        m_list->setCurrentIndex(found.first());
-}
-
-void ViewerForm::endFinding() {
-    m_findRow->hide();
-    m_foundLabel->clear();
-    m_list->setFocus();
+        put(m_foundLabel, std::to_string(place - m_found.begin() + 1) + " OF " + count);
 }
 
 void ViewerForm::escapePressed() {
-    if (m_findRow->isVisible())
-        endFinding();
-    else
+    if (!m_findBox->hasFocus()) {
         close();
+        return;
+    }
+    m_findBox->clear();
+    m_list->setFocus();
 }
 
 // --- Copying ---------------------------------------------------------------------------------

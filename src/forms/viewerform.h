@@ -4,7 +4,9 @@
 
 #include "forms/form.h"
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QLabel;
@@ -25,12 +27,19 @@ public:
     // Opened again it shows what is to be seen now.
     bool loadsAgain() const override { return true; }
 
+    // As wide as its longest line.
+    QSize sizeHint() const override;
+
 protected:
     void escapePressed() override;
     QWidget* firstFocus() override;
 
-    // Shows the lines (ISO 8859-1) and, above them, the file's path and their number.
-    void showLines(const std::string& path, std::vector<std::string> lines);
+    // What stands over the columns of the lines.
+    void setHeading(std::string_view heading);
+    // Shows the lines (ISO 8859-1) and, above them, the file's path and their number. `current`:
+    // index of the line that it opens at.
+    void showLines(const std::string& path, std::vector<std::string> lines,
+                   std::size_t current = 0);
 
 private:
     void createControls();
@@ -42,16 +51,20 @@ private:
     void findNext();  // behind it
     void copySelected();
 
-    void findFrom(int row);
-    void endFinding();
+    void goToFound(int row);
+    void showPlace();
+    QSize listSize() const;
 
     QLabel* m_pathLabel;
     QListView* m_list;
     QLineEdit* m_findBox;
+    QLabel* m_headingLabel;
     QLabel* m_foundLabel;
     QPushButton* m_exitButton;
-    QWidget* m_findRow; // shown while finding
     LineListModel* m_lines;
+
+    std::vector<int> m_found; // rows with the text to find; all of them without one
+    int m_columns = 0;        // of the longest line
 };
 
 } // namespace vantrel

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmVantrelShowDB.h"
 
+#include "roster/rosterview.h"
+
 #include <utility>
 
 namespace vantrel {
 
 frmVantrelShowDB::frmVantrelShowDB(const FormContext& context)
-    : ViewerForm(context, "frmVantrelShowDB", "Vantrel - Members") {}
+    : ViewerForm(context, "frmVantrelShowDB", "Vantrel - Members") {
+    setHeading(memberHeading());
+}
 
 void frmVantrelShowDB::take(std::string path, std::vector<std::string> lines) {
     m_path = std::move(path);

@@ -30,4 +30,9 @@ int countMembers(const Files& files) {
     return members;
 }
 
+std::string memberHeading() {
+    return leftAligned("CALL", member::call.width) + leftAligned("SKCC#", member::number.width) +
+           leftAligned("NAME", member::name.width) + "S/P/C";
+}
+
 } // namespace vantrel

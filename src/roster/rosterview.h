@@ -26,4 +26,7 @@ RosterView viewRosterFile(const Files& files, std::size_t number);
 // Files::read.
 int countMembers(const Files& files);
 
+// What stands over the columns of a file's lines.
+std::string memberHeading();
+
 } // namespace vantrel

@@ -28,6 +28,7 @@ public:
     void bringToFront() override;
 
 protected:
+    void load() override { showResults(); }
     QWidget* firstFocus() override;
 
 private:

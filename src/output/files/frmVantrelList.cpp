@@ -15,7 +15,9 @@ void frmVantrelList::load() {
     const std::string name = m_file == ListedFile::adif ? adifFileName(log) : log;
     const std::string path = platform().files.path(name);
     showLines(path, {});
-    showLines(path, wholeLines(platform().files.read(name)));
+    std::vector<std::string> lines = wholeLines(platform().files.read(name));
+    const std::size_t current = m_file == ListedFile::log ? lastContactOf(lines) : 0;
+    showLines(path, std::move(lines), current);
 }
 
 // The file screen that it came from may have been closed meanwhile; the main page never is.

@@ -9,8 +9,37 @@
 #include "shared/utctime.h"
 
 #include <QGridLayout>
+#include <QPainter>
+#include <QStyledItemDelegate>
 
 namespace vantrel {
+
+namespace {
+
+constexpr int listColumns = 36;
+
+// The items' blanks line the codes up in one font only; here they stand in a column in each.
+class AreaDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const CallArea& area = callAreas.at(static_cast<std::size_t>(index.row()));
+        QStyleOptionViewItem part(option);
+        initStyleOption(&part, index);
+        const QString code = toQt(area.code);
+        part.text = part.text.chopped(code.size()).simplified();
+        QStyle* style = part.widget->style();
+        style->drawControl(QStyle::CE_ItemViewItem, &part, painter, part.widget);
+        const bool selected = part.state.testFlag(QStyle::State_Selected);
+        const QRect column = part.rect.adjusted(part.rect.width() / 2, 0, 0, 0);
+        style->drawItemText(painter, column, Qt::AlignCenter, part.palette, true, code,
+                            selected ? QPalette::HighlightedText : QPalette::Text);
+    }
+};
+
+} // namespace
 
 frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     : Form(context, "frmVantrelCallArea", "Get Call Area") {
@@ -27,11 +56,15 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     auto* model = new LineListModel(this);
     model->setLines(std::move(items));
     m_areas->setModel(model);
+    m_areas->setItemDelegate(new AreaDelegate(m_areas));
     layOut();
 
     using Page = frmVantrelCallArea;
     connectHandler(m_areas, &QListView::clicked, this, &Page::areaChosen);
     connectHandler(m_areas, &QListView::activated, this, &Page::areaChosen); // Enter
+    // An arrow key chooses as a click does.
+    connectHandler(m_areas->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                   &Page::areaSelected);
     connect(m_okButton, &QPushButton::clicked, this, &QWidget::close);
     connectHandler(m_abortButton, &QPushButton::clicked, this, &Page::abortClicked);
 }
@@ -57,6 +90,12 @@ void frmVantrelCallArea::areaChosen(const QModelIndex& index) {
     page->setLogFileName(k3yLogName(m_utcDate, area.code, page->myCall()));
 }
 
+void frmVantrelCallArea::areaSelected() {
+    const QModelIndexList selected = m_areas->selectionModel()->selectedIndexes();
+    if (!selected.isEmpty())
+        areaChosen(selected.front());
+}
+
 // The name goes back to what it was.
 void frmVantrelCallArea::abortClicked() {
     if (StartPage* page = screens().startPage())
@@ -79,7 +118,10 @@ void frmVantrelCallArea::layOut() {
     grid->addWidget(m_chosenArea, 3, 1);
     grid->addWidget(m_okButton, 4, 0);
     grid->addWidget(m_abortButton, 4, 1);
-    resize(360, 480);
+    const QSize row = {fontMetrics().averageCharWidth() * listColumns, fontMetrics().height() + 1};
+    m_areas->setMinimumSize(row.width(), row.height() * static_cast<int>(callAreas.size()) +
+                                             2 * m_areas->frameWidth());
+    m_chosenArea->setMinimumWidth(row.width() / 2);
 }
 
 } // namespace vantrel

@@ -24,6 +24,7 @@ protected:
 private:
     void layOut();
     void areaChosen(const QModelIndex& index);
+    void areaSelected();
     void abortClicked();
 
     QListView* m_areas;

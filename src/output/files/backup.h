@@ -2,6 +2,7 @@
 // A copy of the log in a folder of the operator's choice.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace vantrel {
@@ -12,10 +13,25 @@ class Files;
 inline constexpr std::string_view backupUnderWay = "    < WORKING >";
 inline constexpr std::string_view backupDone = "DONE......CLICK EXIT";
 
+// What a backup did.
+struct Backup {
+    int contacts;     // written
+    std::string kept; // where a fuller copy made before is now, as text to show; empty: none was
+};
+
+// "28 QSOS WRITTEN", and where the fuller old copy is.
+std::string backupText(const Backup& backup);
+
+// The copy that is in the folder typed already: "THE COPY THERE: 28 QSOS, LAST 2026-11-21 1441";
+// "NO COPY THERE YET"; empty without a folder. Throws as Files::read.
+std::string copyThereText(const Files& files, std::string_view logFileName,
+                          std::string_view folderTyped);
+
 // Copies the whole log, under the last part of its name, into the folder typed (blanks around
-// it do not matter), in place of a copy made before. The copy is on the disk when this returns.
-// Throws RuntimeError 76 for a folder that is empty or missing, 53 for a missing log, and as
-// Files::rewrite; an earlier copy is then as it was. The log is never changed.
-void backUpLog(Files& files, std::string_view logFileName, std::string_view folderTyped);
+// it do not matter), in place of a copy made before. A copy with more contacts than the log is
+// first kept as NAME.CBR.OLD (numbered): the log may have been started anew. The copy is on the
+// disk when this returns. Throws RuntimeError 76 for a folder that is empty or missing, 53 for a
+// missing log, and as Files::rewrite; an earlier copy is then as it was. The log is never changed.
+Backup backUpLog(Files& files, std::string_view logFileName, std::string_view folderTyped);
 
 } // namespace vantrel

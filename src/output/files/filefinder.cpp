@@ -24,12 +24,12 @@ std::string above(const std::string& folder) {
 }
 
 // Whether the program can say this name: both `\` and `/` separate for it.
-bool canBeNamed(const std::string& name) {
-    return name.find('\\') == std::string::npos && latin1Text(name).has_value();
-}
-
-void leaveOutUnsayable(std::vector<std::string>& names) {
-    std::erase_if(names, [](const std::string& name) { return !canBeNamed(name); });
+bool canBeNamed(const std::string& name, FinderNames names) {
+    const auto said = latin1Text(name);
+    if (!said || name.find('\\') != std::string::npos)
+        return false;
+    return names == FinderNames::anywhere ||
+           (withoutSeparatorsAndQuotes(*said) == *said && trimRight(*said) == *said);
 }
 
 std::vector<std::string> shown(const std::vector<std::string>& names) {
@@ -53,8 +53,8 @@ std::string folderText(const Files& files, const std::string& folder) {
 
 } // namespace
 
-FileFinder::FileFinder(const Files& files, const Folders& folders)
-    : m_files(files), m_machine(folders), m_drives(folders.drives()) {
+FileFinder::FileFinder(const Files& files, const Folders& folders, FinderNames names)
+    : m_files(files), m_machine(folders), m_names(names), m_drives(folders.drives()) {
     leaveOutUnsayable(m_drives);
     moveTo(files.nativePath(""));
 }
@@ -96,6 +96,10 @@ void FileFinder::chooseFile(std::size_t index) {
 
 std::string FileFinder::selection() const {
     return m_folderText + shownText(m_chosen);
+}
+
+void FileFinder::leaveOutUnsayable(std::vector<std::string>& names) const {
+    std::erase_if(names, [this](const std::string& name) { return !canBeNamed(name, m_names); });
 }
 
 void FileFinder::moveTo(const std::string& folder) {

@@ -13,12 +13,17 @@ namespace vantrel {
 
 class Files;
 
+// What the names are for. The start page takes a comma, a quote and a blank at the end of a log's
+// name away (the configuration file could not hold it), and would open nothing, or another file.
+enum class FinderNames { anywhere, asLog };
+
 // Texts are ISO 8859-1, as shown; indexes count from 0 in the list of that name. What has no
 // name in that alphabet could not be handed back and is not listed.
 class FileFinder {
 public:
     // Starts in the program folder. Throws as Folders::content.
-    FileFinder(const Files& files, const Folders& folders);
+    FileFinder(const Files& files, const Folders& folders,
+               FinderNames names = FinderNames::anywhere);
 
     std::vector<std::string> drives() const;
     // Index of the drive on which the current folder lies.
@@ -39,9 +44,11 @@ public:
 
 private:
     void moveTo(const std::string& folder);
+    void leaveOutUnsayable(std::vector<std::string>& names) const;
 
     const Files& m_files;
     const Folders& m_machine;
+    FinderNames m_names;
     std::vector<std::string> m_drives; // this and the rest: real paths and names
     std::string m_folder;
     FolderContent m_content;

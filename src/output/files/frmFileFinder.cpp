@@ -6,21 +6,27 @@
 #include "forms/linelistmodel.h"
 
 #include <QGridLayout>
-#include <QSignalBlocker>
 
 namespace vantrel {
+
+namespace {
+constexpr int listColumns = 40;
+constexpr int listRows = 16;
+} // namespace
 
 frmFileFinder::frmFileFinder(const FormContext& context)
     : Form(context, "frmFileFinder", "FILE FINDER") {
     createControls();
     layOut();
     using Finder = frmFileFinder;
-    connectHandler(m_driveBox, &QComboBox::currentIndexChanged, this, &Finder::driveChosen);
     // Chosen, not only changed: the drive that shows already leads back to its top.
     connectHandler(m_driveBox, &QComboBox::activated, this, &Finder::driveChosen);
     connectHandler(m_folderList, &QListView::activated, this, &Finder::folderOpened);
     connectHandler(m_fileList, &QListView::clicked, this, &Finder::fileChosen);
     connectHandler(m_fileList, &QListView::activated, this, &Finder::fileChosen); // Enter
+    // An arrow key chooses as a click does.
+    connectHandler(m_fileList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                   &Finder::fileSelected);
     connectHandler(m_returnButton, &QPushButton::clicked, this, &Finder::returnClicked);
 }
 
@@ -38,8 +44,8 @@ void frmFileFinder::createControls() {
 }
 
 void frmFileFinder::load() {
-    m_finder.emplace(platform().files, m_machine);
-    const QSignalBlocker quiet(m_driveBox);
+    m_finder.emplace(platform().files, m_machine,
+                     m_receiver == Screen::start ? FinderNames::asLog : FinderNames::anywhere);
     m_driveBox->clear();
     for (const std::string& drive : m_finder->drives())
         m_driveBox->addItem(toQt(drive));
@@ -54,7 +60,7 @@ void frmFileFinder::driveChosen(int index) {
     try {
         m_finder->openDrive(static_cast<std::size_t>(index));
     } catch (const RuntimeError&) {
-        showFolder(); // the drive chosen before shows again
+        showDrive(); // as before, like all else
         throw;
     }
     showFolder();
@@ -74,6 +80,12 @@ void frmFileFinder::fileChosen(const QModelIndex& index) {
     put(m_selection, m_finder->selection());
 }
 
+void frmFileFinder::fileSelected() {
+    const QModelIndexList selected = m_fileList->selectionModel()->selectedIndexes();
+    if (!selected.isEmpty())
+        fileChosen(selected.front());
+}
+
 void frmFileFinder::returnClicked() {
     if (!m_finder) { // the program folder could not be listed: there is nothing to hand back
         close();
@@ -86,9 +98,12 @@ void frmFileFinder::returnClicked() {
     others.handBackPath(receiver, selection);
 }
 
-void frmFileFinder::showFolder() {
-    const QSignalBlocker quiet(m_driveBox);
+void frmFileFinder::showDrive() {
     m_driveBox->setCurrentIndex(static_cast<int>(m_finder->currentDrive()));
+}
+
+void frmFileFinder::showFolder() {
+    showDrive();
     m_folders->setLines(m_finder->folders());
     m_files->setLines(m_finder->files());
     put(m_selection, m_finder->selection());
@@ -111,7 +126,9 @@ void frmFileFinder::layOut() {
     grid->addWidget(m_selection, 6, 0, 1, 2);
     grid->addWidget(m_returnButton, 7, 1, Qt::AlignRight);
     grid->setRowStretch(4, 1);
-    resize(640, 480);
+    const int column = fontMetrics().averageCharWidth() * listColumns;
+    for (QWidget* list : {static_cast<QWidget*>(m_folderList), static_cast<QWidget*>(m_fileList)})
+        list->setMinimumSize(column, fontMetrics().height() * listRows);
 }
 
 } // namespace vantrel

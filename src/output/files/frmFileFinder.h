@@ -39,8 +39,10 @@ private:
     void driveChosen(int index);
     void folderOpened(const QModelIndex& index);
     void fileChosen(const QModelIndex& index);
+    void fileSelected();
     void returnClicked();
 
+    void showDrive();
     void showFolder();
 
     QComboBox* m_driveBox;

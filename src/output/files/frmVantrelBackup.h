@@ -17,6 +17,8 @@ public:
     explicit frmVantrelBackup(const FormContext& context);
 
     void receivePath(const std::string& path) override;
+    // The log may have become another one while another page was in front.
+    void bringToFront() override;
 
 protected:
     void load() override;
@@ -26,6 +28,10 @@ private:
     void layOut();
     void browseClicked();
     void backupClicked();
+    void altBPressed();
+
+    void showLog();
+    void showCopyThere();
 
     QLineEdit* m_folderBox;
     QPushButton* m_browseButton;
@@ -33,6 +39,7 @@ private:
     QPushButton* m_exitButton;
     QLabel* m_logPath;
     QLabel* m_status;
+    QLabel* m_copy; // there already, or what was written
 };
 
 } // namespace vantrel

@@ -13,4 +13,11 @@ LocalTime SystemClock::now() const {
             local.tm_hour,        local.tm_min,     local.tm_sec};
 }
 
+TimeOfDay SystemClock::utc() const {
+    const std::time_t seconds = std::time(nullptr);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    return {utc.tm_hour, utc.tm_min};
+}
+
 } // namespace vantrel

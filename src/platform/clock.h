@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The PC's local clock.
+// The PC's clock.
 #pragma once
 
 namespace vantrel {
@@ -13,16 +13,24 @@ struct LocalTime {
     int second = 0;
 };
 
+struct TimeOfDay {
+    int hour = 0;   // 0-23
+    int minute = 0; // 0-59
+};
+
 class Clock {
 public:
     virtual ~Clock() = default;
     virtual LocalTime now() const = 0;
+    // What the machine takes for UTC, by the time zone that it is set to.
+    virtual TimeOfDay utc() const = 0;
 };
 
 // The machine's clock in the machine's time zone.
 class SystemClock : public Clock {
 public:
     LocalTime now() const override;
+    TimeOfDay utc() const override;
 };
 
 } // namespace vantrel

@@ -20,7 +20,8 @@ public:
     virtual ~Messages() = default;
     // Shows a modal box with an OK button and returns when it is closed.
     virtual void show(const Message& message) = 0;
-    // Shows a modal box with Yes and No; true for Yes, false for No and Esc.
+    // Shows a modal box with Yes and No, which is the default; true for Yes, false for No and
+    // Esc.
     virtual bool ask(const Message& message) = 0;
 };
 

@@ -54,6 +54,7 @@ int showBox(const Message& message, QMessageBox::StandardButtons buttons,
     box.setInformativeText(toQt(message.informative));
     box.setStandardButtons(buttons);
     box.setEscapeButton(escapeButton);
+    box.setDefaultButton(escapeButton); // Enter by accident changes nothing
     widen(box);
     const int button = box.exec();
     // No window is active by itself after a box closes on every platform.

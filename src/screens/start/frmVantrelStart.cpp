@@ -3,17 +3,20 @@
 
 #include "base/fixedtext.h"
 #include "forms/controltext.h"
+#include "forms/emptyframe.h"
 #include "forms/formbuilder.h"
 #include "log/logfile.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/serialport.h"
 #include "screens/start/startlog.h"
-#include "shared/utctime.h"
+#include "screens/start/startnotes.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <array>
@@ -39,16 +42,28 @@ void fill(QComboBox* combo, const ValueList& list) {
         combo->addItem(toQt(entry.shown), toQt(entry.stored));
 }
 
+void tell(QLabel* label, const Note& note) {
+    put(label, note.text);
+    label->setToolTip(toQt(note.tip));
+    setTextColour(label, note.caution ? cautionColour(label->parentWidget()->palette()) : QColor());
+}
+
+// As wide as what it takes, in capitals.
+void fitToLength(QLineEdit* box) {
+    const QFontMetrics metrics(box->font());
+    box->setFixedWidth(metrics.horizontalAdvance(QString(box->maxLength(), QLatin1Char('N'))) +
+                       3 * metrics.averageCharWidth());
+}
+
 } // namespace
 
 frmVantrelStart::frmVantrelStart(const FormContext& context)
-    : Form(context, "frmVantrelStart", "Vantrel"),
+    : Form(context, "frmVantrelStart", "Vantrel - Start"),
       m_hold(this, [this] { platform().serialPort.close(); }) {
     setAttribute(Qt::WA_DeleteOnClose, false);
     createControls();
     layOut();
     connectHandlers();
-    openAtPageSize();
 }
 
 void frmVantrelStart::createControls() {
@@ -83,6 +98,10 @@ void frmVantrelStart::createControls() {
     m_exitButton = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
     m_utcLabel = build.label("Label12");
     m_oldLogLabel = build.label("Label14");
+    m_logLabel = build.label("Label15");
+    m_membersLabel = build.label("Label16");
+    for (QLineEdit* box : {m_callBox, m_nameBox, m_stateBox, m_numberBox})
+        new EmptyFrame(box);
     for (const ChosenSetting& chosen : chosenSettings())
         fill(chosen.box, chosen.list());
     fill(m_newFileBox, dupeModeList());
@@ -95,7 +114,13 @@ void frmVantrelStart::connectHandlers() {
     connectHandler(m_defaultNameButton, &QPushButton::clicked, this, &Start::defaultNameClicked);
     connectHandler(m_browseButton, &QPushButton::clicked, this, &Start::browseClicked);
     connectHandler(m_newFileBox, &QComboBox::currentIndexChanged, this, &Start::newFileChosen);
-    connectHandler(m_offsetBox, &QComboBox::currentIndexChanged, this, &Start::offsetChosen);
+    connectHandler(m_offsetBox, &QComboBox::currentIndexChanged, this, &Start::showUtc);
+    m_second = new QTimer(this);
+    m_second->setInterval(1000);
+    connectHandler(m_second, &QTimer::timeout, this, &Start::secondPassed);
+    connectHandler(m_fileBox, &QLineEdit::textEdited, this, &Start::logNameTyped);
+    for (const QLineEdit* box : {m_fileBox, m_contestBox})
+        connectHandler(box, &QLineEdit::textChanged, this, &Start::showLogNote);
     connectRadio();
     connectHandler(m_clearBonusButton, &QPushButton::clicked, this, &Start::clearBonusClicked);
     connectHandler(m_updateButton, &QPushButton::clicked, this, &Start::updateClicked);
@@ -114,16 +139,54 @@ void frmVantrelStart::connectRadio() {
 // --- Opening ---------------------------------------------------------------------------------
 
 void frmVantrelStart::load() {
-    const OperatingSettings& settings = shared().settings;
-    for (std::size_t i = 0; i < contests.size(); ++i)
-        if (contests[i].code == settings.contestCode)
-            m_contestOptions[i]->setChecked(true);
-    for (const auto& [setting, box, list] : chosenSettings())
-        box->setCurrentIndex(positionOf(list(), settings.*setting, OperatingSettings{}.*setting));
+    std::vector<std::string> unknown = loadContest();
+    const std::vector<std::string> notChosen = loadChosen();
+    unknown.insert(unknown.end(), notChosen.begin(), notChosen.end());
     for (const auto& [setting, box] : typedSettings())
-        put(box, trim(settings.*setting));
-    offsetChosen();
+        put(box, trim(shared().settings.*setting));
     m_radio->loaded();
+    m_oldLogLabel->clear();
+    if (!unknown.empty())
+        tell(m_oldLogLabel, {unknownSettingsText(unknown), true});
+    m_second->start();
+}
+
+// Returns what the page cannot show of the saved settings, if anything.
+std::vector<std::string> frmVantrelStart::loadContest() {
+    const std::string& code = shared().settings.contestCode;
+    const auto saved = std::find_if(contests.begin(), contests.end(), [&](const Contest& contest) {
+        return contest.code == upper(trim(code));
+    });
+    const bool known = saved != contests.end();
+    m_contestOptions[known ? static_cast<std::size_t>(saved - contests.begin()) : 0]->setChecked(
+        true);
+    if (known)
+        return {};
+    return {"CONTEST: " + code};
+}
+
+std::vector<std::string> frmVantrelStart::loadChosen() {
+    OperatingSettings settings = shared().settings;
+    settings.gmtOffset = offsetByValue(settings.gmtOffset);
+    std::vector<std::string> unknown;
+    for (const auto& [setting, box, list] : chosenSettings()) {
+        box->setCurrentIndex(positionOf(list(), settings.*setting, OperatingSettings{}.*setting));
+        if (!isListed(list(), settings.*setting))
+            unknown.push_back(fromQt(box->accessibleName()) + ' ' + settings.*setting);
+    }
+    return unknown;
+}
+
+// Also when it comes back from behind another page: roster and log may be others now.
+void frmVantrelStart::bringToFront() {
+    Form::bringToFront();
+    runHandler([this] { showNotes(); });
+}
+
+void frmVantrelStart::showNotes() {
+    showUtc();
+    showLogNote();
+    tell(m_membersLabel, rosterNote(platform().files));
 }
 
 QWidget* frmVantrelStart::firstFocus() {
@@ -135,6 +198,30 @@ void frmVantrelStart::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
     if (screens().mainPage() == nullptr)
         screens().quit();
+}
+
+void frmVantrelStart::hideEvent(QHideEvent* event) {
+    m_second->stop();
+    Form::hideEvent(event);
+}
+
+// Enter in a box goes on to the next one.
+void frmVantrelStart::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        focusNextChild();
+    else
+        Form::keyPressEvent(event);
+}
+
+void frmVantrelStart::showUtc() {
+    tell(m_utcLabel, utcNote(platform().clock, stored(m_offsetBox)));
+}
+
+void frmVantrelStart::secondPassed() {
+    const QString before = m_utcLabel->text();
+    showUtc();
+    if (m_utcLabel->text() != before) // a contact may have been logged behind the page
+        showNotes();
 }
 
 // --- Contest and log file --------------------------------------------------------------------
@@ -149,7 +236,7 @@ void frmVantrelStart::defaultNameClicked() {
     const std::string code = contestCode();
     if (code == contestK3y) // the event's name comes from the call area
         return;
-    put(m_fileBox, defaultLogName(code, platform().clock.now()));
+    setLogFileName(defaultLogName(code, platform().clock.now()));
     put(m_contestBox, code);
 }
 
@@ -178,12 +265,22 @@ void frmVantrelStart::startNewFile() {
     const std::string kept =
         startNewLog(platform().files, name,
                     logHeader(settings.contestText, settings.myCall, settings.myNumber));
-    put(m_oldLogLabel, kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept);
+    tell(m_oldLogLabel, {kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept});
+    showLogNote();
+    // The main page behind this one goes on with that log, whether START follows or not.
+    const Files& files = platform().files;
+    if (!shared().log.name().empty() &&
+        files.nativePath(shared().log.name()) == files.nativePath(name))
+        shared().log.reread();
 }
 
-void frmVantrelStart::offsetChosen() {
-    const UtcTime utc = utcTime(platform().clock.now(), stored(m_offsetBox));
-    put(m_utcLabel, utc.time + " UTC   " + utc.date);
+// What was told of one name says nothing about another.
+void frmVantrelStart::logNameTyped() {
+    m_oldLogLabel->clear();
+}
+
+void frmVantrelStart::showLogNote() {
+    tell(m_logLabel, logNote(platform().files, textOf(m_fileBox), textOf(m_contestBox)));
 }
 
 void frmVantrelStart::clearBonusClicked() {
@@ -290,6 +387,7 @@ std::string frmVantrelStart::logFileName() const {
 
 void frmVantrelStart::setLogFileName(const std::string& name) {
     put(m_fileBox, name);
+    logNameTyped();
 }
 
 std::string frmVantrelStart::myCall() const {
@@ -319,9 +417,13 @@ void frmVantrelStart::layOut() {
 
     auto* buttons = new QHBoxLayout;
     m_startButton->setFont(enlargedFont(this, 1.3));
+    for (QLineEdit* box : {m_callBox, m_nameBox, m_stateBox, m_numberBox, m_bonusBox})
+        fitToLength(box);
     buttons->addWidget(m_updateButton);
+    buttons->addWidget(m_membersLabel);
     buttons->addStretch();
     buttons->addWidget(m_startButton);
+    buttons->addSpacing(2 * fontMetrics().height());
     buttons->addWidget(m_exitButton);
 
     auto* page = new QVBoxLayout(this);
@@ -334,8 +436,9 @@ QLayout* frmVantrelStart::contestBox() {
     auto* layout = new QVBoxLayout;
     for (QRadioButton* option : m_contestOptions)
         layout->addWidget(option);
-    layout->addWidget(build.caption("CONTEST NAME:", m_contestBox));
-    layout->addWidget(m_contestBox);
+    auto* form = new QFormLayout;
+    build.row(form, "CONTEST NAME:", m_contestBox);
+    layout->addLayout(form);
     layout->addStretch();
     return layout;
 }
@@ -343,12 +446,13 @@ QLayout* frmVantrelStart::contestBox() {
 QLayout* frmVantrelStart::operatorBox() {
     FormBuilder build(this);
     auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     build.row(form, "YOUR CALL:", m_callBox);
     build.row(form, "YOUR NAME:", m_nameBox);
     build.row(form, "YOUR STATE:", m_stateBox);
     build.row(form, "YOUR SKCC#:", m_numberBox);
     build.row(form, "DIFF IN COMPUTER TIME TO GMT:", m_offsetBox);
-    form->addRow(build.caption("UTC:"), m_utcLabel);
+    form->addRow(build.caption("UTC:", m_utcLabel), m_utcLabel);
     return form;
 }
 
@@ -361,12 +465,15 @@ QLayout* frmVantrelStart::fileBox() {
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     build.row(form, "FILE NAME:", m_fileBox);
-    form->addRow(nameButtons);
+    form->addRow(QString(), m_logLabel);
+    form->addRow(QString(), nameButtons);
     build.row(form, "START A NEW", m_newFileBox);
     form->addRow(m_oldLogLabel);
     build.row(form, "LOG DUPES:", m_dupeModeBox);
-    build.row(form, "BONUS STATION:", m_bonusBox);
-    form->addRow(QString(), m_clearBonusButton);
+    auto* bonus = new QHBoxLayout;
+    bonus->addWidget(m_bonusBox);
+    bonus->addWidget(m_clearBonusButton, 1);
+    form->addRow(build.caption("BONUS STATION:", m_bonusBox), bonus);
     return form;
 }
 

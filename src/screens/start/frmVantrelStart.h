@@ -14,6 +14,7 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QTimer;
 
 namespace vantrel {
 
@@ -29,12 +30,15 @@ public:
     std::string gmtOffset() const override;
     void receivePath(const std::string& path) override;
     bool loadsAgain() const override { return true; }
+    void bringToFront() override;
 
 protected:
     void load() override;
     void escapePressed() override {}
     QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     using Setting = std::string OperatingSettings::*;
@@ -56,9 +60,16 @@ private:
     void connectHandlers();
     void connectRadio();
 
+    std::vector<std::string> loadContest();
+    std::vector<std::string> loadChosen();
+    void showNotes();
+    void showLogNote();
+
     // In the order in which the operator meets them.
     void contestClicked();
-    void offsetChosen();
+    void showUtc();
+    void secondPassed();
+    void logNameTyped();
     void defaultNameClicked();
     void browseClicked();
     void newFileChosen();
@@ -85,16 +96,19 @@ private:
     QLineEdit* m_numberBox;
     QComboBox* m_offsetBox;
     QLabel* m_utcLabel;
+    QTimer* m_second;
     QLineEdit* m_fileBox;
     QPushButton* m_defaultNameButton;
     QPushButton* m_browseButton;
     QComboBox* m_newFileBox;
+    QLabel* m_logLabel;
     QLabel* m_oldLogLabel;
     QComboBox* m_dupeModeBox;
     QLineEdit* m_bonusBox;
     QPushButton* m_clearBonusButton;
     std::unique_ptr<RadioSection> m_radio;
     QPushButton* m_updateButton;
+    QLabel* m_membersLabel;
     QPushButton* m_startButton;
     QPushButton* m_exitButton;
 

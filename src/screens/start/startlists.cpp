@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/start/startlists.h"
 
+#include "base/fixedtext.h"
 #include "platform/serialnames.h"
 #include "rig/rigs.h"
 #include "shared/settings.h"
@@ -75,6 +76,18 @@ int positionOf(const ValueList& list, std::string_view value, std::string_view o
     if (found == list.end())
         found = storedAs(otherwise);
     return static_cast<int>(found - list.begin());
+}
+
+bool isListed(const ValueList& list, std::string_view value) {
+    return std::any_of(list.begin(), list.end(),
+                       [&](const ListEntry& entry) { return entry.stored == value; });
+}
+
+std::string offsetByValue(std::string_view saved) {
+    constexpr std::size_t longest = 9; // what no 64 bits hold is no offset either
+    const bool isNumber =
+        saved.size() <= longest && std::any_of(saved.begin(), saved.end(), isDigit);
+    return isNumber ? std::to_string(numericValue(saved)) : std::string(saved);
 }
 
 } // namespace vantrel

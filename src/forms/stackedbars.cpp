@@ -16,6 +16,7 @@ constexpr std::array<QRgb, 10> seriesColors{0xFF8C564B, 0xFF9467BD, 0xFF3F87C4, 
                                             0xFF2CA02C, 0xFFBCBD22, 0xFFFF7F0E, 0xFFE377C2,
                                             0xFFD64545, 0xFF8F8F8F};
 constexpr int rowsHigh = 9; // lines of text: title, legend, plot, labels
+constexpr int fewestRowsHigh = 6;
 constexpr int charactersWide = 60;
 constexpr double barShare = 0.8; // of a bar's place; the rest parts it from the next
 constexpr double gapShare = 0.6; // of a bar's place
@@ -39,7 +40,8 @@ QSize StackedBars::sizeHint() const {
 }
 
 QSize StackedBars::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * charactersWide / 2, sizeHint().height()};
+    return {fontMetrics().averageCharWidth() * charactersWide / 2,
+            fontMetrics().height() * fewestRowsHigh};
 }
 
 int StackedBars::highest() const {

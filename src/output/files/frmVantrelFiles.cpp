@@ -16,9 +16,14 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace vantrel {
+
+namespace {
+constexpr int widthInCharacters = 135; // of the page, with each result beside its job
+} // namespace
 
 frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     : Form(context, "frmVantrelFiles", "Vantrel - Files") {
@@ -106,7 +111,14 @@ void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
         return;
     QLabel* result = build.label((job.name + std::string("Result")).c_str());
     setTextColour(result, dimmedColour(palette()));
-    column->addWidget(result, row, 1);
+    const bool isWide = fontMetrics().averageCharWidth() * widthInCharacters <=
+                        screen()->availableGeometry().width();
+    if (isWide) {
+        column->addWidget(result, row, 1);
+    } else { // a large font on a small screen: below its job
+        column->addWidget(result, row + 1, 0, Qt::AlignRight);
+        column->setVerticalSpacing(0);
+    }
     m_results.push_back({result, job.result});
 }
 

@@ -209,16 +209,14 @@ void frmVantrelScore::copyClicked() {
 
 void frmVantrelScore::layOut() {
     FormBuilder build(this);
-    auto* left = new QVBoxLayout;
-    left->addLayout(figures());
-    left->addStretch();
-    left->addLayout(total());
     auto* card = new QVBoxLayout;
     card->addWidget(m_bands);
     auto* score = new QHBoxLayout;
-    score->addLayout(left);
+    score->addLayout(figures());
     score->addSpacing(fontMetrics().height());
     score->addLayout(build.section("BANDS", card));
+    score->addSpacing(fontMetrics().height());
+    score->addLayout(total());
     score->addStretch();
     auto* commands = new QHBoxLayout;
     commands->addWidget(m_printButton);
@@ -257,19 +255,21 @@ QFormLayout* frmVantrelScore::figures() {
     return form;
 }
 
-// Large, how it comes about beside it, and below what became of the duplicates.
+// Large, how it comes about below it, and what became of the duplicates.
 QLayout* frmVantrelScore::total() {
     FormBuilder build(this);
     m_total->setFont(enlargedFont(this, totalEnlargement));
+    m_total->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     keepNarrow(m_total);
-    auto* grid = new QGridLayout;
-    grid->addWidget(build.caption("TOTAL SCORE:", m_total), 0, 0);
-    grid->addWidget(m_sum, 1, 0);
-    grid->addWidget(m_total, 0, 1, 2, 1);
-    grid->addWidget(m_dupesLogged, 2, 0, 1, 2);
-    grid->addWidget(m_dupesNotCounted, 3, 0, 1, 2);
-    grid->setColumnStretch(0, 1);
-    return grid;
+    auto* column = new QVBoxLayout;
+    column->addWidget(build.caption("TOTAL SCORE:", m_total));
+    column->addWidget(m_total);
+    column->addWidget(m_sum);
+    column->addSpacing(fontMetrics().height());
+    column->addWidget(m_dupesLogged);
+    column->addWidget(m_dupesNotCounted);
+    column->addStretch();
+    return column;
 }
 
 } // namespace vantrel

@@ -117,7 +117,7 @@ void log(std::string input) {
         const auto time = contactTime(line);
         assert(!time || (time->hour >= 0 && time->hour < 24 && time->minute < 60));
     }
-    assert(contactsPerHour(contacts).size() <= pictureHours);
+    assert(contestPicture(contacts).bars.size() <= pictureHours);
     errorOf([&] { countBonusPoints(contacts); });
     assert(logPrintLines("A.CBR", input).size() >= 2 + contacts.size());
 }
@@ -149,8 +149,8 @@ void standings(std::string input) {
         for (int row = 1; row <= static_cast<int>(standings.rows().size()); ++row)
             for (int column = 1; column <= static_cast<int>(bands.size()); ++column) {
                 const StandingsCell& cell = standings.cell(row, column);
-                filled += static_cast<int>(cell.filled);
-                assert(cell.filled ? input.find(cell.text) != input.npos : cell.text.empty());
+                filled += static_cast<int>(cell.filled());
+                assert(cell.filled() ? input.find(cell.text) != input.npos : cell.text.empty());
             }
         assert(standings.total() >= filled && (filled == 0) == (standings.total() == 0));
         assert(standings.total() <= static_cast<int>(contacts.size())); // each counts once at most

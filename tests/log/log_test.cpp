@@ -131,7 +131,7 @@ TEST_F(OpenLog, FollowsALogThatSomebodyElseChanged) {
     const std::string third = contactNumber(3);
     int told = 0;
     open(0);
-    log.watch([&told] { ++told; });
+    const Log::Watch watch = log.watch([&told] { ++told; });
     const std::vector<std::string> logs[] = {{contact, third}, {other, third},   {},
                                              {contact},        {contact, other}, {contact, other}};
     for (std::vector<std::string> contacts : logs) {

@@ -36,7 +36,9 @@ MainKeys::MainKeys(QWidget* page, MainControls& controls, Actions actions)
 
 bool MainKeys::eventFilter(QObject* receiver, QEvent* event) {
     auto* widget = qobject_cast<QWidget*>(receiver);
-    if (event->type() != QEvent::KeyPress || widget == nullptr || widget->window() != m_page)
+    // What a box has no use for goes on to the page: it was seen at the box.
+    if (event->type() != QEvent::KeyPress || widget == nullptr || widget->window() != m_page ||
+        widget->focusPolicy() == Qt::NoFocus)
         return false;
     m_actions.anyKey();
     if (isTyping(*widget, *static_cast<QKeyEvent*>(event))) {

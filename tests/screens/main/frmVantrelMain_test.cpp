@@ -34,7 +34,8 @@ protected:
                                           .myState = "ma",
                                           .myNumber = "1234t",
                                           .logFileName = log});
-        folder.write("SKSDB2.TXT", "K1ABC     0123T     JOE       CT \r\n");
+        folder.write("SKSDB2.TXT", "K1ABC     0123T     JOE       CT \r\n"
+                                   "K1NEW     0005C     ANN       MA \r\n");
     }
 
     void openPage(const std::string& contacts = "") {
@@ -282,23 +283,67 @@ TEST_F(MainPageTest, SearchResetsTheTagLogDoesNot) {
     EXPECT_EQ(shown(page, "Label23"), "   None     ");
 }
 
-TEST_F(MainPageTest, WorkedBeforeIsRedOnTheBandWhereItIsADupeAndEscapeIsNoLog) {
+// What the page says of the contact, from the first letter to the line in the log.
+TEST_F(MainPageTest, HintsTellWhatHappenedAndWhatComesNext) {
     openPage(joe);
-    const auto red = [this] {
-        const QColor colour = control(page, "Label24")->palette().color(QPalette::WindowText);
-        return colour.red() > colour.green() + 80;
-    };
-    type(page, "Text2", "k1");
-    EXPECT_EQ(shown(page, "Label24"), "K1ABC 20");
-    EXPECT_TRUE(red());
-    type(page, "Text7", "7.040");
+    const auto hint = [this] { return shown(page, "Label26"); };
+    EXPECT_EQ(shown(page, "Label29"), "11");
+    EXPECT_EQ(shown(page, "Label30"), "1 QSOs x 1 S/P/C + 10");
     type(page, "Text2", "k1a");
     EXPECT_EQ(shown(page, "Label24"), "K1ABC 20");
-    EXPECT_FALSE(red());
+    EXPECT_THAT(lines(page, "List2"), ElementsAre("K1ABC JOE CT 0123T DUPE"));
+    enter();
+    EXPECT_EQ(hint(), "REFUSED: K1ABC 20 METERS 0012 IS IN THE LOG");
+    press(page, "Text2", Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(shown(page, "Text2"), "K1A");
+    EXPECT_EQ(hint(), "");
+
+    type(page, "Text7", "7040");
+    enterCall("k1abc");
+    EXPECT_EQ(hint(), "ENTER LOGS");
+    click(page, "Command13"); // up to 20 m, where he is a duplicate
+    EXPECT_THAT(hint(), HasSubstr("REFUSED: K1ABC"));
+    EXPECT_EQ(logged(), joe);
+    enterCall("k1new");
+    EXPECT_EQ(hint(), "ENTER LOGS   NEW S/P/C  +5 CENTURION");
+    module.marker = "K3Y/EU";
+    screens.mainPage()->showStation("-- K3Y/EU --");
+    EXPECT_EQ(shown(page, "Label25"), "NEXT QSO: K3Y/EU");
+    enterCall("w5new");
+    EXPECT_EQ(hint(), "K3Y/EU TAKEN BACK BY SEARCH");
+    EXPECT_EQ(shown(page, "Label25"), "");
+    enterCall("w5new");
+    EXPECT_EQ(hint(), "NOT IN THE ROSTER: NAME, STATE, SKCC#");
+    press(page, "Text2", Qt::Key_Space);
+    EXPECT_EQ(focus(), "Text3");
+    type(page, "Text5", "none");
+    press(page, "Text5", Qt::Key_Return);
+    EXPECT_EQ(hint(), "LOGGED W5NEW 14050 0012  NO NAME  NO STATE");
+    EXPECT_EQ(logged(), joe + unknown);
+    type(page, "Text2", "w5new");
+    click(page, "Command3"); // without SEARCH
+    EXPECT_THAT(hint(), HasSubstr("REPEATS W5NEW 20 METERS 0012"));
+    enterCall("77777");
+    EXPECT_EQ(hint(), "NO MEMBER 77777");
+    press(page, "Text2", Qt::Key_Up);
+    press(page, "List1", Qt::Key_Return);
+    EXPECT_EQ(shown("frmVantrelCorrect", "Text1"), "W5NEW");
+}
+
+TEST_F(MainPageTest, NothingDoneByAccidentChangesAContact) {
+    openPage();
+    enterCall("k1abc");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    QApplication::sendEvent(control(page, "Text2"), &held);
+    EXPECT_EQ(logged(), "") << "a held Enter";
+    press(page, "Text2", Qt::Key_Q, Qt::AltModifier);
+    EXPECT_EQ(shown(page, "Text2"), "K1ABC");
+    control(page, "Command10")->setFocus();
+    typeOn("Command10", "w5");
+    EXPECT_EQ(shown(page, "Text2"), "K1ABCW5") << "goes to the call box";
     press(page, "Text2", Qt::Key_Escape);
     EXPECT_TRUE(isOpen(page));
     EXPECT_EQ(shown(page, "Text2"), "");
-    EXPECT_EQ(shown(page, "Label24"), "");
 }
 
 } // namespace

@@ -111,10 +111,11 @@ public:
         table.replace(place, record);
     }
 
-    void save(Files& files, const std::function<void()>& between) const {
+    // keepOld: a second copy of the files as they were is written too.
+    void save(Files& files, bool keepOld, const std::function<void()>& between) const {
         std::vector<FileContent> contents;
         for (std::size_t i = 0; i < m_tables.size(); ++i)
-            if (m_present[i])
+            if (keepOld && m_present[i])
                 contents.push_back(m_tables[i].contentBefore());
         for (const RosterTable& table : m_tables)
             contents.push_back(table.content());
@@ -161,14 +162,14 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
         }
     }
 
-    if (result.members == 0) { // the wrong file: it is no reason to write anything
+    if (result.members == 0 && result.skipped > 0) { // the wrong file: nothing is written
         result.finished = true;
         return result;
     }
     if (!progress({savingPhase}))
         return result;
     // Too late to give up: the files are all saved, or none.
-    roster.save(files, [&] { progress({savingPhase}); });
+    roster.save(files, result.members > 0, [&] { progress({savingPhase}); });
     result.finished = true;
     return result;
 }

@@ -3,6 +3,7 @@
 // boxes that answer themselves.
 #pragma once
 
+#include "base/runtimeerror.h"
 #include "platform/eventloop.h"
 #include "platform/launcher.h"
 #include "platform/messages.h"
@@ -48,7 +49,12 @@ public:
 
 class FakeLauncher : public Launcher {
 public:
-    void start(const std::string& path) override { started.push_back(path); }
+    void start(const std::string& path) override {
+        started.push_back(path);
+        if (missing)
+            throw RuntimeError(ErrorCode::fileNotFound, path);
+    }
+    bool missing = false;
     std::vector<std::string> started;
 };
 

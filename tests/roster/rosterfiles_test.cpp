@@ -40,7 +40,7 @@ TEST_F(RosterFiles, AListRewritesItsMembersInPlaceAndAddsTheOthersAtTheEnd) {
         {"12C", "  k1abc", "christopher j", "mass"},
         {"12S", "K1LONGCALL/P", " Ann", ""},
         {" 12345t", "K3C", "   Maximilian", " G"}, // the blanks cost him his last letters
-        {"", "K1AB", "Zo\xEB\xDF", "MA"}, // the record there is too short for a call's columns
+        {"8", "K1AB", "Zo\xEB\xDF", "MA"}, // the record there is too short for a call's columns
         {"1", "aa1a", "", "ny"},
         {"120", "N7N", "Ned", "ME"},
         {"7T", "W1AW", "Hiram", "CT"},
@@ -64,7 +64,7 @@ TEST_F(RosterFiles, AListRewritesItsMembersInPlaceAndAddsTheOthersAtTheEnd) {
                                          "K1ABC     0999      DOUBLE    MA \r\nK1AB\r\n"
                                          "K1LONGCALL012S      ANN          \r\n"
                                          "K3C       12345T    MAXIMIL   G  \r\n"
-                                         "K1AB                ZO\xCB\xDF      MA \r\n");
+                                         "K1AB      0008      ZO\xCB\xDF      MA \r\n");
     EXPECT_EQ(folder.read("SKSDB3.TXT"), "N7N       0120      NED       ME \r\n");
     EXPECT_EQ(folder.read("SKSDB4.TXT"),
               leftAligned("W1", 232) + "\r\n" + longer +
@@ -77,9 +77,10 @@ TEST_F(RosterFiles, HeadersAndBlankLinesAreNobodyAndShortLinesAreCounted) {
     const std::string town(178, 'Q'); // the last separator wanted is in column 200
     const std::string lines =
         "SKCCNR|A|B|C|D|E|F|G|H|I|J|\r\n\r\n  \r\n1|K1SHORT|JOHN|Q|MA|||||\r\n"
-        "2|K1FAR|JOHN|Q" +
+        "1|K1A|JOHN|X|MA|||||||more\r\n1| |JOHN|X|MA|||||||\r\nT1|K1A|JOHN|X|MA||||||\r\n"
+        "1-2|K1A|JOHN|X|MA||||||\r\n2|K1FAR|JOHN|Q" +
         town + "|MA||||||\r\n3|K1FIT|JOHN|" + town + "|MA||||||";
-    EXPECT_EQ(import(MemberList::data, lines), (Counts{1, 0, 2}));
+    EXPECT_EQ(import(MemberList::data, lines), (Counts{1, 0, 6}));
     EXPECT_EQ(import(MemberList::members,
                      "skccnr|call|name|city|state|ccnr\r\n123|K1A|JOHN|X|MA|123T\r\n"
                      "124|K1B|JOHN|X|MA|124C|\r\n125|K1C|JOHN|X|MA|\r\n126|K1D|JOHN|X|MA\r\n"
@@ -87,7 +88,28 @@ TEST_F(RosterFiles, HeadersAndBlankLinesAreNobodyAndShortLinesAreCounted) {
                      "127|K1E|JOHN|X|MA|2010-01-02\r\n127|K1B|JOHN|X|MA|2010-01-02|5"),
               (Counts{3, 1, 2}));
     EXPECT_EQ(folder.read("SKSDB2.TXT"), record("K1FIT", "0003") + record("K1A", "0123T") +
-                                             record("K1B", "0005") + record("K1C", ""));
+                                             record("K1B", "0005") + record("K1C", "0125"));
+}
+
+TEST_F(RosterFiles, WhatIsNoMemberOfThisListGetsIntoNoFile) {
+    const std::string before = record("K1A", "0123T");
+    folder.write("SKSDB2.TXT", before);
+    // The other list, whatever of it is filled in; then one that says so.
+    const std::string other =
+        "12|K1A|JOHN|X|MA||12|291|01 Jan 2006||\r\n13|K1A|JOHN|X|MA||||||\r\n";
+    EXPECT_EQ(import(MemberList::members, other), (Counts{0, 0, 2}));
+    const std::string header = "\xEF\xBB\xBFSKCCIN|CALL|NAME|QTH|SPC|OLDCALL|X|Y|Z|\r\n";
+    EXPECT_EQ(import(MemberList::members, header + "15|K1A|JOHN|X|MA|15"), (Counts{0, 0, 1}));
+    EXPECT_EQ(folder.names(), (std::vector<std::string>{"SKSDB2.TXT", "list.txt"}));
+
+    // Without a header a separator behind six fields is no seventh field.
+    EXPECT_EQ(import(MemberList::members,
+                     "1|K1A|JOHN|X|MA|1C|\r2|K1,B|JOHN|X|MA|2010-01-02|2T\r"
+                     "3|K1C|JOHN|X|MA|2010-01-02|||\r4|K1D|JOHN|X|MA|2010-01-02\r"),
+              (Counts{2, 1, 1}));
+    EXPECT_EQ(folder.read("SKSDB2.TXT"),
+              record("K1A", "0001C") + record("K1 B", "0002T") + record("K1C", "0003"));
+    EXPECT_EQ(folder.read("SKSDB2.TXT.BAK"), before);
 }
 
 TEST_F(RosterFiles, WhatDoesNotFitATableIsErrorNineAndTouchesNoFile) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "forms/emptyframe.h"
+#include "forms/formbuilder.h"
 #include "screens/start/startlists.h"
 #include "screens/start/startlog.h"
 #include "support/contacts.h"
@@ -35,6 +37,14 @@ protected:
             messages.expect(error);
         choose(page, "Combo7", "YES");
         EXPECT_EQ(shown(page, "Combo7"), "NO");
+    }
+
+    // What a label tells, and its tool tip; "!" in front of what is amber.
+    std::string told(const char* label) const {
+        const QWidget* found = control(page, label);
+        const QColor amber = cautionColour(form(page)->palette());
+        return (found->palette().windowText() == amber ? "!" : "") + shown(page, label) +
+               found->toolTip().toStdString();
     }
 
     const std::string contacts = logHeaderLines + contactLine({}) + "\r\n";
@@ -75,7 +85,6 @@ TEST_F(StartPageTest, ShowsWhatWasSavedAndStartSavesWhatItShows) {
     EXPECT_FALSE(isOpen(page));
     EXPECT_EQ(shown(mainPage, "Text1"), "01");
     EXPECT_EQ(offsetList().size() + civList().size(), 25U + 29U);
-    EXPECT_EQ(positionOf(offsetList(), "??", "0"), 12);
 }
 
 TEST_F(StartPageTest, WhatCannotBeTheLogOrBeSavedKeepsTheOperatorHere) {
@@ -122,8 +131,11 @@ TEST_F(StartPageTest, MainPageKeepsItsLogUntilAnotherIsOpen) {
 
     screens.open(Screen::start);
     startNewFile("sks.cbr");
+    EXPECT_EQ(shown(mainPage, "Text1"), "00"); // before START, and without it
     EXPECT_THAT(folder.read("sks.cbr.OLD"), HasSubstr("K1ABC"));
     EXPECT_EQ(shown(page, "Label14"), "THE OLD LOG IS KEPT AS " + files.path("sks.cbr.OLD"));
+    type(page, "Text9", "n");
+    EXPECT_EQ(shown(page, "Label14"), "");
     start("n,w.cbr");
     EXPECT_EQ(shown(mainPage, "Label12"), "FILE NAME:  N W.CBR");
     EXPECT_EQ(shown(mainPage, "Text1"), "00");
@@ -165,6 +177,57 @@ TEST_F(StartPageTest, DeviceFollowsWhatIsPluggedInAndIsComparedWithTheLastStart)
     plug("/dev/null");
     screens.open(Screen::start);
     EXPECT_EQ(shown(page, "Label13"), "/dev/null - WAS /dev/zero AT THE LAST START");
+}
+
+TEST_F(StartPageTest, TellsWhatTheNamedLogIsAndHowManyMembersThereAre) {
+    const std::string contact = contactLine({}) + "\r\n";
+    const std::string last = contact.substr(14, 10) + " " + contact.substr(25, 4);
+    screens.open(Screen::start);
+    for (const auto& [bytes, note] :
+         {std::pair<std::string, std::string>{contacts, "1 QSO, LAST " + last},
+          {contacts + contact, "2 QSOS, LAST " + last},
+          {logHeaderLines, "NO QSO YET"},
+          {"My shopping list\r\n", "!NO LOG: NO HEADER, NO QSO"},
+          {"", "!EMPTY: NO QSO YET"},
+          {" Contest: WES\r\n" + contact, "!ITS HEADER SAYS WES1 QSO, LAST " + last}}) {
+        folder.write("a.cbr", bytes);
+        type(page, "Text9", "A.cbr");
+        EXPECT_EQ(told("Label15"), note);
+    }
+    click(page, "Option3");
+    EXPECT_EQ(told("Label15"), "1 QSO, LAST " + last);
+    type(page, "Text9", "no.cbr");
+    EXPECT_EQ(told("Label15") + told("Label16"), "NO SUCH FILE YET!NO ROSTER YET");
+    folder.write("SKSDB5.TXT", "VE3ABC\r\n\r\nVE3X");
+    click(page, "Command5");
+    form("frmSelectUpdateList")->close();
+    EXPECT_EQ(told("Label16"), "2 MEMBERS");
+}
+
+TEST_F(StartPageTest, MarksWhatIsEmptyAndTellsWhichUtcAndSavedValuesAreDoubtful) {
+    module.settings.contestCode = "wes";
+    module.settings.gmtOffset = "+05";
+    module.settings.rig = "FT-891";
+    clock.time = {2011, 6, 16, 22, 30, 0};
+    clock.ownUtc = {4, 0};
+    screens.open(Screen::start);
+    EXPECT_TRUE(control<QAbstractButton>(page, "Option3")->isChecked());
+    EXPECT_EQ(told("Label14"), "!SAVED, BUT IN NO LIST: RIG: FT-891");
+    EXPECT_EQ(told("Label12"), "0330 UTC   2011-06-17"); // half an hour: no offset is nearer
+    choose(page, "Combo5", "4");
+    EXPECT_EQ(told("Label12"), "!0230 UTC   2011-06-17THE COMPUTER ITSELF SAYS 0400 UTC");
+    clock.time.minute = 31;
+    QTest::qWait(1100);
+    EXPECT_THAT(told("Label12"), HasSubstr("0231 UTC"));
+
+    for (const char* box : {"Text6", "Text7", "Text8", "Text2"}) {
+        const auto* frame = control(page, box)->findChild<EmptyFrame*>();
+        EXPECT_TRUE(frame->isVisible());
+        type(page, box, "A");
+        EXPECT_FALSE(frame->isVisible());
+    }
+    press(page, "Text2", Qt::Key_Return);
+    EXPECT_TRUE(control(page, "Text6")->hasFocus());
 }
 
 } // namespace

@@ -5,7 +5,7 @@ usage: outside.py PROGRAM
 
 The program is copied alone into an empty folder and started in a window of a virtual screen
 (Xvfb, openbox); xdotool presses the keys. The log is compared byte for byte with what is
-expected. Exits with 77 (skipped) where the virtual screen cannot be had.
+expected, and pages must lie over the page that opened them, also on a small screen. Exits with 77 (skipped) where the virtual screen cannot be had.
 """
 import os
 import pathlib
@@ -17,17 +17,17 @@ import tempfile
 import time
 
 PATIENCE = 20.0  # seconds; a program built with sanitizers on a busy machine is slow
-NEEDED = ("Xvfb", "openbox", "xdotool")
+NEEDED = ("Xvfb", "openbox", "xdotool", "xprop")
+START, MAIN = "Vantrel - Start", "W1ABC SKS MYLOG.CBR - Vantrel"
 
 
 class Screen:
     """A virtual screen with a window manager; DISPLAY names it."""
 
-    def __init__(self, *options):
+    def __init__(self, size):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp",
-             *options],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp"],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         number = os.read(read, 16).decode().strip()
@@ -108,18 +108,17 @@ def fill_start_page():
     keys("Tab", "Tab", "Tab", "Down")  # default name, browse, start a new: YES
     wait_for_window("WARNING")
     keys("alt+y")
-    wait_for_window("Vantrel")
+    wait_for_window(START)
 
 
 def play(program, folder):
     log = folder / LOG
     (folder / "SKSDB2.TXT").write_bytes(b"K1ABC     0123T     JOE       CT \r\n")
-    wait_for_window("Vantrel")
+    wait_for_window(START)
     fill_start_page()
     wait_for("the log", log.exists)
-    start = xdotool("getactivewindow")
     keys("alt+s")
-    wait_for("the main page", lambda: xdotool("getactivewindow") not in ("", start))
+    wait_for_window(MAIN)
     enter("k1abc", 2)  # the roster has the rest
     wait_for_lines(log, 5)
     enter("w5new")
@@ -141,26 +140,70 @@ def play(program, folder):
                                    for (khz, *exchange), when in zip(worked, whens)]))
 
 
+def type_blindly(program, folder):
+    """Twenty-two contacts in a second and a half, eyes shut: none is lost, all in order."""
+    calls = [f"K2A{chr(65 + n)}" for n in range(22)]
+    (folder / "SKSDB2.TXT").write_text("".join(
+        f"{call:<10}0123T     JOE       CT \r\n" for call in calls), newline="")
+    before = read(folder / LOG).count(b"\r\n")
+    keys("alt+s")
+    wait_for_window(MAIN)
+    xdotool("key", "--delay", "9", *[key for call in calls
+                                     for key in [*call.lower(), "Return", "Return"]])
+    wait_for_lines(folder / LOG, before + len(calls))
+    logged = [line[65:69] for line in read(folder / LOG).decode("latin-1").split("\r\n")[before:-1]]
+    if logged != calls:
+        raise SystemExit(f"outside: typed blindly, got {logged}")
+
+
+def geometry(window):
+    shown = dict(re.findall(r"(\w+)=(-?\d+)", xdotool("getwindowgeometry", "--shell", window)))
+    return [int(shown[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")]
+
+
+def see_placement(size):
+    """Each page lies wholly on the screen and is tied to the main page."""
+    page = xdotool("getactivewindow")
+    width, height = map(int, size.split("x"))
+    for key in ("alt+r", "alt+e", "alt+c", "alt+o", "alt+i", "alt+b", "alt+t"):
+        keys(key)
+        wait_for("a page for " + key, lambda: xdotool("getactivewindow") not in ("", page))
+        opened = xdotool("getactivewindow")
+        x, y, w, h = geometry(opened)
+        tied = subprocess.run(["xprop", "-id", opened, "WM_TRANSIENT_FOR"], capture_output=True,
+                              text=True, check=False).stdout
+        if f"{int(page):#x}" not in tied or x < 0 or y < 0 or x + w > width or y + h > height:
+            raise SystemExit(f"outside: {key} on {size}: {(x, y, w, h)} {tied}")
+        keys("Escape")
+        wait_for("the main page", lambda: xdotool("getactivewindow") == page)
+
+
 def main():
     missing = [tool for tool in NEEDED if shutil.which(tool) is None]
     if missing:
         print("outside: skipped, not installed:", ", ".join(missing))
         return 77
-    screen = Screen()
     with tempfile.TemporaryDirectory(prefix="vantrel-outside-") as name:
         folder = pathlib.Path(name)
         shutil.copy(sys.argv[1], folder / "vantrel")
-        # Its libraries' own leaks on a real display are not what is tried here.
-        environment = dict(os.environ, TZ="UTC", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
-                           ASAN_OPTIONS="detect_leaks=0")
-        program = subprocess.Popen([folder / "vantrel"], cwd=folder, env=environment)
-        try:
-            play(program, folder)
-        finally:
-            if program.poll() is None:
-                program.kill()
-                program.wait()
-            screen.close()
+        for size in ("1366x768", "1024x600"):
+            screen = Screen(size)
+            # Its libraries' own leaks on a real display are not what is tried here.
+            environment = dict(os.environ, TZ="UTC", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
+                               ASAN_OPTIONS="detect_leaks=0")
+            program = subprocess.Popen([folder / "vantrel"], cwd=folder, env=environment)
+            try:
+                if size == "1366x768":
+                    play(program, folder)
+                else:
+                    wait_for_window(START)
+                    type_blindly(program, folder)
+                    see_placement(size)
+            finally:
+                if program.poll() is None:
+                    program.kill()
+                    program.wait()
+                screen.close()
     print("outside: the log is as expected")
     return 0
 

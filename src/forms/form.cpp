@@ -34,11 +34,9 @@ void Form::placeOver(QWidget* below) {
     if (!testAttribute(Qt::WA_Resized))
         resize(sizeHint());
     const auto* page = qobject_cast<Form*>(below);
-    if (page == nullptr)
+    if (page == nullptr || windowType() == Qt::ToolTip)
         return;
-    if (isOwnPage())
-        winId();
-    else
+    if (!isOwnPage())
         stayAbove(page);
     const QRect under = page->frameGeometry();
     QPoint corner = under.center() - rect().center();
@@ -58,7 +56,9 @@ void Form::placeOver(QWidget* below) {
 
 // A click on the page below must not put it in front of this one.
 void Form::stayAbove(const QWidget* page) {
-    winId(); // makes the window that can be tied to the other
+    // The one kind of window that is tied to another on every platform.
+    setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+    winId(); // makes the window
     windowHandle()->setTransientParent(page->windowHandle());
 }
 

@@ -17,7 +17,6 @@ constexpr double dupeEnlargement = 5;
 
 frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     : Form(context, "frmCheckDupeK3Y", "Dupe") {
-    setWindowFlags(Qt::Dialog); // the one kind of window that is kept above another
     setWindowModality(Qt::ApplicationModal);
     openSmall();
     createControls();

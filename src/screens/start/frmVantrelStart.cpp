@@ -19,6 +19,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace vantrel {
@@ -467,9 +468,13 @@ QLayout* frmVantrelStart::fileBox() {
     build.row(form, "FILE NAME:", m_fileBox);
     form->addRow(QString(), m_logLabel);
     form->addRow(QString(), nameButtons);
-    build.row(form, "START A NEW", m_newFileBox);
+    auto* choices = new QHBoxLayout;
+    choices->addWidget(m_newFileBox);
+    choices->addStretch();
+    choices->addWidget(build.caption("LOG DUPES:", m_dupeModeBox));
+    choices->addWidget(m_dupeModeBox);
+    form->addRow(build.caption("START A NEW", m_newFileBox), choices);
     form->addRow(m_oldLogLabel);
-    build.row(form, "LOG DUPES:", m_dupeModeBox);
     auto* bonus = new QHBoxLayout;
     bonus->addWidget(m_bonusBox);
     bonus->addWidget(m_clearBonusButton, 1);

@@ -107,9 +107,11 @@ void AppScreens::replace(Screen current, Screen next) {
 
 void AppScreens::openFor(QWidget* opener, Screen screen) {
     // Of the two pages of the standings one shows.
-    if (Form* const other = m_slots[Screen::standings2];
-        screen == Screen::standings && other && other->isVisible())
-        other->close();
+    const Form* const second = m_slots[Screen::standings2];
+    if (screen == Screen::standings && second != nullptr && second->isVisible()) {
+        replace(Screen::standings2, Screen::standings);
+        return;
+    }
     Form* const form = formOf(screen);
     if (form->isVisible() && !form->loadsAgain()) {
         form->bringToFront();

@@ -56,7 +56,7 @@ public:
     // Called whenever contacts and worked stations may have changed, for as long as the Watch
     // that is handed back is kept.
     using Watch = std::shared_ptr<const std::function<void()>>;
-    Watch watch(std::function<void()> watcher);
+    [[nodiscard]] Watch watch(std::function<void()> watcher);
 
     // Makes `name` the open log, reads it and writes "StnsWorked.TXT" anew. Throws as reread();
     // there are no contacts then unless some could be read.

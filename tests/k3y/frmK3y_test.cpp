@@ -130,6 +130,26 @@ TEST_F(K3yEvent, EachTagHoldsAtOnceAndOpeningTheBoxAgainClearsItButNotTheTag) {
     }
 }
 
+TEST_F(K3yEvent, AKeyChoosesTheTagAndIsOkAndEnterAloneIsOkOnly) {
+    openMainPage("");
+    const auto keyed = [this](std::initializer_list<Qt::Key> keys) {
+        screens.open(Screen::k3yBox);
+        screens.open(Screen::k3yBox); // loads again while it shows
+        settle();
+        for (const Qt::Key key : keys)
+            QTest::keyClick(QApplication::focusWidget(), key);
+        settle();
+        EXPECT_FALSE(isOpen(tagBox));
+        return module.marker;
+    };
+    std::string tags;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_E, Qt::Key_F, Qt::Key_A, Qt::Key_O, Qt::Key_N,
+                              Qt::Key_X, Qt::Key_S, Qt::Key_Enter})
+        tags += keyed({key});
+    EXPECT_EQ(tags, "      K3Y/EUK3Y/AFK3Y/ASK3Y/OCK3Y/NA      K3Y/SAK3Y/SA");
+    EXPECT_EQ(keyed({Qt::Key_Up, Qt::Key_Return}), "K3Y/NA");
+}
+
 TEST_F(K3yEvent, ACallAreaGivesTheLogsNameUntilItIsAborted) {
     clock.time = {2010, 1, 5, 20, 0, 0};
     screens.open(Screen::start);
@@ -138,6 +158,9 @@ TEST_F(K3yEvent, ACallAreaGivesTheLogsNameUntilItIsAborted) {
     choose(startPage, "Combo5", "5"); // not saved yet: 01:00 UTC the next day
     click(startPage, "Option4");
     auto* list = control<QAbstractItemView>(areaPage, "List1");
+    for (int i = 0; i < 2; ++i)
+        press(areaPage, "List1", Qt::Key_End); // chooses as a click does
+    EXPECT_EQ(shown(startPage, "Text9"), "2010-01-06-K3Y-OC-KH6-W1A-4.CBR");
     std::istringstream codes("01 02 03 04 05 06 07 08 09 00 KH KL KP NA SA EU AF AS OC");
     std::string code;
     for (int row = 0; codes >> code; ++row) {
@@ -173,6 +196,17 @@ TEST_F(K3yEvent, StandingsOfTheAreasFillACellOnEachBand) {
     pressButton(regions, "Command2");
     EXPECT_FALSE(isOpen(regions));
     EXPECT_THAT(filled(areas), ::testing::EndsWith("K3Y/0 Text1=1T    ; TOTAL:  1"));
+    // They count each contact logged, and asked for while one shows they read the log again.
+    module.log.append(contactLine({.frequency = " 3550", .hisCall = "K3Y/KL7"}));
+    module.log.reread();
+    EXPECT_EQ(shown(areas, "Label22") + shown(areas, "Label101"), "BOTH PAGES:  21");
+    pressButton(areas, "Command2");
+    folder.write("K3Y.CBR", eventLog("K3Y/2 1820 1T; K3Y/2 3550 1T"));
+    pressButton(mainPage, "Command11");
+    EXPECT_FALSE(isOpen(regions));
+    EXPECT_THAT(filled(areas), ::testing::HasSubstr("K3Y/0 Text10=1T    ; Text11=1T    ; TOTAL"));
+    EXPECT_EQ(shown(areas, "Label102") + shown(areas, "Label201") + shown(areas, "Label203"),
+              "21-");
     pressButton(areas, "Command1");
     EXPECT_FALSE(isOpen(areas));
     EXPECT_EQ(QApplication::focusWidget(), control(mainPage, "Text2"));

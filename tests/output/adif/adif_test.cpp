@@ -85,6 +85,7 @@ TEST(StrictAdif, WholeFile) {
                   "<MY_DXCC:3>291 <APP_VANTREL_K3Y:5>K3Y/0 <EOR>\r\n");
 }
 
+// What no logger can take in is left out, and so is a band that does not hold the frequency.
 TEST(StrictAdif, ValuesOutsideTheirFieldAreLeftOutOrNoted) {
     const auto expect = [](const std::string& head, FieldList fields, const char* contacts,
                            const char* values) {
@@ -93,11 +94,13 @@ TEST(StrictAdif, ValuesOutsideTheirFieldAreLeftOutOrNoted) {
     expect("<QSO_DATE:", {&Fields::date},
            "01-01-2012; 1930-12-31; 1929-12-31; 2011-13-01; 2011-00-01; 2011-06-00; 2011-06-32;"
            "2011-6-16_",
-           "8>20120101 |8>19301231 |||||||");
-    expect("<TIME_ON:", {&Fields::time}, "2359; 2400; 2360; 12_0", "4>2359 ||||");
+           "8>20120101 |8>19301231 |");
+    expect("<TIME_ON:", {&Fields::time}, "2359; 2400; 2360; 12_0", "4>2359 |");
     expect("<FREQ:", {&Fields::frequency}, "472; 14.05; -", "5>0.472 |||");
     expect("<NAME:", {&Fields::hisName}, "\xDF\x80\xE9\a\xF8_\xC6", "9>ss?e?o AE |");
-    expect("<MODE:", {}, "QSO: 14050 C", "1>C |");
+    expect("<BAND:", {&Fields::frequency}, "1800; 14350; 14351; 10151; 29050; 50125",
+           "4>160m |3>20m |||3>10m ||");
+    expect("<MODE:", {}, "QSO: 14050 CW 2011-06-16 0012", "");
     expect("<SKCC:", {&Fields::hisNumber}, "12345; 12S; 100W; NONE; -", "5>12345 |3>12S ||||");
     expect("<NOTES:", {&Fields::hisNumber}, "12345; 100W; -", "|4>100W ||");
     // A state needs a call of its country.

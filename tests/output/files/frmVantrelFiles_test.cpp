@@ -62,7 +62,7 @@ TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
     settle();
     EXPECT_EQ(QApplication::focusWidget(), control(page, "Option1"));
     press(page, "Option5", Qt::Key_Down); // an arrow key runs no job
-    EXPECT_FALSE(folder.has("SKS.ADI"));
+    EXPECT_EQ(shown(page, "Option6Result"), "NO SUCH FILE YET");
     for (int i = 0; i < 2; ++i) {
         folder.write("SKS.ADI", "");
         click(page, "Option6");
@@ -76,12 +76,19 @@ TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
     EXPECT_EQ(folder.read("SKS-STRICT.ADI"),
               strictAdifText(contactsIn(contacts), "20110617 031230"));
     EXPECT_EQ(shown(page, "Text2"), folder.string() + "/SKS-STRICT.ADI");
+    EXPECT_THAT(shown(page, "Option6Result"), // not on the day of the clock: with its date
+                ::testing::MatchesRegex("SKS.ADI 20..-..-.. [0-2].[0-5]."));
     EXPECT_TRUE(control<QRadioButton>(page, "Option14")->isChecked());
     EXPECT_FALSE(control<QRadioButton>(page, "Option6")->isChecked());
     folder.write("SKS.ADI", log);
     module.log.open("sks.adi"); // a log that is called like its ADIF file
     clickFor("Run-time error 75: Path/File access error", "Option6");
     EXPECT_EQ(folder.read("SKS.ADI"), log);
+    EXPECT_EQ(shown(page, "Label5") + shown(page, "Text2"), ""); // that was the job before
+    module.log.open("SKS.CBR");
+    folder.write("SKS.CBR", log + "QSO: 14050 CW 2011-06-16 0012\r\n");
+    click(page, "Option14");
+    EXPECT_EQ(shown(page, "Label6"), "2 WRITTEN, 1 LEFT OUT: NO CALL, DATE OR TIME");
 }
 
 TEST_F(FilesPage, PrintsEveryItemOfTheLog) {
@@ -110,6 +117,7 @@ TEST_F(FilesPage, ShowsAndSortsEachMemberFile) {
         click(page, ("Option" + number).c_str());
         EXPECT_THAT(lines(viewer, "List1"), ElementsAre("CALL" + number + "     0002", "X", "Y"));
         EXPECT_EQ(shown(viewer, "Label1"), folder.string() + "/SKSDB" + number + ".TXT   3 LINES");
+        EXPECT_EQ(shown(page, ("Option" + number + "Result").c_str()), "2 MEMBERS");
         folder.write("SKSDB" + number + ".TXT", "K2A       0002\r\nK1A       0001\r\n");
     }
     clickFor("THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s", "Option13");
@@ -130,6 +138,7 @@ TEST_F(FilesPage, ListsTheAdifFileOrTheLogAndReturnsHereOrToTheMainPage) {
     };
     click(page, "Option8");
     EXPECT_EQ(leave(), form(page));
+    EXPECT_EQ(QApplication::focusWidget(), control(page, "Option8")); // the job last run
     click(page, "Option7"); // the main page takes it over for the log
     screens.open(Screen::main);
     settle();
@@ -142,12 +151,15 @@ TEST_F(FilesPage, TheListFindsOnwardsAndCopiesWhatIsSelected) {
     click(page, "Option8");
     settle();
     auto* view = control<QAbstractItemView>(list, "List1");
+    EXPECT_EQ(shown(list, "Label2"), "3 OF 3"); // the last line
+    view->setCurrentIndex(view->model()->index(0, 0));
     keys(Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("k1ab"));
     EXPECT_EQ(view->currentIndex().row(), 0);
     for (const auto& [key, row] : {std::pair(Qt::Key_Return, 2), std::pair(Qt::Key_F3, 0)}) {
         keys(key); // the second goes round the end
         EXPECT_EQ(view->currentIndex().row(), row);
+        EXPECT_EQ(shown(list, "Label2"), row == 2 ? "2 OF 2" : "1 OF 2");
     }
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
     EXPECT_EQ(shown(list, "Label2"), "NOT FOUND");
@@ -159,8 +171,12 @@ TEST_F(FilesPage, TheListFindsOnwardsAndCopiesWhatIsSelected) {
     EXPECT_FALSE(isOpen(list));
 }
 
-TEST_F(FilesPage, TheBackupCopiesEveryByteHoweverTheFolderIsTyped) {
+TEST_F(FilesPage, TheBackupCopiesEveryByteOfTheLogOfTheMomentAndKeepsAFullerCopy) {
+    const std::string manyLines(13000, '\n'); // more than contacts are counted
+    const std::string fuller = log + contactLine({}) + "\r\n";
+    folder.write("SKS.CBR", manyLines);
     std::filesystem::create_directory(folder.path() / "copies");
+    folder.write("copies/SKS.CBR", fuller);
     module.log.open(folder.string() + "\\SKS.CBR"); // as the finder hands it back
     screens.open(Screen::backup);
     EXPECT_EQ(shown(backup, "Label5"), folder.string() + "/SKS.CBR");
@@ -169,14 +185,27 @@ TEST_F(FilesPage, TheBackupCopiesEveryByteHoweverTheFolderIsTyped) {
         clickFor("Run-time error 76: Path not found", "Command2", backup);
         EXPECT_EQ(shown(backup, "Label3") + shown(backup, "Text1"), nowhere);
     }
-    folder.write("SKS.CBR", std::string(13000, '\n')); // more lines than contacts are counted
-    for (const std::string& typed : {std::string(" COPIES\\  "), folder.string()}) { // onto itself
-        type(backup, "Text1", typed);
-        click(backup, "Command2");
-        EXPECT_EQ(shown(backup, "Label3"), "DONE......CLICK EXIT");
-    }
-    for (const char* file : {"SKS.CBR", "copies/SKS.CBR"})
-        EXPECT_EQ(folder.read(file), std::string(13000, '\n'));
+    type(backup, "Text1", " COPIES\\  ");
+    EXPECT_EQ(shown(backup, "Label6"), "THE COPY THERE: 3 QSOS, LAST 2011-06-16 0012");
+    press(backup, "Text1", Qt::Key_Return);
+    EXPECT_EQ(shown(backup, "Label3"), "DONE......CLICK EXIT");
+    EXPECT_EQ(shown(backup, "Label6"), "0 QSOS WRITTEN. THE COPY THERE HELD MORE: KEPT AS " +
+                                           folder.string() + "/copies/SKS.CBR.OLD");
+    type(backup, "Text1", folder.string()); // onto itself
+    click(backup, "Command2");
+    EXPECT_EQ(folder.read("SKS.CBR"), manyLines);
+    EXPECT_EQ(folder.read("copies/SKS.CBR") + folder.read("copies/SKS.CBR.OLD"),
+              manyLines + fuller);
+    folder.write("NEW.CBR", logHeaderLines);
+    module.log.open("NEW.CBR");
+    screens.open(Screen::backup); // while it shows
+    settle();
+    type(backup, "Text1", "copies");
+    EXPECT_EQ(shown(backup, "Label6"), "NO COPY THERE YET");
+    keys(Qt::Key_B, Qt::AltModifier); // leads to BACKUP, and the second presses it
+    EXPECT_FALSE(folder.has("copies/NEW.CBR"));
+    keys(Qt::Key_B, Qt::AltModifier);
+    EXPECT_EQ(folder.read("copies/NEW.CBR"), logHeaderLines);
 }
 
 // Names that the program cannot say are left out; the true case stays where upper case would
@@ -206,8 +235,14 @@ TEST_F(FilesPage, TheFinderLeadsToFoldersAndHandsBackWhatIsChosen) {
     EXPECT_EQ(shown(backup, "Text1"), top + "/B\xDCRO/");
     EXPECT_EQ(QApplication::focusWidget(), control(backup, "Text1"));
 
+    for (const char* name : {"a,b.CBR", "c\"d.CBR", "e.CBR "}) // the configuration cannot hold them
+        folder.write(name, "");
     screens.open(Screen::start);
     click("frmVantrelStart", "Command3");
+    EXPECT_THAT(lines(finder, "filList"), ElementsAre("SKS.CBR", "StnsWorked.TXT"));
+    for (int i = 0; i < 2; ++i)
+        press(finder, "filList", Qt::Key_End); // chooses as a click does
+    EXPECT_EQ(shown(finder, "Label5"), top + "/StnsWorked.TXT");
     clickLine("filList", "SKS.CBR", 1);
     click(finder, "Command1");
     settle();

@@ -4,7 +4,12 @@
 #include "forms/stackedbars.h"
 #include "log/shortlog.h"
 #include "output/score/contestpicture.h"
+#include "output/score/scorereport.h"
 #include "support/qt/formharness.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QTableWidget>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -121,6 +126,7 @@ TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
         contacts += "K9SKC NONE;";
     messages.expect(overflow);
     EXPECT_EQ(opened("SKS", contacts), "1310/1/0/0/0/0/1310/32750//");
+    EXPECT_EQ(messages.shown.back().informative, "THE WHOLE SCORE WOULD BE 34060");
     std::filesystem::remove(folder.path() / "SKS.CBR");
     messages.expect("Run-time error 53: File not found");
     EXPECT_EQ(figures(), "/////////no picture");
@@ -130,6 +136,8 @@ TEST_F(ScorePage, PrintsWhatItShows) {
     const char* contacts = "A 1C; A 1T; A 2T; A 1S; A 2S; A 3S; K9SKC NONE; K9SKC NONE; "
                            "K9SKC NONE; K9SKC NONE; W4BON NONE SC";
     EXPECT_EQ(opened("SKS", contacts), "11/2/1/2/3/1/4/195/217/");
+    EXPECT_EQ(shown(page, "Label20"), "11 x 2 + 195");
+    EXPECT_EQ(control<QTableWidget>(page, "Table1")->item(0, 1)->text(), u"11");
     EXPECT_EQ(shown(page, "Label4") + shown(page, "Label7"), "S/P/Cs:K9SKC QSOs:");
     EXPECT_EQ(shown(page, "Label13") + shown(page, "Label14"), "DUPES ARE NOT LOGGED ");
     const std::string path = folder.string() + "/SKS.CBR";
@@ -141,6 +149,11 @@ TEST_F(ScorePage, PrintsWhatItShows) {
                              " Number of K9SKC QSOs: 4\r\n   Total Bonus Points: 195\r\n\r\n"
                              "         TOTAL SCORE: 217\r\n");
     EXPECT_EQ(messages.shown.back().informative, "");
+    click(page, "Command3");
+    EXPECT_THAT(QApplication::clipboard()->text().toStdString(),
+                HasSubstr(path + "\n\n       Number of QSOs: 11\n"));
+    const std::string half = "/" + std::string(40, 'A');
+    EXPECT_EQ(joinLines(wrappedForPaper({half + half})), half + "/\r\n" + half.substr(1) + "\r\n");
 
     module.settings.dupeMode = "YES";
     printer.hasPrinter = false;
@@ -187,22 +200,26 @@ std::string picture(const std::string& contacts) {
     const std::string log =
         logOf({&Fields::date, &Fields::time, &Fields::frequency, &Fields::marker}, contacts);
     std::string result;
-    for (const PictureHour& hour : contactsPerHour(contactsIn(log))) {
-        result += (hour.afterBreak ? "... " : "") + zeroPadded(hour.hour, 2) + 'Z';
-        for (const int count : hour.contacts)
+    for (const PictureBar& bar : contestPicture(contactsIn(log)).bars) {
+        result += (bar.afterBreak ? "... " : "") + zeroPadded(bar.minuteOfDay / 60, 2) +
+                  (bar.minuteOfDay % 60 == 0 ? "Z" : std::to_string(bar.minuteOfDay % 60));
+        for (const int count : bar.contacts)
             result += ' ' + std::to_string(count);
         result += '\n';
     }
     return result;
 }
 
-TEST(ContestPicture, ContactsPerHourAndBandOfTheLastFortyEightHours) {
+TEST(ContestPicture, ContactsByBandInHoursOrForAShortLogInTenMinutes) {
     EXPECT_EQ(picture("07-01-2011 0000; 2011-06-30 2359; 2011-06-30 2300 7040; 2011-06-30 2301;"
                       "2011-06-30 0659 50125; 2011-06-30 2302 14050 DUPE; 2011-13-01;"
                       "0000-01-01; 2011-06-30 2400; 2011-06-30 12_0; QSO: 14050 CW"),
               "06Z 0 0 0 0 0 0 0 0 0 1\n"
               "... 23Z 0 0 1 0 2 0 0 0 0 0\n"
               "00Z 0 0 0 0 1 0 0 0 0 0\n");
+    EXPECT_EQ(picture("2011-06-30 2352; 2011-07-01 0011; 2011-07-01 0019 7050"),
+              "2350 0 0 0 0 1 0 0 0 0 0\n00Z 0 0 0 0 0 0 0 0 0 0\n0010 0 0 1 0 1 0 0 0 0 0\n");
+    EXPECT_EQ(picture("2011-06-30 1205; 2011-06-30 1505").substr(0, 4), "12Z ");
     std::string contacts;
     for (int i = 0; i < 49; ++i)
         contacts += "2011-06-" + std::to_string(10 + i / 24) + ' ' + zeroPadded(i % 24, 2) + "00;";

@@ -34,17 +34,17 @@ void Form::placeOver(QWidget* below) {
     if (!testAttribute(Qt::WA_Resized))
         resize(sizeHint());
     const auto* page = qobject_cast<Form*>(below);
-    if (page == nullptr || windowType() == Qt::ToolTip)
+    if (page == nullptr || page == this || windowType() == Qt::ToolTip)
         return;
     if (!isOwnPage())
         stayAbove(page);
-    const QRect under = page->frameGeometry();
-    QPoint corner = under.center() - rect().center();
+    // The frame that the window manager will put around it is like that of the page.
+    const QRect inside = page->geometry();
+    // A window that was just opened has no frame yet.
+    const QRect frame = page->frameGeometry().united(inside);
+    QPoint corner = frame.center() - rect().center();
     if (m_isSmall)
         corner.setY(std::max(corner.y(), page->mapToGlobal(QPoint(0, page->freeTop())).y()));
-    // The frame that the window manager will put around it is like that of the page.
-    const QRect frame = page->frameGeometry();
-    const QRect inside = page->geometry();
     const QRect room = page->screen()->availableGeometry().adjusted(
         inside.left() - frame.left(), inside.top() - frame.top(), inside.right() - frame.right(),
         inside.bottom() - frame.bottom());

@@ -12,6 +12,7 @@ namespace vantrel {
 namespace {
 
 constexpr int fewestTyped = 2;
+constexpr int shortestEntry = 6; // "K1 20" and a blank
 constexpr std::string_view between = "  ";
 
 struct Worked {
@@ -27,8 +28,9 @@ std::string_view bandName(std::string_view line) {
     return band == nullptr ? trim(khz) : band->label.substr(0, band->label.size() - 1);
 }
 
+// The first `most` calls: no more are ever shown, and a key must not wait for thousands.
 std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
-                               std::string_view bandTag) {
+                               std::string_view bandTag, std::size_t most) {
     std::vector<Worked> result;
     for (const std::string_view line : contacts) {
         if (mid(line, qso::hisCall.first, length(typed)) != typed)
@@ -36,6 +38,8 @@ std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
         const std::string_view call = trim(qso::hisCall.of(line));
         auto entry = std::find_if(result.begin(), result.end(),
                                   [&](const Worked& worked) { return worked.call == call; });
+        if (entry == result.end() && result.size() == most)
+            continue;
         if (entry == result.end())
             entry = result.insert(result.end(), {call, {}});
         const std::string_view band = bandName(line);
@@ -60,8 +64,9 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
     std::vector<WorkedCall> result;
     if (length(typed) < fewestTyped)
         return result;
+    const auto most = static_cast<std::size_t>(columns / shortestEntry + 1);
     int width = 0;
-    for (const Worked& worked : workedWith(contacts, typed, bandTag)) {
+    for (const Worked& worked : workedWith(contacts, typed, bandTag, most)) {
         std::string text = textOf(worked);
         width += (result.empty() ? 0 : length(between)) + length(text);
         if (width > columns) {

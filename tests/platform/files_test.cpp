@@ -106,7 +106,7 @@ TEST_F(FilesTest, AppendEndsAnOpenLastLineFirstAndReadGivesEveryByteOfASlowDiskT
 TEST_F(FilesTest, LinkedLogIsWrittenAtItsTargetWhosePermissionsAreKept) {
     const TempFolder elsewhere;
     elsewhere.write("Real.cbr", "A\r\n");
-    fs::permissions(elsewhere.path() / "Real.cbr", fs::perms(0660));
+    fs::permissions(elsewhere.path() / "Real.cbr", fs::perms(0777));
     fs::create_symlink(elsewhere.path() / "Real.cbr", folder.path() / "Log.cbr");
     const std::pair<std::function<void()>, const char*> steps[] = {
         {[this] { files.appendLine("LOG.CBR", "B"); }, "A\r\nB\r\n"},
@@ -119,7 +119,7 @@ TEST_F(FilesTest, LinkedLogIsWrittenAtItsTargetWhosePermissionsAreKept) {
         step();
         EXPECT_EQ(elsewhere.read("Real.cbr"), bytes);
         const fs::file_status status = fs::status(elsewhere.path() / "Real.cbr");
-        EXPECT_EQ(status.permissions(), fs::perms(0660)) << bytes;
+        EXPECT_EQ(status.permissions(), fs::perms(0777)) << bytes;
         EXPECT_EQ(elsewhere.names().size() + folder.names().size(), 2U) << bytes;
     }
     EXPECT_TRUE(fs::is_symlink(folder.path() / "Log.cbr"));

@@ -26,21 +26,23 @@ using ::testing::HasSubstr;
 
 // A machine made of a few files.
 struct Machine : ::testing::Test {
-    void makeFolders(std::initializer_list<const char*> names) const {
-        for (const char* name : names)
-            fs::create_directories(at(name));
+    // "name/" is a folder, "name->target" a link, any other an empty file.
+    void make(std::initializer_list<std::string> entries) const {
+        for (const std::string& entry : entries)
+            if (const std::size_t arrow = entry.find("->"); arrow != std::string::npos)
+                fs::create_symlink(entry.substr(arrow + 2), at(entry.substr(0, arrow)));
+            else if (entry.ends_with('/'))
+                fs::create_directories(at(entry));
+            else
+                folder.write(entry, "");
     }
-    void link(const char* target, const char* name) const { fs::create_symlink(target, at(name)); }
     std::string at(const std::string& name) const { return folder.string() + '/' + name; }
 
     TempFolder folder;
 };
 
 TEST_F(Machine, NamesAreFoundWithoutCaseAndNewOnesStayAsGiven) {
-    makeFolders({"Logs"});
-    for (const char* name : {"Logs/x.cbr", "a.cbr", "A.CBR", "\xE9.cbr", "\xC3\xA9.adi"})
-        folder.write(name, "");
-    link("gone", "Link.cbr"); // an entry all the same
+    make({"Logs/", "Logs/x.cbr", "a.cbr", "A.CBR", "\xE9.cbr", "\xC3\xA9.adi", "Link.cbr->gone"});
     const std::pair<const char*, const char*> rows[] = {
         {"LOGS/X.CBR", "Logs/x.cbr"},
         {"LOGS\\//\\X.CBR", "Logs/x.cbr"},
@@ -80,13 +82,8 @@ TEST(NativeText, EveryLatin1CharacterComesBackAndOthersAreAQuestionMarkEach) {
 }
 
 TEST_F(Machine, ContentIsFoldersAndRegularFilesInOrderHiddenOnesOut) {
-    makeFolders({"logs", "Old", ".git"});
-    for (const char* name : {"b.CBR", "A.CBR", ".secret", "a.CBR"})
-        folder.write(name, "");
-    link("logs", "link");
-    link("A.CBR", "linked.CBR");
-    link("nowhere", "broken");
-    link("/dev/null", "device");
+    make({"logs/", "Old/", ".git/", "link->logs", "broken->nowhere", "device->/dev/null", "b.CBR",
+          "A.CBR", ".secret", "a.CBR", "linked.CBR->A.CBR"});
     const FolderContent content = SystemFolders().content(folder.string());
     EXPECT_THAT(content.folders, ElementsAre("link", "logs", "Old"));
     EXPECT_THAT(content.files, ElementsAre("A.CBR", "a.CBR", "b.CBR", "linked.CBR"));
@@ -95,7 +92,7 @@ TEST_F(Machine, ContentIsFoldersAndRegularFilesInOrderHiddenOnesOut) {
 }
 
 TEST_F(Machine, DrivesAreTheTopAndTheVolumesMountedOnFolders) {
-    makeFolders({"stick", "my disk", "nas", "image", "memory"});
+    make({"stick/", "my disk/", "nas/", "image/", "memory/"});
     const std::pair<const char*, std::string> mounts[] = {
         {"/dev/sda1", "/"},          {"/dev/sdb1", at("stick")},       {"tmpfs", at("memory")},
         {"/dev/sdb1", at("stick")},  {"/dev/sdc1", at("my\\040disk")}, {"host:/y", at("nas")},
@@ -113,7 +110,7 @@ TEST_F(Machine, DrivesAreTheTopAndTheVolumesMountedOnFolders) {
 
 struct ProgramFolder : Machine {
     ProgramFolder() {
-        makeFolders({"bin", "carried", "share/applications"});
+        make({"bin/", "carried/", "share/applications/"});
         fs::permissions(folder.path(), fs::perms::all); // nobody makes his own folder in it
     }
     // Nothing is read-only to the system's administrator, so he becomes nobody meanwhile.
@@ -133,7 +130,7 @@ struct ProgramFolder : Machine {
 TEST_F(ProgramFolder, CarriedAlongKeepsTheFilesAndReadOnlyWithDataIsNoEmptyWorldElsewhere) {
     EXPECT_EQ(chooseProgramFolder(at("bin"), own), at("bin"));
     for (const char* data : {"bin/vantrel.cfg", "bin/mylog.cbr"}) {
-        folder.write(data, "");
+        make({data});
         EXPECT_RUNTIME_ERROR(chosenWhenReadOnly(), ErrorCode::permissionDenied,
                              HasSubstr(at("bin")));
         fs::remove(at(data));
@@ -146,13 +143,13 @@ TEST_F(ProgramFolder, CarriedAlongKeepsTheFilesAndReadOnlyWithDataIsNoEmptyWorld
 // The administrator may write among the system's programs. Files of his there would stop
 // everybody else's start, and ones that lie there already must not.
 TEST_F(ProgramFolder, InstalledForAllGivesEachUserHisOwnWhateverHeMayWrite) {
-    folder.write("share/applications/org.vantrel.Vantrel.desktop", "[Desktop Entry]\n");
+    make({"share/applications/org.vantrel.Vantrel.desktop"});
     EXPECT_EQ(chooseProgramFolder(at("carried"), own), at("carried"));
-    folder.write("home", "a file in the way");
+    make({"home"}); // a file in the way
     EXPECT_RUNTIME_ERROR(chooseProgramFolder(at("bin"), own), ErrorCode::pathFileAccess,
                          HasSubstr(own));
     fs::remove(at("home"));
-    folder.write("bin/Vantrel.CFG", "");
+    make({"bin/Vantrel.CFG"});
     EXPECT_EQ(chooseProgramFolder(at("bin"), own), own);
     EXPECT_EQ(chosenWhenReadOnly(), own);
 }
@@ -169,15 +166,6 @@ TEST_F(ProgramFolder, IsHeldByOneProgramUntilItEnds) {
 // --- Serial ports ------------------------------------------------------------------------
 
 struct SerialNames : Machine {
-    SerialNames() { makeFolders({"program", "by-id", "tty", "dev"}); }
-
-    // A device node as udev and the kernel list it.
-    void plug(const std::string& tty, const std::string& byId = {}) const {
-        folder.write("dev/" + tty, "");
-        fs::create_directories(at("tty/" + tty + "/device"));
-        if (!byId.empty())
-            link(("../dev/" + tty).c_str(), ("by-id/" + byId).c_str());
-    }
     // The device's name, behind its links.
     std::string shown(std::string_view port) const {
         return fs::path(serialDeviceShown(files, port, {at("by-id"), at("tty"), at("dev")}))
@@ -189,12 +177,10 @@ struct SerialNames : Machine {
 };
 
 TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
-    plug("ttyACM0", "usb-Z_radio-if00");
-    plug("ttyUSB0", "usb-A_adapter-if00-port0");
-    makeFolders({"tty/tty1"}); // a console
-    plug("ttyS0");
-    folder.write("tty/ttyS0/type", "0\n"); // a place kept free
-    plug("ttyS1");
+    make({"program/", "by-id/", "dev/", "dev/ttyACM0", "dev/ttyUSB0", "dev/ttyS0", "dev/ttyS1",
+          "tty/ttyACM0/device/", "tty/ttyUSB0/device/", "tty/ttyS0/device/", "tty/ttyS1/device/",
+          "by-id/usb-Z->../dev/ttyACM0", "by-id/usb-A->../dev/ttyUSB0", "tty/tty1/"});
+    folder.write("tty/ttyS0/type", "0\n"); // a place kept free; the console tty1 has no device
     folder.write("tty/ttyS1/type", "4\n");
     const auto expectPorts =
         [this](std::initializer_list<std::pair<const char*, const char*>> rows) {
@@ -215,10 +201,9 @@ TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
     EXPECT_EQ(serialIdentity(files, "com3", roots), at("dev/ttyS1"));
     EXPECT_EQ(serialIdentity(files, "com4", roots), "");
     // A link in the program's folder goes first.
-    link("../dev/ttyS1", "program/COM1");
-    link("../dev/gone", "program/com2");
+    make({"program/COM1->../dev/ttyS1", "program/com2->../dev/gone"});
     expectPorts({{"com1", "ttyS1"}, {"com2", "no such port"}});
-    folder.write("program/Com1", "");
+    make({"program/Com1"});
     EXPECT_RUNTIME_ERROR(shown("com1"), ErrorCode::pathFileAccess, HasSubstr("COM1"));
 }
 

@@ -35,16 +35,15 @@
 
 namespace vantrel {
 
-namespace {
-
-constexpr std::string_view startFrequency = "14.050";
-
-} // namespace
-
 frmVantrelMain::frmVantrelMain(const FormContext& context)
     : Form(context, "frmVantrelMain", "Vantrel"),
       m_page(this, [this] { return pageCommands(); }),
       m_boxes(m_page.boxes),
+      m_tuning(context, m_page,
+               [this](const std::string& bandTag) {
+                   showWhoIsIt();
+                   return recheckOn(bandTag);
+               }),
       m_keys(this, m_page, keyActions()),
       m_hold(this, [this] { platform().serialPort.close(); }),
       m_roster(context.platform.files) {
@@ -117,7 +116,8 @@ void frmVantrelMain::connectEntryBoxes() {
     connectHandler(m_boxes.call, &QLineEdit::returnPressed, this, &Main::searchClicked);
     connectHandler(m_boxes.number, &QLineEdit::returnPressed, this, &Main::logClicked);
     connectHandler(m_boxes.frequency, &QLineEdit::returnPressed, this, &Main::frequencyClicked);
-    connectHandler(m_boxes.frequency, &QLineEdit::editingFinished, this, &Main::frequencyEntered);
+    connect(m_boxes.frequency, &QLineEdit::editingFinished, this,
+            [this] { runHandler([this] { m_tuning.enter(); }); });
 }
 
 // --- Opening ---------------------------------------------------------------------------------
@@ -129,9 +129,7 @@ void frmVantrelMain::load() {
                         " - Vantrel"));
     put(m_page.whoLabel, settings.myCall + "  " + settings.contestCode);
     put(m_page.dupeModeLabel, settings.logsDupes() ? "Dupes Are Logged" : "Dupes Not Logged");
-    showFrequency(std::string(startFrequency));
-    m_autoReads = true;
-    showRead(ReadOutcome::noRadio); // nothing was read yet
+    m_tuning.start();
     setMarker(noMarker);
     showHint(Hint());
     clearEntry(Left::nothing);
@@ -207,7 +205,7 @@ void frmVantrelMain::callEdited() {
 
 void frmVantrelMain::showWhoIsIt() {
     const std::string typed = textOf(m_boxes.call);
-    const std::string bandTag = presentBandTag();
+    const std::string bandTag = m_tuning.bandTag();
     const Contacts& contacts = shared().log.contacts();
     m_page.whoIsIt->showWorked(contacts, typed, bandTag);
     m_page.panel->showBands(bandTable(contacts, typed, bandTag, shared().settings.isK3y()));
@@ -215,11 +213,7 @@ void frmVantrelMain::showWhoIsIt() {
 
 void frmVantrelMain::showMembers() {
     m_page.whoIsIt->showMembers(m_roster, shared().log.contacts(), trim(textOf(m_boxes.call)),
-                                presentBandTag());
-}
-
-std::string frmVantrelMain::presentBandTag() const {
-    return bandTagOf(completedFrequency(frequencyAsEntered(textOf(m_boxes.frequency))));
+                                m_tuning.bandTag());
 }
 
 // As if it had been typed: the next Enter is SEARCH.
@@ -231,7 +225,7 @@ void frmVantrelMain::memberChosen(const QString& call) {
 
 void frmVantrelMain::searchClicked() {
     const InputHold::Scope hold(m_hold);
-    frequencyEntered();
+    m_tuning.enter();
     Entry typed = m_boxes.entry();
     if (isComplete(typed) && !m_broughtBack) {
         logClicked();
@@ -245,7 +239,7 @@ void frmVantrelMain::searchClicked() {
         toCallBox();
         return;
     }
-    if (!readRadio(typed, Asks::search))
+    if (!m_tuning.read(typed, Tuning::Asks::search))
         return;
     if (trim(typed.frequency).empty()) {
         messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
@@ -254,7 +248,7 @@ void frmVantrelMain::searchClicked() {
         return;
     }
     typed.frequency = completedFrequency(typed.frequency);
-    showFrequency(typed.frequency);
+    m_tuning.show(typed.frequency);
     const std::string marker = shared().marker;
     setMarker(noMarker);
     showStation(std::string(noStationLabel));
@@ -338,7 +332,7 @@ bool frmVantrelMain::recheckOn(const std::string& bandTag) {
 
 void frmVantrelMain::logClicked() {
     const InputHold::Scope hold(m_hold);
-    frequencyEntered();
+    m_tuning.enter();
     Entry typed = m_boxes.entry();
     if (!canBeLogged(typed)) {
         toCallBox();
@@ -370,10 +364,10 @@ std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
     const OperatingSettings& settings = shared().settings;
     ContactFields contact = contactFrom(typed, settings, shared().marker,
                                         utcTime(platform().clock.now(), settings.gmtOffset));
-    if (!readRadio(typed, Asks::log))
+    if (!m_tuning.read(typed, Tuning::Asks::log))
         return std::nullopt;
     const FrequencyCheck check = enterFrequency(contact, typed.frequency, settings);
-    if (!showFrequency(typed.frequency))
+    if (!m_tuning.show(typed.frequency))
         return std::nullopt; // a duplicate on the band that the radio is on by now
     contact.marker = shared().marker;
     switch (check) {
@@ -426,83 +420,29 @@ void frmVantrelMain::noLogClicked() {
 // --- Frequency and band ----------------------------------------------------------------------
 
 void frmVantrelMain::frequencyClicked() {
-    frequencyEntered();
+    m_tuning.enter();
     toCallBox();
-}
-
-void frmVantrelMain::frequencyEntered() {
-    showFrequency(frequencyAsEntered(textOf(m_boxes.frequency)));
-}
-
-// Shows the frequency and the band that follows from it; false when the contact is a duplicate
-// there and refused.
-bool frmVantrelMain::showFrequency(const std::string& mhz) {
-    if (textOf(m_boxes.frequency) != mhz)
-        put(m_boxes.frequency, mhz);
-    // Outside the six bands the label stays as it was, and says so by its colour.
-    const bool isShown = !bandTextOf(mhz, "").empty();
-    put(m_page.bandLabel, bandTextOf(mhz, textOf(m_page.bandLabel)));
-    setTextColour(m_page.bandLabel, isShown ? QColor() : cautionColour(palette()));
-    showWhoIsIt();
-    return recheckOn(bandTagOf(completedFrequency(mhz)));
 }
 
 void frmVantrelMain::readClicked() {
     const InputHold::Scope hold(m_hold);
     Entry typed = m_boxes.entry();
-    if (readRadio(typed, Asks::operatorHimself))
+    if (m_tuning.read(typed, Tuning::Asks::operatorHimself))
         toCallBox();
 }
 
-// Reads the radio's frequency, if there is a radio, into the box and the entry. A radio that
-// does not answer is reported and the frequency in the box stands. False when the program is
-// being closed: the handler then ends at once.
-bool frmVantrelMain::readRadio(Entry& typed, Asks asks) {
-    const ReadResult result = m_autoReads || asks == Asks::operatorHimself
-                                  ? readFrequency(shared().settings, platform().serialPort)
-                                  : ReadResult{ReadOutcome::noRadio};
-    if (result.outcome == ReadOutcome::cancelled)
-        return false;
-    showRead(result.outcome);
-    if (result.outcome == ReadOutcome::read) {
-        typed.frequency = result.frequency;
-        showFrequency(typed.frequency);
-    }
-    if (result.outcome == ReadOutcome::failed)
-        messages().show(asks == Asks::log ? withFrequencyUsed(result.message, typed.frequency)
-                                          : result.message);
-    return true;
-}
-
-// Off, a dead radio costs no more boxes.
 void frmVantrelMain::autoReadClicked() {
-    m_autoReads = !m_autoReads;
-    showRead(ReadOutcome::noRadio);
+    m_tuning.toggleAutoRead();
     toCallBox();
 }
 
-// A dot before the label: green after a good read, red after a failed one, none when off.
-void frmVantrelMain::showRead(ReadOutcome outcome) {
-    const bool on = m_autoReads && shared().settings.hasRadio();
-    put(m_page.autoReadLabel, autoReadText(on ? ReadOutcome::read : ReadOutcome::noRadio));
-    const bool read = outcome == ReadOutcome::read;
-    m_page.readDot->setText(read || outcome == ReadOutcome::failed ? QString(QChar(0x25CF))
-                                                                   : QString());
-    setTextColour(m_page.readDot, read ? goodColour(palette()) : warningColour(palette()));
-}
-
 void frmVantrelMain::upClicked() {
-    frequencyEntered();
-    stepTo(bandUp(textOf(m_page.bandLabel)));
+    m_tuning.step(bandUp);
+    toCallBox();
 }
 
 void frmVantrelMain::downClicked() {
-    frequencyEntered();
-    stepTo(bandDown(textOf(m_page.bandLabel)));
-}
-
-void frmVantrelMain::stepTo(const Band& band) {
-    showFrequency(std::string(band.defaultFrequency));
+    m_tuning.step(bandDown);
     toCallBox();
 }
 

@@ -9,6 +9,7 @@
 #include "roster/rosterlookup.h"
 #include "screens/main/frmMainControls.h"
 #include "screens/main/frmMainKeys.h"
+#include "screens/main/frmTuning.h"
 #include "screens/main/hints.h"
 
 #include <initializer_list>
@@ -26,7 +27,6 @@ class ContestPanel;
 class MarkedLabel;
 class SuggestionList;
 class WorkedList;
-struct Band;
 
 class frmVantrelMain : public Form, public MainPage {
     Q_OBJECT
@@ -51,8 +51,6 @@ protected:
 private:
     // What the boxes hold after a contact is dropped: nothing, or a single blank each.
     enum class Left { nothing, oneBlank };
-    // Who asks the radio: the last one also when AUTO READ is off.
-    enum class Asks { search, log, operatorHimself };
     // What SEARCH looked for, until another call is typed.
     struct Searched {
         std::string call;
@@ -84,25 +82,19 @@ private:
     void stationClicked();
 
     void showEntry(const Entry& entry);
-    bool showFrequency(const std::string& mhz);
     void showWhoIsIt();
     void showMembers();
-    std::string presentBandTag() const;
     void memberChosen(const QString& call);
     void contactChosen(const QModelIndex& index);
     int chosenContact() const;
     void openOnContact(Screen page, int contact, bool shown);
     void tellGain(const Entry& typed);
     void secondPassed();
-    void showRead(ReadOutcome outcome);
-    void frequencyEntered();
     bool lookUpAndShow(Entry& typed);
     bool refusesDupe();
     bool recheckOn(const std::string& bandTag);
     std::optional<std::string> assembledLine(Entry& typed);
     void logLine(const std::string& line);
-    bool readRadio(Entry& typed, Asks asks);
-    void stepTo(const Band& band);
     void clearEntry(Left left);
     void bringBack();
     void setMarker(std::string_view marker);
@@ -114,6 +106,7 @@ private:
     MainControls m_page;
     EntryBoxes& m_boxes; // of them
     QTimer* m_second;
+    Tuning m_tuning;
     MainKeys m_keys;
 
     InputHold m_hold; // what is typed while the radio is read
@@ -122,7 +115,6 @@ private:
     std::optional<Searched> m_searched;
     std::optional<Cleared> m_cleared;
     Log::Watch m_logWatch;
-    bool m_autoReads = true;
     bool m_broughtBack = false;  // what is in the boxes was cleared before
     bool m_refusalShown = false; // in the hint line, until the next key
     bool m_radioReadDue = false; // the radio is read once after the first paint

@@ -2,6 +2,7 @@
 // Makes the machine's doors, the shared state and the screens, and shows the start page.
 #include "app/appscreens.h"
 #include "base/version.h"
+#include "forms/visiblestyle.h"
 #include "platform/clock.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
@@ -61,6 +62,7 @@ int runProgram(QApplication& application, QtMessages& messages) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
+    QApplication::setStyle(new VisibleStyle);
     QApplication::setApplicationName(QStringLiteral("Vantrel"));
     QApplication::setApplicationVersion(QString::fromLatin1(version));
     QApplication::setDesktopFileName(QString::fromLatin1(desktopEntry));

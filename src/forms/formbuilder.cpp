@@ -234,6 +234,10 @@ QColor dimmedColour(const QPalette& palette) {
                   between(text.blue(), ground.blue()));
 }
 
+QColor accentColour(const QPalette& palette) {
+    return isDark(palette) ? QColor(0x5A, 0xB4, 0xF0) : QColor(0x10, 0x60, 0xA0);
+}
+
 QColor goodColour(const QPalette& palette) {
     return isDark(palette) ? QColor(0x60, 0xD0, 0x60) : QColor(0, 0x70, 0x20);
 }

@@ -62,6 +62,8 @@ QFont familyFont(const QWidget* widget, const char* family);
 QColor warningColour(const QPalette& palette);
 QColor cautionColour(const QPalette& palette);
 QColor goodColour(const QPalette& palette);
+// What stands out without being wrong: the focus, a K3Y tag.
+QColor accentColour(const QPalette& palette);
 // For captions: weaker than what they name.
 QColor dimmedColour(const QPalette& palette);
 // A text in this colour; an invalid colour is the palette's own.

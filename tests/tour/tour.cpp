@@ -2,6 +2,7 @@
 // Plays an operator through the program in real windows, takes a picture of each screen and
 // compares the files that come of it byte for byte.
 #include "fakes/qt/ptyradio.h"
+#include "forms/visiblestyle.h"
 #include "screens/start/startlog.h"
 #include "support/contacts.h"
 #include "tour/stage.h"
@@ -350,7 +351,6 @@ void dress() {
     }
     if (qgetenv("VANTREL_TOUR_PALETTE") != "dark")
         return;
-    QApplication::setStyle(QStringLiteral("Fusion"));
     const QColor window(0x2B, 0x2B, 0x2B);
     QPalette dark(QColor(0x3C, 0x3C, 0x3C), window);
     dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
@@ -366,6 +366,7 @@ int main(int argc, char** argv) {
     if (std::getenv("DISPLAY") == nullptr)
         ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication application(argc, argv);
+    QApplication::setStyle(new vantrel::VisibleStyle);
     QApplication::setQuitOnLastWindowClosed(false);
     GTEST_FLAG_SET(throw_on_failure, true);
     dress();

@@ -42,7 +42,7 @@ public:
         const int begin = text.left() + margin +
                           shown.fontMetrics.horizontalAdvance(toQt(left(line, markerColumn - 1)));
         painter->setFont(shown.font);
-        painter->setPen(option.palette.color(QPalette::Link));
+        painter->setPen(accentColour(option.palette));
         painter->drawText(QRect(begin, text.top(), text.width(), text.height()),
                           Qt::AlignVCenter | Qt::TextSingleLine, toQt(marker));
     }

@@ -349,39 +349,12 @@ void rosterLookup(std::string input) {
     assert(normalisedNumber(number) == number && numberKey(number) == numberKey(typed));
 }
 
-// The start page shows what was read and hands back what its lists can hold.
-OperatingSettings throughTheStartPage(OperatingSettings settings) {
-    const auto choose = [](std::string& value, const std::vector<ListEntry>& list,
-                           std::string_view otherwise = noneSetting) {
-        value = list[static_cast<std::size_t>(positionOf(list, value, otherwise))].stored;
-    };
-    choose(settings.rig, rigList());
-    choose(settings.comPort, portList());
-    choose(settings.baud, baudList());
-    choose(settings.civAddress, civList());
-    choose(settings.gmtOffset, offsetList(), "0");
-    choose(settings.dupeMode, dupeModeList(), "NO");
-    if (settings.contestCode != contestWes && settings.contestCode != contestK3y)
-        settings.contestCode = contestSks;
-    return storedSettings(settings);
-}
-
-// A settings file, taken through the start page's lists and START: what START saved is what the
-// next start reads.
+// A settings file, read and saved: a fault has its error, and what was saved can be read.
 void settings(std::string input) {
     files.rewrite(configurationFile, input);
-    bool loaded = false;
-    const auto error = errorOf([&] {
-        const OperatingSettings settings = loadSettings(files);
-        loaded = true;
-        saveSettings(files, throughTheStartPage(settings));
-    });
-    assert(!error || *error == (loaded ? ErrorCode::invalidCall : ErrorCode::inputPastEnd));
-    if (error)
-        return;
-    const std::string saved = files.read(configurationFile);
-    saveSettings(files, throughTheStartPage(loadSettings(files)));
-    assert(files.read(configurationFile) == saved);
+    const auto error = errorOf([] { saveSettings(files, storedSettings(loadSettings(files))); });
+    assert(!error || *error == ErrorCode::invalidCall || *error == ErrorCode::inputPastEnd);
+    assert(error || !errorOf([] { loadSettings(files); }));
 }
 
 struct Target {

@@ -2,7 +2,6 @@
 // Importing 19,500 members into roster files near their capacity: without a window against
 // `LC_ALL=C sort` of the same list, in the window against without, and how long the window
 // goes without serving its events.
-#include "roster/clublist.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterrecord.h"
 #include "support/program.h"
@@ -17,6 +16,29 @@
 
 namespace {
 
+struct ListedMember {
+    std::string number, call, name, state;
+};
+
+// The line of "skccdata.txt"; every third one without its last separator.
+std::string dataLine(const ListedMember& m, std::size_t i) {
+    return m.number + "|" + m.call + "|" + m.name + "|Some, Town|" + m.state +
+           "||1234|291|01 Jan 2010|02 Feb 2011|" + (i % 3 == 0 ? "" : "|");
+}
+
+// `count` members, no two with one call, with names and states as operators write them.
+std::vector<ListedMember> madeUpMembers(int count) {
+    static constexpr std::array names{"JOHN", "Bob", "Christopher J", "", "  Ann ", "Bj\xF6rn"};
+    static constexpr std::array states{"MA", "ny", "CA ", "", "ONT", "DLX4", " G"};
+    static constexpr std::array awards{"", "C", "T", "S"};
+    std::vector<ListedMember> members;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i)
+        members.push_back({std::to_string(i * 7919 % 25000) + awards[i % awards.size()],
+                           "K" + std::to_string(i) + "XY", names[i % names.size()],
+                           states[i % states.size()]});
+    return members;
+}
+
 using namespace vantrel;
 
 constexpr int listed = 19500;
@@ -28,10 +50,10 @@ std::string dataList() {
         "SKCCNR|CALL|NAME|QTH|SPC|OLDCALL|SKCC|DXCODE|JOINDATE|CENTDATE|TRIBDATE\r\n";
     // Spread over the files as the club's members are.
     static constexpr std::array prefixes{"K", "W", "N", "A", "G", "K", "W", "K"};
-    auto members = test::madeUpMembers(listed);
+    auto members = madeUpMembers(listed);
     for (std::size_t i = 0; i < members.size(); ++i) {
         members[i].call = prefixes[i % prefixes.size()] + std::to_string(i) + "XY";
-        list += test::dataLine(members[i], i) + "\r\n";
+        list += dataLine(members[i], i) + "\r\n";
     }
     return list;
 }

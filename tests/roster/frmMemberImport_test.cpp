@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/qt/formharness.h"
 
-#include <QApplication>
 #include <QTimer>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace vantrel::test {
 namespace {
@@ -30,19 +26,16 @@ TEST_F(ImportPages, DataListIsReadAndAMissingOneLeavesNothingOfAnEarlierImport) 
             EXPECT_FALSE(control(dataPage, button)->isEnabled()) << button;
     };
     click(dataPage, "Command2");
-    std::string told;
-    for (const char* label : {"Label2", "Label3", "Label7", "Label6", "Label5"})
-        told += shown(dataPage, label) + '|';
-    EXPECT_EQ(told, "2                        |DONE. . . . 1 MBRS ADDED. Click EXIT|2 LINES READ|"
-                    "0 NUMBERS CHANGED|1 LINES SKIPPED|");
+    EXPECT_EQ(texts(dataPage, "Label2 Label3 Label7 Label6 Label5"),
+              "2                        |DONE. . . . 1 MBRS ADDED. Click EXIT|2 LINES READ|"
+              "0 NUMBERS CHANGED|1 LINES SKIPPED|");
     settle();
     EXPECT_EQ(QApplication::focusWidget(), control(dataPage, "Command1"));
     EXPECT_FALSE(control(dataPage, "ProgressBar1")->isVisible());
     type(dataPage, "Text1", "nosuch.txt");
-    messages.expect("Run-time error 53: File not found");
-    click(dataPage, "Command2");
+    clickFor("Run-time error 53: File not found", dataPage, "Command2");
     EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("nosuch.txt"));
-    EXPECT_EQ(shown(dataPage, "Label1") + shown(dataPage, "Label3"), "");
+    EXPECT_EQ(texts(dataPage, "Label1 Label3"), "||");
     click(dataPage, "Command1"); // enabled again
     settle();
     EXPECT_FALSE(isOpen(dataPage));
@@ -50,8 +43,7 @@ TEST_F(ImportPages, DataListIsReadAndAMissingOneLeavesNothingOfAnEarlierImport) 
 
 TEST_F(ImportPages, MemberListCountsWhatItFixedAndIsReadFromWhereTheFinderSays) {
     click(choice, "Option2");
-    messages.expect("SKCCLIST.TXT IS NOT FOUND");
-    click(listPage, "Command2");
+    clickFor("SKCCLIST.TXT IS NOT FOUND", listPage, "Command2");
     EXPECT_EQ(messages.shown.back().icon, BoxIcon::exclamation);
     folder.write("SKSDB2.TXT", "K1ABC     0123C     JOE       CT \r\n");
     folder.write("SKCCLIST.TXT", "123|K1ABC|Joe|Town|CT|123T|\r\n");
@@ -59,9 +51,8 @@ TEST_F(ImportPages, MemberListCountsWhatItFixedAndIsReadFromWhereTheFinderSays) 
     eventLoop.onYield = [&] { phases.push_back(shown(listPage, "Label1")); };
     click(listPage, "Command2");
     EXPECT_EQ(phases.at(1), "READING THE DATABASE");
-    EXPECT_EQ(shown(listPage, "Label3") + shown(listPage, "Label4") + shown(listPage, "Label5"),
-              "DONE...0 Mbrs Added...Click EXIT1 SKCC#'s Fixed");
-    type(listPage, "Text1", "");
+    EXPECT_EQ(texts(listPage, "Label3 Label4 Label5"),
+              "DONE...0 Mbrs Added...Click EXIT|1 SKCC#'s Fixed||");
     click(listPage, "Command3");
     const std::string selected = shown("frmFileFinder", "Label5");
     click("frmFileFinder", "Command1");
@@ -71,8 +62,7 @@ TEST_F(ImportPages, MemberListCountsWhatItFixedAndIsReadFromWhereTheFinderSays) 
     click(choice, "Option3");
     EXPECT_THAT(launcher.started, ::testing::ElementsAre(files.path("rostfetch.exe")));
     launcher.missing = true;
-    messages.expect("Run-time error 53: File not found");
-    click(choice, "Option3");
+    clickFor("Run-time error 53: File not found", choice, "Option3");
     EXPECT_THAT(messages.shown.back().informative,
                 ::testing::HasSubstr(folder.string() + " AND TAKE THE FIRST CHOICE"));
 }

@@ -57,8 +57,8 @@ TEST(OutputFiles, AreNamedAfterTheLog) {
     EXPECT_EQ(adifFileName("SKS"), "ADI");
     EXPECT_RUNTIME_ERROR(adifFileName("AB"), ErrorCode::invalidCall,
                          "the log's name \"AB\" has no extension to replace");
-    EXPECT_EQ(scorePdfName("/A.B/LOG"), "/A.B/LOG-SCORE.PDF");
-    EXPECT_EQ(logPdfName("A.B\\LOG.CBR"), "A.B\\LOG-LOG.PDF");
+    EXPECT_EQ(scorePdfName("/A.B/LOG") + logPdfName("A.B\\LOG"),
+              "/A.B/LOG-SCORE.PDFA.B\\LOG-LOG.PDF");
 }
 
 const std::string contact = contactLine({});

@@ -293,9 +293,34 @@ void playRadioEvening(Stage& stage) {
     logContact(stage, klaus);
     radio.hertz = 1'825'000;
     logContact(stage, club);
-    EXPECT_EQ(stage.folder.read(log),
-              logHeaderLines + contactWith(klaus, "28999") + contactWith(club, " 1825"));
+    std::string expected =
+        logHeaderLines + contactWith(klaus, "28999") + contactWith(club, " 1825");
+    EXPECT_EQ(stage.folder.read(log), expected);
     stage.picture(mainPage, "main-radio");
+
+    // Typed on while the radio takes its time, to the window: call, Enter, Enter, the next call.
+    radio.forget();
+    radio.delay = 300;
+    const auto typeOn = [&](const char* keys) {
+        for (; *keys != '\0'; ++keys)
+            QTest::keyClick(stage.form(mainPage)->windowHandle(), *keys);
+    };
+    stage.form(mainPage)->activateWindow();
+    QTimer::singleShot(30, qApp, [&] { typeOn("\rn4xyz\r\r"); });
+    radio.hertz = 21'025'000;
+    typeOn("dl1qrs\r");
+    expected += contactWith(klaus, "21025") + contactWith(ann, "21025");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return stage.folder.read(log) == expected; }));
+    EXPECT_EQ(radio.received(), "FA;FA;FA;FA;");
+    // Closing the page ends the read at once.
+    radio.delay = 4000;
+    QTimer::singleShot(30, qApp, [&] { stage.form(mainPage)->close(); });
+    QElapsedTimer reading;
+    reading.start();
+    typeOn("k9skc\r");
+    EXPECT_LT(reading.elapsed(), 1000);
+    EXPECT_FALSE(stage.isOpen(mainPage));
+    EXPECT_EQ(stage.folder.read(log), expected);
 }
 
 // The looks that pictures are taken in: VANTREL_TOUR_POINTS, the font's size, and

@@ -13,10 +13,22 @@
 #include "support/qt/hands.h"
 #include "support/tempfolder.h"
 
+#include <QApplication>
+#include <QTest>
+
+#include <cerrno>
+#include <gmock/gmock.h>
+
 namespace vantrel::test {
 
 class FormHarness : public Hands {
 public:
+    // Clicks what brings up a box with this message.
+    void clickFor(const std::string& message, const char* formName, const char* name) {
+        messages.expect(message);
+        click(formName, name);
+    }
+
     TempFolder folder;
     FailingCalls calls;
     Files files{folder.string(), calls};

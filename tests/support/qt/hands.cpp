@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QVariant>
 
+#include <sstream>
+
 namespace vantrel::test {
 
 namespace {
@@ -41,6 +43,14 @@ std::string Hands::shown(const char* formName, const char* name) const {
     const QWidget* found = control(formName, name);
     const QVariant text = found->property("text");
     return fromQt((text.isValid() ? text : found->property("currentText")).toString());
+}
+
+std::string Hands::texts(const char* formName, const std::string& names) const {
+    std::istringstream all(names);
+    std::string result;
+    for (std::string name; all >> name; result += '|')
+        result += shown(formName, name.c_str());
+    return result;
 }
 
 std::vector<std::string> Hands::lines(const char* formName, const char* name) const {

@@ -29,6 +29,8 @@ public:
 
     // What a line edit, label, combo or button shows (ISO 8859-1).
     std::string shown(const char* formName, const char* name) const;
+    // The same of several, named in a row: "JOE|CT|".
+    std::string texts(const char* formName, const std::string& names) const;
     // The lines of a list.
     std::vector<std::string> lines(const char* formName, const char* name) const;
     // Selects all in the box (or the combo's) and types the text, key by key.

@@ -47,8 +47,8 @@ inline constexpr std::string_view memberListMissing = "SKCCLIST.TXT IS NOT FOUND
 std::string lineNumberText(int line);
 // "DONE. . . . 3 MBRS ADDED. Click EXIT", as the list's screen words it.
 std::string addedText(MemberList list, int added);
-std::string fixedText(int fixed);   // as the screen of the members' list words it
-std::string changedText(int fixed); // and that of the data list
+std::string fixedText(int fixed);     // as the screen of the members' list words it
+std::string changedText(int changed); // and that of the data list
 std::string linesReadText(int lines);
 // Empty for none.
 std::string skippedText(int skipped);

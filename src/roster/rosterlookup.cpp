@@ -112,12 +112,13 @@ std::vector<Member> Roster::membersLike(std::string_view text, std::size_t most)
     if (records.size() < most)
         collect([&](std::string_view call) {
             const std::size_t place = call.find(text);
-            return place != 0 && place != call.npos;
+            return place != 0 && place != std::string_view::npos;
         });
     if (records.empty())
         collect([&](std::string_view call) { return isOneLetterAway(text, call); });
     records.resize(std::min(records.size(), most));
     std::vector<Member> members;
+    members.reserve(records.size());
     for (const std::string_view record : records)
         members.push_back(memberOf(record));
     return members;

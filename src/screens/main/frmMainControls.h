@@ -36,6 +36,9 @@ struct MainControls {
     // that lead to other pages where its turn comes.
     MainControls(QWidget* form, const std::function<QHBoxLayout*()>& makePageCommands);
 
+    MainControls(const MainControls&) = delete;
+    MainControls& operator=(const MainControls&) = delete;
+
     EntryBoxes boxes;
     QPushButton* frequencyButton;
     QPushButton* searchButton;

@@ -12,7 +12,7 @@ namespace vantrel {
 namespace {
 
 constexpr int fewestTyped = 2;
-constexpr int shortestEntry = 6; // "K1 20" and a blank
+constexpr std::size_t shortestEntry = 6; // "K1 20" and a blank
 constexpr std::string_view between = "  ";
 
 struct Worked {
@@ -64,7 +64,7 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
     std::vector<WorkedCall> result;
     if (length(typed) < fewestTyped)
         return result;
-    const auto most = static_cast<std::size_t>(columns / shortestEntry + 1);
+    const auto most = static_cast<std::size_t>(columns) / shortestEntry + 1;
     int width = 0;
     for (const Worked& worked : workedWith(contacts, typed, bandTag, most)) {
         std::string text = textOf(worked);

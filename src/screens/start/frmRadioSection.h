@@ -23,6 +23,8 @@ class RadioSection {
 public:
     // Makes its controls as children of the page, in tab order.
     RadioSection(QWidget* page, const Files& files);
+    RadioSection(const RadioSection&) = delete;
+    RadioSection& operator=(const RadioSection&) = delete;
 
     QLayout* layout() const;
     // The boxes hold the saved settings now; from here to its hiding the page follows what is

@@ -120,6 +120,21 @@ TEST_F(RealPort, UnpluggedMidReplyIsToldAtOnceAndNothingHangsAfterwards) {
     EXPECT_LT(clock.elapsed(), 3000);
 }
 
+// Its frames fall before, into and behind each read.
+TEST_F(RealPort, IcomIsReadWhileItsDialIsTurned) {
+    const Radio& icom = radioNamed("IcomCiv");
+    radio.delay = 20;
+    radio.answer = [&](std::string_view query) {
+        radio.send(query); // the echo
+        return query == icom.query ? icom.reply(14'025'000).substr(query.size()) : "";
+    };
+    QTimer dial;
+    QObject::connect(&dial, &QTimer::timeout, [&] { radio.send(straysOf(icom).front()); });
+    dial.start(60);
+    for (int i = 0; i < 15; ++i)
+        EXPECT_EQ(readFrequency(settingsFor(icom), port).frequency, "14.025") << i;
+}
+
 TEST_F(RealPort, PortsThatCannotBeUsedSayWhy) {
     const std::string line = "9600,n,8,1";
     folder.write("com3", "no port");
@@ -160,8 +175,77 @@ TEST_F(RealPort, EveryRepeatedQueryReachesTheRadioUntilTheProgramQuits) {
     EXPECT_LT(clock.elapsed(), 1000);
 }
 
-// An independent witness: the radio library's dummy radio speaks as a TS-2000 through a terminal
-// of its own.
+// --- An independent witness: the radio library's own commands, where they are installed
+// -----------
+
+struct Witness {
+    const char* radio;
+    const char* arguments; // model and line, as rigctl takes them
+    // What else it is asked, and says: "|command" and reply.
+    std::string said{};
+};
+
+const std::string texts = "|FA;FA00007025000;|FB;FB00014025000;|AI;AI0;|MD;MD3;|PS;PS1;"
+                          "|IF;IF00007025000     -000000 0003000000 ;";
+const std::string tenTec =
+    "|?V\rVER 1038-588\r|?M\rM30\r|?BF\r@BF14025000\r|?KV\r@KVAAN\r|?RMM\r@RMM3\r|?RMF\r@RMF2400\r";
+
+const Witness witnesses[] = {
+    {"TenTecAscii", "-m 16008 -s 57600", tenTec},
+    {"TenTecBinary", "-m 16011 -s 57600", tenTec},
+    {"TenTecBinary", "-m 16002 -s 57600", tenTec},
+    {"ElecraftK3", "-m 2029 -s 38400",
+     texts + "|ID;ID017;|K2;K22;|K3;K31;|OM;OM A-----------;|RVM;RVM05.67;"},
+    {"ElecraftK2", "-m 2021 -s 4800", texts + "|ID;ID017;|K2;K22;|FW;FW000000;"},
+    {"IcomCiv", "-m 3056 -s 1200 -c 0x6A"},
+    {"YaesuAscii", "-m 1028 -s 4800",
+     "|FB;FB14025000;|AI;AI0;|IF;IF00107025000+000000300000;|MD0;MD03;|PS;PS1;|ID;ID0310;"
+     "|EX027;EX0270;|VS;VS0;|FT;FT0;|SH0;SH016;|NA0;NA00;"},
+    {"YaesuBinary", "-m 1024 -s 4800"},
+    {"Kenwood", "-m 2014 -s 57600", texts + "|ID;ID019;"},
+};
+
+std::string answer(const Witness& row, const Radio& radio, std::string_view heard) {
+    const char end = radio.query.back();
+    const std::string frequency = radio.reply(7'025'000);
+    if (heard.ends_with(radio.query))
+        return frequency;
+    if (heard.ends_with("\x03\x10")) // the two VFOs of a FT-1000MP
+        return frequency + frequency;
+    if (radio.name == "IcomCiv" && heard.ends_with(end)) // echo, and "no such command"
+        return std::string(heard) + "\xFE\xFE\xE0\x6A\xFA\xFD";
+    const auto last = heard.substr(0, heard.size() - 1).rfind(end) + 1;
+    const std::string command = '|' + std::string(heard.substr(last));
+    const auto at = row.said.find(command);
+    if (!heard.ends_with(end) || at == std::string::npos)
+        return {};
+    const auto reply = at + command.size();
+    return row.said.substr(reply, row.said.find('|', reply) - reply);
+}
+
+// What it prints; it reads from the simulated radio meanwhile.
+std::string outputOf(const QString& program, const QString& arguments) {
+    QProcess process;
+    process.start(program, arguments.split(u' '));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20'000));
+    return process.readAllStandardOutput().trimmed().toStdString();
+}
+
+TEST_F(RealPort, WitnessReadsEachFamilyAsTheProgramDoes) {
+    const QString rigctl = QStandardPaths::findExecutable(QStringLiteral("rigctl"));
+    if (rigctl.isEmpty())
+        GTEST_SKIP() << "rigctl (Debian package libhamlib-utils) is not installed";
+    for (const Witness& row : witnesses) {
+        SCOPED_TRACE(row.arguments);
+        const Radio& asked = radioNamed(row.radio);
+        radio.answer = [&](std::string_view heard) { return answer(row, asked, heard); };
+        const std::string arguments = row.arguments + (" -r " + radio.device()) + " f";
+        EXPECT_EQ(outputOf(rigctl, QString::fromStdString(arguments)), "7025000");
+        EXPECT_EQ(readFrequency(settingsFor(asked), port).frequency, "7.025");
+    }
+}
+
+// The library's dummy radio speaks as a TS-2000 through a terminal of its own.
 TEST_F(RealPort, WitnessIsReadAsARadio) {
     const QString rigctlcom = QStandardPaths::findExecutable(QStringLiteral("rigctlcom"));
     if (rigctlcom.isEmpty())

@@ -306,18 +306,20 @@ void playRadioEvening(Stage& stage) {
             QTest::keyClick(stage.form(mainPage)->windowHandle(), *keys);
     };
     stage.form(mainPage)->activateWindow();
-    QTimer::singleShot(30, qApp, [&] { typeOn("\rn4xyz\r\r"); });
     radio.hertz = 21'025'000;
-    typeOn("dl1qrs\r");
+    typeOn("dl1qrs");
+    QTimer::singleShot(30, qApp, [&] { typeOn("\rn4xyz\r\r"); });
+    typeOn("\r");
     expected += contactWith(klaus, "21025") + contactWith(ann, "21025");
     EXPECT_TRUE(QTest::qWaitFor([&] { return stage.folder.read(log) == expected; }, 20'000));
     EXPECT_EQ(radio.received(), "FA;FA;FA;FA;");
     // Closing the page ends the read at once.
     radio.delay = 4000;
+    typeOn("k9skc");
     QTimer::singleShot(30, qApp, [&] { stage.form(mainPage)->close(); });
     QElapsedTimer reading;
     reading.start();
-    typeOn("k9skc\r");
+    typeOn("\r");
     EXPECT_LT(reading.elapsed(), 1500);
     EXPECT_FALSE(stage.isOpen(mainPage));
     EXPECT_EQ(stage.folder.read(log), expected);

@@ -303,6 +303,10 @@ void rosterImport(std::string input) {
     const std::string once = import();
     assert(import() == once && added == 0);
 
+    // As the import reads it: a bare CR ends a line too, a mark of the encoding is no text.
+    std::replace(input.begin(), input.end(), '\r', '\n');
+    if (input.starts_with("\xEF\xBB\xBF"))
+        input.erase(0, 3);
     Roster roster(files);
     MemberListReader reader(list);
     for (LineReader lines(input); !lines.atEnd();) {

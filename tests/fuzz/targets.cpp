@@ -281,7 +281,7 @@ void radioReply(std::string input) {
     assert(!mhz.empty() || !message.text.empty());
     const std::size_t point = mhz.find('.');
     assert(mhz.empty() || ((point == 1 || point == 2) && mhz.size() == point + 4 &&
-                           khzFault(khzField(completedFrequency(mhz))).empty()));
+                           khzField(mhz).find_first_not_of(" 0123456789") == mhz.npos));
 }
 
 // One of the club's lists, merged into any roster: whoever is on the list is found afterwards,

@@ -34,6 +34,7 @@ constexpr std::string_view mainKeys =
 constexpr std::string_view logPageKeys = "Enter            in the call box: SEARCH\n"
                                          "F3               SEARCH AGAIN\n"
                                          "Alt+S Alt+D      SAVE CHANGES, DELETE\n"
+                                         "Alt+F            the frequency, on the correction page\n"
                                          "Alt+U            UNDO; once more: redo\n";
 
 constexpr PageKeys pages[] = {

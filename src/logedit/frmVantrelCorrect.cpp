@@ -91,8 +91,10 @@ void frmVantrelCorrect::layOut() {
     auto* fields = new QFormLayout;
     for (std::size_t i = 1; i < m_boxes.size(); ++i) {
         fit(m_boxes[i], correctionFields[i].column.width);
+        // The wrong band is what is corrected most: it has a key of its own.
+        const bool isFrequency = correctionFields[i].column.first == qso::frequency.first;
         if (i + 1 < m_boxes.size())
-            build.row(fields, correctionFields[i].label, m_boxes[i]);
+            build.row(fields, isFrequency ? "&FREQUENCY" : correctionFields[i].label, m_boxes[i]);
     }
     fields->addRow(m_dupeOption, m_boxes.back());
     fields->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);

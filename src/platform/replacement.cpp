@@ -10,6 +10,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <fcntl.h>
 #include <filesystem>
 #include <future>
 #include <set>
@@ -101,9 +102,9 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
     const DiskFile folder = openFolderOf(m_calls, journal);
     std::vector<DiskFile> written;
     for (std::size_t i = 0; i < contents.size(); ++i) {
-        written.push_back(createBeside(m_calls, files[i].target, contents[i].bytes));
+        written.push_back(createNew(files[i].target, contents[i]));
         if (files[i].existed)
-            keepOld(files[i].target);
+            giveSecondName(files[i].target, oldPath(files[i].target));
         if (between)
             between();
     }
@@ -116,16 +117,24 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
     folder.syncFolder();
 }
 
-// Gives the present file a second name; on file systems without links, a copy.
-void Replacement::keepOld(const std::string& target) {
-    m_calls.remove(oldPath(target));
-    if (m_calls.link(target, oldPath(target)) == 0)
+DiskFile Replacement::createNew(const std::string& target, const FileContent& content) {
+    if (content.keeps.empty())
+        return createBeside(m_calls, target, content.bytes);
+    giveSecondName(targetPath(m_programFolder, content.keeps), newPath(target));
+    // Whoever wrote that file may not have waited for the disk.
+    return {m_calls, newPath(target), O_RDONLY, target};
+}
+
+// On file systems without links the second name is that of a copy.
+void Replacement::giveSecondName(const std::string& file, const std::string& second) {
+    m_calls.remove(second);
+    if (m_calls.link(file, second) == 0)
         return;
     if (errno == ENOSPC || errno == EDQUOT)
-        throwSystemError(errno, target);
+        throwSystemError(errno, file);
     std::string bytes;
-    readFile(m_calls, target, bytes);
-    createFile(m_calls, oldPath(target), target, bytes).sync();
+    readFile(m_calls, file, bytes);
+    createFile(m_calls, second, file, bytes).sync();
 }
 
 // A line each: "+" or "-" for a file that existed or not, and its name.

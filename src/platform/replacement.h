@@ -9,12 +9,14 @@
 
 namespace vantrel {
 
+class DiskFile;
 class SystemCalls;
 
 // A file of several that are replaced together: its name and its whole new content.
 struct FileContent {
     std::string name;
     std::string bytes;
+    std::string keeps{}; // instead of the bytes: the file of this name as it is before
 };
 
 // 1. Every new file is written beside its target, every old one kept by a second name; only
@@ -47,7 +49,8 @@ private:
     ReplacedFiles filesOf(const std::vector<FileContent>& contents) const;
     void prepare(const ReplacedFiles& files, const std::vector<FileContent>& contents,
                  const std::function<void()>& between);
-    void keepOld(const std::string& target);
+    DiskFile createNew(const std::string& target, const FileContent& content);
+    void giveSecondName(const std::string& file, const std::string& second);
     static std::string journalText(const ReplacedFiles& files);
     ReplacedFiles readJournal(std::string_view journal) const;
     void removeJournal(std::string_view journal);

@@ -63,7 +63,7 @@ public:
     void replace(int place, std::string_view record) { m_lines.at(place) = copyOf(record); }
 
     FileContent content() const { return {m_name, joinLines(m_lines)}; }
-    FileContent contentBefore() const { return {m_name + std::string(backupSuffix), m_bytes}; }
+    FileContent contentBefore() const { return {m_name + std::string(backupSuffix), {}, m_name}; }
 
 private:
     void append(std::string_view line) {
@@ -111,7 +111,7 @@ public:
         table.replace(place, record);
     }
 
-    // keepOld: a second copy of the files as they were is written too.
+    // keepOld: the files as they were are kept too.
     void save(Files& files, bool keepOld, const std::function<void()>& between) const {
         std::vector<FileContent> contents;
         for (std::size_t i = 0; i < m_tables.size(); ++i)

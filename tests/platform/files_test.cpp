@@ -164,7 +164,7 @@ void rewrite(Files& files) {
     files.rewrite("LOG.CBR", "new");
 }
 void rewriteAll(Files& files) {
-    files.rewriteAll({{"DB1", "new 1"}, {"DB2", "new 2"}, {"DB3.TXT", "new 3"}});
+    files.rewriteAll({{"DB2", "", "db3.TXT"}, {"DB1", "new 1"}, {"DB3.TXT", "3"}});
 }
 
 const Operation operations[] = {
@@ -173,8 +173,8 @@ const Operation operations[] = {
     {"KeepCopy", {{"log.old", "1"}}, {{"log.old", "1"}, {"LOG.OLD2", "2"}}, keepCopy, 2},
     {"Rewrite", {{"LOG.CBR", "a longer old"}}, {{"LOG.CBR", "new"}}, rewrite, 2},
     {"RewriteAll",
-     {{"DB1", "old 1"}, {"DB3.txt", "old 3"}, {".hidden", "x"}},
-     {{"DB1", "new 1"}, {"DB2", "new 2"}, {"DB3.txt", "new 3"}, {".hidden", "x"}},
+     {{"DB1", "old 1"}, {"DB3.txt", "3"}, {".hidden", "x"}},
+     {{"DB1", "new 1"}, {"DB2", "3"}, {"DB3.txt", "3"}, {".hidden", "x"}},
      rewriteAll,
      7},
 };

@@ -10,7 +10,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <fcntl.h>
 #include <filesystem>
 #include <future>
 #include <set>
@@ -102,7 +101,11 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
     const DiskFile folder = openFolderOf(m_calls, journal);
     std::vector<DiskFile> written;
     for (std::size_t i = 0; i < contents.size(); ++i) {
-        written.push_back(createNew(files[i].target, contents[i]));
+        if (contents[i].keeps.empty())
+            written.push_back(createBeside(m_calls, files[i].target, contents[i].bytes));
+        else
+            giveSecondName(targetPath(m_programFolder, contents[i].keeps),
+                           newPath(files[i].target));
         if (files[i].existed)
             giveSecondName(files[i].target, oldPath(files[i].target));
         if (between)
@@ -115,14 +118,6 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
         between();
     moveInPlace(m_calls, journal);
     folder.syncFolder();
-}
-
-DiskFile Replacement::createNew(const std::string& target, const FileContent& content) {
-    if (content.keeps.empty())
-        return createBeside(m_calls, target, content.bytes);
-    giveSecondName(targetPath(m_programFolder, content.keeps), newPath(target));
-    // Whoever wrote that file may not have waited for the disk.
-    return {m_calls, newPath(target), O_RDONLY, target};
 }
 
 // On file systems without links the second name is that of a copy.

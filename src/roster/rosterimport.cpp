@@ -8,8 +8,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <deque>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -40,8 +40,8 @@ public:
         : m_name(name),
           m_width(static_cast<std::size_t>(width)),
           m_bytes(std::move(bytes)),
-          m_lines("the table of " + m_name, capacity) {
-        m_places.reserve(2 * static_cast<std::size_t>(capacity)); // a sparse index is a fast one
+          m_lines("the table of " + m_name, capacity),
+          m_places(std::bit_ceil(2 * static_cast<std::size_t>(capacity))) {
         LineReader reader(m_bytes);
         while (!reader.atEnd()) {
             const std::string_view line = reader.next();
@@ -53,14 +53,14 @@ public:
 
     // The place of the first line that begins with this call, padded to its columns; 0 for
     // none.
-    int find(std::string_view call) const {
-        const auto place = m_places.find(call);
-        return place == m_places.end() ? 0 : place->second;
-    }
+    int find(std::string_view call) const { return m_places[slotOf(call)]; }
     std::string_view line(int place) const { return m_lines.at(place); }
 
     void add(std::string_view record) { append(copyOf(record)); }
-    void replace(int place, std::string_view record) { m_lines.at(place) = copyOf(record); }
+    void replace(int place, std::string_view record) {
+        if (!holds(m_lines.at(place), record)) // most members are what they were
+            m_lines.at(place) = copyOf(record);
+    }
 
     FileContent content() const { return {m_name, joinLines(m_lines)}; }
     FileContent contentBefore() const { return {m_name + std::string(backupSuffix), {}, m_name}; }
@@ -68,7 +68,26 @@ public:
 private:
     void append(std::string_view line) {
         m_lines.append(line);
-        m_places.try_emplace(left(line, member::call.width), m_lines.size());
+        int& place = m_places[slotOf(callOf(line))];
+        if (place == 0)
+            place = m_lines.size();
+    }
+
+    static std::string_view callOf(std::string_view line) { return left(line, member::call.width); }
+
+    // Where the index holds the call, or has room for it: half of it stays free. An index of
+    // pieces all over the memory takes twice as long.
+    std::size_t slotOf(std::string_view call) const {
+        const std::size_t last = m_places.size() - 1; // all bits set
+        std::size_t slot = std::hash<std::string_view>()(call) & last;
+        while (m_places[slot] != 0 && callOf(m_lines.at(m_places[slot])) != call)
+            slot = (slot + 1) & last;
+        return slot;
+    }
+
+    bool holds(std::string_view line, std::string_view record) const {
+        return line.size() == std::max(record.size(), m_width) && line.starts_with(record) &&
+               trimLeft(line.substr(record.size())).empty();
     }
 
     // A copy of the line, padded, that lives as long as the table.
@@ -83,7 +102,7 @@ private:
     std::string m_bytes;              // of the file, for the lines that stay what they are
     std::deque<std::string> m_copies; // and of all others
     BoundedTable<std::string_view> m_lines;
-    std::unordered_map<std::string_view, int> m_places;
+    std::vector<int> m_places; // of calls, each where its hash says or behind; 0: none
 };
 
 class RosterTables {

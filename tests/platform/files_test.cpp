@@ -176,7 +176,7 @@ const Operation operations[] = {
      {{"DB1", "old 1"}, {"DB3.txt", "3"}, {".hidden", "x"}},
      {{"DB1", "new 1"}, {"DB2", "3"}, {"DB3.txt", "3"}, {".hidden", "x"}},
      rewriteAll,
-     7},
+     6},
 };
 
 struct FileOperation : FilesTest, ::testing::WithParamInterface<Operation> {

@@ -71,7 +71,8 @@ void RadioSection::rigChosen() {
 
 void RadioSection::lineChosen() {
     showNeeds();
-    showDevice();
+    if (m_page->isVisible()) // while it is being loaded, the device comes later
+        showDevice();
 }
 
 void RadioSection::started() {

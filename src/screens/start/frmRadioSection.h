@@ -30,6 +30,7 @@ public:
     // The boxes hold the saved settings now; from here to its hiding the page follows what is
     // plugged in and out.
     void loaded();
+    void showDevice();
     // An Icom brings its usual address, unless the operator has chosen one himself.
     void rigChosen();
     // Another port, baud rate or address, or what the port stands for.
@@ -52,7 +53,6 @@ private:
         std::string identity;
     };
     Device device() const;
-    void showDevice();
     void showNeeds();
     void tick();
 

@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace vantrel {
 
@@ -181,11 +182,22 @@ std::vector<std::string> frmVantrelStart::loadChosen() {
 // Also when it comes back from behind another page: roster and log may be others now.
 void frmVantrelStart::bringToFront() {
     Form::bringToFront();
-    runHandler([this] { showNotes(); });
+    runHandler([this] {
+        showUtc();
+        if (m_painted)
+            showNotes();
+    });
+}
+
+// To look into log, roster and ports takes as long as to draw the page: it shows without.
+void frmVantrelStart::paintEvent(QPaintEvent* event) {
+    Form::paintEvent(event);
+    if (!std::exchange(m_painted, true))
+        QTimer::singleShot(0, this, [this] { runHandler([this] { showNotes(); }); });
 }
 
 void frmVantrelStart::showNotes() {
-    showUtc();
+    m_radio->showDevice();
     showLogNote();
     tell(m_membersLabel, rosterNote(platform().files));
 }
@@ -281,7 +293,8 @@ void frmVantrelStart::logNameTyped() {
 }
 
 void frmVantrelStart::showLogNote() {
-    tell(m_logLabel, logNote(platform().files, textOf(m_fileBox), textOf(m_contestBox)));
+    if (isVisible()) // while it is being loaded, the notes come later
+        tell(m_logLabel, logNote(platform().files, textOf(m_fileBox), textOf(m_contestBox)));
 }
 
 void frmVantrelStart::clearBonusClicked() {

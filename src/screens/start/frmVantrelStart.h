@@ -39,6 +39,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     using Setting = std::string OperatingSettings::*;
@@ -111,6 +112,7 @@ private:
     QLabel* m_membersLabel;
     QPushButton* m_startButton;
     QPushButton* m_exitButton;
+    bool m_painted = false; // once
 
     InputHold m_hold; // what is typed while the radio is tried
 };

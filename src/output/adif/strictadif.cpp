@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace vantrel {
 
@@ -68,18 +69,20 @@ private:
 };
 
 std::string dateText(const chrono::year_month_day& date) {
-    return zeroPadded(static_cast<int>(date.year()), 4) +
-           zeroPadded(static_cast<int>(static_cast<unsigned>(date.month())), 2) +
-           zeroPadded(static_cast<int>(static_cast<unsigned>(date.day())), 2);
+    const int monthAndDay = static_cast<int>(static_cast<unsigned>(date.month()) * 100 +
+                                             static_cast<unsigned>(date.day()));
+    return zeroPadded(static_cast<int>(date.year()) * 10'000 + monthAndDay, 8);
 }
 
-// "14.050" for a field of kHz, empty when it holds no frequency.
-std::string megahertz(std::string_view field) {
+// 0 for a field that holds no frequency.
+int kilohertz(std::string_view field) {
     const std::string_view khz = trim(field);
-    if (!std::all_of(khz.begin(), khz.end(), isDigit) || numericValue(khz) == 0)
-        return {};
-    const int value = static_cast<int>(numericValue(khz));
-    return std::to_string(value / 1000) + '.' + zeroPadded(value % 1000, 3);
+    return std::all_of(khz.begin(), khz.end(), isDigit) ? static_cast<int>(numericValue(khz)) : 0;
+}
+
+// "14.050"
+std::string megahertz(int khz) {
+    return std::to_string(khz / 1000) + '.' + zeroPadded(khz % 1000, 3);
 }
 
 // ADIF's own list of bands, as far as contests are run on them. A logger refuses a contact
@@ -99,9 +102,8 @@ constexpr std::array<AdifBand, 9> adifBands{{{"160m", 1800, 2000},
                                              {"12m", 24890, 24990},
                                              {"10m", 28000, 29700}}};
 
-// Empty when the field of kHz lies in none.
-std::string_view bandName(std::string_view field) {
-    const long long khz = numericValue(field);
+// Empty when the frequency lies in none.
+std::string_view bandName(int khz) {
     for (const AdifBand& band : adifBands)
         if (khz >= band.first && khz <= band.last)
             return band.name;
@@ -205,16 +207,12 @@ void appendHisSide(std::string& bytes, std::string_view contact, std::string_vie
     appendField(bytes, "<NOTES:", notesOf(country.empty() ? state : std::string_view(), number));
 }
 
-void appendDay(std::string& bytes, std::string_view contact) {
-    if (const auto day = contactDay(contact))
-        appendField(bytes, "<QSO_DATE:", dateText(*day));
-}
-
 void appendFrequency(std::string& bytes, std::string_view contact) {
-    const std::string mhz = megahertz(qso::frequency.of(contact));
-    appendField(bytes,
-                "<BAND:", mhz.empty() ? std::string_view() : bandName(qso::frequency.of(contact)));
-    appendField(bytes, "<FREQ:", mhz);
+    const int khz = kilohertz(qso::frequency.of(contact));
+    if (khz == 0)
+        return;
+    appendField(bytes, "<BAND:", bandName(khz));
+    appendField(bytes, "<FREQ:", megahertz(khz));
 }
 
 void appendMySide(std::string& bytes, std::string_view contact) {
@@ -228,12 +226,12 @@ void appendMySide(std::string& bytes, std::string_view contact) {
     appendField(bytes, "<MY_DXCC:", country);
 }
 
-void appendContact(std::string& bytes, std::string_view contact) {
+void appendContact(std::string& bytes, std::string_view contact,
+                   const chrono::year_month_day& day) {
     const PlainText call(qso::hisCall.of(contact));
     appendField(bytes, "<CALL:", call);
-    appendDay(bytes, contact);
-    if (contactTime(contact))
-        appendField(bytes, "<TIME_ON:", qso::time.of(contact));
+    appendField(bytes, "<QSO_DATE:", dateText(day));
+    appendField(bytes, "<TIME_ON:", qso::time.of(contact));
     appendFrequency(bytes, contact);
     appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
     appendHisSide(bytes, contact, call);
@@ -242,8 +240,11 @@ void appendContact(std::string& bytes, std::string_view contact) {
     bytes += "<EOR>\r\n";
 }
 
-bool canBeWritten(std::string_view contact) {
-    return contactMoment(contact) && !trim(qso::hisCall.of(contact)).empty();
+// Of a contact that can be written; nothing for any other.
+std::optional<chrono::year_month_day> dayToWrite(std::string_view contact) {
+    if (trim(qso::hisCall.of(contact)).empty() || !contactTime(contact))
+        return {};
+    return contactDay(contact);
 }
 
 void appendHeader(std::string& bytes, std::string_view created) {
@@ -263,8 +264,8 @@ std::string strictAdifText(const Contacts& contacts, std::string_view created) {
     bytes.reserve((contacts.size() + 1) * typicalRecord);
     appendHeader(bytes, created);
     for (const std::string_view contact : contacts)
-        if (canBeWritten(contact))
-            appendContact(bytes, contact);
+        if (const auto day = dayToWrite(contact))
+            appendContact(bytes, contact, *day);
     return bytes;
 }
 
@@ -294,7 +295,7 @@ StrictAdifFile exportStrictAdif(Files& files, const Clock& clock, std::string_vi
     const std::string name = strictAdifFileName(log.name());
     files.rewrite(name, strictAdifText(contacts, creationTime(clock.now(), gmtOffset)));
     const auto written =
-        static_cast<std::size_t>(std::count_if(contacts.begin(), contacts.end(), canBeWritten));
+        static_cast<std::size_t>(std::count_if(contacts.begin(), contacts.end(), dayToWrite));
     return {files.path(name), written, contacts.size() - written};
 }
 

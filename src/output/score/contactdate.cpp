@@ -16,7 +16,10 @@ int digitsIn(std::string_view text, Column column) {
     const std::string_view field = column.of(text);
     if (length(field) != column.width || !std::all_of(field.begin(), field.end(), isDigit))
         return -1;
-    return static_cast<int>(numericValue(field));
+    int value = 0;
+    for (const char digit : field)
+        value = value * 10 + (digit - '0');
+    return value;
 }
 
 std::optional<std::chrono::year_month_day> dayOf(int year, int month, int day) {
@@ -24,6 +27,8 @@ std::optional<std::chrono::year_month_day> dayOf(int year, int month, int day) {
         return {};
     const std::chrono::year_month firstMonth(std::chrono::year{year},
                                              std::chrono::month(static_cast<unsigned>(month)));
+    if (const auto written = firstMonth / day; written.ok())
+        return written;
     return std::chrono::sys_days(firstMonth / 1) + std::chrono::days(day - 1);
 }
 

@@ -112,6 +112,7 @@ QGridLayout* frmK3YStandings::createGrid() {
         QLabel* label = build.label(name.c_str(), band.c_str());
         label->setAlignment(Qt::AlignCenter);
         grid->addWidget(label, 0, column);
+        grid->setColumnStretch(column, 1); // else a long call's box would lie over the next one
         m_bandTotals.push_back(makeCount(build, firstBandTotal + column - 1));
         grid->addWidget(m_bandTotals.back(), rowCount + 1, column);
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/emptyframe.h"
 
-#include "forms/formbuilder.h"
+#include "forms/colours.h"
 
 #include <QEvent>
 #include <QLineEdit>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/formbuilder.h"
 
+#include "forms/colours.h"
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
@@ -210,55 +212,6 @@ QFont familyFont(const QWidget* widget, const char* family) {
     font.setFamily(QString::fromLatin1(family));
     font.setStyleHint(QFont::SansSerif);
     return font;
-}
-
-namespace {
-bool isDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() < 128;
-}
-} // namespace
-
-QColor warningColour(const QPalette& palette) {
-    return isDark(palette) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
-}
-
-QColor cautionColour(const QPalette& palette) {
-    return isDark(palette) ? QColor(0xF0, 0xB0, 0x40) : QColor(0x8A, 0x55, 0);
-}
-
-QColor dimmedColour(const QPalette& palette) {
-    const QColor text = palette.color(QPalette::WindowText);
-    const QColor ground = palette.color(QPalette::Window);
-    const auto between = [](int strong, int weak) { return (strong * 7 + weak * 3) / 10; };
-    return QColor(between(text.red(), ground.red()), between(text.green(), ground.green()),
-                  between(text.blue(), ground.blue()));
-}
-
-QColor accentColour(const QPalette& palette) {
-    return isDark(palette) ? QColor(0x5A, 0xB4, 0xF0) : QColor(0x10, 0x60, 0xA0);
-}
-
-QColor goodColour(const QPalette& palette) {
-    return isDark(palette) ? QColor(0x60, 0xD0, 0x60) : QColor(0, 0x70, 0x20);
-}
-
-void setTextColour(QWidget* label, const QColor& colour) {
-    QPalette palette;
-    if (colour.isValid())
-        palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
-}
-
-void setTinted(QWidget* box, bool tinted) {
-    QPalette palette;
-    if (tinted) {
-        const QColor ground = QApplication::palette().color(QPalette::Base);
-        const QColor accent = QApplication::palette().color(QPalette::Highlight);
-        palette.setColor(QPalette::Base, QColor((ground.red() * 5 + accent.red()) / 6,
-                                                (ground.green() * 5 + accent.green()) / 6,
-                                                (ground.blue() * 5 + accent.blue()) / 6));
-    }
-    box->setPalette(palette);
 }
 
 void setColumns(QLineEdit* box, int columns) {

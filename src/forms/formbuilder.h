@@ -58,18 +58,6 @@ QFont fixedWidthFont();
 QFont enlargedFont(const QWidget* widget, double factor, bool bold = true);
 // The form's font in another family; where that is not installed, the system's nearest.
 QFont familyFont(const QWidget* widget, const char* family);
-// A red and an amber that can be read on a light and on a dark window.
-QColor warningColour(const QPalette& palette);
-QColor cautionColour(const QPalette& palette);
-QColor goodColour(const QPalette& palette);
-// What stands out without being wrong: the focus, a K3Y tag.
-QColor accentColour(const QPalette& palette);
-// For captions: weaker than what they name.
-QColor dimmedColour(const QPalette& palette);
-// A text in this colour; an invalid colour is the palette's own.
-void setTextColour(QWidget* label, const QColor& colour);
-// A box whose ground says that its text was looked up, not typed.
-void setTinted(QWidget* box, bool tinted);
 // A box `columns` characters of its font wide (at least).
 void setColumns(QLineEdit* box, int columns);
 

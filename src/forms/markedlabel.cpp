@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/markedlabel.h"
 
-#include "forms/formbuilder.h"
+#include "forms/colours.h"
 
 #include <QPainter>
 

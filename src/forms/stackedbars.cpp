@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/stackedbars.h"
 
+#include "forms/colours.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -11,15 +13,17 @@ namespace vantrel {
 
 namespace {
 
-// Mid tones: they stand out on a light and on a dark ground.
-constexpr std::array<QRgb, 10> seriesColors{0xFF8C564B, 0xFF9467BD, 0xFF3F87C4, 0xFF17BECF,
-                                            0xFF2CA02C, 0xFFBCBD22, 0xFFFF7F0E, 0xFFE377C2,
-                                            0xFFD64545, 0xFF8F8F8F};
+// All as light as each other: they stand out on a light and on a dark ground, and black letters
+// stand out on them.
+constexpr std::array<QRgb, 10> seriesColors{0xFFAA6E61, 0xFF966ABE, 0xFF3A82BE, 0xFF118A96,
+                                            0xFF279027, 0xFF818117, 0xFFC95E00, 0xFFD73CA8,
+                                            0xFFD84D4D, 0xFF7D7D7D};
 constexpr int rowsHigh = 9; // lines of text: title, legend, plot, labels
 constexpr int fewestRowsHigh = 6;
 constexpr int charactersWide = 60;
 constexpr double barShare = 0.8; // of a bar's place; the rest parts it from the next
 constexpr double gapShare = 0.6; // of a bar's place
+constexpr int seam = 1;          // pixels of ground between a bar's parts
 
 int totalOf(const StackedBar& bar) {
     return std::accumulate(bar.parts.begin(), bar.parts.end(), 0);
@@ -92,10 +96,8 @@ void StackedBars::paintLegend(QPainter& painter, int top) const {
 
 // The ground line, and a line at the height of the highest bar with its count.
 void StackedBars::paintScale(QPainter& painter, const QRect& plot) const {
-    QColor faint = palette().color(QPalette::WindowText);
-    faint.setAlphaF(0.3F);
     painter.save();
-    painter.setPen(faint);
+    painter.setPen(frameColour(palette()));
     painter.drawLine(plot.left(), plot.top(), plot.right(), plot.top());
     painter.drawLine(plot.left(), plot.bottom() + 1, plot.right(), plot.bottom() + 1);
     painter.restore();
@@ -133,7 +135,7 @@ void StackedBars::paintBar(QPainter& painter, const QRectF& column, const Stacke
     double bottom = column.bottom();
     for (std::size_t i = 0; i < bar.parts.size(); ++i) {
         const double part = unit * bar.parts[i];
-        painter.fillRect(QRectF(column.left(), bottom - part, column.width(), part), colorOf(i));
+        paintPart(painter, QRectF(column.left(), bottom - part, column.width(), part), i);
         bottom -= part;
     }
     const QString total = QString::number(totalOf(bar));
@@ -142,6 +144,21 @@ void StackedBars::paintBar(QPainter& painter, const QRectF& column, const Stacke
     const QRectF above(column.left(), bottom - fontMetrics().height(), column.width(),
                        fontMetrics().height());
     painter.drawText(above, Qt::AlignHCenter, total);
+}
+
+// Its name stands in it where there is room: not everybody can tell the colours apart.
+void StackedBars::paintPart(QPainter& painter, const QRectF& part, std::size_t series) const {
+    QRect solid = part.toRect(); // whole pixels: half a pixel is but a shade of the colour
+    solid.setTop(solid.top() + (solid.height() > 2 * seam ? seam : 0));
+    painter.fillRect(solid, colorOf(series));
+    const QString& name = m_series[series];
+    if (part.height() < fontMetrics().height() ||
+        part.width() < fontMetrics().horizontalAdvance(name))
+        return;
+    painter.save();
+    painter.setPen(Qt::black);
+    painter.drawText(part, Qt::AlignCenter, name);
+    painter.restore();
 }
 
 } // namespace vantrel

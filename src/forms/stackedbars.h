@@ -40,6 +40,7 @@ private:
     void paintScale(QPainter& painter, const QRect& plot) const;
     void paintBars(QPainter& painter, const QRect& plot) const;
     void paintBar(QPainter& painter, const QRectF& column, const StackedBar& bar) const;
+    void paintPart(QPainter& painter, const QRectF& part, std::size_t series) const;
 
     QString m_title;
     std::vector<QString> m_series;

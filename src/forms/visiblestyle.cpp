@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/visiblestyle.h"
 
-#include "forms/formbuilder.h"
+#include "forms/colours.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -11,15 +11,6 @@ namespace vantrel {
 namespace {
 
 constexpr double corner = 2; // pixels of rounding
-
-// Three times as light or as dark as the window at least.
-QColor frameColour(const QPalette& palette) {
-    const QColor text = palette.color(QPalette::WindowText);
-    const QColor ground = palette.color(QPalette::Window);
-    const auto between = [](int a, int b) { return (a + b) / 2; };
-    return QColor(between(text.red(), ground.red()), between(text.green(), ground.green()),
-                  between(text.blue(), ground.blue()));
-}
 
 void drawFrame(QPainter& painter, const QRect& rect, const QColor& colour, int width) {
     painter.save();
@@ -33,23 +24,40 @@ void drawFrame(QPainter& painter, const QRect& rect, const QColor& colour, int w
 
 } // namespace
 
+void VisibleStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    palette.setColor(QPalette::Highlight,
+                     standingOut(palette.color(QPalette::Highlight),
+                                 palette.color(QPalette::HighlightedText), textContrast));
+}
+
 void VisibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const QColor frame = frameColour(option->palette);
     if (element == PE_IndicatorRadioButton) {
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(frameColour(option->palette), 1));
+        painter->setPen(QPen(frame, 1));
         painter->setBrush(Qt::NoBrush);
-        painter->drawEllipse(QRectF(option->rect).adjusted(1, 1, -1, -1));
+        painter->drawEllipse(QRectF(option->rect).adjusted(1.5, 1.5, -1.5, -1.5));
         painter->restore();
     }
-    if (element == PE_FrameLineEdit) {
+    const bool button = element == PE_PanelButtonCommand && option->state.testFlag(State_Enabled);
+    if (element == PE_FrameLineEdit || button) {
         const bool focus = option->state.testFlag(State_HasFocus);
-        drawFrame(*painter, option->rect,
-                  focus ? accentColour(option->palette) : frameColour(option->palette),
+        drawFrame(*painter, option->rect, focus ? accentColour(option->palette) : frame,
                   focus ? 2 : 1);
     }
+}
+
+void VisibleStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && bar != nullptr && bar->maximum > bar->minimum)
+        drawFrame(*painter, subControlRect(control, option, SC_ScrollBarSlider, widget),
+                  frameColour(option->palette), 1);
 }
 
 void VisibleStyle::drawControl(ControlElement element, const QStyleOption* option,

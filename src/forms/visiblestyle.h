@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The desktop's own style with frames that can be seen: rings of options, frames of boxes and
-// sections, and the box that has the focus, in light and in dark palettes.
+// The desktop's own style with frames that can be seen: rings of options, frames of boxes, buttons
+// and sections, handles of scroll bars, and what has the focus, in light and in dark palettes.
 #pragma once
 
 #include <QProxyStyle>
@@ -9,8 +9,13 @@ namespace vantrel {
 
 class VisibleStyle : public QProxyStyle {
 public:
+    // Desktops there are whose selected text can hardly be read.
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
 };

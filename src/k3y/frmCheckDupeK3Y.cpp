@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmCheckDupeK3Y.h"
 
+#include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "platform/sound.h"
 
@@ -29,10 +30,7 @@ void frmCheckDupeK3Y::createControls() {
     QLabel* verdict = build.label("Label1", "DUPE");
     verdict->setFont(enlargedFont(this, dupeEnlargement));
     verdict->setAlignment(Qt::AlignCenter);
-    QPalette red(verdict->palette());
-    red.setColor(QPalette::Window, QColor(0xC0, 0, 0));
-    red.setColor(QPalette::WindowText, Qt::white);
-    verdict->setPalette(red);
+    verdict->setPalette(alarmPalette(palette()));
     verdict->setAutoFillBackground(true);
     QLabel* reason =
         build.label("Label2", "THIS SAME CALL AND SKCC# IS ALREADY IN THE LOG ON THIS BAND");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmLogPage.h"
 
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"

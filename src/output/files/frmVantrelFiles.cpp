@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelFiles.h"
 
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "log/outputfiles.h"

@@ -2,6 +2,7 @@
 #include "output/score/frmVantrelScore.h"
 
 #include "base/fixedtext.h"
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/stackedbars.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmContestPanel.h"
 
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "k3y/standings.h"

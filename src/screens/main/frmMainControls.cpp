@@ -75,7 +75,7 @@ MainControls::MainControls(QWidget* form, const std::function<QHBoxLayout*()>& m
     whoIsIt = new WhoIsIt(form);
     autoReadButton =
         build.command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON");
-    readDot = build.caption("");
+    readSign = build.caption("");
     panel = new ContestPanel(form);
     layOut(form, pageCommands);
 }
@@ -106,7 +106,7 @@ QHBoxLayout* MainControls::statusRow(QWidget* form) {
     FormBuilder build(form);
     whoLabel->setFont(enlargedFont(form, statusEnlargement));
     clockLabel->setFont(enlargedFont(form, statusEnlargement));
-    QHBoxLayout* row = rowOf({whoLabel, fileLabel, dupeModeLabel, readDot, autoReadLabel,
+    QHBoxLayout* row = rowOf({whoLabel, fileLabel, dupeModeLabel, readSign, autoReadLabel,
                               autoReadButton, clockLabel, build.caption("UTC", clockLabel)});
     row->setStretch(1, 1);
     return row;

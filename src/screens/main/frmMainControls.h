@@ -53,7 +53,7 @@ struct MainControls {
     WorkedList* workedList;
     QLabel* bandLabel;
     QLabel* autoReadLabel;
-    QLabel* readDot; // before the label: how the last read went
+    QLabel* readSign; // before the label: how the last read went
     QLabel* fileLabel;
     QLabel* dupeModeLabel;
     QLabel* stationLabel;

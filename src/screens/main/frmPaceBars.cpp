@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmPaceBars.h"
 
+#include "forms/colours.h"
 #include "platform/qt/latin1.h"
 
 #include <QPainter>
@@ -37,16 +38,15 @@ void PaceBars::paintEvent(QPaintEvent*) {
     const auto& bars = m_pace.perFiveMinutes;
     const int highest = std::max(1, *std::max_element(bars.begin(), bars.end()));
     const int ground = height() - 1;
-    painter.setPen(palette().color(QPalette::Mid));
+    const QColor past = frameColour(palette());
+    painter.setPen(past);
     painter.drawLine(0, ground, width(), ground);
-    QColor past = palette().color(QPalette::Highlight);
-    past.setAlpha(0x80);
     const int count = static_cast<int>(bars.size());
     for (int i = 0; i < count; ++i) {
         const int left = width() * i / count;
         const int right = width() * (i + 1) / count - gap;
         const int high = bars[static_cast<std::size_t>(i)] * ground / highest;
-        const QColor colour = i + 1 == count ? palette().color(QPalette::Highlight) : past;
+        const QColor colour = i + 1 == count ? accentColour(palette()) : past;
         painter.fillRect(QRect(left, ground - high, right - left, high), colour);
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmSuggestionList.h"
 
+#include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "platform/qt/latin1.h"
 

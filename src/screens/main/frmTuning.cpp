@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmTuning.h"
 
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "log/bands.h"
@@ -37,11 +38,14 @@ bool Tuning::show(const std::string& mhz) {
     QLineEdit* box = m_controls.boxes.frequency;
     if (textOf(box) != mhz)
         put(box, mhz);
-    // Outside the six bands the label stays as it was, and says so by its colour.
+    // Outside the six bands the label stays as it was, struck out.
     QLabel* band = m_controls.bandLabel;
     const bool named = !bandTextOf(mhz, "").empty();
     put(band, bandTextOf(mhz, textOf(band)));
     setTextColour(band, named ? QColor() : cautionColour(band->window()->palette()));
+    QFont font = band->font();
+    font.setStrikeOut(!named);
+    band->setFont(font);
     return m_follow(bandTagOf(completedFrequency(mhz)));
 }
 
@@ -74,15 +78,17 @@ void Tuning::toggleAutoRead() {
     showOutcome(ReadOutcome::noRadio);
 }
 
-// A dot before the label: green after a good read, red after a failed one, none when off.
+// Before the label: a green dot after a good read, a red cross after a failed one, none when off.
 void Tuning::showOutcome(ReadOutcome outcome) {
     const bool on = m_autoReads && m_context.shared.settings.hasRadio();
     put(m_controls.autoReadLabel, autoReadText(on ? ReadOutcome::read : ReadOutcome::noRadio));
     const bool read = outcome == ReadOutcome::read;
-    QLabel* dot = m_controls.readDot;
-    dot->setText(read || outcome == ReadOutcome::failed ? QString(QChar(0x25CF)) : QString());
-    const QPalette palette = dot->window()->palette();
-    setTextColour(dot, read ? goodColour(palette) : warningColour(palette));
+    QLabel* sign = m_controls.readSign;
+    sign->setText(read                             ? QString(QChar(0x25CF))
+                  : outcome == ReadOutcome::failed ? QString(QChar(0xD7))
+                                                   : QString());
+    const QPalette palette = sign->window()->palette();
+    setTextColour(sign, read ? goodColour(palette) : warningColour(palette));
 }
 
 } // namespace vantrel

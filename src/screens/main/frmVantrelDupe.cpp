@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmVantrelDupe.h"
 
+#include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "platform/sound.h"
 
@@ -19,10 +20,7 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     // A tool tip is the one kind of window that takes no keyboard on every platform.
     setWindowFlags(Qt::ToolTip);
     setAttribute(Qt::WA_ShowWithoutActivating);
-    QPalette red(palette());
-    red.setColor(QPalette::Window, QColor(0xC0, 0, 0));
-    red.setColor(QPalette::WindowText, Qt::white);
-    setPalette(red);
+    setPalette(alarmPalette(palette()));
 
     FormBuilder build(this);
     QLabel* label = build.label("Label1", "DUPE");

@@ -2,6 +2,7 @@
 #include "screens/main/frmVantrelMain.h"
 
 #include "base/fixedtext.h"
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/markedlabel.h"
@@ -109,7 +110,7 @@ void frmVantrelMain::connectEntryBoxes() {
     connectHandler(new QShortcut(QKeySequence(QStringLiteral("Alt+K")), this),
                    &QShortcut::activated, this, &Main::stationClicked);
     for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
-        connect(box, &QLineEdit::textEdited, box, [box] { setTinted(box, false); });
+        connect(box, &QLineEdit::textEdited, box, [box] { setLookedUp(box, false); });
     m_second = new QTimer(this);
     m_second->setInterval(1000);
     connectHandler(m_second, &QTimer::timeout, this, &Main::secondPassed);
@@ -273,7 +274,7 @@ bool frmVantrelMain::lookUpAndShow(Entry& typed) {
     if (outcome == LookupOutcome::found) {
         m_lookedUp = typed;
         for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
-            setTinted(box, true);
+            setLookedUp(box, true);
     }
     return outcome != LookupOutcome::nobody;
 }
@@ -473,7 +474,7 @@ void frmVantrelMain::clearEntry(Left left) {
         m_cleared = Cleared{typed, m_lookedUp};
     m_boxes.clear(left == Left::oneBlank ? " " : "");
     for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
-        setTinted(box, false);
+        setLookedUp(box, false);
     showWhoIsIt();
     showMembers();
     m_lookedUp.reset();

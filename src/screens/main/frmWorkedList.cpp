@@ -2,6 +2,7 @@
 #include "screens/main/frmWorkedList.h"
 
 #include "base/fixedtext.h"
+#include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 #include "log/log.h"

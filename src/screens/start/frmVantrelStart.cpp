@@ -2,6 +2,7 @@
 #include "screens/start/frmVantrelStart.h"
 
 #include "base/fixedtext.h"
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/emptyframe.h"
 #include "forms/formbuilder.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/colours.h"
 #include "forms/emptyframe.h"
 #include "forms/formbuilder.h"
 #include "screens/start/startlog.h"

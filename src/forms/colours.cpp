@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "forms/colours.h"
+
+#include <QApplication>
+#include <QFont>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantrel {
+
+namespace {
+
+// Light as screens give it off, for each of the three colours.
+double linear(double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double lightOf(const QColor& colour) {
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF()) + 0.05; // a room is never quite dark
+}
+
+QColor mixed(const QColor& one, const QColor& other, int percentOfOther) {
+    const auto between = [percentOfOther](int a, int b) {
+        return (a * (100 - percentOfOther) + b * percentOfOther) / 100;
+    };
+    return QColor(between(one.red(), other.red()), between(one.green(), other.green()),
+                  between(one.blue(), other.blue()));
+}
+
+// All grounds are one there, and nothing but text and frames parts what lies on them.
+bool isHighContrast(const QPalette& palette) {
+    const QColor window = palette.color(QPalette::Window);
+    return window == palette.color(QPalette::Base) && window == palette.color(QPalette::Button);
+}
+
+// A text on the window; of the two colours that for a light or for a dark one.
+QColor textColour(const QPalette& palette, const QColor& onLight, const QColor& onDark) {
+    if (isHighContrast(palette))
+        return palette.color(QPalette::WindowText);
+    const QColor ground = palette.color(QPalette::Window);
+    return standingOut(ground.lightness() < 128 ? onDark : onLight, ground, textContrast);
+}
+
+QColor weaker(const QPalette& palette, int percentOfGround) {
+    const QColor text = palette.color(QPalette::WindowText);
+    return isHighContrast(palette) ? text
+                                   : mixed(text, palette.color(QPalette::Window), percentOfGround);
+}
+
+} // namespace
+
+double contrastOf(const QColor& one, const QColor& other) {
+    const auto [dark, light] = std::minmax({lightOf(one), lightOf(other)});
+    return light / dark;
+}
+
+QColor standingOut(QColor colour, const QColor& ground, double contrast) {
+    constexpr int step = 10; // per cent
+    const QColor end =
+        contrastOf(Qt::white, ground) > contrastOf(Qt::black, ground) ? Qt::white : Qt::black;
+    for (int i = 0; i < 100 / step && contrastOf(colour, ground) < contrast; ++i)
+        colour = mixed(colour, end, step);
+    return colour;
+}
+
+QColor warningColour(const QPalette& palette) {
+    return textColour(palette, QColor(0xC0, 0, 0), QColor(0xFF, 0x80, 0x80));
+}
+
+QColor cautionColour(const QPalette& palette) {
+    return textColour(palette, QColor(0x8A, 0x55, 0), QColor(0xF0, 0xB0, 0x40));
+}
+
+QColor goodColour(const QPalette& palette) {
+    return textColour(palette, QColor(0, 0x70, 0x20), QColor(0x60, 0xD0, 0x60));
+}
+
+QColor accentColour(const QPalette& palette) {
+    return isHighContrast(palette)
+               ? palette.color(QPalette::Highlight)
+               : textColour(palette, QColor(0x10, 0x60, 0xA0), QColor(0x5A, 0xB4, 0xF0));
+}
+
+QColor dimmedColour(const QPalette& palette) {
+    return weaker(palette, 30);
+}
+
+QColor frameColour(const QPalette& palette) {
+    return weaker(palette, 45);
+}
+
+QPalette alarmPalette(QPalette palette) {
+    const bool own = isHighContrast(palette);
+    palette.setColor(QPalette::WindowText,
+                     own ? palette.color(QPalette::HighlightedText) : QColor(Qt::white));
+    palette.setColor(QPalette::Window,
+                     own ? palette.color(QPalette::Highlight) : QColor(0xC0, 0, 0));
+    return palette;
+}
+
+void setTextColour(QWidget* label, const QColor& colour) {
+    QPalette palette;
+    if (colour.isValid())
+        palette.setColor(QPalette::WindowText, colour);
+    label->setPalette(palette);
+}
+
+void setLookedUp(QWidget* box, bool lookedUp) {
+    constexpr int tint = 17; // per cent
+    QPalette palette;
+    if (lookedUp)
+        palette.setColor(QPalette::Base,
+                         mixed(QApplication::palette().color(QPalette::Base),
+                               QApplication::palette().color(QPalette::Highlight), tint));
+    box->setPalette(palette);
+    QFont font = box->font();
+    font.setItalic(lookedUp);
+    box->setFont(font);
+}
+
+} // namespace vantrel

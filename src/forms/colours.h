@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// What colours mean, in whatever palette the desktop has: texts stand out from their ground 4.5
+// times, frames and bars 3 times. No colour is the only sign of anything.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <QWidget>
+
+namespace vantrel {
+
+// More than the 4.5 that make a text readable: thin letters are a shade weaker than their colour.
+constexpr double textContrast = 5.5;
+
+// How many times as light one is as the other, as an eye sees it: 1 to 21.
+double contrastOf(const QColor& one, const QColor& other);
+// The colour, made so much darker or lighter that it stands out from the ground.
+QColor standingOut(QColor colour, const QColor& ground, double contrast);
+
+// In a high-contrast palette all of these are the palette's own.
+// Red, amber and green, for texts on the window.
+QColor warningColour(const QPalette& palette);
+QColor cautionColour(const QPalette& palette);
+QColor goodColour(const QPalette& palette);
+// What stands out without being wrong: the focus, a K3Y tag.
+QColor accentColour(const QPalette& palette);
+// For captions: weaker than what they name.
+QColor dimmedColour(const QPalette& palette);
+// Rings of options, frames of boxes, buttons and sections.
+QColor frameColour(const QPalette& palette);
+// For a panel across which one word of alarm is written: ground and text.
+QPalette alarmPalette(QPalette palette);
+
+// A text in this colour; an invalid colour is the palette's own.
+void setTextColour(QWidget* label, const QColor& colour);
+// A box that says by its ground and by slanted letters that its text was looked up, not typed.
+void setLookedUp(QWidget* box, bool lookedUp);
+
+} // namespace vantrel

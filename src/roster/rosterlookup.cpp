@@ -6,6 +6,7 @@
 #include "roster/rosterrecord.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace vantrel {
@@ -23,6 +24,11 @@ std::string_view callOf(std::string_view record) {
     return trim(member::call.of(record));
 }
 
+bool holds(const std::vector<Member>& members, std::string_view call) {
+    return std::any_of(members.begin(), members.end(),
+                       [&](const Member& member) { return trim(member.call) == call; });
+}
+
 // Whether one letter put in, left out or exchanged makes one of the other.
 bool isOneLetterAway(std::string_view a, std::string_view b) {
     if (a.size() > b.size())
@@ -38,32 +44,27 @@ bool isOneLetterAway(std::string_view a, std::string_view b) {
 
 } // namespace
 
-// The first record of each call, among those that are looked through.
-void Roster::indexRecords(IndexedFile& file) {
-    file.recordOfCall.reserve(file.bytes.size() / member::width);
-    file.records.reserve(file.bytes.size() / member::width);
-    ItemReader reader(file.bytes);
-    for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k) {
-        const std::string_view record = reader.next();
-        if (file.recordOfCall.emplace(callOf(record), record).second)
-            file.records.push_back(record);
-    }
-}
-
-const Roster::IndexedFile& Roster::current(std::size_t file) {
-    IndexedFile& indexed = m_indexed[file];
+Roster::ReadFile& Roster::current(std::size_t file) {
+    ReadFile& read = m_read[file];
     const std::string stamp = m_files.stamp(rosterFiles[file]);
-    if (stamp.empty() || stamp != indexed.stamp) {
-        indexed = {};
-        indexed.bytes = m_files.readOrEmpty(rosterFiles[file]);
-        indexRecords(indexed);
-        indexed.stamp = stamp;
+    if (stamp.empty() || stamp != read.stamp) {
+        read = {};
+        read.bytes = m_files.readOrEmpty(rosterFiles[file]);
+        read.records.reserve(read.bytes.size() / member::width);
+        ItemReader reader(read.bytes);
+        for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k)
+            read.records.push_back(reader.next());
+        read.stamp = stamp;
     }
-    return indexed;
+    return read;
 }
 
 std::optional<Member> Roster::findByCall(std::string_view callBoxText) {
-    const IndexedFile& file = current(rosterFileOf(callBoxText));
+    ReadFile& file = current(rosterFileOf(callBoxText));
+    // Not while the first key of a call is being answered, which reads all five files.
+    if (file.recordOfCall.empty())
+        for (const std::string_view record : file.records)
+            file.recordOfCall.emplace(callOf(record), record);
     const auto found = file.recordOfCall.find(callBoxText);
     if (found == file.recordOfCall.end())
         return std::nullopt;
@@ -90,7 +91,7 @@ NumberMatch Roster::findByNumber(std::string_view callBoxText) {
 
 bool Roster::hasMembers() {
     for (std::size_t file = 0; file < rosterFiles.size(); ++file)
-        if (!current(file).recordOfCall.empty())
+        if (!current(file).records.empty())
             return true;
     return false;
 }
@@ -98,29 +99,31 @@ bool Roster::hasMembers() {
 std::vector<Member> Roster::membersLike(std::string_view text, std::size_t most) {
     for (std::size_t file = 0; file < rosterFiles.size(); ++file)
         current(file); // none of them is read again while its records are looked at
-    std::vector<std::string_view> records;
-    const auto collect = [&](const auto& test) {
-        for (const IndexedFile& file : m_indexed)
-            for (const std::string_view record : file.records)
-                if (test(callOf(record)))
-                    records.push_back(record);
+    const auto recordsWith = [this](const auto& test) {
+        std::vector<std::string_view> records;
+        for (const ReadFile& file : m_read)
+            std::copy_if(file.records.begin(), file.records.end(), std::back_inserter(records),
+                         [&](std::string_view record) { return test(callOf(record)); });
+        return records;
     };
-    collect([&](std::string_view call) { return call.starts_with(text); });
+    std::vector<Member> members;
+    const auto take = [&](const std::vector<std::string_view>& records) {
+        for (const std::string_view record : records)
+            if (members.size() < most && !holds(members, callOf(record)))
+                members.push_back(memberOf(record));
+    };
+    auto records = recordsWith([&](std::string_view call) { return call.starts_with(text); });
     std::stable_sort(records.begin(), records.end(), [](std::string_view a, std::string_view b) {
         return callOf(a).size() < callOf(b).size();
     });
-    if (records.size() < most)
-        collect([&](std::string_view call) {
+    take(records);
+    if (members.size() < most)
+        take(recordsWith([&](std::string_view call) {
             const std::size_t place = call.find(text);
             return place != 0 && place != std::string_view::npos;
-        });
-    if (records.empty())
-        collect([&](std::string_view call) { return isOneLetterAway(text, call); });
-    records.resize(std::min(records.size(), most));
-    std::vector<Member> members;
-    members.reserve(records.size());
-    for (const std::string_view record : records)
-        members.push_back(memberOf(record));
+        }));
+    if (members.empty())
+        take(recordsWith([&](std::string_view call) { return isOneLetterAway(text, call); }));
     return members;
 }
 

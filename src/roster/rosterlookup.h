@@ -60,18 +60,17 @@ public:
     std::vector<Member> membersLike(std::string_view text, std::size_t most);
 
 private:
-    struct IndexedFile {
+    struct ReadFile {
         std::string stamp; // of the file that was read; empty: read it again
         std::string bytes;
-        std::vector<std::string_view> records; // one a call
-        std::unordered_map<std::string_view, std::string_view> recordOfCall;
+        std::vector<std::string_view> records; // those that are looked through
+        std::unordered_map<std::string_view, std::string_view> recordOfCall; // the first one
     };
 
-    static void indexRecords(IndexedFile& file);
-    const IndexedFile& current(std::size_t file);
+    ReadFile& current(std::size_t file);
 
     const Files& m_files;
-    std::array<IndexedFile, rosterFiles.size()> m_indexed;
+    std::array<ReadFile, rosterFiles.size()> m_read;
 };
 
 } // namespace vantrel

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QFontDatabase>
-#include <QFontMetrics>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QShortcutEvent>
@@ -214,10 +213,13 @@ QFont familyFont(const QWidget* widget, const char* family) {
     return font;
 }
 
+int widthOfColumns(const QFontMetrics& metrics, int columns) {
+    return metrics.horizontalAdvance(QString(columns, QLatin1Char('0')));
+}
+
 void setColumns(QLineEdit* box, int columns) {
-    const QFontMetrics metrics(box->font());
     // A digit is as wide as most capitals; a frame and the cursor need two more.
-    box->setMinimumWidth(metrics.horizontalAdvance(QLatin1Char('0')) * (columns + 2));
+    box->setMinimumWidth(widthOfColumns(QFontMetrics(box->font()), columns + 2));
 }
 
 } // namespace vantrel

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,6 +59,8 @@ QFont fixedWidthFont();
 QFont enlargedFont(const QWidget* widget, double factor, bool bold = true);
 // The form's font in another family; where that is not installed, the system's nearest.
 QFont familyFont(const QWidget* widget, const char* family);
+// As wide as so many characters of a fixed-width font: one is no whole number of pixels wide.
+int widthOfColumns(const QFontMetrics& metrics, int columns);
 // A box `columns` characters of its font wide (at least).
 void setColumns(QLineEdit* box, int columns);
 

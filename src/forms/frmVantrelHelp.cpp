@@ -6,12 +6,13 @@
 #include "platform/qt/latin1.h"
 
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace vantrel {
 
 namespace {
-constexpr int sheetColumns = 78;
+constexpr int sheetColumns = 80;
 constexpr int sheetLines = 26;
 } // namespace
 
@@ -24,7 +25,8 @@ frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     m_sheet->setTabChangesFocus(true);
     m_sheet->setFont(fixedWidthFont());
     const QFontMetrics metrics(m_sheet->font());
-    m_sheet->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('0')) * sheetColumns,
+    m_sheet->setMinimumSize(widthOfColumns(metrics, sheetColumns) +
+                                m_sheet->verticalScrollBar()->sizeHint().width(),
                             metrics.lineSpacing() * sheetLines);
     m_exitButton = FormBuilder(this).command("Command1", "E&XIT", "CLOSES THE KEY SHEET");
     connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);

@@ -30,7 +30,7 @@ public:
     LineDelegate(QObject* parent, int columns) : QStyledItemDelegate(parent), m_columns(columns) {}
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const int text = option.fontMetrics.horizontalAdvance(QLatin1Char('0')) * m_columns;
+        const int text = widthOfColumns(option.fontMetrics, m_columns);
         const int margins = option.fontMetrics.averageCharWidth() * 2;
         return {text + margins, QStyledItemDelegate::sizeHint(option, index).height()};
     }

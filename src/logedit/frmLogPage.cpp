@@ -147,7 +147,7 @@ QHBoxLayout* frmLogPage::searchRow(const char* caption) {
 
 QLayout* frmLogPage::matchesCard() {
     const QFontMetrics metrics(m_matchList->font());
-    m_matchList->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('0')) * (matchColumns + 1) +
+    m_matchList->setMinimumSize(widthOfColumns(metrics, matchColumns + 1) +
                                     m_matchList->verticalScrollBar()->sizeHint().width(),
                                 metrics.height() * matchRows);
     auto* rows = new QVBoxLayout;

@@ -62,8 +62,7 @@ void frmVantrelDelete::layOut() {
     auto* entry = new QVBoxLayout;
     for (QLabel* label : {m_callLabel, m_detailLabel}) {
         label->setFont(fixedWidthFont());
-        label->setMinimumWidth(QFontMetrics(label->font()).horizontalAdvance(QLatin1Char('0')) *
-                               entryColumns);
+        label->setMinimumWidth(widthOfColumns(QFontMetrics(label->font()), entryColumns));
         entry->addWidget(label);
     }
     entry->addStretch();

@@ -79,7 +79,7 @@ WorkedList::WorkedList(QWidget* page) : QListView(page), m_lines(new LineListMod
     // Bold, in which the last line stands, is as wide in a fixed-width font.
     const int margins = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() +
                         4 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-    setFixedWidth(QFontMetrics(font()).horizontalAdvance(QLatin1Char('0')) * lineColumns + margins);
+    setFixedWidth(widthOfColumns(QFontMetrics(font()), lineColumns) + margins);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 

@@ -13,7 +13,7 @@ namespace vantrel {
 
 namespace {
 constexpr int sheetColumns = 80;
-constexpr int sheetLines = 26;
+constexpr int sheetLines = 28;
 } // namespace
 
 frmVantrelHelp::frmVantrelHelp(const FormContext& context)

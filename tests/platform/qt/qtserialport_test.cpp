@@ -245,32 +245,5 @@ TEST_F(RealPort, WitnessReadsEachFamilyAsTheProgramDoes) {
     }
 }
 
-// The library's dummy radio speaks as a TS-2000 through a terminal of its own.
-TEST_F(RealPort, WitnessIsReadAsARadio) {
-    const QString rigctlcom = QStandardPaths::findExecutable(QStringLiteral("rigctlcom"));
-    if (rigctlcom.isEmpty())
-        GTEST_SKIP() << "rigctlcom (Debian package libhamlib-utils) is not installed";
-    settings = settingsFor(radioNamed("Kenwood"));
-    PtyRadio theirs(radioNamed("Kenwood"));
-    const auto join = [](PtyRadio& from, const PtyRadio& to) {
-        from.answer = [&](std::string_view) {
-            to.send(from.received());
-            from.forget();
-            return "";
-        };
-    };
-    join(radio, theirs);
-    join(theirs, radio);
-    QProcess process;
-    process.start(rigctlcom, {QStringLiteral("-m1"), QStringLiteral("-S57600"),
-                              QStringLiteral("-R"), QString::fromStdString(theirs.device())});
-    QTest::qWait(1000);
-    theirs.send("FA00014025000;"); // its dial
-    EXPECT_TRUE(QTest::qWaitFor([&] { return readFrequency(settings, port).frequency == "14.025"; },
-                                10'000));
-    process.kill();
-    process.waitForFinished();
-}
-
 } // namespace
 } // namespace vantrel::test

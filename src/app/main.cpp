@@ -2,6 +2,7 @@
 // Makes the machine's doors, the shared state and the screens, and shows the start page.
 #include "app/appscreens.h"
 #include "base/version.h"
+#include "forms/accessible.h"
 #include "forms/visiblestyle.h"
 #include "platform/clock.h"
 #include "platform/filenames.h"
@@ -63,6 +64,7 @@ int runProgram(QApplication& application, QtMessages& messages) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle(new VisibleStyle);
+    describeControls();
     QApplication::setApplicationName(QStringLiteral("Vantrel"));
     QApplication::setApplicationVersion(QString::fromLatin1(version));
     QApplication::setDesktopFileName(QString::fromLatin1(desktopEntry));

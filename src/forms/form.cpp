@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/form.h"
 
+#include "forms/readingorder.h"
+
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
@@ -23,8 +25,10 @@ void Form::open(QWidget* opener) {
     runHandler([this] { load(); });
     if (!self)
         return;
-    if (!isVisible())
+    if (!isVisible()) {
+        tabInReadingOrder(this);
         placeOver(opener);
+    }
     show();
     bringToFront();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/formbuilder.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 
 #include <QApplication>
@@ -130,16 +131,27 @@ QLabel* FormBuilder::label(const char* name, const char* caption) {
     return label;
 }
 
+QLabel* FormBuilder::alert(const char* name) {
+    QLabel* label = this->label(name);
+    makeAlert(label);
+    return label;
+}
+
 QLabel* FormBuilder::caption(const char* text, QWidget* buddy) {
     auto* label = new QLabel(m_form);
     label->setTextFormat(Qt::PlainText);
     label->setText(vantrel::text(text));
-    label->setBuddy(buddy);
     if (buddy == nullptr)
         return label;
-    buddy->setAccessibleName(vantrel::text(text).remove(u'&'));
+    tie(label, buddy);
     setTextColour(label, dimmedColour(label->palette()));
     return label;
+}
+
+void FormBuilder::tie(QLabel* caption, QWidget* box) {
+    caption->setBuddy(box);
+    if (box->accessibleName().isEmpty())
+        box->setAccessibleName(caption->text().remove(u'&'));
 }
 
 void FormBuilder::row(QFormLayout* form, const char* text, QWidget* box) {
@@ -181,8 +193,8 @@ QListView* FormBuilder::list(const char* name, const char* toolTip) {
 QLayout* FormBuilder::section(const char* title, QLayout* content) {
     auto* frame = new QFrame(m_form);
     frame->setFrameShape(QFrame::StyledPanel);
-    frame->setAccessibleName(vantrel::text(title));
     frame->setLayout(content);
+    frame->setAccessibleName(vantrel::text(title));
     auto* part = new QVBoxLayout;
     QLabel* heading = caption(title);
     heading->setFont(enlargedFont(m_form, 1));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Typed makers of controls: each sets parent, objectName, caption and tool tip and returns
-// the control. Creation order is tab order.
+// the control. Tab order is reading order: see readingorder.h.
 #pragma once
 
 #include <QComboBox>
@@ -29,9 +29,13 @@ public:
     QPushButton* command(const char* name, const char* caption, const char* toolTip = "");
     // Plain text, never markup.
     QLabel* label(const char* name, const char* caption = "");
+    // A text that a screen reader tells at once: see announce().
+    QLabel* alert(const char* name);
     // A caption without a name of its own; `buddy` is the box it names, to screen readers too,
     // and gets the focus on its Alt key.
     QLabel* caption(const char* text, QWidget* buddy = nullptr);
+    // The label's text is the name of the box, unless that has one.
+    static void tie(QLabel* caption, QWidget* box);
     // A row of a form: a box behind its caption, tied as above.
     void row(QFormLayout* form, const char* caption, QWidget* box);
     QComboBox* combo(const char* name, const char* toolTip = "");

@@ -18,9 +18,15 @@ int LineListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant LineListModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid())
         return {};
-    return toQt(m_lines.at(static_cast<std::size_t>(index.row())));
+    const std::string& line = m_lines.at(static_cast<std::size_t>(index.row()));
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
+        return toQt(line);
+    if (role != Qt::AccessibleTextRole)
+        return {};
+    const std::string words = m_words == nullptr ? line : m_words(line);
+    return toQt(words).replace(QLatin1Char('|'), QLatin1Char(' ')).simplified();
 }
 
 } // namespace vantrel

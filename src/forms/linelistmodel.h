@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vantrel {
@@ -13,7 +14,12 @@ class LineListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    using QAbstractListModel::QAbstractListModel;
+    using Words = std::string (*)(std::string_view line);
+
+    // words: how a screen reader reads a line; nullptr: as it stands. Bars and doubled blanks
+    // are left out of either.
+    explicit LineListModel(QObject* parent, Words words = nullptr)
+        : QAbstractListModel(parent), m_words(words) {}
 
     // Lines in ISO 8859-1, shown in this order.
     void setLines(std::vector<std::string> lines);
@@ -23,6 +29,7 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
+    Words m_words;
     std::vector<std::string> m_lines;
 };
 

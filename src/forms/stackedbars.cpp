@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/stackedbars.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 
 #include <QPainter>
@@ -31,12 +32,25 @@ int totalOf(const StackedBar& bar) {
 
 } // namespace
 
+StackedBars::StackedBars(QWidget* parent) : QWidget(parent) {
+    setRole(this, QAccessible::Graphic);
+}
+
 void StackedBars::setBars(const QString& title, const std::vector<QString>& series,
                           const std::vector<StackedBar>& bars) {
     m_title = title;
     m_series = series;
     m_bars = bars;
+    setAccessibleName(words());
     update();
+}
+
+// "CONTACTS PER HOUR (UTC): 00Z 12, 01Z 9".
+QString StackedBars::words() const {
+    QStringList bars;
+    for (const StackedBar& bar : m_bars)
+        bars += bar.label + QLatin1Char(' ') + QString::number(totalOf(bar));
+    return m_title + QStringLiteral(": ") + bars.join(QStringLiteral(", "));
 }
 
 QSize StackedBars::sizeHint() const {

@@ -19,7 +19,7 @@ class StackedBars : public QWidget {
     Q_OBJECT
 
 public:
-    explicit StackedBars(QWidget* parent) : QWidget(parent) {}
+    explicit StackedBars(QWidget* parent);
 
     // series: the parts' names, in the order of the bars' parts. Series without any count are
     // not in the legend.
@@ -33,6 +33,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QString words() const;
     int highest() const;
     int countOf(std::size_t series) const;
     static QColor colorOf(std::size_t series);

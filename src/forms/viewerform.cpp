@@ -76,6 +76,7 @@ void ViewerForm::createControls() {
     m_headingLabel = build.label("Label3");
     m_headingLabel->setFont(fixedWidthFont());
     m_headingLabel->hide();
+    m_list->setAccessibleName(QStringLiteral("LINES"));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTextElideMode(Qt::ElideNone);
     m_lines = new LineListModel(this);

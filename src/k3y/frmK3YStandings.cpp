@@ -35,8 +35,9 @@ QLineEdit* makeCell(FormBuilder& build, const std::string& name) {
     return box;
 }
 
-// Worked is blue: the text is white in light and dark palettes alike.
-void showCell(QLineEdit* box, const StandingsCell& cell) {
+// Worked is blue: the text is white in light and dark palettes alike. place: its row and column,
+// which a screen reader says with what stands there.
+void showCell(QLineEdit* box, const StandingsCell& cell, const std::string& place) {
     QPalette colours;
     if (cell.filled()) {
         colours.setColor(QPalette::Base, Qt::blue);
@@ -44,6 +45,8 @@ void showCell(QLineEdit* box, const StandingsCell& cell) {
     }
     box->setPalette(colours);
     put(box, cell.text);
+    const std::string who = cell.filled() ? std::string(trim(cell.text)) : "not worked";
+    box->setAccessibleName(toQt(place + ' ' + who));
     box->setCursorPosition(0);
     setColumns(box, std::max(cellColumns, length(trimRight(cell.text))));
 }
@@ -52,8 +55,9 @@ void showCount(QLabel* label, Integer16 count) {
     put(label, count == 0 ? "-" : count.text());
 }
 
-QLabel* makeCount(FormBuilder& build, int number) {
+QLabel* makeCount(FormBuilder& build, int number, const std::string& of) {
     QLabel* label = build.label(("Label" + std::to_string(number)).c_str());
+    label->setAccessibleName(toQt(of + " TOTAL"));
     label->setAlignment(Qt::AlignCenter);
     return label;
 }
@@ -113,7 +117,7 @@ QGridLayout* frmK3YStandings::createGrid() {
         label->setAlignment(Qt::AlignCenter);
         grid->addWidget(label, 0, column);
         grid->setColumnStretch(column, 1); // else a long call's box would lie over the next one
-        m_bandTotals.push_back(makeCount(build, firstBandTotal + column - 1));
+        m_bandTotals.push_back(makeCount(build, firstBandTotal + column - 1, band));
         grid->addWidget(m_bandTotals.back(), rowCount + 1, column);
     }
     for (int row = 1; row <= rowCount; ++row) {
@@ -123,7 +127,7 @@ QGridLayout* frmK3YStandings::createGrid() {
             m_cells.push_back(makeCell(build, m_page.cellName(row, column)));
             grid->addWidget(m_cells.back(), row, column);
         }
-        m_stationTotals.push_back(makeCount(build, firstStationTotal + row - 1));
+        m_stationTotals.push_back(makeCount(build, firstStationTotal + row - 1, station));
         grid->addWidget(m_stationTotals.back(), row, bandCount + 1);
     }
     grid->setColumnMinimumWidth(bandCount + 1, fontMetrics().averageCharWidth() * cellColumns);
@@ -150,8 +154,11 @@ void frmK3YStandings::showStandings(const Contacts& contacts) {
     const Standings standings = m_page.tally(contacts);
     auto box = m_cells.begin();
     for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row) {
-        for (int column = 1; column <= bandCount; ++column, ++box)
-            showCell(*box, standings.cell(row, column));
+        const std::string station(m_page.rows[static_cast<std::size_t>(row - 1)].label);
+        for (int column = 1; column <= bandCount; ++column, ++box) {
+            const std::string band(bands.at(static_cast<std::size_t>(column - 1)).label);
+            showCell(*box, standings.cell(row, column), station + ' ' + band);
+        }
         showCount(m_stationTotals[static_cast<std::size_t>(row - 1)], standings.stationTotal(row));
     }
     for (int column = 1; column <= bandCount; ++column)

@@ -45,6 +45,7 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     : Form(context, "frmVantrelCallArea", "Get Call Area") {
     FormBuilder build(this);
     m_areas = build.list("List1");
+    m_areas->setAccessibleName(QStringLiteral("CALL AREAS"));
     m_okButton = build.command("Command1", "OK", "SETS NEW CALL AREA");
     m_abortButton = build.command("Command2", "ABORT", "NO CHANGE");
     m_chosenArea = build.label("Label3");

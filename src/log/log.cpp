@@ -4,7 +4,6 @@
 #include "base/fixedtext.h"
 #include "base/itemreader.h"
 #include "base/runtimeerror.h"
-#include "log/qsoline.h"
 #include "platform/files.h"
 
 #include <algorithm>
@@ -52,10 +51,23 @@ std::string workedLine(std::string_view contact) {
            " | " + std::string(qso::date.of(contact)) + '|' + std::string(qso::marker.of(contact));
 }
 
+std::string workedWords(std::string_view workedLine) {
+    using namespace worked;
+    std::string words;
+    for (const Column field : {call, name, number, state, frequency, time, marker}) {
+        const std::string_view text = trim(field.of(workedLine));
+        if (text.empty())
+            continue;
+        words += words.empty() ? "" : field.first == time.first ? " at " : " ";
+        words += text;
+    }
+    return words;
+}
+
 WorkedKind kindOf(std::string_view workedLine) {
     if (markerOf(workedLine) == dupeMarker)
         return WorkedKind::dupe;
-    constexpr Column fields[] = {{13, 10}, {24, 6}, {33, 3}}; // name, number, state
+    constexpr Column fields[] = {worked::name, worked::number, worked::state};
     const bool missing = std::any_of(std::begin(fields), std::end(fields), [&](Column field) {
         return trim(field.of(workedLine)).empty();
     });
@@ -63,7 +75,7 @@ WorkedKind kindOf(std::string_view workedLine) {
 }
 
 std::string_view markerOf(std::string_view workedLine) {
-    return trim(midToEnd(workedLine, 65));
+    return trim(worked::marker.of(workedLine));
 }
 
 void Log::open(const std::string& name) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/integer16.h"
+#include "log/qsoline.h"
 
 #include <array>
 #include <cstddef>
@@ -30,6 +31,20 @@ Contacts contactsIn(std::string_view logBytes);
 // (6), " | ", his state (3), " | ", kHz (5), " | ", time (4), " | ", date (10), "|", marker (6,
 // or the bare four of "DUPE"). 70 columns, 68 with "DUPE".
 std::string workedLine(std::string_view contact);
+
+namespace worked {
+inline constexpr Column call{1, 10};
+inline constexpr Column name{13, 10};
+inline constexpr Column number{24, 6};
+inline constexpr Column state{33, 3};
+inline constexpr Column frequency{39, 5};
+inline constexpr Column time{47, 4};
+inline constexpr Column marker{65, 6};
+inline constexpr int columns = 70;
+} // namespace worked
+
+// The line as one would say it: "K9SKC CLUB 5000S IL 14050 at 0012", and the marker behind it.
+std::string workedWords(std::string_view workedLine);
 
 // Why a worked-stations line stands out: a duplicate, or a name, state or number that is missing.
 enum class WorkedKind { complete, incomplete, dupe };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmLogPage.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -77,6 +78,7 @@ void frmLogPage::createSearch(QLineEdit* callBox, const char* searchAgainTip) {
 
 QRadioButton* frmLogPage::createDupeOption(QLineEdit* markerBox) {
     QRadioButton* option = FormBuilder(this).jobOption("Option1", "DUPE NOTE");
+    markerBox->setAccessibleName(QStringLiteral("DUPE NOTE AT THE END"));
     connect(option, &QRadioButton::clicked, this, [option, markerBox] {
         put(markerBox, dupeMarker);
         option->setChecked(false);
@@ -88,7 +90,8 @@ void frmLogPage::createMatches(const char* placeName) {
     FormBuilder build(this);
     m_placeLabel = build.label(placeName);
     m_matchList = build.list("List1", "CLICK A CONTACT, OR ARROWS AND ENTER, TO GO TO IT");
-    m_matchLines = new LineListModel(m_matchList);
+    m_matchList->setAccessibleName(QStringLiteral("CONTACTS WITH THIS CALL"));
+    m_matchLines = new LineListModel(m_matchList, matchWords);
     m_matchList->setModel(m_matchLines);
     connectHandler(m_matchList, &QListView::clicked, this, &frmLogPage::matchChosen);
     connectHandler(m_matchList, &QListView::activated, this, &frmLogPage::matchChosen);
@@ -108,8 +111,8 @@ void frmLogPage::createChange(const char* caption, const char* toolTip, const ch
 }
 
 void frmLogPage::createMessages(const char* messageName, const char* noteName) {
-    m_messageLabel = FormBuilder(this).label(messageName);
-    m_noteLabel = FormBuilder(this).label(noteName);
+    m_messageLabel = FormBuilder(this).alert(messageName);
+    m_noteLabel = FormBuilder(this).alert(noteName);
 }
 
 void frmLogPage::chainBoxes(std::span<QLineEdit* const> boxes) {
@@ -274,7 +277,7 @@ void frmLogPage::finish(std::string_view message, const ChangeResult& result, No
 // --- Showing ---------------------------------------------------------------------------------
 
 void frmLogPage::say(std::string_view message) {
-    put(m_messageLabel, message);
+    announce(m_messageLabel, message);
 }
 
 void frmLogPage::tell(Notes notes) {
@@ -286,7 +289,7 @@ void frmLogPage::tell(Notes notes) {
     std::string text;
     for (const std::string& note : notes)
         text += (text.empty() ? "" : "\n") + note;
-    put(m_noteLabel, text);
+    announce(m_noteLabel, text);
     setTextColour(m_noteLabel, cautionColour(palette()));
 }
 

@@ -25,6 +25,10 @@ std::string matchText(std::string_view line, bool current) {
            ' ' + field(qso::time, line) + ' ' + bandText(line);
 }
 
+std::string matchWords(std::string_view matchText) {
+    return std::string(midToEnd(matchText, 3));
+}
+
 std::string briefly(std::string_view line) {
     return std::string(trim(qso::hisCall.of(line))) + ' ' + bandText(line) + ' ' +
            std::string(qso::time.of(line));

@@ -72,6 +72,7 @@ void frmMemberImport::createControls() {
     setTextColour(m_skipped, cautionColour(palette()));
     m_progress = new QProgressBar(this);
     m_progress->setObjectName(QStringLiteral("ProgressBar1"));
+    m_progress->setAccessibleName(QStringLiteral("LINES READ"));
 }
 
 void frmMemberImport::load() {

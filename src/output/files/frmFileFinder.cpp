@@ -113,7 +113,7 @@ void frmFileFinder::layOut() {
     FormBuilder build(this);
     auto* grid = new QGridLayout(this);
     const auto addUnder = [&](QLabel* caption, QWidget* list, int row, int column) {
-        caption->setBuddy(list);
+        FormBuilder::tie(caption, list);
         grid->addWidget(caption, row, column);
         grid->addWidget(list, row + 1, column);
     };

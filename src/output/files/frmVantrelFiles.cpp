@@ -34,8 +34,9 @@ frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     m_mainPageButton = build.command("Command1", "&MAIN PAGE", "BACK TO THE MAIN PAGE");
     m_adifCaption = build.label("Label5");
     m_adifPath = build.output("Text2");
+    m_adifPath->setAccessibleName(QStringLiteral("ADIF FILE"));
     m_adifPath->setAlignment(Qt::AlignLeft);
-    m_adifCaption->setBuddy(m_adifPath);
+    FormBuilder::tie(m_adifCaption, m_adifPath);
     m_adifContacts = build.label("Label6");
 
     auto* page = new QVBoxLayout(this);

@@ -90,6 +90,7 @@ void frmVantrelScore::createControls() {
     m_dupesLogged = build.label("Label13");
     m_dupesNotCounted = build.label("Label14");
     m_bands = makeTable(this, "Table1");
+    m_bands->setAccessibleName(QStringLiteral("BANDS"));
     m_picture = new StackedBars(this);
 }
 

@@ -30,8 +30,11 @@ QFrame* card(QWidget* panel, QLayout* content) {
     return frame;
 }
 
-QTableWidgetItem* cell(std::string_view text, bool bold, Qt::Alignment alignment) {
+// words: what a screen reader reads there.
+QTableWidgetItem* cell(std::string_view text, std::string_view words, bool bold,
+                       Qt::Alignment alignment) {
     auto* item = new QTableWidgetItem(toQt(text));
+    item->setData(Qt::AccessibleTextRole, toQt(words));
     QFont font = item->font();
     font.setBold(bold);
     item->setFont(font);
@@ -136,18 +139,25 @@ void ContestPanel::followClock(const UtcTime& utc) {
     const Pace pace = paceOf(m_moments, *now);
     put(m_rateLabel, rateText(pace));
     put(m_lastLabel, lastText(pace));
-    m_bars->setPace(pace);
+    m_bars->setPace(pace, toQt(hourText(pace)));
 }
 
 void ContestPanel::showBands(const BandTable& table) {
-    m_bandTable->horizontalHeaderItem(bandColumns - 1)->setText(toQt(table.call));
+    QTableWidgetItem* heading = m_bandTable->horizontalHeaderItem(bandColumns - 1);
+    heading->setText(toQt(table.call));
+    heading->setData(Qt::AccessibleTextRole, toQt("CALL " + std::string(table.call)));
     m_bandTable->setRowCount(static_cast<int>(table.rows.size()));
     for (int row = 0; row < m_bandTable->rowCount(); ++row) {
         const BandRow& band = table.rows[static_cast<std::size_t>(row)];
-        m_bandTable->setItem(row, 0, cell(band.name, band.present, Qt::AlignLeft));
-        const std::string count = band.contacts == 0 ? "-" : std::to_string(band.contacts);
-        m_bandTable->setItem(row, 1, cell(count, band.present, Qt::AlignRight));
-        QTableWidgetItem* onBand = cell(onBandText(band.onBand), band.present, Qt::AlignRight);
+        const std::string name(band.name);
+        const std::string count = std::to_string(band.contacts);
+        m_bandTable->setItem(row, 0, cell(name, name, band.present, Qt::AlignLeft));
+        m_bandTable->setItem(row, 1,
+                             cell(band.contacts == 0 ? "-" : count, name + " " + count + " QSOs",
+                                  band.present, Qt::AlignRight));
+        const std::string_view text = onBandText(band.onBand);
+        const std::string words = text.empty() ? "not worked" : std::string(text);
+        QTableWidgetItem* onBand = cell(text, name + ' ' + words, band.present, Qt::AlignRight);
         if (band.onBand == CallOnBand::dupe)
             onBand->setForeground(warningColour(palette()));
         m_bandTable->setItem(row, 2, onBand);

@@ -69,7 +69,7 @@ MainControls::MainControls(QWidget* form, const std::function<QHBoxLayout*()>& m
     dupeModeLabel = build.label("Label13");
     stationLabel = build.label("Label23");
     markerLabel = build.label("Label25");
-    hintLabel = build.label("Label26");
+    hintLabel = build.alert("Label26");
     clockLabel = build.label("Label27");
     whoLabel = build.label("Label28");
     whoIsIt = new WhoIsIt(form);

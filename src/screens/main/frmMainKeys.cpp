@@ -79,8 +79,8 @@ bool MainKeys::toLastContact() {
     const QAbstractItemModel* lines = m_controls.workedList->model();
     if (lines->rowCount() == 0)
         return false;
+    m_controls.workedList->setFocus(); // first: a list without it does not say what is current
     m_controls.workedList->setCurrentIndex(lines->index(lines->rowCount() - 1, 0));
-    m_controls.workedList->setFocus();
     return true;
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmPaceBars.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
-#include "platform/qt/latin1.h"
 
 #include <QPainter>
 
@@ -18,10 +18,11 @@ constexpr int gap = 3; // pixels between bars
 
 PaceBars::PaceBars(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setRole(this, QAccessible::Graphic);
 }
 
-void PaceBars::setPace(const Pace& pace) {
-    setAccessibleName(toQt(hourText(pace)));
+void PaceBars::setPace(const Pace& pace, const QString& text) {
+    setAccessibleName(text);
     if (m_pace.perFiveMinutes == pace.perFiveMinutes)
         return;
     m_pace = pace;

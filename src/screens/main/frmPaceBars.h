@@ -14,7 +14,8 @@ class PaceBars : public QWidget {
 public:
     explicit PaceBars(QWidget* parent);
 
-    void setPace(const Pace& pace);
+    // text: what they show, in words.
+    void setPace(const Pace& pace, const QString& text);
 
     QSize sizeHint() const override;
 

@@ -19,6 +19,8 @@ SuggestionList::SuggestionList(QWidget* page)
     : QListView(page), m_model(new QStandardItemModel(this)) {
     setObjectName(QStringLiteral("List2"));
     setToolTip(QStringLiteral("MEMBERS LIKE THE CALL - DOWN AND ENTER TAKES ONE"));
+    setAccessibleName(QStringLiteral("MEMBERS"));
+    setFocusPolicy(Qt::ClickFocus); // the exchange goes on behind it; Down leads into it
     setModel(m_model);
     setFlow(LeftToRight);
     setWrapping(false);
@@ -55,8 +57,8 @@ void SuggestionList::setLines(std::vector<Line> lines) {
 bool SuggestionList::takeFocus() {
     if (m_model->rowCount() == 0)
         return false;
-    setCurrentIndex(m_model->index(0, 0));
     setFocus();
+    setCurrentIndex(m_model->index(0, 0));
     return true;
 }
 

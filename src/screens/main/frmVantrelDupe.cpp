@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmVantrelDupe.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
+#include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "platform/sound.h"
 
@@ -23,9 +25,10 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     setPalette(alarmPalette(palette()));
 
     FormBuilder build(this);
-    QLabel* label = build.label("Label1", "DUPE");
-    label->setAlignment(Qt::AlignCenter);
-    label->setFont(enlargedFont(this, 8));
+    m_label = build.alert("Label1");
+    put(m_label, "DUPE");
+    m_label->setAlignment(Qt::AlignCenter);
+    m_label->setFont(enlargedFont(this, 8));
     m_timer = new QTimer(this);
     m_timer->setObjectName(QStringLiteral("Timer1"));
     m_timer->setSingleShot(true);
@@ -33,12 +36,13 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(60, 30, 60, 30);
-    layout->addWidget(label);
+    layout->addWidget(m_label);
     connectHandler(m_timer, &QTimer::timeout, this, &frmVantrelDupe::timeUp);
 }
 
 void frmVantrelDupe::load() {
     m_timer->start();
+    announce(m_label, "DUPE");
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
     if (QWidget* below = opener()) {

@@ -4,6 +4,7 @@
 
 #include "forms/form.h"
 
+class QLabel;
 class QTimer;
 
 namespace vantrel {
@@ -26,6 +27,7 @@ protected:
 private:
     void timeUp();
 
+    QLabel* m_label;
     QTimer* m_timer;
 };
 

@@ -2,6 +2,7 @@
 #include "screens/main/frmVantrelMain.h"
 
 #include "base/fixedtext.h"
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -270,7 +271,9 @@ bool frmVantrelMain::lookUpAndShow(Entry& typed) {
     const std::string call = typed.call;
     const LookupOutcome outcome = lookUp(typed, m_roster);
     showEntry(typed);
-    showHint(lookupHint(outcome, call, m_roster.hasMembers()));
+    Hint hint = lookupHint(outcome, call, m_roster.hasMembers());
+    hint.filledIn = filledIn(outcome, typed);
+    showHint(hint);
     if (outcome == LookupOutcome::found) {
         m_lookedUp = typed;
         for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
@@ -316,7 +319,8 @@ void frmVantrelMain::tellGain(const Entry& typed) {
     const std::string gain =
         scoreGain(shared().log.contacts(), m_page.panel->score(), *line, settings);
     if (!gain.empty())
-        showHint({textOf(m_page.hintLabel) + "   " + gain});
+        showHint({textOf(m_page.hintLabel) + "   " + gain, HintTone::plain,
+                  filledIn(LookupOutcome::found, typed)});
 }
 
 // A mark belongs to the band it was found on: on another one the test is made again. False when
@@ -547,7 +551,8 @@ void frmVantrelMain::resetDupeMarker() {
 }
 
 void frmVantrelMain::showHint(const Hint& hint) {
-    put(m_page.hintLabel, hint.text);
+    announce(m_page.hintLabel, hint.text,
+             hint.filledIn.empty() ? hint.text : hint.filledIn + ". " + hint.text);
     setTextColour(m_page.hintLabel, hint.tone == HintTone::plain   ? QColor()
                                     : hint.tone == HintTone::alarm ? warningColour(palette())
                                                                    : cautionColour(palette()));

@@ -6,7 +6,6 @@
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 #include "log/log.h"
-#include "log/qsoline.h"
 #include "platform/qt/latin1.h"
 
 #include <QPainter>
@@ -17,8 +16,6 @@ namespace vantrel {
 
 namespace {
 
-constexpr int lineColumns = 70;
-constexpr int markerColumn = 65;
 constexpr int tint = 0x30; // of 0xFF: how much of the accent is in the last row's ground
 
 // The last contact is bold on a tinted row, a duplicate red, one with something missing amber; a
@@ -40,8 +37,9 @@ public:
         const QRect text = list->style()->subElementRect(QStyle::SE_ItemViewItemText, &shown, list);
         const int margin =
             list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
-        const int begin = text.left() + margin +
-                          shown.fontMetrics.horizontalAdvance(toQt(left(line, markerColumn - 1)));
+        const int begin =
+            text.left() + margin +
+            shown.fontMetrics.horizontalAdvance(toQt(left(line, worked::marker.first - 1)));
         painter->setFont(shown.font);
         painter->setPen(accentColour(option.palette));
         painter->drawText(QRect(begin, text.top(), text.width(), text.height()),
@@ -67,8 +65,10 @@ protected:
 
 } // namespace
 
-WorkedList::WorkedList(QWidget* page) : QListView(page), m_lines(new LineListModel(this)) {
+WorkedList::WorkedList(QWidget* page)
+    : QListView(page), m_lines(new LineListModel(this, workedWords)) {
     setObjectName(QStringLiteral("List1"));
+    setAccessibleName(QStringLiteral("STATIONS WORKED"));
     setFont(fixedWidthFont());
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
@@ -79,7 +79,7 @@ WorkedList::WorkedList(QWidget* page) : QListView(page), m_lines(new LineListMod
     // Bold, in which the last line stands, is as wide in a fixed-width font.
     const int margins = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() +
                         4 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-    setFixedWidth(widthOfColumns(QFontMetrics(font()), lineColumns) + margins);
+    setFixedWidth(widthOfColumns(QFontMetrics(font()), worked::columns) + margins);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 

@@ -38,6 +38,18 @@ Hint lookupHint(LookupOutcome outcome, std::string_view typed, bool hasRoster) {
             HintTone::caution};
 }
 
+std::string filledIn(LookupOutcome outcome, const Entry& entry) {
+    if (outcome == LookupOutcome::callOfNumber)
+        return std::string(trim(entry.call));
+    if (outcome != LookupOutcome::found)
+        return {};
+    std::string words;
+    for (const std::string& box : {entry.name, entry.state, entry.number})
+        if (const std::string_view text = trim(box); !text.empty())
+            words += (words.empty() ? "" : ", ") + std::string(text);
+    return words;
+}
+
 Hint loggedHint(std::string_view contact, std::string_view repeated) {
     Hint hint{"LOGGED " + field(qso::hisCall, contact) + ' ' + field(qso::frequency, contact) +
               ' ' + field(qso::time, contact)};

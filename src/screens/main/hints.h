@@ -15,11 +15,15 @@ enum class HintTone { plain, caution, alarm };
 struct Hint {
     std::string text{};
     HintTone tone = HintTone::plain;
+    std::string filledIn{}; // what a lookup has put into the boxes, to be spoken before the text
 };
 
 // After a lookup: whom it did not find and what to type then, or what Enter does next. typed: the
 // call box's text that was looked up; hasRoster: whether there is any roster file.
 Hint lookupHint(LookupOutcome outcome, std::string_view typed, bool hasRoster);
+
+// "CLUB, IL, 5000S"; the call when a number was looked up; nothing unless somebody was found.
+std::string filledIn(LookupOutcome outcome, const Entry& entry);
 
 // After a contact is logged: call, kHz and time, and which of name, state and number are blank.
 // repeated: the earlier contact with this call on this band when no check was made; empty for

@@ -27,14 +27,21 @@ std::vector<Moment> momentsOf(const Contacts& contacts) {
 
 Pace paceOf(const std::vector<Moment>& moments, Moment now) {
     Pace pace;
-    const int bars = static_cast<int>(pace.perFiveMinutes.size());
+    auto& bars = pace.perFiveMinutes;
+    std::array<Moment, 12> firsts{};
     for (const Moment moment : moments) {
         const int ago = std::max(0, static_cast<int>((now - moment).count()));
         pace.minutesSinceLast = std::min(pace.minutesSinceLast.value_or(ago), ago);
         pace.lastTenMinutes += ago < rateMinutes ? 1 : 0;
-        if (ago < bars * barMinutes)
-            ++pace.perFiveMinutes[static_cast<std::size_t>(bars - 1 - ago / barMinutes)];
+        if (ago >= static_cast<int>(bars.size()) * barMinutes)
+            continue;
+        const std::size_t bar = bars.size() - 1 - static_cast<std::size_t>(ago / barMinutes);
+        firsts[bar] = bars[bar] == 0 ? moment : std::min(firsts[bar], moment);
+        ++bars[bar];
     }
+    const auto best = std::max_element(bars.begin(), bars.end());
+    if (*best > 0)
+        pace.bestSince = firsts[static_cast<std::size_t>(best - bars.begin())];
     return pace;
 }
 
@@ -56,8 +63,14 @@ std::string lastText(const Pace& pace) {
 
 std::string hourText(const Pace& pace) {
     const auto& bars = pace.perFiveMinutes;
-    return std::to_string(std::accumulate(bars.begin(), bars.end(), 0)) +
-           " contacts in the last hour";
+    const std::string text =
+        std::to_string(std::accumulate(bars.begin(), bars.end(), 0)) + " contacts in the last hour";
+    if (!pace.bestSince)
+        return text;
+    const auto day = std::chrono::floor<std::chrono::days>(*pace.bestSince);
+    const std::chrono::hh_mm_ss time(*pace.bestSince - day);
+    return text + ", most at " + zeroPadded(static_cast<int>(time.hours().count()), 2) +
+           zeroPadded(static_cast<int>(time.minutes().count()), 2);
 }
 
 } // namespace vantrel

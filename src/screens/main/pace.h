@@ -18,6 +18,7 @@ struct Pace {
     int lastTenMinutes = 0;
     std::optional<int> minutesSinceLast{}; // nothing without any contact
     std::array<int, 12> perFiveMinutes{};  // of the last hour, oldest first
+    std::optional<Moment> bestSince{};     // the first contact of the best five minutes
 };
 
 // The minutes of the contacts that have one, duplicates too: they were worked.
@@ -29,9 +30,10 @@ Pace paceOf(const std::vector<Moment>& moments, Moment now);
 // The minute that a contact logged now would have. Nothing when the clock shows no date.
 std::optional<Moment> momentOf(const UtcTime& utc);
 
-// "5 (30/h)", "LAST 3 MIN AGO" (empty without a contact), "12 contacts in the last hour".
+// "5 (30/h)", "LAST 3 MIN AGO" (empty without a contact).
 std::string rateText(const Pace& pace);
 std::string lastText(const Pace& pace);
+// "12 contacts in the last hour, most at 0010".
 std::string hourText(const Pace& pace);
 
 } // namespace vantrel

@@ -1,0 +1,369 @@
+// SPDX-License-Identifier: MIT
+#include "forms/accessible.h"
+
+#include "forms/controltext.h"
+#include "forms/form.h"
+#include "forms/readingorder.h"
+
+#include <QAccessibleWidget>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+
+constexpr const char* roleProperty = "accessibleRole";
+
+QString withoutMnemonic(QString caption) {
+    return caption.remove(QLatin1Char('&'));
+}
+
+// A page or a part of one; its children are told as they are read.
+class Part : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    int childCount() const override { return static_cast<int>(readingOrder(widget()).size()); }
+    QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(readingOrder(widget()).value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        const QList<QWidget*> order = readingOrder(widget());
+        for (qsizetype i = 0; i < order.size(); ++i)
+            if (order[i] == child->object())
+                return static_cast<int>(i);
+        return -1;
+    }
+};
+
+QAccessible::Role roleOf(const QWidget* control, QAccessible::Role usual) {
+    const QVariant role = control->property(roleProperty);
+    return role.isValid() ? static_cast<QAccessible::Role>(role.toInt()) : usual;
+}
+
+// A text behind the caption that it belongs to. Without a text there is nothing to see.
+class Text : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    // It is told of before it is given another role.
+    QAccessible::Role role() const override { return roleOf(widget(), QAccessible::StaticText); }
+    QString text(QAccessible::Text kind) const override {
+        if (kind != QAccessible::Name)
+            return QAccessibleWidget::text(kind);
+        const QString caption = label()->accessibleName() + QLatin1Char(' ');
+        return (caption + withoutMnemonic(label()->text())).simplified();
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.invisible = state.invisible || label()->text().trimmed().isEmpty();
+        state.readOnly = true;
+        return state;
+    }
+
+private:
+    const QLabel* label() const { return static_cast<const QLabel*>(widget()); }
+};
+
+// Its action is a click: it runs what a click runs.
+class Option : public QAccessibleWidget {
+public:
+    explicit Option(QRadioButton* button) : QAccessibleWidget(button, QAccessible::RadioButton) {}
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Name)
+            return withoutMnemonic(button()->text());
+        return QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = button()->isChecked();
+        return state;
+    }
+    QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name != pressAction())
+            return QAccessibleWidget::doAction(name);
+        // The reader must not wait for the boxes that the job shows.
+        if (button()->isEnabled())
+            QTimer::singleShot(0, button(), &QRadioButton::click);
+    }
+    QStringList keyBindingsForAction(const QString& name) const override {
+        if (name != pressAction())
+            return {};
+        return {QKeySequence::mnemonic(button()->text()).toString()};
+    }
+
+private:
+    QRadioButton* button() const { return static_cast<QRadioButton*>(widget()); }
+};
+
+// The text of a box of one line. Where a part of it is asked for, Qt's own answer is never left:
+// Qt 6.4 looks for the word at the end of a text for ever, and a program that stands still in a
+// contest loses contacts.
+class BoxText : public QAccessibleTextInterface, public QAccessibleEditableTextInterface {
+public:
+    // edit: nullptr for a choice that one cannot type into.
+    BoxText(QLineEdit* edit, const QComboBox* choice) : m_edit(edit), m_choice(choice) {}
+
+    QString whole() const { return m_edit != nullptr ? m_edit->text() : m_choice->currentText(); }
+    QString text(int begin, int end) const override { return whole().mid(begin, end - begin); }
+    int characterCount() const override { return static_cast<int>(whole().size()); }
+
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
+                         int* end) const override {
+        const Part part = partAt(offset, boundary);
+        *begin = part.begin;
+        *end = part.end;
+        return text(part.begin, part.end);
+    }
+    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
+                             int* end) const override {
+        const int here = partAt(offset, boundary).begin;
+        if (here > 0)
+            return textAtOffset(here - 1, boundary, begin, end);
+        *begin = *end = 0;
+        return {};
+    }
+    QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
+                            int* end) const override {
+        const int behind = partAt(offset, boundary).end;
+        if (behind < characterCount())
+            return textAtOffset(behind, boundary, begin, end);
+        *begin = *end = characterCount();
+        return {};
+    }
+
+    int cursorPosition() const override { return m_edit != nullptr ? m_edit->cursorPosition() : 0; }
+    void setCursorPosition(int position) override {
+        if (m_edit != nullptr)
+            m_edit->setCursorPosition(position);
+    }
+    int selectionCount() const override { return m_edit != nullptr && m_edit->hasSelectedText(); }
+    void selection(int, int* begin, int* end) const override {
+        *begin = selectionCount() > 0 ? m_edit->selectionStart() : 0;
+        *end = selectionCount() > 0 ? m_edit->selectionEnd() : 0;
+    }
+    void addSelection(int begin, int end) override { setSelection(0, begin, end); }
+    void removeSelection(int) override {
+        if (m_edit != nullptr)
+            m_edit->deselect();
+    }
+    void setSelection(int, int begin, int end) override {
+        if (m_edit != nullptr)
+            m_edit->setSelection(begin, end - begin);
+    }
+    void scrollToSubstring(int begin, int) override { setCursorPosition(begin); }
+    QRect characterRect(int) const override { return {}; }
+    int offsetAtPoint(const QPoint&) const override { return -1; }
+    QString attributes(int, int* begin, int* end) const override {
+        *begin = 0;
+        *end = characterCount();
+        return {};
+    }
+
+    void deleteText(int begin, int end) override { replaceText(begin, end, {}); }
+    void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
+    void replaceText(int begin, int end, const QString& text) override {
+        if (m_edit == nullptr || m_edit->isReadOnly())
+            return;
+        m_edit->setSelection(begin, end - begin);
+        m_edit->insert(text); // as typed: the page follows what is typed only
+    }
+
+private:
+    struct Part {
+        int begin;
+        int end;
+    };
+
+    // A word reaches to the beginning of the next one; a line is all there is.
+    Part partAt(int offset, QAccessible::TextBoundaryType boundary) const {
+        const QString all = whole();
+        const int count = characterCount();
+        offset = offset == -2 ? cursorPosition() : offset;
+        offset = offset == -1 ? count : std::clamp(offset, 0, count);
+        if (boundary == QAccessible::CharBoundary)
+            return {offset, std::min(offset + 1, count)};
+        if (boundary != QAccessible::WordBoundary)
+            return {0, count};
+        const auto beginsWord = [&](int at) {
+            return at == 0 || (!all[at].isSpace() && all[at - 1].isSpace());
+        };
+        int begin = std::max(0, std::min(offset, count - 1));
+        while (!beginsWord(begin))
+            --begin;
+        int end = begin + 1;
+        while (end < count && !beginsWord(end))
+            ++end;
+        return {begin, std::min(end, count)};
+    }
+
+    QLineEdit* m_edit;
+    const QComboBox* m_choice;
+};
+
+class Box : public QAccessibleWidget {
+public:
+    explicit Box(QLineEdit* edit)
+        : QAccessibleWidget(edit, QAccessible::EditableText), m_text(edit, nullptr) {}
+
+    int childCount() const override { return 0; } // what lies in it is only drawn there
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Value)
+            return m_text.whole();
+        const auto* choice = qobject_cast<QComboBox*>(widget()->parentWidget());
+        if (kind == QAccessible::Name && choice != nullptr)
+            return choice->accessibleName();
+        return QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.readOnly = static_cast<const QLineEdit*>(widget())->isReadOnly();
+        state.editable = !state.readOnly;
+        state.selectableText = true;
+        return state;
+    }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return textCast(m_text, type, [&] { return QAccessibleWidget::interface_cast(type); });
+    }
+
+    template <typename Otherwise>
+    static void* textCast(BoxText& text, QAccessible::InterfaceType type, Otherwise otherwise) {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface*>(&text);
+        if (type == QAccessible::EditableTextInterface)
+            return static_cast<QAccessibleEditableTextInterface*>(&text);
+        return otherwise();
+    }
+
+private:
+    BoxText m_text;
+};
+
+// Named by its caption; what is chosen or typed is its text.
+class Choice : public QAccessibleWidget {
+public:
+    explicit Choice(QComboBox* box)
+        : QAccessibleWidget(box, QAccessible::ComboBox), m_text(box->lineEdit(), box) {}
+
+    int childCount() const override { return 1; }
+    QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(box()->view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child->object() == box()->view() ? 0 : -1;
+    }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? box()->currentText() : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = box()->view()->isVisible();
+        state.editable = box()->isEditable();
+        return state;
+    }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return Box::textCast(m_text, type, [&] { return QAccessibleWidget::interface_cast(type); });
+    }
+    QStringList actionNames() const override {
+        return QStringList(showMenuAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name != showMenuAction())
+            return QAccessibleWidget::doAction(name);
+        if (box()->isEnabled())
+            QTimer::singleShot(0, box(), &QComboBox::showPopup);
+    }
+
+private:
+    QComboBox* box() const { return static_cast<QComboBox*>(widget()); }
+
+    BoxText m_text;
+};
+
+// Lies unseen in an alert. Readers follow alerts or notifications, none of them both, and the
+// latter speak a notification whenever it is shown.
+class Spoken : public QLabel {
+public:
+    explicit Spoken(QLabel* alert) : QLabel(alert) {
+        setFixedSize(0, 0);
+        setTextFormat(Qt::PlainText);
+        setRole(this, QAccessible::Notification);
+        m_soon.setSingleShot(true);
+        connect(&m_soon, &QTimer::timeout, this, [this] {
+            QAccessibleEvent shown(this, QAccessible::ObjectShow);
+            QAccessible::updateAccessibility(&shown);
+        });
+    }
+
+    void say(std::string_view words) {
+        put(this, words);
+        if (words.empty())
+            m_soon.stop();
+        else
+            m_soon.start(0);
+    }
+
+private:
+    QTimer m_soon;
+};
+
+// Nothing for what Qt describes well by itself.
+QAccessibleInterface* describe(const QString&, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (widget == nullptr || qobject_cast<Form*>(widget->window()) == nullptr)
+        return nullptr;
+    if (auto* box = qobject_cast<QComboBox*>(widget))
+        return new Choice(box);
+    if (auto* edit = qobject_cast<QLineEdit*>(widget))
+        return new Box(edit);
+    if (auto* option = qobject_cast<QRadioButton*>(widget))
+        return new Option(option);
+    if (qobject_cast<QLabel*>(widget) != nullptr)
+        return new Text(widget);
+    if (widget->isWindow())
+        return new Part(widget, widget->windowType() == Qt::Dialog ? QAccessible::Dialog
+                                                                   : QAccessible::Window);
+    if (widget->layout() != nullptr)
+        return new Part(widget, QAccessible::Grouping);
+    const QAccessible::Role role = roleOf(widget, QAccessible::NoRole);
+    return role == QAccessible::NoRole ? nullptr : new QAccessibleWidget(widget, role);
+}
+
+} // namespace
+
+void describeControls() {
+    QAccessible::installFactory(describe);
+}
+
+void setRole(QWidget* control, QAccessible::Role role) {
+    control->setProperty(roleProperty, static_cast<int>(role));
+}
+
+void makeAlert(QLabel* label) {
+    setRole(label, QAccessible::AlertMessage);
+    new Spoken(label);
+}
+
+void announce(QLabel* alert, std::string_view text, std::string_view spoken) {
+    put(alert, text);
+    QAccessibleEvent shown(alert, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
+    alert->findChild<Spoken*>()->say(spoken);
+}
+
+} // namespace vantrel

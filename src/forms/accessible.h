@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// What a screen reader is told of the controls: names, roles and actions beyond those that Qt
+// gives them, and what is said at once because the operator waits for it.
+#pragma once
+
+#include <QAccessible>
+
+#include <string_view>
+
+class QLabel;
+class QWidget;
+
+namespace vantrel {
+
+// Once, after the application is made.
+void describeControls();
+
+// What a control without a kind of its own is: a picture.
+void setRole(QWidget* control, QAccessible::Role role);
+
+// The label is an alert: what it shows is told at once.
+void makeAlert(QLabel* label);
+// Shows the text. When the present event is over a screen reader speaks `spoken` (nothing when
+// it is empty); of several texts only the last one.
+void announce(QLabel* alert, std::string_view text, std::string_view spoken);
+inline void announce(QLabel* alert, std::string_view text) {
+    announce(alert, text, text);
+}
+
+} // namespace vantrel

@@ -7,6 +7,7 @@ The program is copied alone into an empty folder and started in a window of a vi
 (Xvfb, openbox); xdotool presses the keys. The log is compared byte for byte with what is
 expected, and pages must lie over the page that opened them, also on a small screen. Exits with 77 (skipped) where the virtual screen cannot be had.
 """
+import contextlib
 import os
 import pathlib
 import re
@@ -44,6 +45,22 @@ class Screen:
         for process in (self.manager, self.server):
             process.terminate()
             process.wait()
+
+
+@contextlib.contextmanager
+def running(built, folder):
+    """The program alone in the folder, on the screen of DISPLAY."""
+    shutil.copy(built, folder / "vantrel")
+    # Its libraries' own leaks on a real display are not what is tried here.
+    environment = dict(os.environ, TZ="UTC", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
+                       ASAN_OPTIONS="detect_leaks=0")
+    program = subprocess.Popen([folder / "vantrel"], cwd=folder, env=environment)
+    try:
+        yield program
+    finally:
+        if program.poll() is None:
+            program.kill()
+            program.wait()
 
 
 def xdotool(*words):
@@ -179,24 +196,17 @@ def main():
         return 77
     with tempfile.TemporaryDirectory(prefix="vantrel-outside-") as name:
         folder = pathlib.Path(name)
-        shutil.copy(sys.argv[1], folder / "vantrel")
         for size in ("1366x768", "1024x600"):
             screen = Screen(size)
-            # Its libraries' own leaks on a real display are not what is tried here.
-            environment = dict(os.environ, TZ="UTC", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
-                               ASAN_OPTIONS="detect_leaks=0")
-            program = subprocess.Popen([folder / "vantrel"], cwd=folder, env=environment)
             try:
-                if size == "1366x768":
-                    play(program, folder)
-                else:
-                    wait_for_window(START)
-                    type_blindly(program, folder)
-                    see_placement(size)
+                with running(sys.argv[1], folder) as program:
+                    if size == "1366x768":
+                        play(program, folder)
+                    else:
+                        wait_for_window(START)
+                        type_blindly(program, folder)
+                        see_placement(size)
             finally:
-                if program.poll() is None:
-                    program.kill()
-                    program.wait()
                 screen.close()
     print("outside: the log is as expected")
     return 0

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/accessible.h"
 
+#include "forms/boxtext.h"
 #include "forms/controltext.h"
 #include "forms/form.h"
 #include "forms/readingorder.h"
@@ -14,8 +15,6 @@
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QTimer>
-
-#include <algorithm>
 
 namespace vantrel {
 
@@ -108,111 +107,6 @@ public:
 
 private:
     QRadioButton* button() const { return static_cast<QRadioButton*>(widget()); }
-};
-
-// The text of a box of one line. Where a part of it is asked for, Qt's own answer is never left:
-// Qt 6.4 looks for the word at the end of a text for ever, and a program that stands still in a
-// contest loses contacts.
-class BoxText : public QAccessibleTextInterface, public QAccessibleEditableTextInterface {
-public:
-    // edit: nullptr for a choice that one cannot type into.
-    BoxText(QLineEdit* edit, const QComboBox* choice) : m_edit(edit), m_choice(choice) {}
-
-    QString whole() const { return m_edit != nullptr ? m_edit->text() : m_choice->currentText(); }
-    QString text(int begin, int end) const override { return whole().mid(begin, end - begin); }
-    int characterCount() const override { return static_cast<int>(whole().size()); }
-
-    QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
-                         int* end) const override {
-        const Part part = partAt(offset, boundary);
-        *begin = part.begin;
-        *end = part.end;
-        return text(part.begin, part.end);
-    }
-    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
-                             int* end) const override {
-        const int here = partAt(offset, boundary).begin;
-        if (here > 0)
-            return textAtOffset(here - 1, boundary, begin, end);
-        *begin = *end = 0;
-        return {};
-    }
-    QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
-                            int* end) const override {
-        const int behind = partAt(offset, boundary).end;
-        if (behind < characterCount())
-            return textAtOffset(behind, boundary, begin, end);
-        *begin = *end = characterCount();
-        return {};
-    }
-
-    int cursorPosition() const override { return m_edit != nullptr ? m_edit->cursorPosition() : 0; }
-    void setCursorPosition(int position) override {
-        if (m_edit != nullptr)
-            m_edit->setCursorPosition(position);
-    }
-    int selectionCount() const override { return m_edit != nullptr && m_edit->hasSelectedText(); }
-    void selection(int, int* begin, int* end) const override {
-        *begin = selectionCount() > 0 ? m_edit->selectionStart() : 0;
-        *end = selectionCount() > 0 ? m_edit->selectionEnd() : 0;
-    }
-    void addSelection(int begin, int end) override { setSelection(0, begin, end); }
-    void removeSelection(int) override {
-        if (m_edit != nullptr)
-            m_edit->deselect();
-    }
-    void setSelection(int, int begin, int end) override {
-        if (m_edit != nullptr)
-            m_edit->setSelection(begin, end - begin);
-    }
-    void scrollToSubstring(int begin, int) override { setCursorPosition(begin); }
-    QRect characterRect(int) const override { return {}; }
-    int offsetAtPoint(const QPoint&) const override { return -1; }
-    QString attributes(int, int* begin, int* end) const override {
-        *begin = 0;
-        *end = characterCount();
-        return {};
-    }
-
-    void deleteText(int begin, int end) override { replaceText(begin, end, {}); }
-    void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
-    void replaceText(int begin, int end, const QString& text) override {
-        if (m_edit == nullptr || m_edit->isReadOnly())
-            return;
-        m_edit->setSelection(begin, end - begin);
-        m_edit->insert(text); // as typed: the page follows what is typed only
-    }
-
-private:
-    struct Part {
-        int begin;
-        int end;
-    };
-
-    // A word reaches to the beginning of the next one; a line is all there is.
-    Part partAt(int offset, QAccessible::TextBoundaryType boundary) const {
-        const QString all = whole();
-        const int count = characterCount();
-        offset = offset == -2 ? cursorPosition() : offset;
-        offset = offset == -1 ? count : std::clamp(offset, 0, count);
-        if (boundary == QAccessible::CharBoundary)
-            return {offset, std::min(offset + 1, count)};
-        if (boundary != QAccessible::WordBoundary)
-            return {0, count};
-        const auto beginsWord = [&](int at) {
-            return at == 0 || (!all[at].isSpace() && all[at - 1].isSpace());
-        };
-        int begin = std::max(0, std::min(offset, count - 1));
-        while (!beginsWord(begin))
-            --begin;
-        int end = begin + 1;
-        while (end < count && !beginsWord(end))
-            ++end;
-        return {begin, std::min(end, count)};
-    }
-
-    QLineEdit* m_edit;
-    const QComboBox* m_choice;
 };
 
 class Box : public QAccessibleWidget {

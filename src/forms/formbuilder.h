@@ -37,7 +37,7 @@ public:
     // The label's text is the name of the box, unless that has one.
     static void tie(QLabel* caption, QWidget* box);
     // A row of a form: a box behind its caption, tied as above.
-    void row(QFormLayout* form, const char* caption, QWidget* box);
+    void row(QFormLayout* form, const char* text, QWidget* box);
     QComboBox* combo(const char* name, const char* toolTip = "");
     // A combo that one can also type into: nothing completes or inserts by itself.
     QComboBox* editableCombo(const char* name, const char* toolTip = "");

@@ -59,6 +59,8 @@ public:
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Name)
             return QAccessibleWidget::text(kind);
+        if (role() == QAccessible::Graphic) // its text is a sign
+            return label()->accessibleName();
         const QString caption = label()->accessibleName() + QLatin1Char(' ');
         return (caption + withoutMnemonic(label()->text())).simplified();
     }

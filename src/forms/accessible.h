@@ -15,7 +15,7 @@ namespace vantrel {
 // Once, after the application is made.
 void describeControls();
 
-// What a control without a kind of its own is: a picture.
+// What a control is that does not show it by its kind: a picture, or a label with a sign.
 void setRole(QWidget* control, QAccessible::Role role);
 
 // The label is an alert: what it shows is told at once.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmMainControls.h"
 
+#include "forms/accessible.h"
 #include "forms/formbuilder.h"
 #include "screens/main/frmContestPanel.h"
 #include "screens/main/frmWhoIsIt.h"
@@ -76,6 +77,7 @@ MainControls::MainControls(QWidget* form, const std::function<QHBoxLayout*()>& m
     autoReadButton =
         build.command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON");
     readSign = build.caption("");
+    setRole(readSign, QAccessible::Graphic);
     panel = new ContestPanel(form);
     layOut(form, pageCommands);
 }

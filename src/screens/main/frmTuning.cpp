@@ -87,6 +87,7 @@ void Tuning::showOutcome(ReadOutcome outcome) {
     sign->setText(read                             ? QString(QChar(0x25CF))
                   : outcome == ReadOutcome::failed ? QString(QChar(0xD7))
                                                    : QString());
+    sign->setAccessibleName(read ? QStringLiteral("RADIO READ") : QStringLiteral("RADIO NOT READ"));
     const QPalette palette = sign->window()->palette();
     setTextColour(sign, read ? goodColour(palette) : warningColour(palette));
 }

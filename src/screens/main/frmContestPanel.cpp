@@ -90,8 +90,9 @@ ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
     flat.setColor(QPalette::Base, flat.color(QPalette::Window));
     m_bandTable->setPalette(flat);
     m_bandTable->verticalHeader()->hide();
-    m_bandTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height());
+    // The least height first: it bounds the other.
     m_bandTable->verticalHeader()->setMinimumSectionSize(fontMetrics().height());
+    m_bandTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height());
     m_bandTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_bandTable->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_bandTable->setHorizontalHeaderLabels(
@@ -161,6 +162,8 @@ void ContestPanel::showBands(const BandTable& table) {
         if (band.onBand == CallOnBand::dupe)
             onBand->setForeground(warningColour(palette()));
         m_bandTable->setItem(row, 2, onBand);
+        if (band.present) // there may be no room for all
+            m_bandTable->scrollToItem(onBand);
     }
 }
 

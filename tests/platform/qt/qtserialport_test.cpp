@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The real serial port against radios on pseudo-terminals: bytes, line settings, keying lines,
-// an end at once when the radio or the program goes, and a witness.
+// The real serial port against radios on pseudo-terminals: bytes, line settings, keying lines
+// and an end at once when the radio or the program goes.
 #include "fakes/qt/ptyradio.h"
 #include "platform/files.h"
 #include "platform/qt/qtserialport.h"
@@ -10,9 +10,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QProcess>
-#include <QStandardPaths>
-#include <QTest>
 #include <QTimer>
 
 #include <cstdarg>
@@ -173,76 +170,6 @@ TEST_F(RealPort, EveryRepeatedQueryReachesTheRadioUntilTheProgramQuits) {
     });
     QCoreApplication::exec();
     EXPECT_LT(clock.elapsed(), 1000);
-}
-
-// --- An independent witness: the radio library's own commands, where they are installed
-// -----------
-
-struct Witness {
-    const char* radio;
-    const char* arguments; // model and line, as rigctl takes them
-    // What else it is asked, and says: "|command" and reply.
-    std::string said{};
-};
-
-const std::string texts = "|FA;FA00007025000;|FB;FB00014025000;|AI;AI0;|MD;MD3;|PS;PS1;"
-                          "|IF;IF00007025000     -000000 0003000000 ;";
-const std::string tenTec =
-    "|?V\rVER 1038-588\r|?M\rM30\r|?BF\r@BF14025000\r|?KV\r@KVAAN\r|?RMM\r@RMM3\r|?RMF\r@RMF2400\r";
-
-const Witness witnesses[] = {
-    {"TenTecAscii", "-m 16008 -s 57600", tenTec},
-    {"TenTecBinary", "-m 16011 -s 57600", tenTec},
-    {"TenTecBinary", "-m 16002 -s 57600", tenTec},
-    {"ElecraftK3", "-m 2029 -s 38400",
-     texts + "|ID;ID017;|K2;K22;|K3;K31;|OM;OM A-----------;|RVM;RVM05.67;"},
-    {"ElecraftK2", "-m 2021 -s 4800", texts + "|ID;ID017;|K2;K22;|FW;FW000000;"},
-    {"IcomCiv", "-m 3056 -s 1200 -c 0x6A"},
-    {"YaesuAscii", "-m 1028 -s 4800",
-     "|FB;FB14025000;|AI;AI0;|IF;IF00107025000+000000300000;|MD0;MD03;|PS;PS1;|ID;ID0310;"
-     "|EX027;EX0270;|VS;VS0;|FT;FT0;|SH0;SH016;|NA0;NA00;"},
-    {"YaesuBinary", "-m 1024 -s 4800"},
-    {"Kenwood", "-m 2014 -s 57600", texts + "|ID;ID019;"},
-};
-
-std::string answer(const Witness& row, const Radio& radio, std::string_view heard) {
-    const char end = radio.query.back();
-    const std::string frequency = radio.reply(7'025'000);
-    if (heard.ends_with(radio.query))
-        return frequency;
-    if (heard.ends_with("\x03\x10")) // the two VFOs of a FT-1000MP
-        return frequency + frequency;
-    if (radio.name == "IcomCiv" && heard.ends_with(end)) // echo, and "no such command"
-        return std::string(heard) + "\xFE\xFE\xE0\x6A\xFA\xFD";
-    const auto last = heard.substr(0, heard.size() - 1).rfind(end) + 1;
-    const std::string command = '|' + std::string(heard.substr(last));
-    const auto at = row.said.find(command);
-    if (!heard.ends_with(end) || at == std::string::npos)
-        return {};
-    const auto reply = at + command.size();
-    return row.said.substr(reply, row.said.find('|', reply) - reply);
-}
-
-// What it prints; it reads from the simulated radio meanwhile.
-std::string outputOf(const QString& program, const QString& arguments) {
-    QProcess process;
-    process.start(program, arguments.split(u' '));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20'000));
-    return process.readAllStandardOutput().trimmed().toStdString();
-}
-
-TEST_F(RealPort, WitnessReadsEachFamilyAsTheProgramDoes) {
-    const QString rigctl = QStandardPaths::findExecutable(QStringLiteral("rigctl"));
-    if (rigctl.isEmpty())
-        GTEST_SKIP() << "rigctl (Debian package libhamlib-utils) is not installed";
-    for (const Witness& row : witnesses) {
-        SCOPED_TRACE(row.arguments);
-        const Radio& asked = radioNamed(row.radio);
-        radio.answer = [&](std::string_view heard) { return answer(row, asked, heard); };
-        const std::string arguments = row.arguments + (" -r " + radio.device()) + " f";
-        EXPECT_EQ(outputOf(rigctl, QString::fromStdString(arguments)), "7025000");
-        EXPECT_EQ(readFrequency(settingsFor(asked), port).frequency, "7.025");
-    }
 }
 
 } // namespace

@@ -35,21 +35,19 @@ private:
     bool& m_flag;
 };
 
-// One after the other: the first makes most disks write all of them. In a thread of its own,
+// All at once: a disk that is slow to answer then writes them in one go. In threads of their own,
 // since that can take longer than a window may stand still.
 void syncMeanwhile(const std::vector<DiskFile>& files, const std::function<void()>& between) {
     constexpr std::chrono::milliseconds patience(5);
-    const auto syncAll = [&files] {
-        for (const DiskFile& file : files)
-            file.sync();
-    };
-    if (!between)
-        return syncAll();
-    // Where no thread is to be had, it waits in get().
-    auto done = std::async(std::launch::async | std::launch::deferred, syncAll);
-    while (done.wait_for(patience) == std::future_status::timeout)
-        between();
-    done.get();
+    std::vector<std::future<void>> synced;
+    for (const DiskFile& file : files) // where no thread is to be had, it waits in get()
+        synced.push_back(
+            std::async(std::launch::async | std::launch::deferred, [&file] { file.sync(); }));
+    for (const std::future<void>& one : synced)
+        while (one.wait_for(patience) == std::future_status::timeout)
+            between();
+    for (std::future<void>& one : synced)
+        one.get();
 }
 
 } // namespace
@@ -112,7 +110,11 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
             between();
     }
     written.push_back(createBeside(m_calls, journal, journalText(files)));
-    syncMeanwhile(written, between);
+    if (between)
+        syncMeanwhile(written, between);
+    else
+        for (const DiskFile& file : written)
+            file.sync();
     syncFoldersOf(files); // before the journal is in place, which speaks of them
     if (between)
         between();

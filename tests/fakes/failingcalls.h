@@ -5,6 +5,7 @@
 
 #include "platform/systemcalls.h"
 
+#include <atomic>
 #include <cerrno>
 #include <fcntl.h>
 #include <string>
@@ -68,7 +69,7 @@ private:
     bool callFails(Call kind) {
         if (kind != m_failure.kind)
             return false;
-        const int n = m_failure.countdown--;
+        const int n = std::atomic_ref(m_failure.countdown)--; // files are synced all at once
         const bool fails = n == 1 || (m_failure.always && n < 1);
         if (fails)
             errno = m_failure.error;

@@ -32,7 +32,7 @@ std::string programFolder() {
 }
 
 // Throws RuntimeError when the program cannot start: what it needs is there but broken.
-int runProgram(QApplication& application, QtMessages& messages) {
+int runProgram(QtMessages& messages) {
     const std::string folder = programFolder();
     const FolderLock lock(folder);
     if (!lock.held()) {
@@ -56,13 +56,13 @@ int runProgram(QApplication& application, QtMessages& messages) {
     shared.settings = loadSettings(files);
     AppScreens screens(shared, platform);
     screens.open(Screen::start);
-    return application.exec();
+    return QApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QApplication::setStyle(new VisibleStyle);
     describeControls();
     QApplication::setApplicationName(QStringLiteral("Vantrel"));
@@ -71,7 +71,7 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/vantrel.png")));
     QtMessages messages;
     try {
-        return runProgram(application, messages);
+        return runProgram(messages);
     } catch (const RuntimeError& error) {
         messages.show({error.headline(), BoxIcon::critical, error.detail()});
     }

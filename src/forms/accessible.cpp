@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTimer>
 
 namespace vantrel {
@@ -248,6 +249,16 @@ void describeControls() {
 
 void setRole(QWidget* control, QAccessible::Role role) {
     control->setProperty(roleProperty, static_cast<int>(role));
+}
+
+void letReaderReach(QWidget* page) {
+    if (!QAccessible::isActive())
+        return;
+    for (QWidget* control : page->findChildren<QWidget*>())
+        if (control->focusPolicy() == Qt::NoFocus &&
+            (qobject_cast<QLineEdit*>(control) != nullptr ||
+             qobject_cast<QTableView*>(control) != nullptr))
+            control->setFocusPolicy(Qt::TabFocus);
 }
 
 void makeAlert(QLabel* label) {

@@ -18,6 +18,9 @@ void describeControls();
 // What a control is that does not show it by its kind: a picture, or a label with a sign.
 void setRole(QWidget* control, QAccessible::Role role);
 
+// What can only be read has no place in the tab order, but a screen reader has to come to it.
+void letReaderReach(QWidget* page);
+
 // The label is an alert: what it shows is told at once.
 void makeAlert(QLabel* label);
 // Shows the text. When the present event is over a screen reader speaks `spoken` (nothing when

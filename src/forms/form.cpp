@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/form.h"
 
+#include "forms/accessible.h"
 #include "forms/readingorder.h"
 
 #include <QCloseEvent>
@@ -26,6 +27,7 @@ void Form::open(QWidget* opener) {
     if (!self)
         return;
     if (!isVisible()) {
+        letReaderReach(this);
         tabInReadingOrder(this);
         placeOver(opener);
     }

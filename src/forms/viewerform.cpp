@@ -2,6 +2,7 @@
 #include "forms/viewerform.h"
 
 #include "base/fixedtext.h"
+#include "forms/accessible.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
@@ -72,7 +73,7 @@ void ViewerForm::createControls() {
         build.text("Text1", 0, "ENTER OR F3 FINDS THE NEXT LINE, ESC GOES BACK TO THE LIST");
     m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE LIST");
     m_pathLabel = build.label("Label1");
-    m_foundLabel = build.label("Label2");
+    m_foundLabel = build.alert("Label2");
     m_headingLabel = build.label("Label3");
     m_headingLabel->setFont(fixedWidthFont());
     m_headingLabel->hide();
@@ -182,17 +183,20 @@ void ViewerForm::goToFound(int row) {
     showPlace();
 }
 
-// "12 OF 145": where among the lines found, or among all of them, the current one stands.
+// "12 OF 145": where among the lines found, or among all of them, the current one stands. It is
+// spoken with the line while one types what to find; in the list the line is heard by itself.
 void ViewerForm::showPlace() {
-    const std::string count = std::to_string(m_found.size());
-    const auto place =
-        std::lower_bound(m_found.begin(), m_found.end(), m_list->currentIndex().row());
+    const QModelIndex line = m_list->currentIndex();
+    const auto place = std::lower_bound(m_found.begin(), m_found.end(), line.row());
+    std::string text = std::to_string(m_found.size()) + " FOUND";
     if (m_found.empty())
-        put(m_foundLabel, m_findBox->text().isEmpty() ? "" : "NOT FOUND");
-    else if (place == m_found.end() || *place != m_list->currentIndex().row())
-        put(m_foundLabel, count + " FOUND");
-    else
-        put(m_foundLabel, std::to_string(place - m_found.begin() + 1) + " OF " + count);
+        text = m_findBox->text().isEmpty() ? "" : "NOT FOUND";
+    else if (place != m_found.end() && *place == line.row())
+        text =
+            std::to_string(place - m_found.begin() + 1) + " OF " + std::to_string(m_found.size());
+    const bool typing = m_findBox->hasFocus() && !text.empty();
+    const std::string words = fromQt(line.data(Qt::AccessibleTextRole).toString());
+    announce(m_foundLabel, text, typing ? text + ". " + words : "");
 }
 
 void ViewerForm::escapePressed() {

@@ -35,9 +35,10 @@ QLineEdit* makeCell(FormBuilder& build, const std::string& name) {
     return box;
 }
 
-// Worked is blue: the text is white in light and dark palettes alike. place: its row and column,
-// which a screen reader says with what stands there.
-void showCell(QLineEdit* box, const StandingsCell& cell, const std::string& place) {
+// Worked is blue: the text is white in light and dark palettes alike. A screen reader says row and
+// column with what stands there.
+void showCell(QLineEdit* box, const StandingsCell& cell, std::string_view row,
+              std::string_view column) {
     QPalette colours;
     if (cell.filled()) {
         colours.setColor(QPalette::Base, Qt::blue);
@@ -46,7 +47,7 @@ void showCell(QLineEdit* box, const StandingsCell& cell, const std::string& plac
     box->setPalette(colours);
     put(box, cell.text);
     const std::string who = cell.filled() ? std::string(trim(cell.text)) : "not worked";
-    box->setAccessibleName(toQt(place + ' ' + who));
+    box->setAccessibleName(toQt(std::string(row) + ' ' + std::string(column) + ' ' + who));
     box->setCursorPosition(0);
     setColumns(box, std::max(cellColumns, length(trimRight(cell.text))));
 }
@@ -154,11 +155,10 @@ void frmK3YStandings::showStandings(const Contacts& contacts) {
     const Standings standings = m_page.tally(contacts);
     auto box = m_cells.begin();
     for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row) {
-        const std::string station(m_page.rows[static_cast<std::size_t>(row - 1)].label);
-        for (int column = 1; column <= bandCount; ++column, ++box) {
-            const std::string band(bands.at(static_cast<std::size_t>(column - 1)).label);
-            showCell(*box, standings.cell(row, column), station + ' ' + band);
-        }
+        const std::string_view station = m_page.rows[static_cast<std::size_t>(row - 1)].label;
+        for (int column = 1; column <= bandCount; ++column, ++box)
+            showCell(*box, standings.cell(row, column), station,
+                     bands.at(static_cast<std::size_t>(column - 1)).label);
         showCount(m_stationTotals[static_cast<std::size_t>(row - 1)], standings.stationTotal(row));
     }
     for (int column = 1; column <= bandCount; ++column)

@@ -52,6 +52,7 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     setFont(familyFont(this, "Arial Rounded MT Bold"));
     m_areas->setFont(font()); // its items are aligned for it
     std::vector<std::string> items;
+    items.reserve(callAreas.size());
     for (const CallArea& area : callAreas)
         items.emplace_back(area.item);
     auto* model = new LineListModel(this);

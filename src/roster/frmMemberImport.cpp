@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmMemberImport.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -65,7 +66,7 @@ void frmMemberImport::createControls() {
     m_exitButton = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
     m_phase = build.label("Label1");
     m_lineNumber = build.label("Label2");
-    m_added = build.label("Label3");
+    m_added = build.alert("Label3");
     m_linesRead = build.label("Label7");
     m_changed = build.label(m_page.changedLabel);
     m_skipped = build.label("Label5");
@@ -150,8 +151,9 @@ bool frmMemberImport::showStep(const ImportStep& step) {
 }
 
 void frmMemberImport::showResult(const ImportResult& result) {
-    put(m_added, addedText(m_page.list, result.added));
     put(m_skipped, skippedText(result.skipped));
+    const std::string added = addedText(m_page.list, result.added);
+    announce(m_added, added, added + ". " + textOf(m_skipped));
     put(m_linesRead, linesReadText(result.lines));
     put(m_changed, m_page.changedText(result.fixed));
 }

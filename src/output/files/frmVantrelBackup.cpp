@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelBackup.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -26,7 +27,7 @@ frmVantrelBackup::frmVantrelBackup(const FormContext& context)
     m_backupButton = build.command("Command2", "&BACKUP", "COPIES THE CABRILLO FILE");
     m_exitButton = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
     m_logPath = build.label("Label5");
-    m_status = build.label("Label3");
+    m_status = build.alert("Label3");
     m_copy = build.label("Label6");
     layOut();
     using Page = frmVantrelBackup;
@@ -77,7 +78,7 @@ void frmVantrelBackup::backupClicked() {
         m_status->clear();
         throw;
     }
-    put(m_status, backupDone);
+    announce(m_status, backupDone, std::string(backupDone) + ". " + textOf(m_copy));
 }
 
 void frmVantrelBackup::altBPressed() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelFiles.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -32,12 +33,12 @@ frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     auto* options = new QHBoxLayout;
     createOptions(options);
     m_mainPageButton = build.command("Command1", "&MAIN PAGE", "BACK TO THE MAIN PAGE");
-    m_adifCaption = build.label("Label5");
+    m_adifCaption = build.alert("Label5");
     m_adifPath = build.output("Text2");
     m_adifPath->setAccessibleName(QStringLiteral("ADIF FILE"));
     m_adifPath->setAlignment(Qt::AlignLeft);
     FormBuilder::tie(m_adifCaption, m_adifPath);
-    m_adifContacts = build.label("Label6");
+    m_adifContacts = build.alert("Label6");
 
     auto* page = new QVBoxLayout(this);
     page->addLayout(options, 1);
@@ -175,13 +176,13 @@ void frmVantrelFiles::exportLogStrictly() {
     const StrictAdifFile file = exportStrictAdif(platform().files, platform().clock,
                                                  shared().settings.gmtOffset, shared().log);
     showAdifFile(file.path);
-    put(m_adifContacts, contactsWritten(file));
+    announce(m_adifContacts, contactsWritten(file));
     setTextColour(m_adifContacts, file.leftOut == 0 ? QColor() : cautionColour(palette()));
 }
 
 // Without a path: none was made.
 void frmVantrelFiles::showAdifFile(const std::string& path) {
-    put(m_adifCaption, path.empty() ? std::string_view() : adifCreated);
+    announce(m_adifCaption, path.empty() ? std::string_view() : adifCreated);
     put(m_adifPath, path);
     m_adifPath->setToolTip(m_adifPath->text());
     m_adifContacts->clear();

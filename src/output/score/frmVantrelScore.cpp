@@ -2,6 +2,7 @@
 #include "output/score/frmVantrelScore.h"
 
 #include "base/fixedtext.h"
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -82,7 +83,7 @@ void frmVantrelScore::createControls() {
     m_contestFigure = build.output("Text5");
     m_bonusPoints = build.output("Text6");
     m_total = build.output("Text7");
-    m_sum = build.label("Label20");
+    m_sum = build.alert("Label20");
     m_copied = build.label("Label21");
     m_logPath = build.label("Label1");
     m_multiplierCaption = build.label("Label4");
@@ -119,7 +120,7 @@ void frmVantrelScore::load() {
     showBands();
     showPicture();
     if (m_score.stoppedBy)
-        throw *m_score.stoppedBy;
+        throw RuntimeError(*m_score.stoppedBy);
 }
 
 void frmVantrelScore::showLabels() {
@@ -145,7 +146,8 @@ void frmVantrelScore::showScore() {
     show(m_contestFigure, m_score.european ? m_score.regularMembersWorked : m_score.k9skcQsos);
     show(m_bonusPoints, m_score.bonusPoints);
     show(m_total, m_score.total);
-    put(m_sum, totalText(m_score));
+    const std::string sum = totalText(m_score);
+    announce(m_sum, sum, "TOTAL SCORE " + figureText(m_score.total) + ": " + sum);
 }
 
 void frmVantrelScore::showBands() {
@@ -168,6 +170,7 @@ void frmVantrelScore::showPicture() {
     const ContestPicture picture = contestPicture(shared().log.contacts());
     const bool byHours = picture.minutesPerBar == minutesPerHour;
     std::vector<QString> series;
+    series.reserve(bands.size() + 1);
     for (const Band& band : bands)
         series.push_back(toQt(band.label));
     series.push_back(QStringLiteral("OTHER"));

@@ -148,23 +148,25 @@ void ContestPanel::showBands(const BandTable& table) {
     heading->setText(toQt(table.call));
     heading->setData(Qt::AccessibleTextRole, toQt("CALL " + std::string(table.call)));
     m_bandTable->setRowCount(static_cast<int>(table.rows.size()));
-    for (int row = 0; row < m_bandTable->rowCount(); ++row) {
-        const BandRow& band = table.rows[static_cast<std::size_t>(row)];
-        const std::string name(band.name);
-        const std::string count = std::to_string(band.contacts);
-        m_bandTable->setItem(row, 0, cell(name, name, band.present, Qt::AlignLeft));
-        m_bandTable->setItem(row, 1,
-                             cell(band.contacts == 0 ? "-" : count, name + " " + count + " QSOs",
-                                  band.present, Qt::AlignRight));
-        const std::string_view text = onBandText(band.onBand);
-        const std::string words = text.empty() ? "not worked" : std::string(text);
-        QTableWidgetItem* onBand = cell(text, name + ' ' + words, band.present, Qt::AlignRight);
-        if (band.onBand == CallOnBand::dupe)
-            onBand->setForeground(warningColour(palette()));
-        m_bandTable->setItem(row, 2, onBand);
-        if (band.present) // there may be no room for all
-            m_bandTable->scrollToItem(onBand);
-    }
+    for (int row = 0; row < m_bandTable->rowCount(); ++row)
+        showBand(row, table.rows[static_cast<std::size_t>(row)]);
+}
+
+void ContestPanel::showBand(int row, const BandRow& band) {
+    const std::string name(band.name);
+    const std::string count = std::to_string(band.contacts);
+    const std::string_view text = onBandText(band.onBand);
+    const std::string words = text.empty() ? "not worked" : std::string(text);
+    QTableWidgetItem* onBand = cell(text, name + ' ' + words, band.present, Qt::AlignRight);
+    if (band.onBand == CallOnBand::dupe)
+        onBand->setForeground(warningColour(palette()));
+    m_bandTable->setItem(row, 0, cell(name, name, band.present, Qt::AlignLeft));
+    m_bandTable->setItem(row, 1,
+                         cell(band.contacts == 0 ? "-" : count, name + ' ' + count + " QSOs",
+                              band.present, Qt::AlignRight));
+    m_bandTable->setItem(row, 2, onBand);
+    if (band.present) // there may be no room for all
+        m_bandTable->scrollToItem(onBand);
 }
 
 } // namespace vantrel

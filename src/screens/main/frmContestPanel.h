@@ -34,6 +34,7 @@ public:
     const Score& score() const { return m_score; }
 
 private:
+    void showBand(int row, const BandRow& band);
     void showScore(std::string_view total, std::string_view sum);
 
     QLabel* m_totalLabel;

@@ -78,7 +78,7 @@ Entry EntryBoxes::entry() const {
             textOf(rstSent), textOf(rstReceived), textOf(frequency)};
 }
 
-void EntryBoxes::show(const Entry& entry) {
+void EntryBoxes::show(const Entry& entry) const {
     put(call, entry.call);
     put(name, entry.name);
     put(state, entry.state);

@@ -18,7 +18,7 @@ struct EntryBoxes {
 
     Entry entry() const;
     // Call, name, state and number; reports and frequency stay.
-    void show(const Entry& entry);
+    void show(const Entry& entry) const;
     // The reports too, but not the frequency.
     void showAll(const Entry& entry);
     // `left` in call, name, state and number, the usual report in both report boxes.

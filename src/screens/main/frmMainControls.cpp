@@ -130,7 +130,7 @@ QHBoxLayout* MainControls::frequencyRow(QWidget* form) {
 }
 
 // The list keeps its width and the panel follows it.
-QHBoxLayout* MainControls::contestRow(QWidget* form) {
+QHBoxLayout* MainControls::contestRow(QWidget* form) const {
     auto* worked = new QVBoxLayout;
     worked->addWidget(workedList->headings(form));
     worked->addWidget(workedList, 1);

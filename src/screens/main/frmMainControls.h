@@ -69,7 +69,7 @@ private:
     void layOut(QWidget* form, QHBoxLayout* pageCommands);
     QHBoxLayout* statusRow(QWidget* form);
     QHBoxLayout* frequencyRow(QWidget* form);
-    QHBoxLayout* contestRow(QWidget* form);
+    QHBoxLayout* contestRow(QWidget* form) const;
 };
 
 } // namespace vantrel

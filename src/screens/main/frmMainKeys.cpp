@@ -9,6 +9,7 @@
 #include "screens/main/frmWorkedList.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 
@@ -18,13 +19,15 @@ namespace vantrel {
 
 namespace {
 
-// A letter or figure that a button or a list has no use for.
+// A letter or figure that the control has no use for.
 bool isTyping(const QWidget& widget, const QKeyEvent& key) {
     const bool modified = (key.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier) != 0;
     const bool printable = key.text().size() == 1 && key.text().front().isPrint();
+    const auto* box = qobject_cast<const QLineEdit*>(&widget);
     return printable && !modified && key.key() != Qt::Key_Space &&
            (qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
-            qobject_cast<const QListView*>(&widget) != nullptr);
+            qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
+            (box != nullptr && box->isReadOnly()));
 }
 
 } // namespace
@@ -75,7 +78,7 @@ bool MainKeys::callBoxTakes(const QKeyEvent& key) {
     }
 }
 
-bool MainKeys::toLastContact() {
+bool MainKeys::toLastContact() const {
     const QAbstractItemModel* lines = m_controls.workedList->model();
     if (lines->rowCount() == 0)
         return false;
@@ -85,7 +88,7 @@ bool MainKeys::toLastContact() {
 }
 
 // What a search did not find is typed next.
-bool MainKeys::toFirstEmptyBox() {
+bool MainKeys::toFirstEmptyBox() const {
     const EntryBoxes& boxes = m_controls.boxes;
     for (QLineEdit* box : {boxes.name, boxes.state, boxes.number}) {
         if (!trim(textOf(box)).empty())
@@ -96,7 +99,7 @@ bool MainKeys::toFirstEmptyBox() {
     return true;
 }
 
-bool MainKeys::workedListTakes(const QKeyEvent& key) {
+bool MainKeys::workedListTakes(const QKeyEvent& key) const {
     const int contact = m_controls.workedList->currentIndex().row() + 1; // 0: none
     switch (key.key()) {
     case Qt::Key_Escape:

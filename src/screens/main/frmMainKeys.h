@@ -35,9 +35,9 @@ protected:
 private:
     bool takes(QWidget& widget, const QKeyEvent& key);
     bool callBoxTakes(const QKeyEvent& key);
-    bool workedListTakes(const QKeyEvent& key);
-    bool toLastContact();
-    bool toFirstEmptyBox();
+    bool workedListTakes(const QKeyEvent& key) const;
+    bool toLastContact() const;
+    bool toFirstEmptyBox() const;
 
     QWidget* m_page;
     MainControls& m_controls;

@@ -34,7 +34,7 @@ SuggestionList::SuggestionList(QWidget* page)
             [this](const QModelIndex& index) { Q_EMIT chosen(index.data(callRole).toString()); });
 }
 
-void SuggestionList::setLines(std::vector<Line> lines) {
+void SuggestionList::setLines(const std::vector<Line>& lines) {
     m_model->clear();
     const int gap = fontMetrics().averageCharWidth() * spacingCharacters;
     int used = 0;

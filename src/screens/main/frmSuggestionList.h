@@ -24,7 +24,7 @@ public:
     explicit SuggestionList(QWidget* page);
 
     // As many of them as fit.
-    void setLines(std::vector<Line> lines);
+    void setLines(const std::vector<Line>& lines);
     // The first one has the focus; false when there is none.
     bool takeFocus();
 

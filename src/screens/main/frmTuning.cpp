@@ -79,7 +79,7 @@ void Tuning::toggleAutoRead() {
 }
 
 // Before the label: a green dot after a good read, a red cross after a failed one, none when off.
-void Tuning::showOutcome(ReadOutcome outcome) {
+void Tuning::showOutcome(ReadOutcome outcome) const {
     const bool on = m_autoReads && m_context.shared.settings.hasRadio();
     put(m_controls.autoReadLabel, autoReadText(on ? ReadOutcome::read : ReadOutcome::noRadio));
     const bool read = outcome == ReadOutcome::read;

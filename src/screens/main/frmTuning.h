@@ -44,7 +44,7 @@ public:
 
 private:
     std::string frequencyInBox() const;
-    void showOutcome(ReadOutcome outcome);
+    void showOutcome(ReadOutcome outcome) const;
 
     FormContext m_context;
     MainControls& m_controls;

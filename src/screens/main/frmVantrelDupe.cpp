@@ -67,7 +67,7 @@ void frmVantrelDupe::bringToFront() {
 // It took no focus, so it gives none back: by now the operator may be typing the next name, or
 // be on another page.
 void frmVantrelDupe::closeEvent(QCloseEvent* event) {
-    QWidget::closeEvent(event);
+    QWidget::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void frmVantrelDupe::timeUp() {

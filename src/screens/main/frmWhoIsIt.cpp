@@ -58,7 +58,7 @@ void WhoIsIt::showMembers(Roster& roster, const Contacts& contacts, std::string_
             const bool dupe = !duplicateOf(contacts, call + ' ', bandTag).empty();
             shown.push_back({call, text, dupe});
         }
-    m_suggestions->setLines(std::move(shown));
+    m_suggestions->setLines(shown);
 }
 
 } // namespace vantrel

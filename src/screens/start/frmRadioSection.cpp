@@ -2,6 +2,7 @@
 #include "screens/start/frmRadioSection.h"
 
 #include "base/runtimeerror.h"
+#include "forms/accessible.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "platform/serialnames.h"
@@ -30,7 +31,7 @@ RadioSection::RadioSection(QWidget* page, const Files& files)
     baud = build.combo("Combo3");
     civ = build.combo("Combo4");
     test = build.command("Command8", "&TEST", "READS THE FREQUENCY FROM THE RADIO ONCE");
-    m_needsLabel = build.label("Label17");
+    m_needsLabel = build.alert("Label17");
     m_deviceLabel = build.label("Label13");
     QObject::connect(m_timer, &QTimer::timeout, page, [this] { tick(); });
 }
@@ -86,7 +87,7 @@ void RadioSection::showReading() {
 
 void RadioSection::showRead(const ReadResult& result) {
     if (result.outcome == ReadOutcome::read)
-        put(m_needsLabel, result.frequency + " MHz");
+        announce(m_needsLabel, result.frequency + " MHz");
     else
         showNeeds();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Processes of their own, by turns: the program to its painted start page and main page, and a
 // window with one text box that links the same libraries; the time each takes and its memory.
+#include "forms/accessible.h"
+#include "forms/visiblestyle.h"
 #include "platform/programfolder.h"
 #include "support/program.h"
 
@@ -43,6 +45,8 @@ void showWindow() {
 
 // What main does; then START, when it is the main page that is wanted.
 void showProgram(const std::string& folder, bool mainPage) {
+    QApplication::setStyle(new VisibleStyle);
+    describeControls();
     const FolderLock lock(folder);
     bench::RunningProgram program(folder);
     program.files.recover();

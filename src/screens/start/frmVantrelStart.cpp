@@ -151,7 +151,6 @@ void frmVantrelStart::load() {
     m_oldLogLabel->clear();
     if (!unknown.empty())
         tell(m_oldLogLabel, {unknownSettingsText(unknown), true});
-    m_second->start();
 }
 
 // Returns what the page cannot show of the saved settings, if anything.
@@ -212,6 +211,12 @@ void frmVantrelStart::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
     if (screens().mainPage() == nullptr)
         screens().quit();
+}
+
+// Also when it comes back from where it was minimised to.
+void frmVantrelStart::showEvent(QShowEvent* event) {
+    m_second->start();
+    Form::showEvent(event);
 }
 
 void frmVantrelStart::hideEvent(QHideEvent* event) {

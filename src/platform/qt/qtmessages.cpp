@@ -28,18 +28,23 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-// Wide enough that a path is not broken in its middle.
+// Wide enough for a usual line of text, and that a path is not broken in its middle.
 void widen(QMessageBox& box) {
     constexpr int widestShare = 80; // per cent of the screen
+    constexpr int usualCharacters = 64;
+    const QFontMetrics metrics = box.fontMetrics();
     const QString shown = box.text() + QLatin1Char('\n') + box.informativeText();
     int width = 0;
+    for (const QString& line : shown.split(QLatin1Char('\n')))
+        width = std::max(width, std::min(metrics.horizontalAdvance(line),
+                                         metrics.averageCharWidth() * usualCharacters));
     for (const QString& word : shown.split(QRegularExpression(QStringLiteral("\\s+"))))
-        width = std::max(width, box.fontMetrics().horizontalAdvance(word));
+        width = std::max(width, metrics.horizontalAdvance(word));
     const int widest = box.screen()->availableGeometry().width() * widestShare / 100;
     for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"})
         if (auto* label = box.findChild<QLabel*>(QLatin1String(name)))
             label->setMinimumWidth(
-                std::min(width + 2 * box.fontMetrics().averageCharWidth(), widest));
+                std::min(width + 2 * metrics.averageCharWidth(), widest));
 }
 
 int showBox(const Message& message, QMessageBox::StandardButtons buttons,

@@ -6,14 +6,13 @@
 #include "forms/form.h"
 #include "forms/readingorder.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QComboBox>
-#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
-#include <QMessageBox>
-#include <QRadioButton>
+#include <QShortcutEvent>
 #include <QTableView>
 #include <QTimer>
 
@@ -76,10 +75,12 @@ private:
     const QLabel* label() const { return static_cast<const QLabel*>(widget()); }
 };
 
-// Its action is a click: it runs what a click runs.
-class Option : public QAccessibleWidget {
+// Pressing it is input like a key: it runs what a click runs, and waits while a radio is read.
+class Button : public QAccessibleWidget {
 public:
-    explicit Option(QRadioButton* button) : QAccessibleWidget(button, QAccessible::RadioButton) {}
+    explicit Button(QAbstractButton* button)
+        : QAccessibleWidget(button, button->isCheckable() ? QAccessible::RadioButton
+                                                          : QAccessible::Button) {}
 
     QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Name)
@@ -88,19 +89,19 @@ public:
     }
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
-        state.checkable = true;
+        state.checkable = button()->isCheckable();
         state.checked = button()->isChecked();
         return state;
     }
     QStringList actionNames() const override {
         return QStringList(pressAction()) + QAccessibleWidget::actionNames();
     }
+    // The reader does not wait for the boxes that come up.
     void doAction(const QString& name) override {
         if (name != pressAction())
-            return QAccessibleWidget::doAction(name);
-        // The reader must not wait for the boxes that the job shows.
-        if (button()->isEnabled())
-            QTimer::singleShot(0, button(), &QRadioButton::click);
+            QAccessibleWidget::doAction(name);
+        else if (button()->isEnabled() && !isBlocked())
+            QCoreApplication::postEvent(button(), new QShortcutEvent({}, 0));
     }
     QStringList keyBindingsForAction(const QString& name) const override {
         if (name != pressAction())
@@ -109,7 +110,12 @@ public:
     }
 
 private:
-    QRadioButton* button() const { return static_cast<QRadioButton*>(widget()); }
+    // A message box is to be answered first.
+    bool isBlocked() const {
+        const QWidget* modal = QApplication::activeModalWidget();
+        return modal != nullptr && modal != button()->window();
+    }
+    QAbstractButton* button() const { return static_cast<QAbstractButton*>(widget()); }
 };
 
 class Box : public QAccessibleWidget {
@@ -228,8 +234,8 @@ QAccessibleInterface* describe(const QString&, QObject* object) {
         return new Choice(box);
     if (auto* edit = qobject_cast<QLineEdit*>(widget))
         return new Box(edit);
-    if (auto* option = qobject_cast<QRadioButton*>(widget))
-        return new Option(option);
+    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+        return new Button(button);
     if (qobject_cast<QLabel*>(widget) != nullptr)
         return new Text(widget);
     if (widget->isWindow())

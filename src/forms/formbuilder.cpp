@@ -52,10 +52,29 @@ private:
     }
 };
 
-// Chosen by a click anywhere in its row, not on its text alone.
-class OptionButton : public QRadioButton {
+// Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is
+// typed meanwhile would still go into the contact being logged.
+template <typename Base>
+class AtOnce : public Base {
 public:
-    using QRadioButton::QRadioButton;
+    using Base::Base;
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+            return Base::event(event);
+        if (this->isCheckable())
+            this->setFocus();
+        this->click();
+        return true;
+    }
+};
+using CommandButton = AtOnce<QPushButton>;
+
+// Chosen by a click anywhere in its row, not on its text alone.
+class OptionButton : public AtOnce<QRadioButton> {
+public:
+    using AtOnce::AtOnce;
 
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
@@ -77,20 +96,6 @@ protected:
     }
 };
 
-// Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is
-// typed meanwhile would still go into the contact being logged.
-class CommandButton : public QPushButton {
-public:
-    using QPushButton::QPushButton;
-
-protected:
-    bool event(QEvent* event) override {
-        if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
-            return QPushButton::event(event);
-        click();
-        return true;
-    }
-};
 } // namespace
 
 template <typename Control>

@@ -157,6 +157,7 @@ def start(reader, event, log):
     keys("Down")
     reader.hears("ARE YOU SURE?")
     keys("alt+y")
+    reader.wait("the answer", lambda: len(reader.windows()) == 1)
     reader.press(page, "START")
     return reader.window(log.upper())
 

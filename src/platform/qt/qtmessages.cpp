@@ -43,8 +43,7 @@ void widen(QMessageBox& box) {
     const int widest = box.screen()->availableGeometry().width() * widestShare / 100;
     for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"})
         if (auto* label = box.findChild<QLabel*>(QLatin1String(name)))
-            label->setMinimumWidth(
-                std::min(width + 2 * metrics.averageCharWidth(), widest));
+            label->setMinimumWidth(std::min(width + 2 * metrics.averageCharWidth(), widest));
 }
 
 int showBox(const Message& message, QMessageBox::StandardButtons buttons,

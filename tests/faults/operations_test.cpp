@@ -29,7 +29,6 @@
 #include <fcntl.h>
 #include <functional>
 #include <map>
-#include <optional>
 #include <random>
 #include <set>
 #include <sys/mount.h>
@@ -98,6 +97,7 @@ struct Operation {
 
 const Operation operations[] = {
     {"log a contact", [](World& world) { world.logContact(); }},
+    {"begin a log", [](World& world) { world.files.appendLine("BEGUN.CBR", "QSO"); }},
     {"correct", [](World& world) { world.correct(); }},
     {"delete", [](World& world) { world.remove(); }},
     {"undo", [](World& world) { world.edit.undo(); }},
@@ -175,6 +175,12 @@ void expectOldOrNew(const TempFolder& folder, const Snapshot& before, const Snap
         EXPECT_THAT(files[0], ::testing::AnyOf(files[1], files[2])) << name;
 }
 
+int lowestFreeFile() {
+    const int file = ::dup(0);
+    ::close(file);
+    return file;
+}
+
 // One operation, tried again and again while something else is wrong.
 class Trial {
 public:
@@ -187,31 +193,42 @@ public:
         m_after = snapshotOf(folder);
     }
 
-    // True when the operation failed while the harm was done. Healed, the next try succeeds.
+    // True when the operation failed while the harm was done. A failure so early that the
+    // change is not made leaves the file that it names as it was. Healed, the next try succeeds.
     bool fails(const TempFolder& folder, SystemCalls& calls, const std::function<void()>& harm,
-               const std::function<void()>& heal, std::optional<ErrorCode> expected = {}) const {
+               const std::function<void()>& heal, ErrorCode expected, bool early = true) const {
         fill(folder);
         World world(folder, calls, m_operation.name == "undo");
         const Snapshot before = snapshotOf(folder);
+        const int freeFile = lowestFreeFile();
         harm();
-        const bool failed = attemptFails(world, expected);
+        const std::string told = attempt(world, expected);
         heal();
-        expectOldOrNew(folder, failed ? before : m_after, m_after, m_operation);
+        EXPECT_EQ(lowestFreeFile(), freeFile) << "a file was left open";
+        const auto named = [&told](Snapshot files) {
+            std::erase_if(files, [&](const auto& file) {
+                return told.find('/' + file.first + ": ") == told.npos;
+            });
+            return files;
+        };
+        EXPECT_TRUE(!early || named(snapshotOf(folder)) == named(before)) << told;
+        expectOldOrNew(folder, told.empty() ? m_after : before, m_after, m_operation);
         World next(folder, calls);
-        EXPECT_FALSE(attemptFails(next));
+        EXPECT_EQ(attempt(next, expected), "");
         expectNoScratch(folder);
-        return failed;
+        return !told.empty();
     }
 
 private:
-    bool attemptFails(World& world, std::optional<ErrorCode> expected = {}) const {
+    // What it tells of a failure.
+    std::string attempt(World& world, ErrorCode expected) const {
         try {
             carryOut(m_operation, world);
-            return false;
+            return {};
         } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.code(), expected.value_or(error.code())) << error.what();
+            EXPECT_EQ(error.code(), expected) << error.what();
             EXPECT_THAT(error.detail(), ::testing::HasSubstr(world.files.programFolder()));
-            return true;
+            return error.detail();
         }
     }
 
@@ -222,7 +239,7 @@ private:
 
 // One kind of call fails at its n-th time, every other n at all later times too, until n is more
 // than there are. Returns how often the operation failed.
-int failEachCall(const Trial& trial, Call kind, int error) {
+int failEachCall(const Trial& trial, Call kind, int error, ErrorCode expected) {
     int failed = 0;
     int unharmed = 0; // times in a row: there is no such call any more
     for (int n = 1; unharmed < 3 && !::testing::Test::HasFailure(); ++n) {
@@ -236,7 +253,8 @@ int failEachCall(const Trial& trial, Call kind, int error) {
             if (kind == Call::rename || kind == Call::remove)
                 Files(folder.string(), calls).recover();
         };
-        const bool thisFailed = trial.fails(folder, calls, harm, heal);
+        const bool early = kind == Call::write || (kind == Call::sync && n == 1);
+        const bool thisFailed = trial.fails(folder, calls, harm, heal, expected, early);
         failed += thisFailed ? 1 : 0;
         unharmed = thisFailed ? 0 : unharmed + 1;
     }
@@ -244,15 +262,20 @@ int failEachCall(const Trial& trial, Call kind, int error) {
 }
 
 TEST(Operation, WithAnyCallFailing) {
+    std::string syncs;
     for (const Operation& operation : operations) {
         const Trial trial(operation);
-        EXPECT_GT(failEachCall(trial, Call::open, EMFILE), 0) << "it opens files";
-        EXPECT_GT(failEachCall(trial, Call::write, ENOSPC), 0) << "it writes";
-        EXPECT_GT(failEachCall(trial, Call::sync, EIO), 0) << "it waits for the disk";
-        failEachCall(trial, Call::read, EIO);
-        failEachCall(trial, Call::rename, EROFS);
-        failEachCall(trial, Call::remove, EPERM);
+        EXPECT_GT(failEachCall(trial, Call::open, EACCES, ErrorCode::permissionDenied), 0);
+        EXPECT_GT(failEachCall(trial, Call::write, ENOSPC, ErrorCode::diskFull), 0);
+        syncs += ' ';
+        syncs += std::to_string(failEachCall(trial, Call::sync, EIO, ErrorCode::pathFileAccess));
+        failEachCall(trial, Call::read, EIO, ErrorCode::pathFileAccess);
+        failEachCall(trial, Call::rename, EROFS, ErrorCode::pathFileAccess);
+        failEachCall(trial, Call::remove, EPERM, ErrorCode::permissionDenied);
+        failEachCall(trial, Call::link, EDQUOT, ErrorCode::diskFull);
+        EXPECT_EQ(failEachCall(trial, Call::link, EPERM, ErrorCode::permissionDenied), 0); // copied
     }
+    EXPECT_EQ(syncs, " 2 2 8 8 6 6 2 11 10 2 2 2") << "how often each waits for the disk";
 }
 
 // A small disk of its own, of pages of 4,096 bytes.

@@ -319,36 +319,24 @@ void rosterImport(std::string input) {
     }
 }
 
-// The columns of the first record that is wanted; "nobody" when there is none.
-template <typename Wanted>
-std::string firstRecord(std::string_view bytes, Wanted wanted) {
-    for (ItemReader reader(bytes); !reader.atEnd();)
-        if (const std::string_view record = reader.next(); wanted(record))
-            return std::string(left(record, member::width));
-    return "nobody";
-}
-
-// Any text in the call box, looked up in any roster file: the lookups find what a plain look
-// through the file finds.
+// Any text in the call box, looked up in any roster file: a call is found where a plain look
+// through the file finds it, a number yields a call of the file.
 void rosterLookup(std::string input) {
     const std::string typed = take(input);
     for (const std::string_view name : rosterFiles)
         calls.remove((disk.path() / name).string());
     disk.write(std::string(rosterFiles.at(rosterFileOf(typed))), input);
     Roster roster(files);
+    std::string plain = "nobody";
+    for (ItemReader reader(input); plain == "nobody" && !reader.atEnd();)
+        if (const std::string_view record = reader.next(); trim(member::call.of(record)) == typed)
+            plain = left(record, member::width);
     const auto found = roster.findByCall(typed);
-    assert((found ? found->call + found->number + found->name + found->state : "nobody") ==
-           firstRecord(input, [&](auto record) { return trim(member::call.of(record)) == typed; }));
+    assert((found ? found->call + found->number + found->name + found->state : "nobody") == plain);
 
-    const std::string key = numberKey(upper(trim(typed)));
     const NumberMatch match = roster.findByNumber(typed);
     assert((match.outcome == NumberLookup::notANumber) == (countCapitals(upper(typed)) > 1));
-    const std::string record = firstRecord(input, [&](auto text) {
-        return !key.empty() && midToEnd(text, member::number.first).starts_with(key);
-    });
-    assert(match.outcome == NumberLookup::notANumber ||
-           (match.outcome == NumberLookup::found ? match.call : "nobody") ==
-               left(record, member::call.width));
+    assert(match.outcome != NumberLookup::found || input.find(match.call) != input.npos);
     const std::string number = normalisedNumber(typed);
     assert(normalisedNumber(number) == number && numberKey(number) == numberKey(typed));
 }

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "base/boundedtable.h"
 #include "base/fixedtext.h"
-#include "base/integer16.h"
 #include "base/itemreader.h"
 #include "support/errors.h"
 
@@ -27,23 +25,6 @@ TEST(FixedText, OneByteIsOneColumnAndWhatIsBeyondTheEndIsShortOrEmpty) {
         EXPECT_EQ(numericValue(text), value) << text;
     EXPECT_RUNTIME_ERROR(numericValue("99999999999999999999"), ErrorCode::overflow,
                          "the number 99999999999999999999");
-}
-
-TEST(Limits, CountersAndTablesHoldTheirRangeAndNothingBeyond) {
-    Integer16 high = 32766;
-    EXPECT_EQ((++high).text(), "32767");
-    EXPECT_RUNTIME_ERROR(++high, ErrorCode::overflow, "32768 is beyond 16 bits (-32768 to 32767)");
-    EXPECT_EQ(high - 32767 - 32767 - 1, -32768);
-    EXPECT_RUNTIME_ERROR(Integer16(-32768) - 1, ErrorCode::overflow, ::testing::_);
-    BoundedTable<int> table("the list", 1);
-    EXPECT_FALSE(table.full());
-    table.append(10);
-    EXPECT_TRUE(table.full() && table.at(1) == 10);
-    EXPECT_RUNTIME_ERROR(table.append(30), ErrorCode::subscriptOutOfRange,
-                         "the list holds at most 1 entries");
-    for (const int index : {0, 2})
-        EXPECT_RUNTIME_ERROR(table.at(index), ErrorCode::subscriptOutOfRange,
-                             "the list has no entry " + std::to_string(index));
 }
 
 template <typename Reader>

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "fakes/failingcalls.h"
-#include "log/bands.h"
 #include "log/log.h"
 #include "log/logfile.h"
 #include "log/outputfiles.h"
-#include "log/qsoline.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "support/contacts.h"
@@ -20,38 +18,6 @@ using namespace std::string_literals;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
-
-TEST(Bands, EachHasItsLabelAndTheSixOfTheSprintsTheirTextOfTenCharacters) {
-    std::string all;
-    for (const char* mhz : {"1.820", "3.5", "7.", "10.120", "14.", "18.080", "21", "24.910",
-                            "28.050", "50.1", " 7.040", "7"}) {
-        const Band* band = bandOfMhz(mhz);
-        all.append(band == nullptr ? "none" : band->label).append("=");
-        all.append(bandTextOf(mhz, "as before")).append("; ");
-    }
-    EXPECT_EQ(all, "160M=160 Meters; 80M=80 Meters ; 40M=40 Meters ; 30M=as before; "
-                   "20M=20 Meters ; 17M=as before; 15M=15 Meters ; 12M=as before; "
-                   "10M=10 Meters ; none=as before; none=as before; none=as before; ");
-}
-
-TEST(QsoLine, IsReadAndChangedInItsColumns) {
-    // Fields as wide as they may be: some touch on my side, none does on his.
-    const std::string line = "QSO:  7040 CW 2011-06-16 0012 W1ABCDEF/P 599 JOHNATHANX "
-                             "ONT12345SK1ABCDEF/P 579 BARTHOLOME BRI 54321TK3Y/EU";
-    std::string fields;
-    for (const Column column :
-         {qso::head, qso::frequency, qso::bandTag, qso::mode, qso::date, qso::time, qso::myCall,
-          qso::rstSent, qso::myName, qso::myState, qso::myNumber, qso::hisCall, qso::rstReceived,
-          qso::hisName, qso::hisState, qso::hisNumber, qso::marker})
-        fields.append(column.of(line)) += '|';
-    EXPECT_EQ(fields, "QSO: | 7040| 7|CW|2011-06-16|0012|W1ABCDEF/P|599|JOHNATHANX|ONT|12345S|"
-                      "K1ABCDEF/P|579|BARTHOLOME|BRI|54321T|K3Y/EU|");
-    for (const char* marker : {"DUPE", "DUPE  ", "DUP", " DUPE"})
-        EXPECT_EQ(isDupe(line.substr(0, 101) + marker), marker[0] == 'D' && marker[3] == 'E');
-    EXPECT_EQ(withField(line, qso::hisCall, "W9XYZ"),
-              line.substr(0, 65) + "W9XYZ     " + line.substr(75));
-    EXPECT_EQ(withField("QSO: 14050", qso::date, "2011-06-16 X"), "QSO: 14050    2011-06-16");
-}
 
 TEST(OutputFiles, AreNamedAfterTheLog) {
     EXPECT_EQ(adifFileName("SKS"), "ADI");

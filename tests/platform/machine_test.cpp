@@ -7,7 +7,6 @@
 #include "platform/folders.h"
 #include "platform/programfolder.h"
 #include "platform/serialnames.h"
-#include "platform/serialport.h"
 #include "platform/systemcalls.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
@@ -194,15 +193,6 @@ TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
     EXPECT_EQ(shown("com2"), "no such port");
     make({"program/Com1"});
     EXPECT_RUNTIME_ERROR(shown("com1"), ErrorCode::pathFileAccess, HasSubstr("COM1"));
-}
-
-TEST(LineSettingsText, IsTakenApartOrRefused) {
-    const LineSettings line = lineSettings("138400,e,7,2").value();
-    EXPECT_EQ(std::tuple(line.baud, line.parity, line.dataBits, line.stopBits),
-              std::tuple(138400, 'e', 7, 2));
-    for (const char* bad : {"None,n,8,1", ",n,8,1", "9600,n,8", "9600,x,8,1", "9600,n,9,1",
-                            "9600,n,8,3", "9600,n,8,1,", "9600;n,8,1", "9999999,n,8,1", ""})
-        EXPECT_FALSE(lineSettings(bad)) << bad;
 }
 
 } // namespace

@@ -97,8 +97,9 @@ TEST(StrictAdif, ValuesOutsideTheirFieldAreLeftOutOrNoted) {
     expect("<TIME_ON:", {&Fields::time}, "2359; 2400; 2360; 12_0", "4>2359 |");
     expect("<FREQ:", {&Fields::frequency}, "472; 14.05; -", "5>0.472 |||");
     expect("<NAME:", {&Fields::hisName}, "\xDF\x80\xE9\a\xF8_\xC6", "9>ss?e?o AE |");
-    expect("<BAND:", {&Fields::frequency}, "1800; 14350; 14351; 10151; 29050; 50125",
-           "4>160m |3>20m |||3>10m ||");
+    expect("<BAND:", {&Fields::frequency},
+           "1800; 3550; 7040; 10150; 14350; 18110; 21050; 24910; 29050; 10151; 14351; 50125",
+           "4>160m |3>80m |3>40m |3>30m |3>20m |3>17m |3>15m |3>12m |3>10m ||||");
     expect("<MODE:", {}, "QSO: 14050 CW 2011-06-16 0012", "");
     expect("<SKCC:", {&Fields::hisNumber}, "12345; 12S; 100W; NONE; -", "5>12345 |3>12S ||||");
     expect("<NOTES:", {&Fields::hisNumber}, "12345; 100W; -", "|4>100W ||");

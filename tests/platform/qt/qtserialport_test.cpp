@@ -117,21 +117,6 @@ TEST_F(RealPort, UnpluggedMidReplyIsToldAtOnceAndNothingHangsAfterwards) {
     EXPECT_LT(clock.elapsed(), 3000);
 }
 
-// Its frames fall before, into and behind each read.
-TEST_F(RealPort, IcomIsReadWhileItsDialIsTurned) {
-    const Radio& icom = radioNamed("IcomCiv");
-    radio.delay = 20;
-    radio.answer = [&](std::string_view query) {
-        radio.send(query); // the echo
-        return query == icom.query ? icom.reply(14'025'000).substr(query.size()) : "";
-    };
-    QTimer dial;
-    QObject::connect(&dial, &QTimer::timeout, [&] { radio.send(straysOf(icom).front()); });
-    dial.start(60);
-    for (int i = 0; i < 15; ++i)
-        EXPECT_EQ(readFrequency(settingsFor(icom), port).frequency, "14.025") << i;
-}
-
 TEST_F(RealPort, PortsThatCannotBeUsedSayWhy) {
     const std::string line = "9600,n,8,1";
     folder.write("com3", "no port");

@@ -51,6 +51,7 @@ struct World {
         log.open(logName);
         if (withChange)
             correct();
+        log.reread();
     }
 
     void logContact() { log.append(contactLine({.hisCall = "N" + std::to_string(number)})); }
@@ -219,6 +220,34 @@ public:
         return !told.empty();
     }
 
+    // The machine stops before the n-th change, and again while the next start settles what was
+    // left. True when there were so many changes.
+    bool stops(int n) const {
+        const TempFolder folder;
+        FailingCalls calls;
+        fill(folder);
+        Snapshot before;
+        bool stopped = false;
+        try {
+            World world(folder, calls, m_operation.name == "undo");
+            before = snapshotOf(folder);
+            calls.crashAt(n);
+            carryOut(m_operation, world);
+        } catch (const Crash&) {
+            stopped = true;
+        }
+        calls.crashAt(1 + n % 7);
+        try {
+            World(folder, calls);
+        } catch (const Crash&) {
+        }
+        calls.heal();
+        const World next(folder, calls);
+        expectOldOrNew(folder, before, m_after, m_operation);
+        expectNoScratch(folder);
+        return stopped;
+    }
+
 private:
     // What it tells of a failure.
     std::string attempt(World& world, ErrorCode expected) const {
@@ -275,7 +304,19 @@ TEST(Operation, WithAnyCallFailing) {
         failEachCall(trial, Call::link, EDQUOT, ErrorCode::diskFull);
         EXPECT_EQ(failEachCall(trial, Call::link, EPERM, ErrorCode::permissionDenied), 0); // copied
     }
-    EXPECT_EQ(syncs, " 2 2 8 8 6 6 2 11 10 2 2 2") << "how often each waits for the disk";
+    EXPECT_EQ(syncs, " 2 2 8 8 8 6 2 11 10 2 2 2") << "how often each waits for the disk";
+}
+
+TEST(Operation, StoppedBeforeAnyChangeAndBeforeOneOfTheNextStart) {
+    for (const Operation& operation : operations) {
+        if (operation.name == "log a contact" || operation.name == "begin a log")
+            continue; // half a line may stand there, which the next one ends
+        const Trial trial(operation);
+        int n = 1;
+        while (trial.stops(n) && !HasFailure())
+            ++n;
+        EXPECT_GT(n, 4);
+    }
 }
 
 // A small disk of its own, of pages of 4,096 bytes.

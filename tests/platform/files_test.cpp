@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Durable appends and rewrites: the bytes on the disk when all goes well and when the
-// machine stops before any single change.
+// Durable appends and rewrites: the bytes on the disk when all goes well.
 #include "fakes/failingcalls.h"
 #include "platform/files.h"
 #include "support/errors.h"
@@ -16,7 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
-using ::testing::AnyOf;
 using ::testing::HasSubstr;
 
 // A whole folder: names, hidden ones too, and what the files hold.
@@ -65,21 +63,16 @@ TEST_F(FilesTest, OnlyRegularFilesInFoldersThatAreThereAreOpened) {
 }
 
 // Takes a byte at a time, and is interrupted before each.
-class HaltingCalls : public SystemCalls {
-public:
+struct HaltingCalls : SystemCalls {
+    bool interrupted = false;
     long write(int file, const char* bytes, std::size_t count) override {
-        return interrupted() ? -1 : SystemCalls::write(file, bytes, count > 0 ? 1 : 0);
+        errno = EINTR;
+        return (interrupted = !interrupted) ? -1 : SystemCalls::write(file, bytes, count > 0);
     }
     long read(int file, char* bytes, std::size_t count) override {
-        return interrupted() ? -1 : SystemCalls::read(file, bytes, count > 0 ? 1 : 0);
-    }
-
-private:
-    bool interrupted() {
         errno = EINTR;
-        return m_interrupted = !m_interrupted;
+        return (interrupted = !interrupted) ? -1 : SystemCalls::read(file, bytes, count > 0);
     }
-    bool m_interrupted = false;
 };
 
 TEST_F(FilesTest, AppendEndsAnOpenLastLineFirstAndReadGivesEveryByteOfASlowDiskToo) {
@@ -142,60 +135,14 @@ TEST_F(FilesTest, SecondReplacingOfSeveralFilesMeanwhileIsRefused) {
     EXPECT_EQ(snapshot(), (Snapshot{{"A", "one"}, {"B", "two"}, {"LOG.CBR", "a contact\r\n"}}));
 }
 
-// --- The machine stopping before every change ----------------------------------------------
-
-struct Rewriting : FilesTest {
-    // The program at work in a folder as it was left while the machine stops before its n-th
-    // change (0: it does not); true when it did.
-    bool stops(int n, void (*work)(Files&)) {
-        calls.crashAt(n);
-        bool stopped = false;
-        try {
-            Files program(folder.string(), calls);
-            work(program);
-        } catch (const Crash&) {
-            stopped = true;
-        } catch (const RuntimeError&) { // by a failing rename
-        }
-        calls.heal();
-        return stopped;
-    }
-
-    // Begins again; the first program stops, the next one too while it settles what was left, or
-    // while it tries anew.
-    void expectOldOrNew(const Snapshot& before, const Snapshot& after, void (*run)(Files&)) {
-        void (*const recover)(Files&) = [](Files& program) { program.recover(); };
-        for (const auto next : {recover, run})
-            for (const int failingRename : {0, 4}) {
-                bool stopped = true;
-                for (int first = 1; stopped; ++first) {
-                    bool stoppedAgain = true;
-                    for (int second = 1; stoppedAgain; ++second) {
-                        for (const std::string& name : folder.names())
-                            fs::remove(folder.path() / name);
-                        for (const auto& [name, bytes] : before)
-                            folder.write(name, bytes);
-                        calls.failAt(Call::rename, failingRename, EIO, next != recover);
-                        stopped = stops(first, run);
-                        stoppedAgain = stops(second, next);
-                        stops(0, recover);
-                        ASSERT_THAT(snapshot(), AnyOf(before, after))
-                            << "failing rename " << failingRename << ", stops " << first << " and "
-                            << second;
-                    }
-                }
-            }
-    }
-};
-
-TEST_F(Rewriting, StoppedLeavesTheOldOrTheNewAndDoesNotHinderTheNext) {
-    expectOldOrNew({{"LOG.CBR", "a longer old"}}, {{"LOG.CBR", "new"}},
-                   [](Files& program) { program.rewrite("LOG.CBR", "new"); });
-    expectOldOrNew(
-        {{"DB1", "old 1"}, {"DB3.txt", "3"}, {".hidden", "x"}},
-        {{"DB1", "new 1"}, {"DB2", "3"}, {"DB3.txt", "3"}, {".hidden", "x"}}, [](Files& program) {
-            program.rewriteAll({{"DB2", "", "db3.TXT"}, {"DB1", "new 1"}, {"DB3.TXT", "3"}});
-        });
+TEST_F(FilesTest, WhatCouldNotBePutBackIsSettledByTheNextReplacing) {
+    files.rewriteAll({{"A", "1"}, {"B", "1"}});
+    calls.failAt(Call::rename, 2, EIO, true); // of the first file, and whatever comes after it
+    EXPECT_RUNTIME_ERROR(files.rewriteAll({{"A", "2"}, {"B", "2"}}), ErrorCode::pathFileAccess,
+                         HasSubstr("A"));
+    calls.heal();
+    files.rewriteAll({{"B", "3"}});
+    EXPECT_EQ(snapshot(), (Snapshot{{"A", "2"}, {"B", "3"}}));
 }
 
 } // namespace

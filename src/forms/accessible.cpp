@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QShortcutEvent>
 #include <QTableView>
 #include <QTimer>
@@ -207,18 +208,19 @@ public:
         setTextFormat(Qt::PlainText);
         setRole(this, QAccessible::Notification);
         m_soon.setSingleShot(true);
-        connect(&m_soon, &QTimer::timeout, this, [this] {
-            QAccessibleEvent shown(this, QAccessible::ObjectShow);
-            QAccessible::updateAccessibility(&shown);
-        });
+        connect(&m_soon, &QTimer::timeout, this, &QWidget::show);
+        hide();
     }
 
     void say(std::string_view words) {
+        hide();
         put(this, words);
+        // While a page opens so much is told at once that readers drop some of it.
+        constexpr int opening = 500; // milliseconds
         if (words.empty())
             m_soon.stop();
         else
-            m_soon.start(0);
+            m_soon.start(window()->isVisible() ? 0 : opening);
     }
 
 private:
@@ -265,6 +267,13 @@ void letReaderReach(QWidget* page) {
             (qobject_cast<QLineEdit*>(control) != nullptr ||
              qobject_cast<QTableView*>(control) != nullptr))
             control->setFocusPolicy(Qt::TabFocus);
+}
+
+void tellCurrent(QListView* list) {
+    QAccessibleEvent focus(list, QAccessible::Focus);
+    focus.setChild(list->currentIndex().row());
+    if (list->currentIndex().isValid())
+        QAccessible::updateAccessibility(&focus);
 }
 
 void makeAlert(QLabel* label) {

@@ -8,6 +8,7 @@
 #include <string_view>
 
 class QLabel;
+class QListView;
 class QWidget;
 
 namespace vantrel {
@@ -20,6 +21,10 @@ void setRole(QWidget* control, QAccessible::Role role);
 
 // What can only be read has no place in the tab order, but a screen reader has to come to it.
 void letReaderReach(QWidget* page);
+
+// Which line of the list is the current one: a list tells it when that changes, but not when it
+// gets the focus.
+void tellCurrent(QListView* list);
 
 // The label is an alert: what it shows is told at once.
 void makeAlert(QLabel* label);

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QListView>
 #include <QScreen>
 #include <QWindow>
 
@@ -71,8 +72,11 @@ void Form::stayAbove(const QWidget* page) {
 void Form::bringToFront() {
     raise();
     activateWindow();
-    if (QWidget* first = firstFocus())
+    QWidget* first = firstFocus();
+    if (first != nullptr)
         first->setFocus();
+    if (auto* list = qobject_cast<QListView*>(first))
+        tellCurrent(list);
     // Where the focus is shows at once, not only after the first Tab.
     setAttribute(Qt::WA_KeyboardFocusChange);
 }

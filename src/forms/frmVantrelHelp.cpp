@@ -22,6 +22,7 @@ frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     m_sheet->setObjectName(QStringLiteral("Text1"));
     m_sheet->setAccessibleName(QStringLiteral("KEYS"));
     m_sheet->setReadOnly(true);
+    m_sheet->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_sheet->setTabChangesFocus(true);
     m_sheet->setFont(fixedWidthFont());
     const QFontMetrics metrics(m_sheet->font());
@@ -40,7 +41,7 @@ void frmVantrelHelp::load() {
 }
 
 QWidget* frmVantrelHelp::firstFocus() {
-    return m_exitButton;
+    return m_sheet; // read line by line, and scrolled
 }
 
 } // namespace vantrel

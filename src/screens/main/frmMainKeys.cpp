@@ -2,6 +2,7 @@
 #include "screens/main/frmMainKeys.h"
 
 #include "base/fixedtext.h"
+#include "forms/accessible.h"
 #include "forms/controltext.h"
 #include "screens/main/frmMainControls.h"
 #include "screens/main/frmSuggestionList.h"
@@ -82,8 +83,9 @@ bool MainKeys::toLastContact() const {
     const QAbstractItemModel* lines = m_controls.workedList->model();
     if (lines->rowCount() == 0)
         return false;
-    m_controls.workedList->setFocus(); // first: a list without it does not say what is current
     m_controls.workedList->setCurrentIndex(lines->index(lines->rowCount() - 1, 0));
+    m_controls.workedList->setFocus();
+    tellCurrent(m_controls.workedList);
     return true;
 }
 

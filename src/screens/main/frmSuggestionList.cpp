@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmSuggestionList.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "platform/qt/latin1.h"
@@ -57,8 +58,9 @@ void SuggestionList::setLines(const std::vector<Line>& lines) {
 bool SuggestionList::takeFocus() {
     if (m_model->rowCount() == 0)
         return false;
-    setFocus();
     setCurrentIndex(m_model->index(0, 0));
+    setFocus();
+    tellCurrent(this);
     return true;
 }
 

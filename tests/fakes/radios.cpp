@@ -39,15 +39,6 @@ std::string statusBlock(long hertz) {
 
 } // namespace
 
-const std::array<Reading, 6> readings{{
-    {1'825'000, "1.825"},
-    {7'000'000, "7.000"},
-    {7'025'000, "7.025"},
-    {10'120'000, "10.120"},
-    {14'020'000, "14.020"},
-    {28'999'990, "28.999"},
-}};
-
 const std::vector<Radio>& radios() {
     constexpr const char* catText = "ERROR READING FREQUENCY FROM THE CAT PORT";
     static const std::vector<Radio> all{

@@ -4,7 +4,6 @@
 
 #include "shared/settings.h"
 
-#include <array>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -37,13 +36,5 @@ std::vector<std::string> straysOf(const Radio& radio);
 
 // Settings with this radio on `com1`.
 OperatingSettings settingsFor(const Radio& radio);
-
-struct Reading {
-    long hertz;
-    std::string mhz;
-};
-
-// Frequencies that every family must read.
-extern const std::array<Reading, 6> readings;
 
 } // namespace vantrel::test

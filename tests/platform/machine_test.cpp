@@ -62,11 +62,7 @@ TEST_F(Machine, NamesAreFoundWithoutCaseAndNewOnesStayAsGiven) {
                          AllOf(HasSubstr(at("a.cbr")), HasSubstr(at("A.CBR"))));
 }
 
-TEST(NativeText, EveryLatin1CharacterComesBackAndOthersAreAQuestionMarkEach) {
-    std::string all;
-    for (int byte = 1; byte < 256; ++byte)
-        all += static_cast<char>(byte);
-    EXPECT_EQ(latin1Text(nativeText(all)), all);
+TEST(NativeText, CharactersOutsideLatin1AreAQuestionMarkEach) {
     const std::pair<const char*, const char*> rows[] = {
         {"a\xE2\x82\xAC z", "a? z"},           // euro sign
         {"\xF0\x9F\x93\xBB\xC3\xA9", "?\xE9"}, // four bytes, then two

@@ -205,12 +205,6 @@ TEST(ContestPicture, ContactsByBandInHoursOrForAShortLogInTenMinutes) {
     EXPECT_EQ(picture("2011-06-30 2352; 2011-07-01 0011; 2011-07-01 0019 7050"),
               "2350 0 0 0 0 1 0 0 0 0 0\n00Z 0 0 0 0 0 0 0 0 0 0\n0010 0 0 1 0 1 0 0 0 0 0\n");
     EXPECT_EQ(picture("2011-06-30 1205; 2011-06-30 1505").substr(0, 4), "12Z ");
-    std::string contacts;
-    for (int i = 0; i < 49; ++i)
-        contacts += "2011-06-" + std::to_string(10 + i / 24) + ' ' + zeroPadded(i % 24, 2) + "00;";
-    const std::string hours = picture(contacts);
-    EXPECT_EQ(std::count(hours.begin(), hours.end(), 'Z'), 48);
-    EXPECT_EQ(hours.substr(0, 2), "01");
 }
 
 } // namespace

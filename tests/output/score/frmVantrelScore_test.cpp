@@ -89,7 +89,6 @@ TEST_F(ScorePage, ShowsTheFiguresByEachContestsRules) {
 TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
     const std::tuple<const char*, FieldList::value_type, const char*, const char*, const char*>
         rows[] = {{"SKS", &Fields::hisNumber, "C;", "Centurions", "401|1||||||||"},
-                  {"SKS", &Fields::hisNumber, "T;", "Tribunes", "401|1||||||||"},
                   {"SKS", &Fields::hisNumber, "S;", "Senators", "401|1||||||||"},
                   {"SKS", &Fields::hisState, ";", "S/P/Cs", "401|||||||||"},
                   {"SKSE", &Fields::hisNumber, ";", "regular members", "401||0|0|0|||||"}};

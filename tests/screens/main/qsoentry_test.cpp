@@ -26,8 +26,6 @@ TEST(QsoEntry, OtherBandsAreForTheEventShortCallsForNothing) {
     for (const char* call : {"7", "K1A"})
         EXPECT_TRUE(canLookUp(call)) << call;
     EXPECT_FALSE(canBeLogged({.call = "  K1  "}));
-    EXPECT_TRUE(isComplete({.number = "99"}));
-    EXPECT_FALSE(isComplete({.number = " "}));
 }
 
 std::string each(std::string (*rule)(std::string_view), std::initializer_list<const char*> texts) {

@@ -19,10 +19,6 @@ TEST(FixedText, OneByteIsOneColumnAndWhatIsBeyondTheEndIsShortOrEmpty) {
     EXPECT_RUNTIME_ERROR(padded("MAXI", 3, "the state"), ErrorCode::invalidCall,
                          "the state is longer than 3 characters: \"MAXI\"");
     EXPECT_EQ(countCapitals("@AZ["), 2);
-    const std::pair<const char*, int> numbers[] = {{"0123T", 123}, {"  -59:", -59}, {"+7/", 7},
-                                                   {"T12", 0},     {"-", 0},        {"--3", 0}};
-    for (const auto& [text, value] : numbers)
-        EXPECT_EQ(numericValue(text), value) << text;
     EXPECT_RUNTIME_ERROR(numericValue("99999999999999999999"), ErrorCode::overflow,
                          "the number 99999999999999999999");
 }

@@ -86,12 +86,9 @@ TEST_F(FilesTest, AppendEndsAnOpenLastLineFirstAndReadGivesEveryByteOfASlowDiskT
         slow.appendLine("LOG.CBR", "NEW");
         EXPECT_EQ(slow.read("LOG.CBR"), after);
     }
-    const std::string large = std::string(200'000, 'x') + '\xE9';
-    files.rewrite("LARGE", large);
-    EXPECT_EQ(files.read("LARGE"), large);
     EXPECT_EQ(files.readOrEmpty("GONE.CBR"), "");
     calls.failAt(Call::read, 1, EIO);
-    EXPECT_RUNTIME_ERROR(files.readOrEmpty("LARGE"), ErrorCode::pathFileAccess, HasSubstr("LARGE"));
+    EXPECT_RUNTIME_ERROR(files.readOrEmpty("LOG.CBR"), ErrorCode::pathFileAccess, HasSubstr("LOG"));
 }
 
 TEST_F(FilesTest, LinkedLogIsWrittenAtItsTargetWhosePermissionsAreKept) {

@@ -269,8 +269,7 @@ void radioReply(std::string input) {
                            khzField(mhz).find_first_not_of(" 0123456789") == mhz.npos));
 }
 
-// One of the club's lists, merged into any roster: whoever is on the list is found afterwards,
-// and merging it once more changes nothing.
+// One of the club's lists, merged into any roster: merging it once more changes nothing.
 void rosterImport(std::string input) {
     const MemberList list = choice(input, 2) == 0 ? MemberList::data : MemberList::members;
     const std::string before = take(input);
@@ -287,21 +286,6 @@ void rosterImport(std::string input) {
     };
     const std::string once = import();
     assert(import() == once && added == 0);
-
-    // As the import reads it: a bare CR ends a line too, a mark of the encoding is no text.
-    std::replace(input.begin(), input.end(), '\r', '\n');
-    if (input.starts_with("\xEF\xBB\xBF"))
-        input.erase(0, 3);
-    Roster roster(files);
-    MemberListReader reader(list);
-    for (LineReader lines(input); !lines.atEnd();) {
-        if (reader.read(lines.next()) != ListLine::member)
-            continue;
-        const std::string call(trim(member::call.of(reader.record())));
-        assert(length(reader.record()) == member::width);
-        assert(call.empty() || roster.findByCall(call) ||
-               call.find_first_not_of("0123456789/ABCDEFGHIJKLMNOPQRSTUVWXYZ") != call.npos);
-    }
 }
 
 // Any text in the call box, looked up in any roster file: a call is found where a plain look

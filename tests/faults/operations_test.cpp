@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The operator's whole operations while the disk fails (each system call in turn, a disk that is
-// really full, one that is read-only) and while the program is killed, again and again on one
-// folder. Nothing that was told as done is lost, every file is the old or the new one, what
-// failed says so, and the next try or the next start goes on.
+// The operator's whole operations while each system call fails in turn, while the machine stops
+// before each change, and while the program is killed, again and again on one folder. Nothing that
+// was told as done is lost, every file is the old or the new one, what failed says so, and the next
+// try or the next start goes on.
 #include "fakes/failingcalls.h"
 #include "fakes/fakeclock.h"
 #include "log/log.h"
@@ -27,10 +27,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
-#include <functional>
 #include <map>
 #include <random>
-#include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -193,19 +191,25 @@ public:
         m_after = snapshotOf(folder);
     }
 
-    // True when the operation failed while the harm was done. A failure so early that the
-    // change is not made leaves the file that it names as it was. Healed, the next try succeeds.
-    bool fails(const TempFolder& folder, SystemCalls& calls, const std::function<void()>& harm,
-               const std::function<void()>& heal, ErrorCode expected, bool early = true) const {
+    // True when the operation fails since the n-th call of the kind does, for an even n all later
+    // ones too. A failure so early that the change is not made leaves the file that it names as it
+    // was. Healed, the next try succeeds.
+    bool fails(Call kind, int n, int error, ErrorCode expected) const {
+        const TempFolder folder;
+        FailingCalls calls;
         fill(folder);
         World world(folder, calls, m_operation.name == "undo");
         const Snapshot before = snapshotOf(folder);
         const int freeFile = lowestFreeFile();
-        harm();
+        calls.failAt(kind, n, error, n % 2 == 0);
         const std::string told = attempt(world, expected);
-        heal();
+        calls.heal();
+        // What could not even be put back or removed is left to the next start.
+        if (kind == Call::remove || n % 2 == 0)
+            Files(folder.string(), calls).recover();
         EXPECT_EQ(lowestFreeFile(), freeFile) << "a file was left open";
         expectNoScratch(folder);
+        const bool early = kind == Call::write || (kind == Call::sync && n == 1);
         const auto named = [&told](Snapshot files) {
             std::erase_if(files, [&](const auto& file) {
                 return told.find('/' + file.first + ": ") == told.npos;
@@ -266,26 +270,15 @@ private:
     Snapshot m_after; // when nothing disturbs it
 };
 
-// One kind of call fails at its n-th time, every other n at all later times too, until n is more
-// than there are. Returns how often the operation failed.
+// How often the operation fails when each call of one kind fails in turn.
 int failEachCall(const Trial& trial, Call kind, int error, ErrorCode expected) {
     int failed = 0;
     int unharmed = 0; // times in a row: there is no such call any more
     for (int n = 1; unharmed < 3 && !::testing::Test::HasFailure(); ++n) {
         SCOPED_TRACE("call number " + std::to_string(n));
-        const TempFolder folder;
-        FailingCalls calls;
-        const auto harm = [&] { calls.failAt(kind, n, error, n % 2 == 0); };
-        const auto heal = [&] {
-            calls.heal();
-            // What could not even be put back or removed is left to the next start.
-            if (kind == Call::remove || n % 2 == 0)
-                Files(folder.string(), calls).recover();
-        };
-        const bool early = kind == Call::write || (kind == Call::sync && n == 1);
-        const bool thisFailed = trial.fails(folder, calls, harm, heal, expected, early);
-        failed += thisFailed ? 1 : 0;
-        unharmed = thisFailed ? 0 : unharmed + 1;
+        const bool fails = trial.fails(kind, n, error, expected);
+        failed += fails ? 1 : 0;
+        unharmed = fails ? 0 : unharmed + 1;
     }
     return failed;
 }
@@ -316,43 +309,6 @@ TEST(Operation, StoppedBeforeAnyChangeAndBeforeOneOfTheNextStart) {
         while (trial.stops(n) && !HasFailure())
             ++n;
         EXPECT_GT(n, 4);
-    }
-}
-
-// A small disk of its own, of pages of 4,096 bytes.
-struct SmallDisk {
-    ~SmallDisk() { ::umount2(folder.string().c_str(), MNT_DETACH); }
-
-    bool mount(unsigned long flags, unsigned long pages) const {
-        const std::string size = "nr_blocks=" + std::to_string(pages);
-        return ::mount("tmpfs", folder.string().c_str(), "tmpfs", flags, size.c_str()) == 0;
-    }
-    TempFolder folder;
-};
-
-TEST(Operation, OnAReadOnlyDiskAndOneFullAtAnyMoment) {
-    if (!SmallDisk().mount(0, 128))
-        GTEST_SKIP() << "a small disk cannot be mounted here: run as root to try a full one";
-    for (const Operation& operation : operations) {
-        const Trial trial(operation);
-        const auto fails = [&](unsigned long flags, unsigned long freePages, ErrorCode expected) {
-            SCOPED_TRACE("free pages: " + std::to_string(freePages));
-            const SmallDisk disk;
-            EXPECT_TRUE(disk.mount(0, 128));
-            SystemCalls calls;
-            const auto harm = [&] {
-                const fs::space_info space = fs::space(disk.folder.path());
-                const unsigned long used = (space.capacity - space.free) / 4096;
-                EXPECT_TRUE(disk.mount(MS_REMOUNT | flags, used + freePages));
-            };
-            const auto heal = [&] { EXPECT_TRUE(disk.mount(MS_REMOUNT, 128)); };
-            return trial.fails(disk.folder, calls, harm, heal, expected);
-        };
-        EXPECT_TRUE(fails(MS_RDONLY, 60, ErrorCode::pathFileAccess));
-        unsigned long freePages = 0;
-        while (freePages < 60 && fails(0, freePages, ErrorCode::diskFull))
-            ++freePages;
-        EXPECT_TRUE(freePages > 0 && freePages < 60) << freePages << " is room enough";
     }
 }
 

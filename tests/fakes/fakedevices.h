@@ -22,11 +22,9 @@ namespace vantrel::test {
 class FakeEventLoop : public EventLoop {
 public:
     void yield() override {
-        ++yields;
         if (onYield)
             onYield();
     }
-    int yields = 0;
     std::function<void()> onYield;
 };
 

@@ -269,6 +269,21 @@ void letReaderReach(QWidget* page) {
             control->setFocusPolicy(Qt::TabFocus);
 }
 
+void tellChoice(QComboBox* box) {
+    QObject::connect(box, &QComboBox::currentTextChanged, box, [box](const QString& text) {
+        if (!box->hasFocus())
+            return;
+        if (box->isEditable()) {
+            QAccessibleTextInsertEvent chosen(box, 0, text);
+            QAccessible::updateAccessibility(&chosen);
+        } else {
+            QAccessibleEvent chosen(box->view(), QAccessible::Focus);
+            chosen.setChild(box->currentIndex());
+            QAccessible::updateAccessibility(&chosen);
+        }
+    });
+}
+
 void tellCurrent(QListView* list) {
     QAccessibleEvent focus(list, QAccessible::Focus);
     focus.setChild(list->currentIndex().row());

@@ -7,6 +7,7 @@
 
 #include <string_view>
 
+class QComboBox;
 class QLabel;
 class QListView;
 class QWidget;
@@ -21,6 +22,10 @@ void setRole(QWidget* control, QAccessible::Role role);
 
 // What can only be read has no place in the tab order, but a screen reader has to come to it.
 void letReaderReach(QWidget* page);
+
+// What is chosen by the arrow keys in the closed box is told, as if it were typed there, or as the
+// line of the list that has come to the front: readers follow no other sign.
+void tellChoice(QComboBox* box);
 
 // Which line of the list is the current one: a list tells it when that changes, but not when it
 // gets the focus.

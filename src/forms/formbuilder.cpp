@@ -166,6 +166,7 @@ void FormBuilder::row(QFormLayout* form, const char* text, QWidget* box) {
 QComboBox* FormBuilder::combo(const char* name, const char* toolTip) {
     QComboBox* combo = named(new QComboBox(m_form), name, toolTip);
     combo->setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus
+    tellChoice(combo);
     return combo;
 }
 

@@ -98,13 +98,6 @@ protected:
 
 } // namespace
 
-template <typename Control>
-Control* FormBuilder::named(Control* control, const char* name, const char* toolTip) {
-    control->setObjectName(vantrel::text(name));
-    control->setToolTip(vantrel::text(toolTip));
-    return control;
-}
-
 QLineEdit* FormBuilder::text(const char* name, int width, const char* toolTip) {
     QLineEdit* box = named(new TextBox(m_form), name, toolTip);
     if (width > 0)

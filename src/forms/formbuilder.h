@@ -50,10 +50,15 @@ public:
     // A framed part of the page, under its title.
     QLayout* section(const char* title, QLayout* content);
 
-private:
+    // Any other control.
     template <typename Control>
-    Control* named(Control* control, const char* name, const char* toolTip);
+    static Control* named(Control* control, const char* name, const char* toolTip = "") {
+        control->setObjectName(QString::fromLatin1(name));
+        control->setToolTip(QString::fromLatin1(toolTip));
+        return control;
+    }
 
+private:
     QWidget* m_form;
 };
 

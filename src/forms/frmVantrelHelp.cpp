@@ -18,8 +18,7 @@ constexpr int sheetLines = 28;
 
 frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     : Form(context, "frmVantrelHelp", "Vantrel - Keys") {
-    m_sheet = new QPlainTextEdit(this);
-    m_sheet->setObjectName(QStringLiteral("Text1"));
+    m_sheet = FormBuilder::named(new QPlainTextEdit(this), "Text1");
     m_sheet->setAccessibleName(QStringLiteral("KEYS"));
     m_sheet->setReadOnly(true);
     m_sheet->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -71,8 +71,7 @@ void frmMemberImport::createControls() {
     m_changed = build.label(m_page.changedLabel);
     m_skipped = build.label("Label5");
     setTextColour(m_skipped, cautionColour(palette()));
-    m_progress = new QProgressBar(this);
-    m_progress->setObjectName(QStringLiteral("ProgressBar1"));
+    m_progress = FormBuilder::named(new QProgressBar(this), "ProgressBar1");
     m_progress->setAccessibleName(QStringLiteral("LINES READ"));
 }
 

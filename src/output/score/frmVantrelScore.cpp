@@ -36,8 +36,7 @@ void keepNarrow(QLineEdit* figure) {
 
 // A table to read: no frames, no numbers of rows, as large as what it holds.
 QTableWidget* makeTable(QWidget* page, const char* name) {
-    auto* table = new QTableWidget(page);
-    table->setObjectName(QString::fromLatin1(name));
+    QTableWidget* table = FormBuilder::named(new QTableWidget(page), name);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setFocusPolicy(Qt::NoFocus);

@@ -69,8 +69,7 @@ ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
     m_rateLabel = build.label("Label31");
     m_rateLabel->setFont(enlargedFont(this, 1));
     m_lastLabel = build.label("Label32");
-    m_bars = new PaceBars(this);
-    m_bars->setObjectName(QStringLiteral("Picture1"));
+    m_bars = FormBuilder::named(new PaceBars(this), "Picture1");
     auto* pace = new QGridLayout;
     pace->addWidget(build.caption("LAST 10 MIN", m_rateLabel), 0, 0);
     pace->addWidget(m_rateLabel, 0, 1, Qt::AlignRight);
@@ -78,8 +77,7 @@ ContestPanel::ContestPanel(QWidget* page) : QWidget(page) {
     pace->addWidget(build.caption("BY 5 MINUTES"), 2, 0);
     pace->addWidget(m_lastLabel, 2, 1, Qt::AlignRight);
 
-    m_bandTable = new QTableWidget(0, bandColumns, this);
-    m_bandTable->setObjectName(QStringLiteral("Table1"));
+    m_bandTable = FormBuilder::named(new QTableWidget(0, bandColumns, this), "Table1");
     m_bandTable->setAccessibleName(QStringLiteral("BANDS"));
     m_bandTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_bandTable->setSelectionMode(QAbstractItemView::NoSelection);

@@ -63,7 +63,7 @@ MainControls::MainControls(QWidget* form, const std::function<QHBoxLayout*()>& m
     audioButton = build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ");
     QHBoxLayout* pageCommands = makePageCommands();
     countBox = build.output("Text1");
-    workedList = new WorkedList(form);
+    workedList = FormBuilder::named(new WorkedList(form), "List1");
     bandLabel = build.label("Label10");
     autoReadLabel = build.label("Label11");
     fileLabel = build.label("Label12");

@@ -18,8 +18,6 @@ constexpr int spacingCharacters = 3;
 
 SuggestionList::SuggestionList(QWidget* page)
     : QListView(page), m_model(new QStandardItemModel(this)) {
-    setObjectName(QStringLiteral("List2"));
-    setToolTip(QStringLiteral("MEMBERS LIKE THE CALL - DOWN AND ENTER TAKES ONE"));
     setAccessibleName(QStringLiteral("MEMBERS"));
     setFocusPolicy(Qt::ClickFocus); // the exchange goes on behind it; Down leads into it
     setModel(m_model);

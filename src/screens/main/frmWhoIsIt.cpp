@@ -24,11 +24,11 @@ constexpr int fewestTyped = 2;
 } // namespace
 
 WhoIsIt::WhoIsIt(QWidget* page) : QWidget(page) {
-    m_workedLabel = new MarkedLabel(this);
-    m_workedLabel->setObjectName(QStringLiteral("Label24"));
+    m_workedLabel = FormBuilder::named(new MarkedLabel(this), "Label24");
     m_workedLabel->setTextFormat(Qt::PlainText);
     m_workedLabel->setFont(enlargedFont(this, enlargement, false));
-    m_suggestions = new SuggestionList(this);
+    m_suggestions = FormBuilder::named(new SuggestionList(this), "List2",
+                                       "MEMBERS LIKE THE CALL - DOWN AND ENTER TAKES ONE");
     m_workedLabel->setFixedHeight(m_suggestions->height());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -67,7 +67,6 @@ protected:
 
 WorkedList::WorkedList(QWidget* page)
     : QListView(page), m_lines(new LineListModel(this, workedWords)) {
-    setObjectName(QStringLiteral("List1"));
     setAccessibleName(QStringLiteral("STATIONS WORKED"));
     setFont(fixedWidthFont());
     setUniformItemSizes(true);

@@ -2,6 +2,7 @@
 #include "fakes/failingcalls.h"
 #include "log/log.h"
 #include "log/logfile.h"
+#include "log/outputfiles.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "support/contacts.h"
@@ -17,6 +18,12 @@ using namespace std::string_literals;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
+
+TEST(OutputFiles, AreNamedAfterTheLogWhateverDotsItsFolderHas) {
+    EXPECT_EQ(scorePdfName("/A.B/LOG") + logPdfName("A.B\\LOG"),
+              "/A.B/LOG-SCORE.PDFA.B\\LOG-LOG.PDF");
+    EXPECT_RUNTIME_ERROR(adifFileName("AB"), ErrorCode::invalidCall, HasSubstr("no extension"));
+}
 
 const std::string contact = contactLine({});
 const std::string entry = "K9SKC     | CLUB      |5000S  | IL  | 14050 | 0012 | 2011-06-16|      ";

@@ -52,8 +52,9 @@ TEST_F(ScorePage, ShowsTheFiguresByEachContestsRules) {
     const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
         {"an empty log gives zeros", "SKS", "", "0|0|0|0|0|0|0|0|0|no picture"},
         {"the club station counts on every band, not as a duplicate", "WES",
-         "K9SKC 5S IL; K9SKC 5S IL 7050; K9SKC/9 5S IL; K9SKC 5S IL 3550 DUPE",
-         "3|1|0|0|1|0|3|90|93|"},
+         "K9SKC 5S IL; K9SKC 5S IL 7050; K9SKC/9 5S IL; K9SKC 5S IL 3550 DUPE; K9SKC 5S IL 3550 "
+         "_DUPE",
+         "4|1|0|0|1|0|4|115|119|"},
         {"the bonus station counts by its whole call, not as a duplicate", "SKS",
          "W4BON NONE; W4BONX NONE; W4BON NONE MA 14050 DUPE__", "2|1|0|0|0|1|0|25|27|"},
         {"award numbers count once each, duplicates included", "K3Y",

@@ -116,6 +116,14 @@ TEST_F(LogPages, WhatWasTypedIsWrittenThoughTheLogGrewAndWhatLooksWrongIsTold) {
     EXPECT_EQ(told("Label12"), "K1ABD 20M 0012 IS NOW A DUPLICATE OF 2359 WITHOUT THE MARK|");
     click(page, "Command5");
     EXPECT_EQ(told("Label12"), "K1ABD 20M 0012 IS NO LONGER A DUPLICATE|");
+    click(page, "Command5");
+    screens.openContact(Screen::correct, 2, true);
+    click(page, "Option1");
+    click(page, "Command2");
+    screens.openContact(Screen::deletion, 1, true);
+    click(deletePage, "Command2");
+    EXPECT_EQ(shown(deletePage, "Label5"),
+              "K1ABD 20M 0012 IS NO LONGER A DUPLICATE BUT MARKED DUPE");
 }
 
 TEST_F(LogPages, OpensOnTheVeryContactAndGoesToTheOthersWithItsCall) {

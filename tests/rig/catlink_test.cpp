@@ -92,21 +92,25 @@ TEST(Reply, OfTheRightFormIsAFrequencyAndNoOtherIs) {
     const std::string civ = "\xFE\xFE\x6A\xE0\x03\xFD\xFE\xFE\xE0\x6A\x03";
     const std::tuple<const char*, const RadioFamily&, std::string, const char*> rows[] = {
         {"letter among the digits", kenwood, "FA0001402500x;", "none"},
+        {"too many digits", yaesuAscii, "FA014025000;", "none"},
         {"100 MHz: not logged as 0", kenwood, "FA00100000000;", "none"},
         {"K2 cut short", elecraftK2, "FT0;FA00014025000", "waits"},
         {"K2 without VFO", elecraftK2, "FT2;FA00014025000;FB00021050000;MD3;", "none"},
         {"K2 on VFO B", elecraftK2, "FT1;FA00014025000;FB00007025000;MD3;", "7.025"},
         {"Omni of another letter", tenTecBinary, "B\x01\x02\x03\x04\r", "waits"},
+        {"Omni without end", tenTecBinary, "A\x01\x02\x03\x04\x05", "none"},
         // 7,015,693 Hz is 00 6B 0D 0D: ends that are data.
         {"Omni with CRs", tenTecBinary, "A\x00\x6B\x0D\x0D\r"s, "7.015"},
         {"CI-V of another radio", icomCiv,
          "\xFE\xFE\x6A\xE0\x03\xFD\xFE\xFE\xE0\x58\x03\x00\x50\x02\x14\xFD"s, "waits"},
+        {"hex in CI-V digits", icomCiv, civ + "\x00\x5A\x02\x14\xFD"s, "none"},
         // The oldest radios of the list send four pairs only.
         {"CI-V of four pairs", icomCiv, civ + "\x00\x50\x02\x14\xFD"s, "14.025"},
         {"another radio of the bus", icomCiv,
          civ.substr(0, 6) + "\xFE\xFE\xE0\x58\x03\x00\x00\x02\x14\x00\xFD"s + civ.substr(6) +
              "\x00\x50\x02\x14\x00"s,
          "14.025"},
+        {"CI-V cut in the pairs", icomCiv, civ + "\xFF\xFD", "none"},
         {"CI-V from 100 MHz", icomCiv, civ + "\x00\x50\x02\x44\x01\xFD"s, "none"},
         {"an answer cut off, then a whole one", kenwood, "FA0001FA00014025000;", "14.025"},
         {"a bad answer first", kenwood, "FA14025000;FA00014025000;", "none"},

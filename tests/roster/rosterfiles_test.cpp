@@ -160,7 +160,7 @@ TEST_F(RosterFiles, AreLookedUpByCallAndByNumberAsTheyAreNow) {
             found += member->number + "|" + member->name + "|" + member->state + "\n";
     EXPECT_EQ(found, "0123T     |JOHN      |MA \n||\n9001      |A|\n");
     found.clear();
-    for (const char* typed : {"0123c", " 7t ", "123s", "777", "0123S", "T", "AB12"})
+    for (const char* typed : {"0123c", " 7t ", "123s", "777", "0123S", "T", "4X1AB"})
         found += roster.findByNumber(typed).call + "|";
     EXPECT_EQ(found, "K1LONG    |VE3SEV    |VE3SSS    |K1OVER    ||||");
     EXPECT_EQ(roster.findByNumber("T").outcome, NumberLookup::nobody);

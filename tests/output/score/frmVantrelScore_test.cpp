@@ -72,8 +72,6 @@ TEST_F(ScorePage, ShowsTheFiguresByEachContestsRules) {
          "1|1|1|1|0|0|-3|15|16|"},
         {"Europe: a missing number is one member; NONEX is shown as nobody's", "SKSE",
          "A -; A -; A NONEX", "3|1|0|0|0|0|2|2|5|"},
-        {"lines cut short have empty fields", "SKSE", "QSO;QSO: 14050 CW",
-         "2|1|0|0|0|0|2|1|3|no picture"},
     };
     for (const auto& [rule, contest, contacts, expected] : rows)
         EXPECT_EQ(opened(contest, contacts), expected) << rule;
@@ -90,7 +88,6 @@ TEST_F(ScorePage, ShowsTheFiguresByEachContestsRules) {
 TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
     const std::tuple<const char*, FieldList::value_type, const char*, const char*, const char*>
         rows[] = {{"SKS", &Fields::hisNumber, "C;", "Centurions", "401|1||||||||"},
-                  {"SKS", &Fields::hisNumber, "S;", "Senators", "401|1||||||||"},
                   {"SKS", &Fields::hisState, ";", "S/P/Cs", "401|||||||||"},
                   {"SKSE", &Fields::hisNumber, ";", "regular members", "401||0|0|0|||||"}};
     for (const auto& [contest, field, suffix, name, reached] : rows) {

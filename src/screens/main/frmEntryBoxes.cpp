@@ -85,7 +85,7 @@ void EntryBoxes::show(const Entry& entry) const {
     put(number, entry.number);
 }
 
-void EntryBoxes::showAll(const Entry& entry) {
+void EntryBoxes::showAll(const Entry& entry) const {
     show(entry);
     rstSent->setEditText(toQt(entry.rstSent));
     rstReceived->setEditText(toQt(entry.rstReceived));

@@ -20,7 +20,7 @@ struct EntryBoxes {
     // Call, name, state and number; reports and frequency stay.
     void show(const Entry& entry) const;
     // The reports too, but not the frequency.
-    void showAll(const Entry& entry);
+    void showAll(const Entry& entry) const;
     // `left` in call, name, state and number, the usual report in both report boxes.
     void clear(std::string_view left);
     // The boxes of the exchange, each under its name, large enough to be read from the key.

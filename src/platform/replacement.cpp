@@ -40,6 +40,7 @@ private:
 void syncMeanwhile(const std::vector<DiskFile>& files, const std::function<void()>& between) {
     constexpr std::chrono::milliseconds patience(5);
     std::vector<std::future<void>> synced;
+    synced.reserve(files.size());
     for (const DiskFile& file : files) // where no thread is to be had, it waits in get()
         synced.push_back(
             std::async(std::launch::async | std::launch::deferred, [&file] { file.sync(); }));

@@ -262,11 +262,13 @@ void setRole(QWidget* control, QAccessible::Role role) {
 void letReaderReach(QWidget* page) {
     if (!QAccessible::isActive())
         return;
-    for (QWidget* control : page->findChildren<QWidget*>())
-        if (control->focusPolicy() == Qt::NoFocus &&
-            (qobject_cast<QLineEdit*>(control) != nullptr ||
-             qobject_cast<QTableView*>(control) != nullptr))
-            control->setFocusPolicy(Qt::TabFocus);
+    for (QLineEdit* box : page->findChildren<QLineEdit*>())
+        if (box->focusPolicy() == Qt::NoFocus)
+            box->setFocusPolicy(Qt::TabFocus);
+    for (QTableView* table : page->findChildren<QTableView*>()) {
+        table->setFocusPolicy(Qt::TabFocus);
+        table->setTabKeyNavigation(false); // Tab leads out of it, arrows through it
+    }
 }
 
 void tellChoice(QComboBox* box) {

@@ -56,8 +56,8 @@ class Reader:
             return
         if event.type.startswith("object:text-changed"):
             self.heard.append(f"{name}: {event.any_data}")
-        elif role == "alert":
-            self.heard.append(" ".join(said) or name)
+        elif role in ("alert", "notification"):
+            self.heard.append(f"{role} {' '.join(said) or name}")
 
     def wait(self, what, look):
         """Listens until there is something to be seen, and returns it."""
@@ -166,12 +166,12 @@ def sprint(reader):
     page = start(reader, "SELECT THE SKS SPRINT", "mylog.cbr")
     reader.enter(page, "HIS CALL", "k9skc")
     keys("Return")
-    reader.hears("NAME: CLUB", "STATE: IL", "SKCC#: 5000S", "ENTER LOGS")
+    reader.hears("NAME: CLUB", "alert ENTER LOGS", "notification CLUB, IL, 5000S. ENTER LOGS")
     keys("Return")
     reader.hears("LOGGED K9SKC 14050")
     reader.enter(page, "HIS CALL", "k9skc")
     keys("Return")
-    reader.hears("REFUSED: K9SKC 20 METERS", "DUPE")
+    reader.hears("alert REFUSED: K9SKC 20 METERS", "notification DUPE")
     correction = reader.opened(lambda: reader.press(page, "CORRECT"))
     reader.enter(correction, "HIS NAME", "joe")
     reader.press(correction, "SAVE CHANGES")

@@ -34,11 +34,10 @@ void VisibleStyle::polish(QPalette& palette) {
 void VisibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const QColor frame = frameColour(option->palette);
     if (element == PE_IndicatorRadioButton) {
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(frame, 1));
+        painter->setPen(QPen(frameColour(option->palette), 1));
         painter->setBrush(Qt::NoBrush);
         painter->drawEllipse(QRectF(option->rect).adjusted(1.5, 1.5, -1.5, -1.5));
         painter->restore();
@@ -46,7 +45,8 @@ void VisibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     const bool button = element == PE_PanelButtonCommand && option->state.testFlag(State_Enabled);
     if (element == PE_FrameLineEdit || button) {
         const bool focus = option->state.testFlag(State_HasFocus);
-        drawFrame(*painter, option->rect, focus ? accentColour(option->palette) : frame,
+        drawFrame(*painter, option->rect,
+                  focus ? accentColour(option->palette) : frameColour(option->palette),
                   focus ? 2 : 1);
     }
 }

@@ -56,8 +56,9 @@ void Form::placeOver(QWidget* below) {
         inside.left() - frame.left(), inside.top() - frame.top(), inside.right() - frame.right(),
         inside.bottom() - frame.bottom());
     resize(size().boundedTo(room.size()));
-    corner.setX(std::clamp(corner.x(), room.left(), room.right() - width() + 1));
-    corner.setY(std::clamp(corner.y(), room.top(), room.bottom() - height() + 1));
+    // Where the least size is more than there is, its beginning is seen.
+    corner.setX(std::max(room.left(), std::min(corner.x(), room.right() - width() + 1)));
+    corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() - height() + 1)));
     move(corner);
 }
 

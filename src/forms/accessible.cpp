@@ -199,33 +199,11 @@ private:
     BoxText m_text;
 };
 
-// Lies unseen in an alert. Readers follow alerts or notifications, none of them both, and the
-// latter speak a notification whenever it is shown.
-class Spoken : public QLabel {
-public:
-    explicit Spoken(QLabel* alert) : QLabel(alert) {
-        setFixedSize(0, 0);
-        setTextFormat(Qt::PlainText);
-        setRole(this, QAccessible::Notification);
-        m_soon.setSingleShot(true);
-        connect(&m_soon, &QTimer::timeout, this, &QWidget::show);
-        hide();
-    }
-
-    void say(std::string_view words) {
-        hide();
-        put(this, words);
-        // While a page opens so much is told at once that readers drop some of it.
-        constexpr int opening = 500; // milliseconds
-        if (words.empty())
-            m_soon.stop();
-        else
-            m_soon.start(window()->isVisible() ? 0 : opening);
-    }
-
-private:
-    QTimer m_soon;
-};
+void tellLine(QAbstractItemView* list, int row) {
+    QAccessibleEvent focus(list, QAccessible::Focus);
+    focus.setChild(row);
+    QAccessible::updateAccessibility(&focus);
+}
 
 // Nothing for what Qt describes well by itself.
 QAccessibleInterface* describe(const QString&, QObject* object) {
@@ -275,34 +253,46 @@ void tellChoice(QComboBox* box) {
     QObject::connect(box, &QComboBox::currentTextChanged, box, [box](const QString& text) {
         if (!box->hasFocus())
             return;
-        if (box->isEditable()) {
-            QAccessibleTextInsertEvent chosen(box, 0, text);
-            QAccessible::updateAccessibility(&chosen);
-        } else {
-            QAccessibleEvent chosen(box->view(), QAccessible::Focus);
-            chosen.setChild(box->currentIndex());
-            QAccessible::updateAccessibility(&chosen);
-        }
+        if (!box->isEditable())
+            return tellLine(box->view(), box->currentIndex());
+        QAccessibleTextInsertEvent chosen(box, 0, text);
+        QAccessible::updateAccessibility(&chosen);
     });
 }
 
 void tellCurrent(QListView* list) {
-    QAccessibleEvent focus(list, QAccessible::Focus);
-    focus.setChild(list->currentIndex().row());
     if (list->currentIndex().isValid())
-        QAccessible::updateAccessibility(&focus);
+        tellLine(list, list->currentIndex().row());
 }
 
+// Readers follow alerts or notifications, none of them both, and the latter speak a notification
+// whenever it is shown: one lies unseen in each alert, and a timer in that.
 void makeAlert(QLabel* label) {
     setRole(label, QAccessible::AlertMessage);
-    new Spoken(label);
+    auto* spoken = new QLabel(label);
+    setRole(spoken, QAccessible::Notification);
+    spoken->setFixedSize(0, 0);
+    spoken->setTextFormat(Qt::PlainText);
+    spoken->hide();
+    auto* soon = new QTimer(spoken);
+    soon->setSingleShot(true);
+    QObject::connect(soon, &QTimer::timeout, spoken, &QWidget::show);
 }
 
-void announce(QLabel* alert, std::string_view text, std::string_view spoken) {
+void announce(QLabel* alert, std::string_view text, std::string_view words) {
+    // While a page opens so much is told at once that readers drop some of it.
+    constexpr int opening = 500; // milliseconds
     put(alert, text);
+    auto* spoken = alert->findChild<QLabel*>();
+    auto* soon = spoken->findChild<QTimer*>();
+    spoken->hide();
+    put(spoken, words);
+    soon->stop();
     QAccessibleEvent shown(alert, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
-    alert->findChild<Spoken*>()->say(spoken);
+    if (!text.empty())
+        QAccessible::updateAccessibility(&shown);
+    if (!words.empty())
+        soon->start(alert->window()->isVisible() ? 0 : opening);
 }
 
 } // namespace vantrel

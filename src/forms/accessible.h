@@ -33,9 +33,9 @@ void tellCurrent(QListView* list);
 
 // The label is an alert: what it shows is told at once.
 void makeAlert(QLabel* label);
-// Shows the text. When the present event is over a screen reader speaks `spoken` (nothing when
-// it is empty); of several texts only the last one.
-void announce(QLabel* alert, std::string_view text, std::string_view spoken);
+// Shows the text. When the present event is over a screen reader speaks the words (nothing when
+// they are empty); of several texts only the last one.
+void announce(QLabel* alert, std::string_view text, std::string_view words);
 inline void announce(QLabel* alert, std::string_view text) {
     announce(alert, text, text);
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/readingorder.h"
 
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QWidget>
 

@@ -14,6 +14,9 @@ std::string bandText(std::string_view line) {
     return std::string(band != nullptr ? band->label : trim(khz));
 }
 
+constexpr std::string_view mark = "> ";
+constexpr std::string_view noMark = "  "; // as wide
+
 std::string field(Column column, std::string_view line) {
     return leftAligned(column.of(line), column.width);
 }
@@ -21,12 +24,12 @@ std::string field(Column column, std::string_view line) {
 } // namespace
 
 std::string matchText(std::string_view line, bool current) {
-    return (current ? "> " : "  ") + field(qso::hisCall, line) + ' ' + field(qso::date, line) +
-           ' ' + field(qso::time, line) + ' ' + bandText(line);
+    return std::string(current ? mark : noMark) + field(qso::hisCall, line) + ' ' +
+           field(qso::date, line) + ' ' + field(qso::time, line) + ' ' + bandText(line);
 }
 
 std::string matchWords(std::string_view matchText) {
-    return std::string(midToEnd(matchText, 3));
+    return std::string(midToEnd(matchText, length(mark) + 1));
 }
 
 std::string briefly(std::string_view line) {

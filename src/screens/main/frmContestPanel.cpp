@@ -138,7 +138,7 @@ void ContestPanel::followClock(const UtcTime& utc) {
     const Pace pace = paceOf(m_moments, *now);
     put(m_rateLabel, rateText(pace));
     put(m_lastLabel, lastText(pace));
-    m_bars->setPace(pace, toQt(hourText(pace)));
+    m_bars->setPace(pace);
 }
 
 void ContestPanel::showBands(const BandTable& table) {

@@ -3,6 +3,7 @@
 
 #include "forms/accessible.h"
 #include "forms/colours.h"
+#include "platform/qt/latin1.h"
 
 #include <QPainter>
 
@@ -21,8 +22,8 @@ PaceBars::PaceBars(QWidget* parent) : QWidget(parent) {
     setRole(this, QAccessible::Graphic);
 }
 
-void PaceBars::setPace(const Pace& pace, const QString& text) {
-    setAccessibleName(text);
+void PaceBars::setPace(const Pace& pace) {
+    setAccessibleName(toQt(hourText(pace)));
     if (m_pace.perFiveMinutes == pace.perFiveMinutes)
         return;
     m_pace = pace;

@@ -14,8 +14,7 @@ class PaceBars : public QWidget {
 public:
     explicit PaceBars(QWidget* parent);
 
-    // text: what they show, in words.
-    void setPace(const Pace& pace, const QString& text);
+    void setPace(const Pace& pace);
 
     QSize sizeHint() const override;
 

@@ -551,8 +551,7 @@ void frmVantrelMain::resetDupeMarker() {
 }
 
 void frmVantrelMain::showHint(const Hint& hint) {
-    announce(m_page.hintLabel, hint.text,
-             hint.filledIn.empty() ? hint.text : hint.filledIn + ". " + hint.text);
+    announce(m_page.hintLabel, hint.text, spokenHint(hint));
     setTextColour(m_page.hintLabel, hint.tone == HintTone::plain   ? QColor()
                                     : hint.tone == HintTone::alarm ? warningColour(palette())
                                                                    : cautionColour(palette()));

@@ -50,6 +50,10 @@ std::string filledIn(LookupOutcome outcome, const Entry& entry) {
     return words;
 }
 
+std::string spokenHint(const Hint& hint) {
+    return hint.filledIn.empty() ? hint.text : hint.filledIn + ". " + hint.text;
+}
+
 Hint loggedHint(std::string_view contact, std::string_view repeated) {
     Hint hint{"LOGGED " + field(qso::hisCall, contact) + ' ' + field(qso::frequency, contact) +
               ' ' + field(qso::time, contact)};

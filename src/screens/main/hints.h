@@ -25,6 +25,9 @@ Hint lookupHint(LookupOutcome outcome, std::string_view typed, bool hasRoster);
 // "CLUB, IL, 5000S"; the call when a number was looked up; nothing unless somebody was found.
 std::string filledIn(LookupOutcome outcome, const Entry& entry);
 
+// What a screen reader says of the hint.
+std::string spokenHint(const Hint& hint);
+
 // After a contact is logged: call, kHz and time, and which of name, state and number are blank.
 // repeated: the earlier contact with this call on this band when no check was made; empty for
 // none.

@@ -28,7 +28,7 @@ std::vector<Moment> momentsOf(const Contacts& contacts) {
 Pace paceOf(const std::vector<Moment>& moments, Moment now) {
     Pace pace;
     auto& bars = pace.perFiveMinutes;
-    std::array<Moment, 12> firsts{};
+    std::array<Moment, std::tuple_size_v<decltype(pace.perFiveMinutes)>> firsts{};
     for (const Moment moment : moments) {
         const int ago = std::max(0, static_cast<int>((now - moment).count()));
         pace.minutesSinceLast = std::min(pace.minutesSinceLast.value_or(ago), ago);

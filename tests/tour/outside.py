@@ -42,7 +42,10 @@ class Screen:
                                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
             wait_for("the window manager", ready.exists)
 
-    def close(self):
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
         for process in (self.manager, self.server):
             process.terminate()
             process.wait()
@@ -168,21 +171,17 @@ def main():
     if missing:
         print("outside: skipped, not installed:", ", ".join(missing))
         return 77
-    screen = Screen("1024x600")
-    try:
-        with tempfile.TemporaryDirectory(prefix="vantrel-outside-") as name:
-            with running(sys.argv[1], pathlib.Path(name)) as program:
-                type_blindly(pathlib.Path(name))
-                keys("alt+x")
-                if program.wait(PATIENCE) != 0:
-                    raise SystemExit(f"outside: exit code {program.returncode}")
-            with running(sys.argv[1], pathlib.Path(name)):  # knows what was saved
-                wait_for_window(START)
-                keys("alt+s")
-                wait_for_window(MAIN)
-                see_placement(1024, 600)
-    finally:
-        screen.close()
+    with Screen("1024x600"), tempfile.TemporaryDirectory(prefix="vantrel-outside-") as name:
+        with running(sys.argv[1], pathlib.Path(name)) as program:
+            type_blindly(pathlib.Path(name))
+            keys("alt+x")
+            if program.wait(PATIENCE) != 0:
+                raise SystemExit(f"outside: exit code {program.returncode}")
+        with running(sys.argv[1], pathlib.Path(name)):  # knows what was saved
+            wait_for_window(START)
+            keys("alt+s")
+            wait_for_window(MAIN)
+            see_placement(1024, 600)
     print("outside: the log is as expected")
     return 0
 

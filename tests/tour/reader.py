@@ -99,7 +99,10 @@ class Reader:
     def focus(self, page, role, name):
         control = self.find(page, role, name)
         control.queryComponent().grabFocus()
-        self.wait("the focus on " + name,
+        self.wait_for_focus(control)
+
+    def wait_for_focus(self, control):
+        self.wait("the focus on " + control.name,
                   lambda: control.get_state_set().contains(pyatspi.STATE_FOCUSED))
 
     def enter(self, page, name, text):
@@ -162,9 +165,22 @@ def start(reader, event, log):
     return reader.window(log.upper())
 
 
+def tab(reader, page):
+    """From the frequency on Tab goes as one reads, and a reader comes to what is only read."""
+    for role, name in ((BUTTON, "Enter"), (BUTTON, "Up"), (BUTTON, "Down"), ("text", "QSOs"),
+                       (BUTTON, "SEARCH")):
+        keys("Tab")
+        reader.wait_for_focus(reader.find(page, role, name))
+
+
 def sprint(reader):
     page = start(reader, "SELECT THE SKS SPRINT", "mylog.cbr")
+    reader.focus(page, "text", "FREQ MHz")
+    tab(reader, page)
     reader.enter(page, "HIS CALL", "k9skc")
+    typed = reader.find(page, "text", "HIS CALL").queryText()
+    if typed.getTextAtOffset(typed.characterCount, pyatspi.TEXT_BOUNDARY_WORD_START)[0] != "K9SKC":
+        raise SystemExit("reader: the last word of a box is not told")
     keys("Return")
     reader.hears("NAME: CLUB", "alert ENTER LOGS", "notification CLUB, IL, 5000S. ENTER LOGS")
     keys("Return")
@@ -230,17 +246,14 @@ def main():
                     "/org/a11y/bus", "org.freedesktop.DBus.Properties.Set",
                     "string:org.a11y.Status", "string:IsEnabled", "variant:boolean:true"],
                    check=True, stdout=subprocess.DEVNULL)
-    screen = outside.Screen("1366x768")
-    reader = Reader()
-    try:
+    with outside.Screen("1366x768"):
+        reader = Reader()
         for play in (sprint, event):
             with tempfile.TemporaryDirectory(prefix="vantrel-reader-") as name:
                 folder = pathlib.Path(name)
                 (folder / "SKSDB2.TXT").write_text(MEMBER, newline="")
                 with outside.running(sys.argv[1], folder):
                     play(reader)
-    finally:
-        screen.close()
     print("reader: everything is said")
     return 0
 

@@ -19,12 +19,14 @@ function(vantrel_tests room)
   if(rule_tests)
     add_executable(test_${name} ${rule_tests})
     target_link_libraries(test_${name} PRIVATE test_support GTest::gtest GTest::gtest_main)
+    vantrel_compiled_like(test_${name} test_support)
     gtest_discover_tests(test_${name} TEST_PREFIX "${room}/" DISCOVERY_TIMEOUT 60)
   endif()
 
   if(form_tests AND VANTREL_FORMS)
     add_executable(test_forms_${name} ${form_tests})
     target_link_libraries(test_forms_${name} PRIVATE forms_test_support)
+    vantrel_compiled_like(test_forms_${name} forms_test_support)
     # Pseudo-terminals are numbered anew at once: the lock file of one that a test has just let
     # go would stop another test that gets its number meanwhile.
     set(lock "")

@@ -3,7 +3,6 @@
 
 #include "forms/boxtext.h"
 #include "forms/controltext.h"
-#include "forms/form.h"
 #include "forms/readingorder.h"
 
 #include <QAbstractButton>
@@ -22,6 +21,7 @@ namespace vantrel {
 namespace {
 
 constexpr const char* roleProperty = "accessibleRole";
+constexpr const char* pageProperty = "accessiblePage";
 
 QString withoutMnemonic(QString caption) {
     return caption.remove(QLatin1Char('&'));
@@ -208,7 +208,7 @@ void tellLine(QAbstractItemView* list, int row) {
 // Nothing for what Qt describes well by itself.
 QAccessibleInterface* describe(const QString&, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
-    if (widget == nullptr || qobject_cast<Form*>(widget->window()) == nullptr)
+    if (widget == nullptr || !widget->window()->property(pageProperty).isValid())
         return nullptr;
     if (auto* box = qobject_cast<QComboBox*>(widget))
         return new Choice(box);
@@ -231,6 +231,10 @@ QAccessibleInterface* describe(const QString&, QObject* object) {
 
 void describeControls() {
     QAccessible::installFactory(describe);
+}
+
+void describePage(QWidget* page) {
+    page->setProperty(pageProperty, true);
 }
 
 void setRole(QWidget* control, QAccessible::Role role) {

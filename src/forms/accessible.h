@@ -17,6 +17,10 @@ namespace vantrel {
 // Once, after the application is made.
 void describeControls();
 
+// From now on this window and its controls are described here; all other windows, message boxes
+// among them, by Qt.
+void describePage(QWidget* page);
+
 // What a control is that does not show it by its kind: a picture, or a label with a sign.
 void setRole(QWidget* control, QAccessible::Role role);
 

@@ -18,6 +18,7 @@ Form::Form(const FormContext& context, const char* name, const char* caption) : 
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(QString::fromLatin1(caption));
     setAttribute(Qt::WA_DeleteOnClose);
+    describePage(this);
 }
 
 void Form::open(QWidget* opener) {

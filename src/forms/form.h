@@ -12,6 +12,7 @@
 #include <QWidget>
 
 #include <exception>
+#include <type_traits>
 
 namespace vantrel {
 
@@ -38,6 +39,20 @@ public:
     bool isGone() const { return m_gone; }
     // The window that closing leads back to; nullptr when there is none any more.
     QWidget* opener() const { return m_opener; }
+
+    // The one boundary: runs the handler; a run-time error is shown in a critical message box
+    // and ends that operation. The form may be gone afterwards.
+    template <typename Handler>
+    void runHandler(Handler&& handler) {
+        Messages& messages = m_context.platform.messages;
+        try {
+            handler();
+        } catch (const RuntimeError& error) {
+            messages.show({error.headline(), BoxIcon::critical, error.detail()});
+        } catch (const std::exception& error) {
+            messages.show({"AN ERROR HAS OCCURED", BoxIcon::critical, error.what()});
+        }
+    }
 
 protected:
     // The screen's load: fills the controls; runs inside the guard.
@@ -67,19 +82,17 @@ protected:
             self->runHandler([&] { (self->*handler)(args...); });
         });
     }
-
-    // The one boundary: runs the handler; a run-time error is shown in a critical message box
-    // and ends that operation. The form may be gone afterwards.
-    template <typename Handler>
-    void runHandler(Handler&& handler) {
-        Messages& messages = m_context.platform.messages;
-        try {
-            handler();
-        } catch (const RuntimeError& error) {
-            messages.show({error.headline(), BoxIcon::critical, error.detail()});
-        } catch (const std::exception& error) {
-            messages.show({"AN ERROR HAS OCCURED", BoxIcon::critical, error.what()});
-        }
+    // The same for any callable, which takes all of the signal's arguments or none.
+    template <typename Sender, typename Signal, typename Handler>
+    void connectHandler(Sender* sender, Signal signal, Handler handler) {
+        connect(sender, signal, this, [this, handler](const auto&... args) {
+            runHandler([&] {
+                if constexpr (std::is_invocable_v<const Handler&, decltype(args)...>)
+                    handler(args...);
+                else
+                    handler();
+            });
+        });
     }
 
     Module1& shared() const { return m_context.shared; }

@@ -3,6 +3,8 @@
 
 #include "forms/accessible.h"
 #include "forms/colours.h"
+#include "forms/form.h"
+#include "forms/readtable.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -12,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrel {
 
@@ -96,6 +99,16 @@ protected:
     }
 };
 
+template <typename Button>
+Button* withHandler(Button* button, FormBuilder::Handler clicked) {
+    if (clicked)
+        QObject::connect(button, &QAbstractButton::clicked, button,
+                         [button, clicked = std::move(clicked)] {
+                             static_cast<Form*>(button->window())->runHandler(clicked);
+                         });
+    return button;
+}
+
 } // namespace
 
 QLineEdit* FormBuilder::text(const char* name, int width, const char* toolTip) {
@@ -118,8 +131,14 @@ QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
     return box;
 }
 
-QPushButton* FormBuilder::command(const char* name, const char* caption, const char* toolTip) {
-    return named(new CommandButton(vantrel::text(caption), m_form), name, toolTip);
+QPushButton* FormBuilder::command(const char* name, const char* caption, const char* toolTip,
+                                  Handler clicked) {
+    return withHandler(named(new CommandButton(vantrel::text(caption), m_form), name, toolTip),
+                       std::move(clicked));
+}
+
+QPushButton* FormBuilder::exit(const char* toolTip) {
+    return command("Command1", "E&XIT", toolTip, [form = m_form->window()] { form->close(); });
 }
 
 QLabel* FormBuilder::label(const char* name, const char* caption) {
@@ -171,12 +190,22 @@ QComboBox* FormBuilder::editableCombo(const char* name, const char* toolTip) {
     return combo;
 }
 
-QRadioButton* FormBuilder::option(const char* name, const char* caption, const char* toolTip) {
-    return named(new OptionButton(vantrel::text(caption), m_form), name, toolTip);
+QRadioButton* FormBuilder::option(const char* name, const char* caption, const char* toolTip,
+                                  Handler clicked) {
+    return withHandler(named(new OptionButton(vantrel::text(caption), m_form), name, toolTip),
+                       std::move(clicked));
 }
 
-QRadioButton* FormBuilder::jobOption(const char* name, const char* caption, const char* toolTip) {
-    return named(new JobButton(vantrel::text(caption), m_form), name, toolTip);
+QRadioButton* FormBuilder::jobOption(const char* name, const char* caption, const char* toolTip,
+                                     Handler clicked) {
+    return withHandler(named(new JobButton(vantrel::text(caption), m_form), name, toolTip),
+                       std::move(clicked));
+}
+
+ReadTable* FormBuilder::table(const char* name, const char* words) {
+    ReadTable* table = named(new ReadTable(m_form), name);
+    table->setAccessibleName(vantrel::text(words));
+    return table;
 }
 
 QListView* FormBuilder::list(const char* name, const char* toolTip) {

@@ -12,9 +12,12 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <functional>
 #include <string_view>
 
 namespace vantrel {
+
+class ReadTable;
 
 class FormBuilder {
 public:
@@ -25,8 +28,13 @@ public:
     QLineEdit* text(const char* name, int width = 0, const char* toolTip = "");
     // A figure to read: flat, right-aligned, out of the tab order.
     QLineEdit* output(const char* name, const char* toolTip = "");
+    // What a click runs, inside the guard of the form that the control is on.
+    using Handler = std::function<void()>;
     // A button whose Alt key clicks it at once.
-    QPushButton* command(const char* name, const char* caption, const char* toolTip = "");
+    QPushButton* command(const char* name, const char* caption, const char* toolTip = "",
+                         Handler clicked = {});
+    // The button that closes the form.
+    QPushButton* exit(const char* toolTip = "");
     // Plain text, never markup.
     QLabel* label(const char* name, const char* caption = "");
     // A text that a screen reader tells at once: see announce().
@@ -42,9 +50,13 @@ public:
     // A combo that one can also type into: nothing completes or inserts by itself.
     QComboBox* editableCombo(const char* name, const char* toolTip = "");
     // Its whole rectangle takes the click.
-    QRadioButton* option(const char* name, const char* caption, const char* toolTip = "");
+    QRadioButton* option(const char* name, const char* caption, const char* toolTip = "",
+                         Handler clicked = {});
     // An option that runs a job on every click and belongs to no exclusive group.
-    QRadioButton* jobOption(const char* name, const char* caption, const char* toolTip = "");
+    QRadioButton* jobOption(const char* name, const char* caption, const char* toolTip = "",
+                            Handler clicked = {});
+    // `words`: its name to a screen reader.
+    ReadTable* table(const char* name, const char* words);
     // A list of lines in the fixed-width font.
     QListView* list(const char* name, const char* toolTip = "");
     // A framed part of the page, under its title.

@@ -3,11 +3,8 @@
 
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
-#include "platform/folders.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <vector>
 
 namespace vantrel {
 
@@ -107,6 +104,14 @@ std::string resolveName(const std::string& folder, std::string_view name) {
     for (const std::string_view part : partsOf(name))
         current = matchPart(current, part);
     return current.string();
+}
+
+std::vector<fs::directory_entry> entriesOf(const fs::path& folder, std::error_code& error) {
+    std::vector<fs::directory_entry> entries;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        entries.push_back(*entry);
+    return entries;
 }
 
 } // namespace vantrel

@@ -3,9 +3,12 @@
 // UTF-8.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
 namespace vantrel {
 
@@ -21,5 +24,10 @@ std::string shownText(std::string_view native);
 // first, then without regard to case; a part that matches nothing stays as given. Throws
 // RuntimeError 75 naming both when a part matches two entries and neither exactly.
 std::string resolveName(const std::string& folder, std::string_view name);
+
+// All entries of a folder, hidden ones too, in no order; those met before `error` if it could
+// not be read to the end.
+std::vector<std::filesystem::directory_entry> entriesOf(const std::filesystem::path& folder,
+                                                        std::error_code& error);
 
 } // namespace vantrel

@@ -42,14 +42,6 @@ void sortRegardlessOfCase(std::vector<std::string>& names) {
 
 } // namespace
 
-std::vector<fs::directory_entry> entriesOf(const fs::path& folder, std::error_code& error) {
-    std::vector<fs::directory_entry> entries;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error))
-        entries.push_back(*entry);
-    return entries;
-}
-
 SystemFolders::SystemFolders(std::string mountTable) : m_mountTable(std::move(mountTable)) {}
 
 std::vector<std::string> SystemFolders::drives() const {

@@ -2,9 +2,7 @@
 // Looking into the machine's folders. All paths and names are real ones of the machine.
 #pragma once
 
-#include <filesystem>
 #include <string>
-#include <system_error>
 #include <vector>
 
 namespace vantrel {
@@ -14,11 +12,6 @@ struct FolderContent {
     std::vector<std::string> folders;
     std::vector<std::string> files; // regular files only
 };
-
-// All entries of a folder, hidden ones too, in no order; those met before `error` if it could
-// not be read to the end.
-std::vector<std::filesystem::directory_entry> entriesOf(const std::filesystem::path& folder,
-                                                        std::error_code& error);
 
 class Folders {
 public:

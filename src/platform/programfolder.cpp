@@ -4,7 +4,6 @@
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
-#include "platform/folders.h"
 
 #include <cerrno>
 #include <cstring>

@@ -5,7 +5,7 @@
 #include "base/itemreader.h"
 #include "base/runtimeerror.h"
 #include "platform/diskfile.h"
-#include "platform/folders.h"
+#include "platform/filenames.h"
 #include "platform/systemcalls.h"
 
 #include <cerrno>

@@ -4,7 +4,6 @@
 #include "base/fixedtext.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "platform/folders.h"
 
 #include <algorithm>
 #include <filesystem>

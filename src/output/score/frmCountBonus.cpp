@@ -3,9 +3,8 @@
 
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "output/score/bonuscount.h"
-
-#include <QVBoxLayout>
 
 namespace vantrel {
 
@@ -17,18 +16,15 @@ frmCountBonus::frmCountBonus(const FormContext& context)
     : Form(context, "frmCountBonus", "Vantrel - Bonus") {
     openSmall();
     FormBuilder build(this);
-    m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE BONUS COUNT");
     m_total = build.label("Label1");
     m_total->setFont(enlargedFont(this, totalEnlargement));
     m_total->setAlignment(Qt::AlignCenter);
-
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(build.caption("BONUS POINTS NOTED IN THE NAME FIELD AFTER A SLASH,\n"
-                                  "ONCE PER STATION (JOHN/25 = 25 POINTS)"),
-                    0, Qt::AlignCenter);
-    page->addWidget(m_total, 1);
-    page->addWidget(m_exitButton, 0, Qt::AlignCenter);
-    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
+    m_exitButton = build.exit("CLOSES THE BONUS COUNT");
+    page(this, {{build.caption("BONUS POINTS NOTED IN THE NAME FIELD AFTER A SLASH,\n"
+                               "ONCE PER STATION (JOHN/25 = 25 POINTS)"),
+                 0, Qt::AlignCenter},
+                {m_total, 1},
+                {m_exitButton, 0, Qt::AlignCenter}});
 }
 
 void frmCountBonus::load() {

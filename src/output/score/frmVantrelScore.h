@@ -6,6 +6,7 @@
 #include "output/score/score.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 class QFormLayout;
@@ -13,10 +14,10 @@ class QLabel;
 class QLineEdit;
 class QLayout;
 class QPushButton;
-class QTableWidget;
 
 namespace vantrel {
 
+class ReadTable;
 class StackedBars;
 
 class frmVantrelScore : public Form {
@@ -33,14 +34,15 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void createControls();
-    void layOut();
+    using Figure = Score::Figure Score::*;
+    // K9SKC QSOs, or regular members worked: which it is depends on the contest.
+    static constexpr Figure contestFigure = nullptr;
+
     QFormLayout* figures();
     QLayout* total();
-    void connectHandlers();
 
-    void printClicked();
-    void copyClicked();
+    void print();
+    void copyToClipboard();
 
     void showLabels();
     void showScore();
@@ -48,14 +50,7 @@ private:
     void showPicture();
     std::vector<std::string> report() const;
 
-    QLineEdit* m_qsos;
-    QLineEdit* m_multipliers; // S/P/Cs, or DXCC countries
-    QLineEdit* m_centurions;
-    QLineEdit* m_tribunes;
-    QLineEdit* m_senators;
-    QLineEdit* m_bonusStationQsos;
-    QLineEdit* m_contestFigure; // K9SKC QSOs, or regular members worked
-    QLineEdit* m_bonusPoints;
+    std::vector<std::pair<QLineEdit*, Figure>> m_figures;
     QLineEdit* m_total;
     QLabel* m_sum; // how the total comes about
     QLabel* m_copied;
@@ -64,11 +59,8 @@ private:
     QLabel* m_contestFigureCaption;
     QLabel* m_dupesLogged;
     QLabel* m_dupesNotCounted;
-    QPushButton* m_printButton;
-    QPushButton* m_copyButton;
     QPushButton* m_exitButton;
-
-    QTableWidget* m_bands;
+    ReadTable* m_bands;
     StackedBars* m_picture;
     Score m_score; // as shown
 };

@@ -99,7 +99,7 @@ void Form::closeEvent(QCloseEvent* event) {
         return;
     // No window is active by itself after one closes on every platform.
     if (auto* form = qobject_cast<Form*>(m_opener.data()))
-        form->bringToFront();
+        runHandler([form] { form->bringToFront(); }); // shows its files as they are by now
     else
         m_opener->activateWindow();
 }

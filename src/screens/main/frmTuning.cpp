@@ -64,7 +64,8 @@ bool Tuning::read(Entry& typed, Asks asks) {
     showOutcome(result.outcome);
     if (result.outcome == ReadOutcome::read) {
         typed.frequency = result.frequency;
-        show(typed.frequency);
+        if (!show(typed.frequency))
+            return false;
     }
     if (result.outcome == ReadOutcome::failed)
         m_context.platform.messages.show(asks == Asks::log

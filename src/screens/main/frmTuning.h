@@ -34,8 +34,8 @@ public:
     // Takes what is typed, then the next band's frequency.
     void step(const Band& (*next)(std::string_view bandText));
     // Reads the radio, if there is one, into box and entry. One that does not answer is reported
-    // and the frequency in the box stands. False when the program is being closed: the handler
-    // then ends at once.
+    // and the frequency in the box stands. False when the program is being closed, or the contact
+    // is refused on the band that the radio is on: the handler then ends at once.
     bool read(Entry& typed, Asks asks);
     // Off, a dead radio costs no more boxes.
     void toggleAutoRead();

@@ -215,6 +215,14 @@ TEST_F(FilesPage, TheFinderLeadsToFoldersAndHandsBackWhatIsChosen) {
     EXPECT_EQ(shown(backup, "Text1"), top + "/B\xDCRO/");
     EXPECT_EQ(QApplication::focusWidget(), control(backup, "Text1"));
 
+    click(backup, "Command3"); // by its cross, back to a log that has two names by now
+    std::filesystem::rename(folder.path() / "SKS.CBR", folder.path() / "sks.cbr");
+    folder.write("Sks.cbr", "");
+    messages.expect("Run-time error 75: Path/File access error");
+    form(finder)->close();
+    std::filesystem::rename(folder.path() / "sks.cbr", folder.path() / "SKS.CBR");
+    std::filesystem::remove(folder.path() / "Sks.cbr");
+
     for (const char* name : {"a,b.CBR", "c\"d.CBR", "e.CBR "}) // the configuration cannot hold them
         folder.write(name, "");
     screens.open(Screen::start);

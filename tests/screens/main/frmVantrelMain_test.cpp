@@ -147,6 +147,22 @@ TEST_F(MainPageTest, SilentRadioCostsNoContactButClosingDuringItsReadDoes) {
     EXPECT_EQ(logged(), joe);
 }
 
+// Searched on 40 m, logged with the dial on a band where he is in the log.
+TEST_F(MainPageTest, DupeThatTheRadioBringsAtLogIsRefusedAndNothingIsWritten) {
+    const Radio& radio = radioNamed("Kenwood");
+    module.settings.rig = radio.rig;
+    module.settings.comPort = "com1";
+    for (const long hertz : {7'050'000, 7'050'000, 14'050'000}) // the first as the page opens
+        serialPort.answers.push_back({radio.query, radio.reply(hertz)});
+    openPage(joe);
+    settle();
+    enterCall("k1abc");
+    enter();
+    EXPECT_EQ(logged(), joe);
+    EXPECT_EQ(texts(page, "Text2 Text7 Label26"),
+              "|14.050|REFUSED: K1ABC 20 METERS 0012 IS IN THE LOG|");
+}
+
 // Which message, and what is left in the call box afterwards.
 TEST_F(MainPageTest, WhatCannotBeLoggedIsSaidAndIsNotInTheLog) {
     openPage();

@@ -93,9 +93,13 @@ Form* AppScreens::formOf(Screen screen) {
 }
 
 void AppScreens::open(Screen screen) {
+    QWidget* opener = QApplication::activeWindow();
     // Not every platform says at once which window is active.
-    QWidget* active = QApplication::activeWindow();
-    openFor(active != nullptr ? active : m_lastOpened.data(), screen);
+    for (Form* page :
+         {m_lastOpened.data(), m_slots[Screen::main].data(), m_slots[Screen::start].data()})
+        if (opener == nullptr && page != nullptr && page->isVisible())
+            opener = page;
+    openFor(opener, screen);
 }
 
 void AppScreens::replace(Screen current, Screen next) {

@@ -2,10 +2,12 @@
 #include "forms/colours.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFont>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace vantrel {
 
@@ -49,6 +51,41 @@ QColor weaker(const QPalette& palette, int percentOfGround) {
                                    : mixed(text, palette.color(QPalette::Window), percentOfGround);
 }
 
+// Keeps a control's own colours as its palette changes.
+class ColourKeeper : public QObject {
+public:
+    static constexpr QLatin1String name{"colours"};
+
+    explicit ColourKeeper(QWidget* control) : QObject(control), m_control(control) {
+        setObjectName(name);
+        control->installEventFilter(this);
+    }
+
+    void set(QPalette::ColorRole role, Colour colour) {
+        m_colours[role] = colour;
+        apply();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ApplicationPaletteChange)
+            apply();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void apply() {
+        QPalette palette;
+        for (const auto& [role, colour] : m_colours)
+            if (colour != nullptr)
+                palette.setColor(role, colour(QApplication::palette()));
+        m_control->setPalette(palette);
+    }
+
+    QWidget* m_control;
+    std::map<QPalette::ColorRole, Colour> m_colours;
+};
+
 } // namespace
 
 double contrastOf(const QColor& one, const QColor& other) {
@@ -91,6 +128,11 @@ QColor frameColour(const QPalette& palette) {
     return weaker(palette, 45);
 }
 
+QColor lookedUpColour(const QPalette& palette) {
+    constexpr int tint = 17; // per cent
+    return mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), tint);
+}
+
 QPalette alarmPalette(QPalette palette) {
     const bool own = isHighContrast(palette);
     palette.setColor(QPalette::WindowText,
@@ -98,6 +140,14 @@ QPalette alarmPalette(QPalette palette) {
     palette.setColor(QPalette::Window,
                      own ? palette.color(QPalette::Highlight) : QColor(0xC0, 0, 0));
     return palette;
+}
+
+void setColour(QWidget* control, QPalette::ColorRole role, Colour colour) {
+    auto* keeper = static_cast<ColourKeeper*>(
+        control->findChild<QObject*>(ColourKeeper::name, Qt::FindDirectChildrenOnly));
+    if (keeper == nullptr)
+        keeper = new ColourKeeper(control);
+    keeper->set(role, colour);
 }
 
 void setTextColour(QWidget* label, const QColor& colour) {
@@ -108,13 +158,7 @@ void setTextColour(QWidget* label, const QColor& colour) {
 }
 
 void setLookedUp(QWidget* box, bool lookedUp) {
-    constexpr int tint = 17; // per cent
-    QPalette palette;
-    if (lookedUp)
-        palette.setColor(QPalette::Base,
-                         mixed(QApplication::palette().color(QPalette::Base),
-                               QApplication::palette().color(QPalette::Highlight), tint));
-    box->setPalette(palette);
+    setColour(box, QPalette::Base, lookedUp ? lookedUpColour : nullptr);
     QFont font = box->font();
     font.setItalic(lookedUp);
     box->setFont(font);

@@ -28,10 +28,18 @@ QColor accentColour(const QPalette& palette);
 QColor dimmedColour(const QPalette& palette);
 // Rings of options, frames of boxes, buttons and sections.
 QColor frameColour(const QPalette& palette);
+// The ground of a box whose text was looked up.
+QColor lookedUpColour(const QPalette& palette);
 // For a panel across which one word of alarm is written: ground and text.
 QPalette alarmPalette(QPalette palette);
 
-// A text in this colour; an invalid colour is the palette's own.
+// A colour in the palette of the moment: one of those above.
+using Colour = QColor (*)(const QPalette&);
+// Gives the control this colour, also when the palette changes; nullptr: the palette's own.
+void setColour(QWidget* control, QPalette::ColorRole role, Colour colour);
+inline void setTextColour(QWidget* label, Colour colour) {
+    setColour(label, QPalette::WindowText, colour);
+}
 void setTextColour(QWidget* label, const QColor& colour);
 // A box that says by its ground and by slanted letters that its text was looked up, not typed.
 void setLookedUp(QWidget* box, bool lookedUp);

@@ -14,6 +14,18 @@
 
 namespace vantrel {
 
+namespace {
+
+// None before the window manager has put it there.
+QMargins frameOf(const QWidget* page) {
+    const QRect inside = page->geometry();
+    const QRect frame = page->frameGeometry();
+    return {inside.left() - frame.left(), inside.top() - frame.top(),
+            frame.right() - inside.right(), frame.bottom() - inside.bottom()};
+}
+
+} // namespace
+
 Form::Form(const FormContext& context, const char* name, const char* caption) : m_context(context) {
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(QString::fromLatin1(caption));
@@ -31,36 +43,41 @@ void Form::open(QWidget* opener) {
     if (!isVisible()) {
         letReaderReach(this);
         tabInReadingOrder(this);
-        placeOver(opener);
+        placeOver(qobject_cast<Form*>(opener));
     }
     show();
     bringToFront();
 }
 
-// Where the operator looks: over the page that opened it, wholly on that page's screen.
-void Form::placeOver(QWidget* below) {
-    if (!testAttribute(Qt::WA_Resized))
-        resize(sizeHint());
-    const auto* page = qobject_cast<Form*>(below);
+// Where the operator looks: over the page that opened it, below what is being entered there.
+void Form::placeOver(const Form* page) {
+    const QSize asked = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    resize(asked.expandedTo(minimumSizeHint()));
+    m_isPlaced = false;
     if (page == nullptr || page == this || windowType() == Qt::ToolTip)
         return;
     if (!isOwnPage())
         stayAbove(page);
-    // The frame that the window manager will put around it is like that of the page.
-    const QRect inside = page->geometry();
-    // A window that was just opened has no frame yet.
-    const QRect frame = page->frameGeometry().united(inside);
-    QPoint corner = frame.center() - rect().center();
-    if (m_isSmall)
-        corner.setY(std::max(corner.y(), page->mapToGlobal(QPoint(0, page->freeTop())).y()));
-    const QRect room = page->screen()->availableGeometry().adjusted(
-        inside.left() - frame.left(), inside.top() - frame.top(), inside.right() - frame.right(),
-        inside.bottom() - frame.bottom());
-    resize(size().boundedTo(room.size()));
-    // Where the least size is more than there is, its beginning is seen.
-    corner.setX(std::max(room.left(), std::min(corner.x(), room.right() - width() + 1)));
-    corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() - height() + 1)));
-    move(corner);
+    // The window manager will put the same frame around it.
+    QRect place = rect().marginsAdded(frameOf(page));
+    place.moveCenter(page->frameGeometry().center());
+    if (const int top = page->freeTop(); top > 0)
+        place.moveTop(std::max(place.top(), page->mapToGlobal(QPoint(0, top)).y()));
+    moveOnto(page->screen(), place);
+}
+
+// place: with the frame. Wholly on the screen; where the least size is more than there is, its
+// beginning is seen.
+void Form::moveOnto(const QScreen* screen, QRect place) {
+    const QRect room = screen->availableGeometry();
+    const QSize frame = place.size() - size();
+    resize(size().boundedTo(room.size() - frame));
+    place.setSize(size() + frame);
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveLeft(std::max(place.left(), room.left()));
+    place.moveTop(std::max(place.top(), room.top()));
+    move(place.topLeft());
 }
 
 // A click on the page below must not put it in front of this one.
@@ -81,6 +98,16 @@ void Form::bringToFront() {
         tellCurrent(list);
     // Where the focus is shows at once, not only after the first Tab.
     setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
+// The window manager has put its frame around the page by the time that the page gets the keys.
+bool Form::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && !m_isPlaced && !frameOf(this).isNull()) {
+        m_isPlaced = true;
+        if (!screen()->availableGeometry().contains(frameGeometry()))
+            moveOnto(screen(), frameGeometry());
+    }
+    return QWidget::event(event);
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {

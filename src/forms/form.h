@@ -62,15 +62,14 @@ protected:
     // The control that has the focus after opening and after every message box.
     virtual QWidget* firstFocus() { return nullptr; }
 
-    // For the two pages a contest is run from; all others open as large as what they hold.
+    // For the page that a contest is run from; all others open as large as what they hold.
     void openAtPageSize() { resize(800, 600); }
-    // A box that asks or tells one thing: it lies below what is being entered on the page.
-    void openSmall() { m_isSmall = true; }
     // A page of its own is tied to no other window.
     virtual bool isOwnPage() const { return false; }
-    // Down to which line of this page no small box may lie.
+    // Down to which line of this page what opens over it leaves it free, if the screen has room.
     virtual int freeTop() const { return 0; }
 
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -101,12 +100,13 @@ protected:
     Messages& messages() { return m_context.platform.messages; }
 
 private:
-    void placeOver(QWidget* below);
+    void placeOver(const Form* page);
+    void moveOnto(const QScreen* screen, QRect place);
     void stayAbove(const QWidget* page);
 
     FormContext m_context;
     QPointer<QWidget> m_opener;
-    bool m_isSmall = false;
+    bool m_isPlaced = false; // with its frame, whose width is not known from the start
     bool m_gone = false;
 };
 

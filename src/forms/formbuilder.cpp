@@ -161,7 +161,7 @@ QLabel* FormBuilder::caption(const char* text, QWidget* buddy) {
     if (buddy == nullptr)
         return label;
     tie(label, buddy);
-    setTextColour(label, dimmedColour(label->palette()));
+    setTextColour(label, dimmedColour);
     return label;
 }
 
@@ -234,6 +234,8 @@ QLayout* FormBuilder::section(const char* title, QLayout* content) {
 QFont fixedWidthFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::Monospace);
+    if (!QFontInfo(font).fixedPitch()) // some desktops call any font so
+        font.setFamily(QStringLiteral("monospace"));
     // As large as everything else: the system's own fixed font knows no larger setting.
     font.setPointSizeF(QApplication::font().pointSizeF());
     return font;

@@ -11,11 +11,6 @@
 
 namespace vantrel {
 
-namespace {
-constexpr int sheetColumns = 80;
-constexpr int sheetLines = 28;
-} // namespace
-
 frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     : Form(context, "frmVantrelHelp", "Vantrel - Keys") {
     m_sheet = FormBuilder::named(new QPlainTextEdit(this), "Text1");
@@ -24,10 +19,7 @@ frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     m_sheet->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_sheet->setTabChangesFocus(true);
     m_sheet->setFont(fixedWidthFont());
-    const QFontMetrics metrics(m_sheet->font());
-    m_sheet->setMinimumSize(widthOfColumns(metrics, sheetColumns) +
-                                m_sheet->verticalScrollBar()->sizeHint().width(),
-                            metrics.lineSpacing() * sheetLines);
+    m_sheet->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_exitButton = FormBuilder(this).command("Command1", "E&XIT", "CLOSES THE KEY SHEET");
     connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
     auto* page = new QVBoxLayout(this);
@@ -37,6 +29,21 @@ frmVantrelHelp::frmVantrelHelp(const FormContext& context)
 
 void frmVantrelHelp::load() {
     m_sheet->setPlainText(toQt(keySheet(m_page, shared().settings)));
+    m_sheet->setMinimumWidth(textSize().width());
+}
+
+// As large as its text; where the screen is smaller it is scrolled.
+QSize frmVantrelHelp::sizeHint() const {
+    const int others = Form::sizeHint().height() - m_sheet->sizeHint().height();
+    return {Form::sizeHint().width(), others + textSize().height()};
+}
+
+QSize frmVantrelHelp::textSize() const {
+    const int around =
+        2 * (m_sheet->frameWidth() + static_cast<int>(m_sheet->document()->documentMargin()));
+    const QSize text = QFontMetrics(m_sheet->font()).size(0, m_sheet->toPlainText());
+    return {text.width() + around + m_sheet->verticalScrollBar()->sizeHint().width(),
+            text.height() + around};
 }
 
 QWidget* frmVantrelHelp::firstFocus() {

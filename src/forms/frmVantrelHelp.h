@@ -19,11 +19,15 @@ public:
     // Whose sheet is shown when it opens.
     void choose(std::string page) { m_page = std::move(page); }
 
+    QSize sizeHint() const override;
+
 protected:
     void load() override;
     QWidget* firstFocus() override;
 
 private:
+    QSize textSize() const;
+
     QPlainTextEdit* m_sheet;
     QPushButton* m_exitButton;
     std::string m_page;

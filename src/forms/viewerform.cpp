@@ -40,11 +40,12 @@ private:
     int m_columns;
 };
 
+// Of their text: the blanks that pad a line need no room.
 int longestOf(const std::vector<std::string>& lines) {
-    std::size_t longest = 0;
+    int longest = 0;
     for (const std::string& line : lines)
-        longest = std::max(longest, line.size());
-    return static_cast<int>(longest);
+        longest = std::max(longest, length(trimRight(line)));
+    return longest;
 }
 
 // Upper and lower case are the same.

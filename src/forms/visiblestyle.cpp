@@ -3,8 +3,11 @@
 
 #include "forms/colours.h"
 
+#include <QHelpEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolTip>
 
 namespace vantrel {
 
@@ -22,7 +25,39 @@ void drawFrame(QPainter& painter, const QRect& rect, const QColor& colour, int w
     painter.restore();
 }
 
+// The tool tip of a label whose text has no room.
+class WholeText : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* label = static_cast<const QLabel*>(watched);
+        if (event->type() != QEvent::ToolTip || label->wordWrap() ||
+            label->fontMetrics().horizontalAdvance(label->text()) <= label->contentsRect().width())
+            return QObject::eventFilter(watched, event);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), label->text());
+        return true;
+    }
+};
+
 } // namespace
+
+void VisibleStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QLabel*>(widget) != nullptr)
+        widget->installEventFilter(new WholeText(widget));
+}
+
+void VisibleStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                                const QPalette& palette, bool enabled, const QString& text,
+                                QPalette::ColorRole role) const {
+    const bool hasLines = (flags & Qt::TextWordWrap) != 0 || text.contains(QLatin1Char('\n'));
+    const QString shown =
+        hasLines ? text
+                 : painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width(), flags);
+    QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, shown, role);
+}
 
 void VisibleStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);

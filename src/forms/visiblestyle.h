@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The desktop's own style with frames that can be seen: rings of options, frames of boxes, buttons
-// and sections, handles of scroll bars, and what has the focus, in light and in dark palettes.
+// and sections, handles of scroll bars, and what has the focus, in light and in dark palettes. A
+// text without room ends in "...", and the whole is its tool tip.
 #pragma once
 
 #include <QProxyStyle>
@@ -11,7 +12,10 @@ class VisibleStyle : public QProxyStyle {
 public:
     // Desktops there are whose selected text can hardly be read.
     void polish(QPalette& palette) override;
+    void polish(QWidget* widget) override;
     using QProxyStyle::polish;
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -19,7 +19,6 @@ constexpr double dupeEnlargement = 5;
 frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     : Form(context, "frmCheckDupeK3Y", "Dupe") {
     setWindowModality(Qt::ApplicationModal);
-    openSmall();
     createControls();
     connectHandler(m_logDupeButton, &QPushButton::clicked, this, &frmCheckDupeK3Y::logDupeClicked);
     connect(m_noLogButton, &QPushButton::clicked, this, &QWidget::close);

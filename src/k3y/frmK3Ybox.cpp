@@ -18,7 +18,6 @@ constexpr double headlineEnlargement = 1.3;
 } // namespace
 
 frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K3Y") {
-    openSmall();
     createControls();
     connectHandlers();
 }

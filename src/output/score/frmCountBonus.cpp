@@ -14,7 +14,6 @@ constexpr double totalEnlargement = 2;
 
 frmCountBonus::frmCountBonus(const FormContext& context)
     : Form(context, "frmCountBonus", "Vantrel - Bonus") {
-    openSmall();
     FormBuilder build(this);
     m_total = build.label("Label1");
     m_total->setFont(enlargedFont(this, totalEnlargement));

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QScreen>
@@ -28,23 +29,48 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-// Wide enough for a usual line of text, and that a path is not broken in its middle.
-void widen(QMessageBox& box) {
-    constexpr int widestShare = 80; // per cent of the screen
-    constexpr int usualCharacters = 64;
-    const QFontMetrics metrics = box.fontMetrics();
-    const QString shown = box.text() + QLatin1Char('\n') + box.informativeText();
-    int width = 0;
-    for (const QString& line : shown.split(QLatin1Char('\n')))
-        width = std::max(width, std::min(metrics.horizontalAdvance(line),
-                                         metrics.averageCharWidth() * usualCharacters));
-    for (const QString& word : shown.split(QRegularExpression(QStringLiteral("\\s+"))))
-        width = std::max(width, metrics.horizontalAdvance(word));
-    const int widest = box.screen()->availableGeometry().width() * widestShare / 100;
-    for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"})
-        if (auto* label = box.findChild<QLabel*>(QLatin1String(name)))
-            label->setMinimumWidth(std::min(width + 2 * metrics.averageCharWidth(), widest));
+// As it is painted: no word breaks but a path, and that behind a "/" alone.
+QString breakable(QString text) {
+    static const QRegularExpression hyphen(QStringLiteral("-(?=\\S)"));
+    return text.replace(hyphen, QStringLiteral("-") + QChar(0x2060)); // no break here
 }
+
+// Shows a label's text in the room that it needs: QMessageBox itself cuts what it takes for short.
+// The text, which is read aloud and copied, stays as it is.
+class WrappedText : public QObject {
+public:
+    explicit WrappedText(QLabel* label)
+        : QObject(label), m_label(label), m_shown(breakable(label->text())) {
+        constexpr int usualCharacters = 64;
+        const QFontMetrics metrics = label->fontMetrics();
+        const int widest = label->screen()->availableGeometry().width() / 2;
+        int width = std::min(metrics.averageCharWidth() * usualCharacters, widest);
+        for (const QString& piece : m_shown.split(QRegularExpression(QStringLiteral("\\s|(?<=/)"))))
+            width = std::max(width, metrics.horizontalAdvance(piece));
+        if (width > widest)
+            m_flags |= Qt::TextWrapAnywhere;
+        const QRect room(0, 0, std::min(width, widest), QWIDGETSIZE_MAX);
+        const QSize needed = metrics.boundingRect(room, m_flags, m_shown).size();
+        label->setContentsMargins({});
+        label->setFixedSize(needed.width() + 1, needed.height());
+        label->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::Paint)
+            return QObject::eventFilter(watched, event);
+        QPainter painter(m_label);
+        painter.setPen(m_label->palette().color(QPalette::WindowText));
+        painter.drawText(m_label->rect(), m_flags, m_shown);
+        return true;
+    }
+
+private:
+    QLabel* m_label;
+    QString m_shown;
+    int m_flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+};
 
 int showBox(const Message& message, QMessageBox::StandardButtons buttons,
             QMessageBox::StandardButton escapeButton) {
@@ -59,7 +85,9 @@ int showBox(const Message& message, QMessageBox::StandardButtons buttons,
     box.setStandardButtons(buttons);
     box.setEscapeButton(escapeButton);
     box.setDefaultButton(escapeButton); // Enter by accident changes nothing
-    widen(box);
+    for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"})
+        if (auto* label = box.findChild<QLabel*>(QLatin1String(name)))
+            new WrappedText(label);
     const int button = box.exec();
     // No window is active by itself after a box closes on every platform.
     if (parent)

@@ -4,7 +4,7 @@
 #include "platform/files.h"
 #include "platform/systemcalls.h"
 #include "roster/rosterlookup.h"
-#include "screens/main/dupecheck.h"
+#include "screens/main/workedcalls.h"
 #include "support/contacts.h"
 #include "support/ratiotable.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The main page on a full log: from START to its paint, a key in the call box, its panel.
 #include "roster/rosterrecord.h"
-#include "screens/main/frmContestPanel.h"
+#include "screens/main/widgets/contestpanel.h"
 #include "support/program.h"
 
 #include <QKeyEvent>

@@ -6,7 +6,7 @@
 #include "output/score/score.h"
 #include "platform/files.h"
 #include "platform/systemcalls.h"
-#include "screens/main/dupecheck.h"
+#include "screens/main/workedcalls.h"
 #include "shared/settings.h"
 #include "support/contacts.h"
 #include "support/ratiotable.h"

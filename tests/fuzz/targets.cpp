@@ -25,10 +25,9 @@
 #include "rig/catlink.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterlookup.h"
-#include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
 #include "screens/main/qsoentry.h"
-#include "screens/main/workedbefore.h"
+#include "screens/main/workedcalls.h"
 #include "screens/start/startlists.h"
 #include "shared/utctime.h"
 #include "support/contacts.h"
@@ -192,7 +191,8 @@ void contact(std::string input) {
     if (errorOf([&] { settings = storedSettings(settings); }) || !canBeLogged(entry))
         return;
     const UtcTime utc = utcTime(clock.now(), settings.gmtOffset);
-    ContactFields fields = contactFrom(entry, settings, marker, utc);
+    ContactFields fields = contactFields(entry, settings, utc);
+    fields.marker = marker;
     std::string mhz = frequencyAsEntered(entry.frequency);
     assert(frequencyAsEntered(mhz) == mhz);
     if (enterFrequency(fields, mhz, settings) != FrequencyCheck::good)

@@ -46,14 +46,16 @@ std::string scoreSum(const Score& score) {
 
 std::string scoreGain(const Contacts& contacts, const Score& before, std::string_view contact,
                       const OperatingSettings& settings) {
-    if (isDupe(contact))
-        return "DUPE: +0";
     Contacts more(contacts);
     more.push_back(contact);
     const Score after = computeScore(more, settings);
     if (before.stoppedBy || after.stoppedBy)
         return {};
-    return after.european ? grown(europeanGains, before, after) : grown(sprintGains, before, after);
+    const std::string gain =
+        after.european ? grown(europeanGains, before, after) : grown(sprintGains, before, after);
+    if (!isDupe(contact)) // the number of one that is by its call alone may be new
+        return gain;
+    return gain.empty() ? "DUPE: +0" : "DUPE  " + gain;
 }
 
 } // namespace vantrel

@@ -13,7 +13,7 @@ namespace vantrel {
 std::string scoreSum(const Score& score);
 
 // What the contact line would add to the contacts' score (`before`): "NEW S/P/C  +5 CENTURION",
-// "DUPE: +0"; empty when it only counts as a QSO, or the score stops.
+// "DUPE  +5 CENTURION", "DUPE: +0"; empty when it only counts as a QSO, or the score stops.
 std::string scoreGain(const Contacts& contacts, const Score& before, std::string_view contact,
                       const OperatingSettings& settings);
 

@@ -2,10 +2,10 @@
 #include "screens/main/frequency.h"
 
 #include "base/fixedtext.h"
-#include "log/bands.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace vantrel {
 
@@ -20,6 +20,18 @@ bool allDigits(std::string_view text) {
 bool startsWithAnyOf(std::string_view text, std::initializer_list<std::string_view> beginnings) {
     return std::any_of(beginnings.begin(), beginnings.end(),
                        [&](std::string_view beginning) { return text.starts_with(beginning); });
+}
+
+// The band after that of the text, in the order from `first` on.
+template <typename Iterator>
+const Band& nextSprintBand(Iterator first, Iterator last, std::string_view bandText) {
+    const auto isSprint = [](const Band& band) { return !band.text.empty(); };
+    const auto now = std::find_if(
+        first, last, [&](const Band& band) { return isSprint(band) && band.text == bandText; });
+    if (now == last)
+        return bands.front();
+    const auto next = std::find_if(std::next(now), last, isSprint);
+    return next != last ? *next : *std::find_if(first, last, isSprint);
 }
 
 std::string withPointAfter(std::string_view digits, int whole) {
@@ -102,6 +114,14 @@ std::string khzFault(std::string_view field) {
 std::string bandTagOf(std::string_view mhz) {
     const Band* band = bandOfMhz(mhz);
     return std::string(band == nullptr ? left(mhz, 2) : band->bandTag);
+}
+
+const Band& bandUp(std::string_view bandText) {
+    return nextSprintBand(bands.begin(), bands.end(), bandText);
+}
+
+const Band& bandDown(std::string_view bandText) {
+    return nextSprintBand(bands.rbegin(), bands.rend(), bandText);
 }
 
 } // namespace vantrel

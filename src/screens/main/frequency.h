@@ -2,6 +2,8 @@
 // The frequency from the box (MHz, as typed or read) to the kHz field of the log line.
 #pragma once
 
+#include "log/bands.h"
+
 #include <string>
 #include <string_view>
 
@@ -28,5 +30,10 @@ std::string khzFault(std::string_view field);
 
 // The band tag of a frequency in MHz: " 1", " 3", " 7", else its first two characters.
 std::string bandTagOf(std::string_view mhz);
+
+// The next higher / lower of the six sprint bands after the one whose text the band label shows,
+// round the ring at its ends; 160 m for anything else.
+const Band& bandUp(std::string_view bandText);
+const Band& bandDown(std::string_view bandText);
 
 } // namespace vantrel

@@ -6,180 +6,252 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "forms/markedlabel.h"
-#include "k3y/k3ystation.h"
-#include "k3y/standings.h"
-#include "output/score/scoregain.h"
-#include "output/score/scorereport.h"
-#include "platform/files.h"
 #include "platform/serialport.h"
-#include "rig/catlink.h"
-#include "screens/main/bandring.h"
-#include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
-#include "screens/main/frmContestPanel.h"
-#include "screens/main/frmSuggestionList.h"
-#include "screens/main/frmWhoIsIt.h"
-#include "screens/main/frmWorkedList.h"
-#include "screens/main/workedbefore.h"
+#include "screens/main/widgets/contestpanel.h"
+#include "screens/main/widgets/suggestionlist.h"
+#include "screens/main/widgets/workedlist.h"
 #include "shared/utctime.h"
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QGridLayout>
-#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QShortcut>
-#include <QStyle>
 #include <QTimer>
-#include <QVBoxLayout>
 
-#include <functional>
+#include <initializer_list>
+#include <utility>
 
 namespace vantrel {
 
+namespace {
+constexpr double entryEnlargement = 1.5;
+constexpr double hintEnlargement = 1.1;
+constexpr double statusEnlargement = 1.4;
+constexpr int frequencyColumns = 9;
+constexpr int countColumns = 7;
+
+auto stepTo(const Band& (*next)(std::string_view bandText)) {
+    return [next](ContactEntry& entry) { return entry.bandStepped(next); };
+}
+} // namespace
+
 frmVantrelMain::frmVantrelMain(const FormContext& context)
     : Form(context, "frmVantrelMain", "Vantrel"),
-      m_page(this, [this] { return pageCommands(); }),
-      m_boxes(m_page.boxes),
-      m_tuning(context, m_page,
-               [this](const std::string& bandTag) {
-                   showWhoIsIt();
-                   return recheckOn(bandTag);
-               }),
-      m_keys(this, m_page, keyActions()),
-      m_hold(this, [this] { platform().serialPort.close(); }),
-      m_roster(context.platform.files) {
+      m_entry(shared(), platform(),
+              {[this] {
+                   showEntry();
+                   return readFrequency(shared().settings, platform().serialPort);
+               },
+               [this](const Message& message) {
+                   showEntry();
+                   messages().show(message);
+               }}),
+      m_boxes(this),
+      m_hold(this, [this] { platform().serialPort.close(); }) {
     setAttribute(Qt::WA_DeleteOnClose, false);
-    connectHandlers();
-    m_logWatch = shared().log.watch([this] { showLog(); });
+    FormBuilder build(this);
+    m_hintLabel = build.alert("Label26");
+    m_hintLabel->setFont(enlargedFont(this, hintEnlargement));
+    page(this, {statusRow(),
+                m_boxes.exchangeRow(this),
+                whoRow(),
+                m_hintLabel,
+                frequencyRow(),
+                entryCommands(),
+                {contestRow(), 1},
+                pageCommands()});
+    // Long texts are cut at the window's edge; they must not widen it, and the page must not jump.
+    for (QLabel* label : {m_fileLabel, m_hintLabel})
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_hintLabel->setFixedHeight(m_hintLabel->sizeHint().height());
+    connectBoxes();
+    m_second = new QTimer(this);
+    m_second->setInterval(1000);
+    connectHandler(m_second, &QTimer::timeout, [this] { secondPassed(); });
+    m_logWatch = shared().log.watch([this] { runHandler([this] { showLog(); }); });
     openAtPageSize();
 }
 
-// The commands that lead to other pages.
-QHBoxLayout* frmVantrelMain::pageCommands() {
-    using Action = std::function<void()>;
-    const auto opens = [this](Screen screen) -> Action {
-        return [this, screen] { screens().open(screen); };
-    };
-    const auto opensOnContact = [this](Screen page, bool shown) -> Action {
-        return [this, page, shown] { openOnContact(page, chosenContact(), shown); };
-    };
-    const PageCommand commands[] = {
-        {"Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
-         opensOnContact(Screen::correct, true)},
-        {"Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
-         opensOnContact(Screen::deletion, false)},
-        {"Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
-         [this] { screens().openList(ListedFile::log); }},
-        {"Command9", "F&ILES", "FILE MAINTENANCE PAGE", opens(Screen::files)},
-        {"Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK", opens(Screen::backup)},
-        // In the event month the standings take the place of the score.
-        {"Command11", "S&CORE", "CALCULATES CURRENT SCORE ",
-         [this] { screens().open(shared().settings.isK3y() ? Screen::standings : Screen::score); }},
-        {"Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD", opens(Screen::bonus)},
-        {"Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM", [this] { screens().quit(); }},
-    };
-    return pageCommandRow(this, commands,
-                          [this](const PageCommand& command) { runHandler(command.action); });
+// --- Controls --------------------------------------------------------------------------------
+
+QHBoxLayout* frmVantrelMain::statusRow() {
+    FormBuilder build(this);
+    m_whoLabel = build.label("Label28");
+    m_fileLabel = build.label("Label12");
+    m_dupeModeLabel = build.label("Label13");
+    m_readSign = build.caption("");
+    setRole(m_readSign, QAccessible::Graphic);
+    m_autoReadLabel = build.label("Label11");
+    m_clockLabel = build.label("Label27");
+    for (QLabel* label : {m_whoLabel, m_clockLabel})
+        label->setFont(enlargedFont(this, statusEnlargement));
+    QPushButton* autoRead =
+        build.command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON",
+                      [this] { run(&ContactEntry::autoReadToggled); });
+    return row({m_whoLabel,
+                {m_fileLabel, 1},
+                m_dupeModeLabel,
+                m_readSign,
+                m_autoReadLabel,
+                autoRead,
+                m_clockLabel,
+                build.caption("UTC", m_clockLabel)});
 }
 
-void frmVantrelMain::connectHandlers() {
-    connectEntryBoxes();
-    using Main = frmVantrelMain;
-    const auto onClick = [this](QPushButton* button, void (Main::*handler)()) {
-        connectHandler(button, &QPushButton::clicked, this, handler);
-    };
-    onClick(m_page.searchButton, &Main::searchClicked);
-    onClick(m_page.logButton, &Main::logClicked);
-    onClick(m_page.noLogButton, &Main::noLogClicked);
-    onClick(m_page.readButton, &Main::readClicked);
-    onClick(m_page.audioButton, &Main::audioClicked);
-    onClick(m_page.upButton, &Main::upClicked);
-    onClick(m_page.downButton, &Main::downClicked);
-    onClick(m_page.frequencyButton, &Main::frequencyClicked);
-    onClick(m_page.autoReadButton, &Main::autoReadClicked);
-    connectHandler(m_page.stationOption, &QRadioButton::clicked, this, &Main::stationClicked);
+// Who it may be while he is typed: calls worked on the left, members on the right.
+QHBoxLayout* frmVantrelMain::whoRow() {
+    m_workedLabel = FormBuilder::named(new MarkedLabel(this), "Label24");
+    m_workedLabel->setTextFormat(Qt::PlainText);
+    m_workedLabel->setFont(enlargedFont(this, hintEnlargement, false));
+    m_suggestions = FormBuilder::named(new SuggestionList(this), "List2",
+                                       "MEMBERS LIKE THE CALL - DOWN AND ENTER TAKES ONE");
+    m_workedLabel->setFixedHeight(m_suggestions->height());
+    connectHandler(m_suggestions, &SuggestionList::chosen, [this](const QString& call) {
+        m_entry.callChosen(fromQt(call));
+        showEntry();
+        toCallBox();
+    });
+    connectHandler(m_suggestions, &SuggestionList::escaped, [this] { toCallBox(); });
+    return row({m_workedLabel, {m_suggestions, 1}});
 }
 
-void frmVantrelMain::connectEntryBoxes() {
-    using Main = frmVantrelMain;
-    connectHandler(m_boxes.call, &QLineEdit::textEdited, this, &Main::callEdited);
-    connectHandler(m_page.whoIsIt->suggestions(), &SuggestionList::chosen, this,
-                   &Main::memberChosen);
-    connectHandler(m_page.whoIsIt->suggestions(), &SuggestionList::left, this, &Main::toCallBox);
-    connectHandler(m_page.workedList, &QListView::doubleClicked, this, &Main::contactChosen);
+QHBoxLayout* frmVantrelMain::frequencyRow() {
+    FormBuilder build(this);
+    m_countBox = build.output("Text1");
+    m_bandLabel = build.label("Label10");
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{m_boxes.frequency, m_countBox, m_bandLabel})
+        control->setFont(enlargedFont(this, entryEnlargement));
+    const int character = QFontMetrics(m_countBox->font()).averageCharWidth();
+    m_boxes.frequency->setFixedWidth(character * frequencyColumns);
+    m_countBox->setFixedWidth(character * countColumns);
+    return row(
+        {build.caption("FREQ &MHz", m_boxes.frequency), m_boxes.frequency,
+         build.command("Command15", "Enter",
+                       "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON",
+                       [this] { frequencyClicked(); }),
+         build.command("Command13", "&Up", "TOGGELS BAND UP ONE", [this] { run(stepTo(bandUp)); }),
+         build.command("Command14", "&Down", "TOGGLES BAND DOWN ONE",
+                       [this] { run(stepTo(bandDown)); }),
+         m_bandLabel, Item::room(), build.caption("QSOs", m_countBox), m_countBox});
+}
+
+QHBoxLayout* frmVantrelMain::entryCommands() {
+    FormBuilder build(this);
+    QPushButton* search = build.command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE",
+                                        [this] { run(&ContactEntry::search); });
+    QPushButton* log = build.command("Command3", "&LOG", "SAVES THE QSO TO CABRILLO FILE",
+                                     [this] { run(&ContactEntry::log); });
+    for (QPushButton* button : {search, log})
+        button->setFont(enlargedFont(this, 1));
+    const auto chooseStation = [this] {
+        screens().open(Screen::k3yBox);
+        showEntry(); // opened, nothing is chosen yet
+    };
+    m_stationOption = build.jobOption(
+        "Option1", "ADD K3Y/xx", "CLICK TO ADD K3Y/xx  TO FILE - BEFORE LOGGING DX K3Y STATIONS",
+        chooseStation);
     connectHandler(new QShortcut(QKeySequence(QStringLiteral("Alt+K")), this),
-                   &QShortcut::activated, this, &Main::stationClicked);
-    for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
-        connect(box, &QLineEdit::textEdited, box, [box] { setLookedUp(box, false); });
-    m_second = new QTimer(this);
-    m_second->setInterval(1000);
-    connectHandler(m_second, &QTimer::timeout, this, &Main::secondPassed);
-    connectHandler(m_boxes.call, &QLineEdit::returnPressed, this, &Main::searchClicked);
-    connectHandler(m_boxes.number, &QLineEdit::returnPressed, this, &Main::logClicked);
-    connectHandler(m_boxes.frequency, &QLineEdit::returnPressed, this, &Main::frequencyClicked);
-    connect(m_boxes.frequency, &QLineEdit::editingFinished, this,
-            [this] { runHandler([this] { m_tuning.enter(); }); });
+                   &QShortcut::activated, chooseStation);
+    m_audioButton =
+        build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ", [this] { audioClicked(); });
+    m_stationLabel = build.label("Label23");
+    m_markerLabel = build.label("Label25");
+    return row({search, log,
+                build.command("Command4", "&NO LOG", "DOES NOT SAVE QSO TO FILE",
+                              [this] { run(&ContactEntry::dropped); }),
+                build.command("Command5", "&FREQ", "READS FREQ FROM RADIO",
+                              [this] { run(&ContactEntry::radioAsked); }),
+                m_audioButton, m_stationOption, m_stationLabel, m_markerLabel, Item::room()});
+}
+
+// The list keeps its width and the panel follows it.
+QHBoxLayout* frmVantrelMain::contestRow() {
+    m_workedList = FormBuilder::named(new WorkedList(this), "List1");
+    m_panel = new ContestPanel(this);
+    connectHandler(m_workedList, &WorkedList::chosen,
+                   [this](int contact) { openOnContact(Screen::correct, contact, true); });
+    connectHandler(m_workedList, &WorkedList::removed,
+                   [this](int contact) { openOnContact(Screen::deletion, contact, true); });
+    connectHandler(m_workedList, &WorkedList::escaped, [this] { toCallBox(); });
+    return row({column({m_workedList->headings(this), {m_workedList, 1}}), m_panel, Item::room()});
+}
+
+// In three groups, and EXIT apart.
+QHBoxLayout* frmVantrelMain::pageCommands() {
+    FormBuilder build(this);
+    const auto leads = [&](const char* name, const char* caption, const char* toolTip,
+                           Screen screen) {
+        return build.command(name, caption, toolTip, [this, screen] { screens().open(screen); });
+    };
+    const Item gap = Item::gap(fontMetrics().averageCharWidth() * 2);
+    return row(
+        {build.command("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
+                       [this] { openOnContact(Screen::correct, chosenContact(), true); }),
+         build.command("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
+                       [this] { openOnContact(Screen::deletion, chosenContact(), false); }),
+         gap,
+         build.command("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
+                       [this] { screens().openList(ListedFile::log); }),
+         leads("Command9", "F&ILES", "FILE MAINTENANCE PAGE", Screen::files),
+         leads("Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK", Screen::backup), gap,
+         // In the event month the standings take the place of the score.
+         build.command("Command11", "S&CORE", "CALCULATES CURRENT SCORE ",
+                       [this] {
+                           screens().open(shared().settings.isK3y() ? Screen::standings
+                                                                    : Screen::score);
+                       }),
+         leads("Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD", Screen::bonus),
+         Item::room(), build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM", [this] {
+             screens().quit();
+         })});
+}
+
+void frmVantrelMain::connectBoxes() {
+    for (QLineEdit* box : {m_boxes.call, m_boxes.name, m_boxes.state, m_boxes.number})
+        connectHandler(box, &QLineEdit::textEdited, [this] {
+            m_entry.edited(m_boxes.entry());
+            showEntry();
+        });
+    connectHandler(m_boxes.call, &QLineEdit::returnPressed, [this] { run(&ContactEntry::search); });
+    connectHandler(m_boxes.number, &QLineEdit::returnPressed, [this] { run(&ContactEntry::log); });
+    connectHandler(m_boxes.frequency, &QLineEdit::returnPressed, [this] { frequencyClicked(); });
+    connectHandler(m_boxes.frequency, &QLineEdit::editingFinished,
+                   [this] { run(&ContactEntry::frequencyEntered); });
+    m_boxes.call->installEventFilter(this);
 }
 
 // --- Opening ---------------------------------------------------------------------------------
 
 void frmVantrelMain::load() {
     const OperatingSettings& settings = shared().settings;
-    put(m_page.fileLabel, "FILE NAME:  " + settings.logFileName);
+    put(m_fileLabel, "FILE NAME:  " + settings.logFileName);
     setWindowTitle(toQt(settings.myCall + " " + settings.contestCode + " " + settings.logFileName +
                         " - Vantrel"));
-    put(m_page.whoLabel, settings.myCall + "  " + settings.contestCode);
-    put(m_page.dupeModeLabel, settings.logsDupes() ? "Dupes Are Logged" : "Dupes Not Logged");
-    m_tuning.start();
-    setMarker(noMarker);
-    showHint(Hint());
-    clearEntry(Left::nothing);
-    m_cleared.reset();
-    showStation(std::string(noStationLabel));
+    put(m_whoLabel, settings.myCall + "  " + settings.contestCode);
+    put(m_dupeModeLabel, settings.logsDupes() ? "Dupes Are Logged" : "Dupes Not Logged");
     shared().audioOn = true;
-    put(m_page.audioButton, "AUDIO ON");
+    put(m_audioButton, "AUDIO ON");
+    m_entry.opened();
+    toCallBox();
     runHandler([this] { shared().log.open(shared().settings.logFileName); });
-    m_radioReadDue = settings.hasRadio();
+    m_radioReadDue = settings.hasRadio() && m_entry.autoReads();
     m_second->start();
-    secondPassed();
     update();
 }
 
 void frmVantrelMain::paintEvent(QPaintEvent* event) {
     Form::paintEvent(event);
-    if (!m_radioReadDue)
-        return;
-    m_radioReadDue = false;
-    QTimer::singleShot(0, this, [this] { runHandler([this] { readClicked(); }); });
-}
-
-QWidget* frmVantrelMain::firstFocus() {
-    return m_boxes.call;
-}
-
-// What the keys do that belong to no button; see MainKeys.
-MainKeys::Actions frmVantrelMain::keyActions() {
-    return {
-        [this] {
-            if (m_refusalShown)
-                showHint(Hint());
-        },
-        [this] { runHandler([this] { bringBack(); }); },
-        [this] { toCallBox(); },
-        [this](int contact) { runHandler([&] { openOnContact(Screen::correct, contact, true); }); },
-        [this](int contact) {
-            runHandler([&] { openOnContact(Screen::deletion, contact, true); });
-        },
-        [this] {
-            return m_searched && textOf(m_boxes.call) == m_searched->call &&
-                   trim(textOf(m_boxes.name)).empty();
-        }};
+    if (std::exchange(m_radioReadDue, false))
+        QTimer::singleShot(0, this,
+                           [this] { runHandler([this] { run(&ContactEntry::radioAsked); }); });
 }
 
 // Small boxes leave the boxes of the exchange free.
 int frmVantrelMain::freeTop() const {
-    return m_page.hintLabel->geometry().bottom();
+    return m_hintLabel->geometry().bottom();
 }
 
 void frmVantrelMain::closeEvent(QCloseEvent* event) {
@@ -187,344 +259,147 @@ void frmVantrelMain::closeEvent(QCloseEvent* event) {
     screens().quit();
 }
 
-// --- SEARCH ----------------------------------------------------------------------------------
+// --- The contact being entered ---------------------------------------------------------------
 
-// What a lookup filled in belongs to the call it was looked up for, and so does a mark.
-void frmVantrelMain::callEdited() {
-    resetDupeMarker();
-    m_searched.reset();
-    showWhoIsIt();
-    showMembers();
-    if (!m_lookedUp)
-        return;
-    Entry typed = m_boxes.entry();
-    forgetLookup(typed, *m_lookedUp);
-    m_lookedUp.reset();
-    const int cursor = m_boxes.call->cursorPosition();
-    showEntry(typed);
-    m_boxes.call->setCursorPosition(cursor);
-}
-
-void frmVantrelMain::showWhoIsIt() {
-    const std::string typed = textOf(m_boxes.call);
-    const std::string bandTag = m_tuning.bandTag();
-    const Contacts& contacts = shared().log.contacts();
-    m_page.whoIsIt->showWorked(contacts, typed, bandTag);
-    m_page.panel->showBands(bandTable(contacts, typed, bandTag, shared().settings.isK3y()));
-}
-
-void frmVantrelMain::showMembers() {
-    m_page.whoIsIt->showMembers(m_roster, shared().log.contacts(), trim(textOf(m_boxes.call)),
-                                m_tuning.bandTag());
-}
-
-// As if it had been typed: the next Enter is SEARCH.
-void frmVantrelMain::memberChosen(const QString& call) {
-    m_boxes.call->setText(call);
-    callEdited();
-    toCallBox();
-}
-
-void frmVantrelMain::searchClicked() {
+void frmVantrelMain::run(const std::function<Answer(ContactEntry&)>& happens) {
     const InputHold::Scope hold(m_hold);
-    m_tuning.enter();
-    Entry typed = m_boxes.entry();
-    if (isComplete(typed) && !m_broughtBack) {
-        logClicked();
-        return;
+    m_entry.edited(m_boxes.entry());
+    Answer answer;
+    try {
+        answer = happens(m_entry);
+    } catch (const RuntimeError&) {
+        showEntry(); // as far as it came
+        throw;
     }
-    m_broughtBack = false;
-    m_searched.reset();
-    typed.call = callAsEntered(typed.call);
-    put(m_boxes.call, typed.call);
-    if (!lookUpAndShow(typed)) {
-        toCallBox();
-        return;
-    }
-    if (!m_tuning.read(typed, Tuning::Asks::search))
-        return;
-    if (trim(typed.frequency).empty()) {
-        messages().show({std::string(frequencyMissingText), BoxIcon::exclamation});
-        m_boxes.call->clear();
-        toCallBox();
-        return;
-    }
-    typed.frequency = completedFrequency(typed.frequency);
-    m_tuning.show(typed.frequency);
-    const std::string marker = shared().marker;
-    setMarker(noMarker);
-    showStation(std::string(noStationLabel));
-    m_searched = Searched{typed.call, typed.number, bandTagOf(typed.frequency)};
-    if (refusesDupe())
-        return;
-    if (m_lookedUp)
-        tellGain(typed);
-    if (marker != noMarker && marker != dupeMarker)
-        showHint(takenBackHint(marker));
-    toCallBox();
+    carryOut(answer);
 }
 
-// Looks the call up and shows what it gave; false when the check ends here.
-bool frmVantrelMain::lookUpAndShow(Entry& typed) {
-    if (!canLookUp(typed.call))
-        return false;
-    const std::string call = typed.call;
-    const LookupOutcome outcome = lookUp(typed, m_roster);
-    showEntry(typed);
-    Hint hint = lookupHint(outcome, call, m_roster.hasMembers());
-    hint.filledIn = filledIn(outcome, typed);
-    showHint(hint);
-    if (outcome == LookupOutcome::found) {
-        m_lookedUp = typed;
-        for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
-            setLookedUp(box, true);
-    }
-    return outcome != LookupOutcome::nobody;
-}
-
-// The test for the call and the band searched for. In a sprint a duplicate is marked and logged,
-// or refused (true); in the event a K3Y duplicate is told besides.
-bool frmVantrelMain::refusesDupe() {
-    const OperatingSettings& settings = shared().settings;
-    const Contacts& contacts = shared().log.contacts();
-    const Searched searched = *m_searched;
-    const std::string_view logged = duplicateOf(contacts, searched.call, searched.bandTag);
-    const bool k3yDupe =
-        settings.isK3y() && isK3yDupe(contacts, searched.call, searched.number, searched.bandTag);
-    if (!logged.empty()) {
-        const bool refused = !settings.logsDupes();
-        if (refused) {
-            clearEntry(Left::nothing);
-            showHint(refusedHint(logged));
-            m_refusalShown = true;
-        } else {
-            setMarker(dupeMarker);
-        }
+void frmVantrelMain::carryOut(const Answer& answer) {
+    showEntry();
+    if (answer.dupeScreen)
         screens().open(Screen::dupe);
-        if (refused)
-            return true;
-    }
-    if (k3yDupe)
-        messages().show({std::string(duplicateQsoText), BoxIcon::exclamation});
-    return false;
-}
-
-// After a hit the hint line adds what this contact would bring.
-void frmVantrelMain::tellGain(const Entry& typed) {
-    const OperatingSettings& settings = shared().settings;
-    const UtcTime utc = utcTime(platform().clock.now(), settings.gmtOffset);
-    const std::optional<std::string> line = lineOf(typed, settings, shared().marker, utc);
-    if (settings.isK3y() || !line)
-        return;
-    const std::string gain =
-        scoreGain(shared().log.contacts(), m_page.panel->score(), *line, settings);
-    if (!gain.empty())
-        showHint({textOf(m_page.hintLabel) + "   " + gain, HintTone::plain,
-                  filledIn(LookupOutcome::found, typed)});
-}
-
-// A mark belongs to the band it was found on: on another one the test is made again. False when
-// the contact is refused there.
-bool frmVantrelMain::recheckOn(const std::string& bandTag) {
-    if (!m_searched || m_searched->bandTag == bandTag)
-        return true;
-    m_searched->bandTag = bandTag;
-    resetDupeMarker();
-    return !refusesDupe();
-}
-
-// --- LOG -------------------------------------------------------------------------------------
-
-void frmVantrelMain::logClicked() {
-    const InputHold::Scope hold(m_hold);
-    m_tuning.enter();
-    Entry typed = m_boxes.entry();
-    if (!canBeLogged(typed)) {
+    for (const Message& message : answer.messages)
+        messages().show(message);
+    if (answer.toCallBox)
         toCallBox();
-        return;
+    if (answer.asksAboutDupe)
+        screens().askAboutDupe({[this] { carryOut(m_entry.logAsDupe()); },
+                                [this] { carryOut(m_entry.droppedDupe()); }});
+}
+
+void frmVantrelMain::showEntry() {
+    const EntryView view = m_entry.view();
+    m_boxes.show(view.boxes, view.lookedUp);
+    showFrequency(view);
+    put(m_stationLabel, view.station);
+    m_stationOption->setChecked(view.station != noStationLabel);
+    put(m_markerLabel, view.nextMarker);
+    if (view.hint != m_shown.hint)
+        showHint(view.hint);
+    std::vector<MarkedLabel::Run> runs;
+    for (const WorkedCall& call : view.worked) {
+        const bool joins = runs.empty() || call.text == moreWorked;
+        runs.push_back({toQt((joins ? "" : "  ") + call.text), call.dupe});
     }
-    std::optional<std::string> line;
-    try {
-        line = assembledLine(typed);
-    } catch (const RuntimeError& error) {
-        if (error.code() != ErrorCode::invalidCall)
-            throw;
-        messages().show({std::string(invalidEntryText), BoxIcon::exclamation, error.detail()});
-        clearEntry(Left::nothing);
-        return;
-    }
-    if (!line)
-        return;
-    if (shared().settings.isK3y() && isK3yDupe(shared().log.contacts(), *line)) {
-        screens().askAboutDupe({[this, dupe = asDupe(*line)] { logLine(dupe); },
-                                [this] { clearEntry(Left::oneBlank); }});
-        return;
-    }
-    logLine(*line);
-    showStation(std::string(noStationLabel));
+    m_workedLabel->setRuns(std::move(runs));
+    if (view.bands != m_shown.bands)
+        m_panel->showBands(view.bands);
+    m_shown = view;
+    m_suggestions->setLines(m_entry.members());
 }
 
-// The contact line; nothing, after saying why, when it cannot be logged.
-std::optional<std::string> frmVantrelMain::assembledLine(Entry& typed) {
-    const OperatingSettings& settings = shared().settings;
-    ContactFields contact = contactFrom(typed, settings, shared().marker,
-                                        utcTime(platform().clock.now(), settings.gmtOffset));
-    if (!m_tuning.read(typed, Tuning::Asks::log))
-        return std::nullopt;
-    const FrequencyCheck check = enterFrequency(contact, typed.frequency, settings);
-    if (!m_tuning.show(typed.frequency))
-        return std::nullopt; // a duplicate on the band that the radio is on by now
-    contact.marker = shared().marker;
-    switch (check) {
-    case FrequencyCheck::outsideSprintBands:
-        messages().show({typed.frequency + std::string(wrongBandText), BoxIcon::critical});
-        clearEntry(Left::nothing);
-        return std::nullopt;
-    case FrequencyCheck::unloggable:
-        messages().show(
-            {std::string(frequencyMissingText), BoxIcon::exclamation, khzFault(contact.frequency)});
-        toCallBox();
-        return std::nullopt;
-    case FrequencyCheck::good:
-        break;
-    }
-    return assembleLine(contact);
+// Outside the six bands the label stays as it was, struck out. Before the other one: a green dot
+// after a good read of the radio, a red cross after a failed one.
+void frmVantrelMain::showFrequency(const EntryView& view) {
+    put(m_bandLabel, view.bandText);
+    put(m_autoReadLabel, view.autoRead);
+    setTextColour(m_bandLabel, view.onBand ? QColor() : cautionColour(palette()));
+    QFont font = m_bandLabel->font();
+    font.setStrikeOut(!view.onBand);
+    m_bandLabel->setFont(font);
+    const bool read = view.lastRead == ReadOutcome::read;
+    const bool failed = view.lastRead == ReadOutcome::failed;
+    m_readSign->setText(read ? QString(QChar(0x25CF)) : failed ? QString(QChar(0xD7)) : QString());
+    m_readSign->setAccessibleName(read ? QStringLiteral("RADIO READ")
+                                       : QStringLiteral("RADIO NOT READ"));
+    setTextColour(m_readSign, read ? goodColour(palette()) : warningColour(palette()));
 }
 
-// The contact is in the log once its line is on the disk: whatever fails from then on is told,
-// but the boxes are cleared first, so that nobody logs it twice.
-void frmVantrelMain::logLine(const std::string& line) {
-    Log& log = shared().log;
-    // Searched for, it was told already.
-    const std::string repeated(
-        m_searched ? std::string_view()
-                   : duplicateOf(log.contacts(), qso::hisCall.of(line), qso::bandTag.of(line)));
-    const bool logWasThere = platform().files.present(log.name());
-    log.append(line);
-    std::optional<Message> failure;
-    try {
-        log.reread();
-    } catch (const RuntimeError& error) {
-        failure = failureOnceLogged(error);
-    }
-    clearEntry(Left::nothing);
-    m_cleared.reset(); // it is in the log
-    showHint(loggedHint(line, repeated));
-    if (failure)
-        messages().show(*failure);
-    if (!logWasThere)
-        messages().show({std::string(logStartedAgainText), BoxIcon::exclamation,
-                         platform().files.path(log.name())});
-}
-
-void frmVantrelMain::noLogClicked() {
-    clearEntry(Left::nothing);
-    showStation(std::string(noStationLabel));
-}
-
-// --- Frequency and band ----------------------------------------------------------------------
-
-void frmVantrelMain::frequencyClicked() {
-    m_tuning.enter();
-    toCallBox();
-}
-
-void frmVantrelMain::readClicked() {
-    const InputHold::Scope hold(m_hold);
-    Entry typed = m_boxes.entry();
-    if (m_tuning.read(typed, Tuning::Asks::operatorHimself))
-        toCallBox();
-}
-
-void frmVantrelMain::autoReadClicked() {
-    m_tuning.toggleAutoRead();
-    toCallBox();
-}
-
-void frmVantrelMain::upClicked() {
-    m_tuning.step(bandUp);
-    toCallBox();
-}
-
-void frmVantrelMain::downClicked() {
-    m_tuning.step(bandDown);
-    toCallBox();
-}
-
-// --- The other commands ----------------------------------------------------------------------
-
-void frmVantrelMain::audioClicked() {
-    shared().audioOn = !shared().audioOn;
-    put(m_page.audioButton, shared().audioOn ? "AUDIO ON" : "AUDIO OFF");
-    toCallBox();
-}
-
-void frmVantrelMain::stationClicked() {
-    screens().open(Screen::k3yBox);
-    m_page.stationOption->setChecked(textOf(m_page.stationLabel) !=
-                                     noStationLabel); // opened, nothing is chosen yet
-}
-
-// --- Boxes -----------------------------------------------------------------------------------
-
-void frmVantrelMain::showEntry(const Entry& entry) {
-    m_boxes.show(entry);
-    showWhoIsIt();
-}
-
-// What is cleared can be brought back until something else is.
-void frmVantrelMain::clearEntry(Left left) {
-    if (const Entry typed = m_boxes.entry(); !trim(typed.call).empty())
-        m_cleared = Cleared{typed, m_lookedUp};
-    m_boxes.clear(left == Left::oneBlank ? " " : "");
-    for (QLineEdit* box : {m_boxes.name, m_boxes.state, m_boxes.number})
-        setLookedUp(box, false);
-    showWhoIsIt();
-    showMembers();
-    m_lookedUp.reset();
-    m_searched.reset();
-    resetDupeMarker();
-    toCallBox();
-}
-
-// A contact that was refused is checked again before it is logged.
-void frmVantrelMain::bringBack() {
-    if (!m_cleared)
-        return;
-    m_boxes.showAll(m_cleared->entry);
-    m_lookedUp = m_cleared->lookedUp;
-    m_cleared.reset();
-    m_broughtBack = true;
-    showWhoIsIt();
-    showHint(Hint());
+void frmVantrelMain::showHint(const Hint& hint) {
+    announce(m_hintLabel, hint.text, spokenHint(hint));
+    setTextColour(m_hintLabel, hint.tone == HintTone::plain   ? QColor()
+                               : hint.tone == HintTone::alarm ? warningColour(palette())
+                                                              : cautionColour(palette()));
 }
 
 void frmVantrelMain::showStation(const std::string& text) {
-    put(m_page.stationLabel, text);
-    put(m_page.markerLabel, nextMarkerText(shared().marker));
-    m_page.stationOption->setChecked(text != noStationLabel);
+    m_entry.tagChosen(text);
+    showEntry();
 }
+
+// --- Keys ------------------------------------------------------------------------------------
+
+// What no button or list has a use for belongs to the contact being entered.
+void frmVantrelMain::keyPressEvent(QKeyEvent* event) {
+    if (isTyping(*event) && !m_boxes.call->hasFocus()) {
+        m_boxes.call->setFocus();
+        QCoreApplication::sendEvent(m_boxes.call, event);
+        return;
+    }
+    Form::keyPressEvent(event);
+}
+
+bool frmVantrelMain::eventFilter(QObject* receiver, QEvent* event) {
+    return (receiver == m_boxes.call && event->type() == QEvent::KeyPress &&
+            callBoxTakes(*static_cast<QKeyEvent*>(event))) ||
+           Form::eventFilter(receiver, event);
+}
+
+bool frmVantrelMain::callBoxTakes(const QKeyEvent& key) {
+    const bool empty = trim(textOf(m_boxes.call)).empty();
+    if (key.matches(QKeySequence::Undo) && empty) {
+        runHandler([this] { run(&ContactEntry::broughtBack); });
+        return true;
+    }
+    if (key.modifiers().testFlag(Qt::AltModifier))
+        return false;
+    if (key.key() == Qt::Key_Space && m_entry.spaceLeadsOn()) {
+        m_boxes.toFirstEmpty();
+        return true;
+    }
+    return (key.key() == Qt::Key_Down && m_suggestions->takeFocus()) ||
+           (key.key() == Qt::Key_Up && empty && m_workedList->takeFocus());
+}
+
+void frmVantrelMain::toCallBox() {
+    m_workedList->setCurrentIndex({});
+    activateWindow();
+    m_boxes.call->setFocus();
+}
+
+// --- The log and the other commands ----------------------------------------------------------
 
 void frmVantrelMain::showLog() {
     const Log& log = shared().log;
-    put(m_page.countBox, countText(log.count()));
-    m_page.workedList->setLines(log.worked());
-    m_page.panel->followLog(log.contacts(), shared().settings);
+    put(m_countBox, countText(log.count()));
+    m_workedList->setLines(log.worked());
+    m_panel->followLog(log.contacts(), shared().settings);
     secondPassed();
-    showWhoIsIt();
+    m_entry.logChanged();
+    showEntry();
 }
 
 // The one tick: changes what changed.
 void frmVantrelMain::secondPassed() {
     const UtcTime utc = utcTime(platform().clock.now(), shared().settings.gmtOffset);
-    put(m_page.clockLabel, utc.time.substr(0, 2) + ':' + utc.time.substr(2));
-    m_page.panel->followClock(utc);
+    put(m_clockLabel, utc.time.substr(0, 2) + ':' + utc.time.substr(2));
+    m_panel->followClock(utc);
 }
 
 // The contact of the line that is selected in the list; otherwise the last one.
 int frmVantrelMain::chosenContact() const {
-    const QModelIndex selected = m_page.workedList->currentIndex();
-    return selected.isValid() ? selected.row() + 1 : shared().log.count().value();
+    const int selected = m_workedList->chosenContact();
+    return selected > 0 ? selected : shared().log.count().value();
 }
 
 void frmVantrelMain::openOnContact(Screen page, int contact, bool shown) {
@@ -534,34 +409,15 @@ void frmVantrelMain::openOnContact(Screen page, int contact, bool shown) {
         screens().openContact(page, contact, shown);
 }
 
-void frmVantrelMain::contactChosen(const QModelIndex& index) {
-    openOnContact(Screen::correct, index.row() + 1, true);
+void frmVantrelMain::frequencyClicked() {
+    run(&ContactEntry::frequencyEntered);
+    toCallBox();
 }
 
-void frmVantrelMain::setMarker(std::string_view marker) {
-    shared().marker = marker;
-    put(m_page.markerLabel, nextMarkerText(marker));
-}
-
-// After a contact is logged or dropped: a "DUPE" marker goes back to six blanks, a K3Y tag
-// stays.
-void frmVantrelMain::resetDupeMarker() {
-    if (shared().marker == dupeMarker)
-        setMarker(noMarker);
-}
-
-void frmVantrelMain::showHint(const Hint& hint) {
-    announce(m_page.hintLabel, hint.text, spokenHint(hint));
-    setTextColour(m_page.hintLabel, hint.tone == HintTone::plain   ? QColor()
-                                    : hint.tone == HintTone::alarm ? warningColour(palette())
-                                                                   : cautionColour(palette()));
-    m_refusalShown = false;
-}
-
-void frmVantrelMain::toCallBox() {
-    m_page.workedList->setCurrentIndex({});
-    activateWindow();
-    m_boxes.call->setFocus();
+void frmVantrelMain::audioClicked() {
+    shared().audioOn = !shared().audioOn;
+    put(m_audioButton, shared().audioOn ? "AUDIO ON" : "AUDIO OFF");
+    toCallBox();
 }
 
 } // namespace vantrel

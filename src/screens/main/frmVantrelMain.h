@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: MIT
-// The main page: entry boxes, SEARCH and LOG, the worked-stations list, and the way to every
+// The main page: shows the contact being entered, the log and the contest, and leads to every
 // other screen.
 #pragma once
 
 #include "forms/form.h"
 #include "forms/inputhold.h"
-#include "rig/catlink.h"
-#include "roster/rosterlookup.h"
-#include "screens/main/frmMainControls.h"
-#include "screens/main/frmMainKeys.h"
-#include "screens/main/frmTuning.h"
-#include "screens/main/hints.h"
+#include "screens/main/contactentry.h"
+#include "screens/main/widgets/entryboxes.h"
 
-#include <initializer_list>
-#include <optional>
+#include <functional>
+#include <string>
 
 class QHBoxLayout;
 class QLabel;
-class QTimer;
 class QPushButton;
 class QRadioButton;
+class QTimer;
 
 namespace vantrel {
 
@@ -41,82 +37,65 @@ public:
 
 protected:
     void load() override;
-    void escapePressed() override { noLogClicked(); }
-    QWidget* firstFocus() override;
+    void escapePressed() override { run(&ContactEntry::dropped); }
+    QWidget* firstFocus() override { return m_boxes.call; }
     bool isOwnPage() const override { return true; }
     int freeTop() const override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    // What the boxes hold after a contact is dropped: nothing, or a single blank each.
-    enum class Left { nothing, oneBlank };
-    // What SEARCH looked for, until another call is typed.
-    struct Searched {
-        std::string call;
-        std::string number;
-        std::string bandTag;
-    };
-    struct Cleared {
-        Entry entry;
-        std::optional<Entry> lookedUp;
-    };
-
-    void connectHandlers();
-    void connectEntryBoxes();
-
+    QHBoxLayout* statusRow();
+    QHBoxLayout* whoRow();
+    QHBoxLayout* frequencyRow();
+    QHBoxLayout* entryCommands();
+    QHBoxLayout* contestRow();
     QHBoxLayout* pageCommands();
-    MainKeys::Actions keyActions();
+    void connectBoxes();
 
-    // In the order in which the operator meets them.
-    void callEdited();
-    void searchClicked(); // and Enter in the call box
-    void logClicked();    // and Enter in the number box
-    void noLogClicked();
-    void frequencyClicked(); // and Enter in its box
-    void readClicked();
-    void autoReadClicked();
-    void upClicked();
-    void downClicked();
-    void audioClicked();
-    void stationClicked();
-
-    void showEntry(const Entry& entry);
-    void showWhoIsIt();
-    void showMembers();
-    void memberChosen(const QString& call);
-    void contactChosen(const QModelIndex& index);
-    int chosenContact() const;
-    void openOnContact(Screen page, int contact, bool shown);
-    void tellGain(const Entry& typed);
-    void secondPassed();
-    bool lookUpAndShow(Entry& typed);
-    bool refusesDupe();
-    bool recheckOn(const std::string& bandTag);
-    std::optional<std::string> assembledLine(Entry& typed);
-    void logLine(const std::string& line);
-    void clearEntry(Left left);
-    void bringBack();
-    void setMarker(std::string_view marker);
-    void resetDupeMarker();
+    // What happens to the contact being entered, and what the page does then.
+    void run(const std::function<Answer(ContactEntry&)>& happens);
+    void carryOut(const Answer& answer);
+    // The one place that shows it.
+    void showEntry();
+    void showFrequency(const EntryView& view);
     void showHint(const Hint& hint);
-    void showLog();
+
+    bool callBoxTakes(const QKeyEvent& key);
     void toCallBox();
+    void openOnContact(Screen page, int contact, bool shown);
+    int chosenContact() const;
+    void showLog();
+    void secondPassed();
+    void frequencyClicked();
+    void audioClicked();
 
-    MainControls m_page;
-    EntryBoxes& m_boxes; // of them
+    ContactEntry m_entry;
+    EntryBoxes m_boxes;
+    QLabel* m_whoLabel; // own call and contest
+    QLabel* m_fileLabel;
+    QLabel* m_dupeModeLabel;
+    QLabel* m_readSign; // before the label: how the last read went
+    QLabel* m_autoReadLabel;
+    QLabel* m_clockLabel;
+    MarkedLabel* m_workedLabel;
+    SuggestionList* m_suggestions;
+    QLabel* m_hintLabel;
+    QLabel* m_bandLabel;
+    QLineEdit* m_countBox;
+    QPushButton* m_audioButton;
+    QRadioButton* m_stationOption;
+    QLabel* m_stationLabel;
+    QLabel* m_markerLabel; // what the next contact will end in
+    WorkedList* m_workedList;
+    ContestPanel* m_panel;
     QTimer* m_second;
-    Tuning m_tuning;
-    MainKeys m_keys;
 
+    EntryView m_shown;
     InputHold m_hold; // what is typed while the radio is read
-    Roster m_roster;
-    std::optional<Entry> m_lookedUp; // what the last lookup filled in
-    std::optional<Searched> m_searched;
-    std::optional<Cleared> m_cleared;
     Log::Watch m_logWatch;
-    bool m_broughtBack = false;  // what is in the boxes was cleared before
-    bool m_refusalShown = false; // in the hint line, until the next key
     bool m_radioReadDue = false; // the radio is read once after the first paint
 };
 

@@ -3,6 +3,10 @@
 
 #include "log/bands.h"
 #include "log/qsoline.h"
+#include "screens/main/qsoentry.h"
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace vantrel {
 
@@ -20,70 +24,76 @@ std::string bandName(std::string_view contact) {
     return upper(trim(band->text));
 }
 
-} // namespace
-
-Hint lookupHint(LookupOutcome outcome, std::string_view typed, bool hasRoster) {
-    switch (outcome) {
-    case LookupOutcome::found:
-        return {"ENTER LOGS"};
-    case LookupOutcome::callOfNumber:
-        return {"ENTER LOOKS HIM UP"};
-    case LookupOutcome::nobody:
-        return {"NO MEMBER " + std::string(trim(typed)), HintTone::caution};
-    case LookupOutcome::notFound:
-        break;
-    }
-    return {hasRoster ? "NOT IN THE ROSTER: NAME, STATE, SKCC#"
-                      : "NO ROSTER FILES: UPDATE THE DATABASE ON THE START PAGE",
-            HintTone::caution};
+std::string callBandTime(std::string_view contact) {
+    return field(qso::hisCall, contact) + ' ' + bandName(contact) + ' ' + field(qso::time, contact);
 }
 
-std::string filledIn(LookupOutcome outcome, const Entry& entry) {
-    if (outcome == LookupOutcome::callOfNumber)
-        return std::string(trim(entry.call));
-    if (outcome != LookupOutcome::found)
-        return {};
-    std::string words;
-    for (const std::string& box : {entry.name, entry.state, entry.number})
-        if (const std::string_view text = trim(box); !text.empty())
-            words += (words.empty() ? "" : ", ") + std::string(text);
-    return words;
+std::string callKhzTime(std::string_view contact) {
+    return field(qso::hisCall, contact) + ' ' + field(qso::frequency, contact) + ' ' +
+           field(qso::time, contact);
+}
+
+} // namespace
+
+Hint joined(const Hint& one, const Hint& other) {
+    const std::string_view between = one.text.empty() || other.text.empty() ? "" : "   ";
+    return {one.text + std::string(between) + other.text, std::max(one.tone, other.tone),
+            one.filledIn + other.filledIn};
 }
 
 std::string spokenHint(const Hint& hint) {
     return hint.filledIn.empty() ? hint.text : hint.filledIn + ". " + hint.text;
 }
 
+std::string missingText(const Entry& boxes, bool hasRoster) {
+    std::string missing;
+    for (const auto& [box, name] :
+         {std::pair{&boxes.name, "NAME"}, {&boxes.state, "STATE"}, {&boxes.number, "SKCC#"}})
+        if (trim(*box).empty())
+            missing += (missing.empty() ? "" : ", ") + std::string(name);
+    if (missing.empty())
+        return {};
+    return hasRoster ? "NOT IN THE ROSTER: " + missing
+                     : "NO ROSTER FILES: UPDATE THE DATABASE ON THE START PAGE";
+}
+
 Hint loggedHint(std::string_view contact, std::string_view repeated) {
-    Hint hint{"LOGGED " + field(qso::hisCall, contact) + ' ' + field(qso::frequency, contact) +
-              ' ' + field(qso::time, contact)};
-    const struct {
-        Column column;
-        const char* missing;
-    } fields[] = {
-        {qso::hisName, "  NO NAME"}, {qso::hisState, "  NO STATE"}, {qso::hisNumber, "  NO SKCC#"}};
-    for (const auto& [column, missing] : fields) {
+    Hint hint{"LOGGED " + callKhzTime(contact)};
+    for (const auto& [column, missing] : {std::pair{qso::hisName, "  NO NAME"},
+                                          {qso::hisState, "  NO STATE"},
+                                          {qso::hisNumber, "  NO SKCC#"}}) {
         if (!field(column, contact).empty())
             continue;
         hint.text += missing;
         hint.tone = HintTone::caution;
     }
     if (!repeated.empty()) {
-        hint.text += "  REPEATS " + field(qso::hisCall, repeated) + ' ' + bandName(repeated) + ' ' +
-                     field(qso::time, repeated);
+        hint.text += "  REPEATS " + callBandTime(repeated);
         hint.tone = HintTone::alarm;
     }
     return hint;
 }
 
 Hint refusedHint(std::string_view logged) {
-    return {"REFUSED: " + field(qso::hisCall, logged) + ' ' + bandName(logged) + ' ' +
-                field(qso::time, logged) + " IS IN THE LOG",
-            HintTone::alarm};
+    return {"REFUSED: " + callBandTime(logged) + " IS IN THE LOG", HintTone::alarm};
 }
 
-Hint takenBackHint(std::string_view marker) {
-    return {std::string(marker) + " TAKEN BACK BY SEARCH", HintTone::caution};
+Hint correctedHint(std::string_view contact) {
+    return {"CORRECTED " + callKhzTime(contact)};
+}
+
+Hint deletedHint(std::string_view contact) {
+    return {"DELETED " + callKhzTime(contact)};
+}
+
+Hint nobodyHint(std::string_view number) {
+    return {"NO MEMBER " + std::string(trim(number)), HintTone::caution};
+}
+
+Hint takenBackHint(std::string_view tag) {
+    if (tag.empty())
+        return {};
+    return {std::string(tag) + " TAKEN BACK BY SEARCH", HintTone::caution};
 }
 
 std::string nextMarkerText(std::string_view marker) {

@@ -3,33 +3,35 @@
 // the operator from logging something else than he thinks.
 #pragma once
 
-#include "screens/main/qsoentry.h"
-
 #include <string>
 #include <string_view>
 
 namespace vantrel {
 
+struct Entry;
+
+// From the calmest up.
 enum class HintTone { plain, caution, alarm };
 
 struct Hint {
     std::string text{};
     HintTone tone = HintTone::plain;
     std::string filledIn{}; // what a lookup has put into the boxes, to be spoken before the text
+
+    bool operator==(const Hint&) const = default;
 };
 
-// After a lookup: whom it did not find and what to type then, or what Enter does next. typed: the
-// call box's text that was looked up; hasRoster: whether there is any roster file.
-Hint lookupHint(LookupOutcome outcome, std::string_view typed, bool hasRoster);
-
-// "CLUB, IL, 5000S"; the call when a number was looked up; nothing unless somebody was found.
-std::string filledIn(LookupOutcome outcome, const Entry& entry);
+// Both side by side, in the tone of the graver one.
+Hint joined(const Hint& one, const Hint& other);
 
 // What a screen reader says of the hint.
 std::string spokenHint(const Hint& hint);
 
+// What is still to be typed of who is in no roster; empty when it is there.
+std::string missingText(const Entry& boxes, bool hasRoster);
+
 // After a contact is logged: call, kHz and time, and which of name, state and number are blank.
-// repeated: the earlier contact with this call on this band when no check was made; empty for
+// repeated: the earlier contact with this call on this band that it was not marked for; empty for
 // none.
 Hint loggedHint(std::string_view contact, std::string_view repeated);
 
@@ -37,8 +39,15 @@ Hint loggedHint(std::string_view contact, std::string_view repeated);
 // that only begins with the one typed.
 Hint refusedHint(std::string_view logged);
 
-// After SEARCH took a chosen K3Y tag back.
-Hint takenBackHint(std::string_view marker);
+// After a contact of the log became this one, or was taken out of it.
+Hint correctedHint(std::string_view contact);
+Hint deletedHint(std::string_view contact);
+
+// After a number that nobody has was looked up.
+Hint nobodyHint(std::string_view number);
+
+// While a chosen K3Y tag is taken back by SEARCH; nothing without one.
+Hint takenBackHint(std::string_view tag);
 
 // "NEXT QSO: K3Y/EU"; empty while it ends in six blanks.
 std::string nextMarkerText(std::string_view marker);

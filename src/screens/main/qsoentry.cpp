@@ -60,21 +60,12 @@ LookupOutcome lookUp(Entry& entry, Roster& roster) {
     return LookupOutcome::found;
 }
 
-void forgetLookup(Entry& entry, const Entry& lookedUp) {
-    if (entry.name == lookedUp.name)
-        entry.name.clear();
-    if (entry.state == lookedUp.state)
-        entry.state.clear();
-    if (entry.number == lookedUp.number)
-        entry.number.clear();
-}
-
 bool canBeLogged(const Entry& entry) {
     return length(callAsEntered(entry.call)) >= shortestCall;
 }
 
-ContactFields contactFrom(const Entry& entry, const OperatingSettings& settings,
-                          std::string_view marker, const UtcTime& utc) {
+ContactFields contactFields(const Entry& entry, const OperatingSettings& settings,
+                            const UtcTime& utc) {
     ContactFields contact;
     contact.hisCall = leftAligned(upper(callAsEntered(entry.call)), qso::hisCall.width);
     contact.hisName = fieldOf(entry.name, qso::hisName.width);
@@ -89,7 +80,6 @@ ContactFields contactFrom(const Entry& entry, const OperatingSettings& settings,
     contact.myState = settingOf(settings.myState, qso::myState.width, "my state");
     contact.myNumber = settingOf(settings.myNumber, qso::myNumber.width, "my SKCC number");
     contact.mode = "CW";
-    contact.marker = marker;
     return contact;
 }
 
@@ -102,10 +92,13 @@ FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
     return khzFault(contact.frequency).empty() ? FrequencyCheck::good : FrequencyCheck::unloggable;
 }
 
-std::optional<std::string> lineOf(const Entry& entry, const OperatingSettings& settings,
-                                  std::string_view marker, const UtcTime& utc) {
+std::optional<std::string> contactLine(const Entry& entry, const OperatingSettings& settings,
+                                       std::string_view marker, const UtcTime& utc) {
+    if (!canBeLogged(entry))
+        return std::nullopt;
     try {
-        ContactFields contact = contactFrom(entry, settings, marker, utc);
+        ContactFields contact = contactFields(entry, settings, utc);
+        contact.marker = marker;
         std::string mhz = entry.frequency;
         if (enterFrequency(contact, mhz, settings) == FrequencyCheck::good)
             return assembleLine(contact);

@@ -27,7 +27,12 @@ struct Entry {
     std::string rstSent{};
     std::string rstReceived{};
     std::string frequency{}; // MHz
+
+    bool operator==(const Entry&) const = default;
 };
+
+// What both report boxes hold until another report is chosen.
+inline constexpr const char* usualReport = "599";
 
 inline constexpr std::string_view frequencyMissingText =
     " A FREQUENCY MUST BE ENTERED INTO THE FREQ BOX ";
@@ -64,18 +69,14 @@ enum class LookupOutcome {
 // Looks the trimmed call, or member number, up in the roster. Throws as Files::read.
 LookupOutcome lookUp(Entry& entry, Roster& roster);
 
-// The values a lookup filled in and that the operator has not changed are cleared again:
-// they belong to the call they were looked up for.
-void forgetLookup(Entry& entry, const Entry& lookedUp);
-
 // False when the call has fewer than three characters: LOG then does nothing.
 bool canBeLogged(const Entry& entry);
 
-// The contact's fields from the boxes and the settings, cut and padded to their widths; the
-// frequency still missing. Commas and control characters become blanks. Throws RuntimeError 5
+// The contact's fields from the boxes and the settings, cut and padded to their widths; frequency
+// and marker still missing. Commas and control characters become blanks. Throws RuntimeError 5
 // when a setting is wider than its field.
-ContactFields contactFrom(const Entry& entry, const OperatingSettings& settings,
-                          std::string_view marker, const UtcTime& utc);
+ContactFields contactFields(const Entry& entry, const OperatingSettings& settings,
+                            const UtcTime& utc);
 
 enum class FrequencyCheck { good, outsideSprintBands, unloggable };
 
@@ -84,8 +85,8 @@ FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
                               const OperatingSettings& settings);
 
 // The line that the boxes would be logged as; nothing where LOG would refuse them.
-std::optional<std::string> lineOf(const Entry& entry, const OperatingSettings& settings,
-                                  std::string_view marker, const UtcTime& utc);
+std::optional<std::string> contactLine(const Entry& entry, const OperatingSettings& settings,
+                                       std::string_view marker, const UtcTime& utc);
 
 // What to tell the operator when something fails although the contact is in the log (a full
 // table, a file), once his boxes are cleared.

@@ -242,7 +242,8 @@ TEST_F(MainPageTest, HintsTellWhatHappenedAndWhatComesNext) {
     EXPECT_EQ(shown(page, "Label25"), "NEXT QSO: K3Y/EU");
     enterCall("w5new");
     EXPECT_EQ(module.marker + texts(page, "Label26 Label25 Label23"),
-              "      K3Y/EU TAKEN BACK BY SEARCH||   None     |");
+              "      NOT IN THE ROSTER: NAME, STATE, SKCC#   K3Y/EU TAKEN BACK BY SEARCH||   "
+              "None     |");
     enterCall("w5new");
     EXPECT_EQ(hint(), "NOT IN THE ROSTER: NAME, STATE, SKCC#");
     press(page, "Text2", Qt::Key_Space);

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 // From the boxes to the line: what is cut, padded, refused, and whom the dupe checks find.
 #include "log/shortlog.h"
-#include "screens/main/bandring.h"
-#include "screens/main/dupecheck.h"
 #include "screens/main/frequency.h"
 #include "screens/main/qsoentry.h"
-#include "screens/main/workedbefore.h"
+#include "screens/main/workedcalls.h"
 #include "shared/settings.h"
 
 #include <gtest/gtest.h>

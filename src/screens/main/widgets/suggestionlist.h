@@ -2,9 +2,10 @@
 // The members whose call is like the one being typed, side by side in one line.
 #pragma once
 
+#include "screens/main/workedcalls.h"
+
 #include <QListView>
 
-#include <string>
 #include <vector>
 
 class QStandardItemModel;
@@ -15,16 +16,10 @@ class SuggestionList : public QListView {
     Q_OBJECT
 
 public:
-    struct Line {
-        std::string call;
-        std::string text;
-        bool dupe; // worked on the present band
-    };
-
     explicit SuggestionList(QWidget* page);
 
     // As many of them as fit.
-    void setLines(const std::vector<Line>& lines);
+    void setLines(const std::vector<MemberLine>& lines);
     // The first one has the focus; false when there is none.
     bool takeFocus();
 
@@ -32,7 +27,7 @@ Q_SIGNALS:
     // By a click or Enter.
     void chosen(const QString& call);
     // Esc: the operator goes on typing.
-    void left();
+    void escaped();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

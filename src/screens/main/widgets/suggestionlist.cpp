@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "screens/main/frmSuggestionList.h"
+#include "screens/main/widgets/suggestionlist.h"
 
 #include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "platform/qt/latin1.h"
+#include "screens/main/widgets/entryboxes.h"
 
 #include <QKeyEvent>
 #include <QStandardItemModel>
@@ -33,11 +34,11 @@ SuggestionList::SuggestionList(QWidget* page)
             [this](const QModelIndex& index) { Q_EMIT chosen(index.data(callRole).toString()); });
 }
 
-void SuggestionList::setLines(const std::vector<Line>& lines) {
+void SuggestionList::setLines(const std::vector<MemberLine>& lines) {
     m_model->clear();
     const int gap = fontMetrics().averageCharWidth() * spacingCharacters;
     int used = 0;
-    for (const Line& line : lines) {
+    for (const MemberLine& line : lines) {
         auto* item = new QStandardItem(toQt(line.dupe ? line.text + " DUPE" : line.text));
         const int width = fontMetrics().horizontalAdvance(item->text()) + gap;
         used += width;
@@ -67,7 +68,9 @@ void SuggestionList::keyPressEvent(QKeyEvent* event) {
     if (enter && currentIndex().isValid())
         Q_EMIT chosen(currentIndex().data(callRole).toString());
     else if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Up)
-        Q_EMIT left();
+        Q_EMIT escaped();
+    else if (isTyping(*event))
+        event->ignore();
     else
         QListView::keyPressEvent(event);
 }

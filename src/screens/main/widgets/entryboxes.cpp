@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "screens/main/frmEntryBoxes.h"
+#include "screens/main/widgets/entryboxes.h"
 
 #include "base/fixedtext.h"
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "shared/settings.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <utility>
 
 namespace vantrel {
 
@@ -15,8 +20,8 @@ namespace {
 constexpr int numberBoxWidth = 10; // a lookup fills ten
 constexpr int frequencyBoxWidth = 10;
 constexpr double enlargement = 1.5;
-constexpr const char* reports[] = {"599", "589", "579", "569", "559", "549",
-                                   "539", "529", "519", "449", "339"};
+constexpr const char* reports[] = {usualReport, "589", "579", "569", "559", "549",
+                                   "539",       "529", "519", "449", "339"};
 
 // Upper case as one types; the cursor stays where it was.
 void keepUpperCase(QLineEdit* box) {
@@ -53,6 +58,12 @@ int widthOf(const QWidget* box, int columns) {
 
 } // namespace
 
+bool isTyping(const QKeyEvent& key) {
+    const bool modified = (key.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier) != 0;
+    return key.text().size() == 1 && key.text().front().isPrint() && !modified &&
+           key.key() != Qt::Key_Space;
+}
+
 EntryBoxes::EntryBoxes(QWidget* form) {
     FormBuilder build(form);
     call = build.text("Text2", callWidth, "ENTER HIS CALL OR HIS SKCC#=10 CHARACTERS & DIGITS");
@@ -78,26 +89,31 @@ Entry EntryBoxes::entry() const {
             textOf(rstSent), textOf(rstReceived), textOf(frequency)};
 }
 
-void EntryBoxes::show(const Entry& entry) const {
-    put(call, entry.call);
-    put(name, entry.name);
-    put(state, entry.state);
-    put(number, entry.number);
+void EntryBoxes::show(const Entry& entry, const LookupBoxes& lookedUp) const {
+    for (const auto& [box, text] : {std::pair{call, &entry.call},
+                                    {name, &entry.name},
+                                    {state, &entry.state},
+                                    {number, &entry.number},
+                                    {frequency, &entry.frequency}})
+        if (textOf(box) != *text)
+            put(box, *text);
+    for (const auto& [box, text] :
+         {std::pair{rstSent, &entry.rstSent}, {rstReceived, &entry.rstReceived}})
+        if (textOf(box) != *text) {
+            box->setCurrentIndex(std::max(0, box->findText(toQt(*text))));
+            box->setEditText(toQt(*text));
+        }
+    for (std::size_t i = 0; i < lookedUp.size(); ++i)
+        if (QLineEdit* box = filledByLookup()[i]; box->font().italic() != lookedUp[i])
+            setLookedUp(box, lookedUp[i]);
 }
 
-void EntryBoxes::showAll(const Entry& entry) const {
-    show(entry);
-    rstSent->setEditText(toQt(entry.rstSent));
-    rstReceived->setEditText(toQt(entry.rstReceived));
-}
-
-void EntryBoxes::clear(std::string_view left) {
-    const std::string text(left);
-    show({text, text, text, text});
-    for (QComboBox* report : {rstSent, rstReceived}) {
-        report->setCurrentIndex(0);
-        report->setEditText(report->itemText(0));
-    }
+void EntryBoxes::toFirstEmpty() const {
+    const auto boxes = filledByLookup();
+    const auto empty = std::find_if(boxes.begin(), boxes.end(),
+                                    [](const QLineEdit* box) { return trim(textOf(box)).empty(); });
+    if (empty != boxes.end())
+        (*empty)->setFocus(Qt::TabFocusReason);
 }
 
 QGridLayout* EntryBoxes::exchangeRow(QWidget* form) const {

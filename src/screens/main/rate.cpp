@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "screens/main/pace.h"
+#include "screens/main/rate.h"
 
 #include "log/qsoline.h"
 #include "shared/utctime.h"
@@ -25,24 +25,29 @@ std::vector<Moment> momentsOf(const Contacts& contacts) {
     return moments;
 }
 
-Pace paceOf(const std::vector<Moment>& moments, Moment now) {
-    Pace pace;
-    auto& bars = pace.perFiveMinutes;
-    std::array<Moment, std::tuple_size_v<decltype(pace.perFiveMinutes)>> firsts{};
+Rate rateAt(const std::vector<Moment>& moments, Moment now) {
+    Rate rate;
+    auto& bars = rate.perFiveMinutes;
+    std::array<Moment, std::tuple_size_v<decltype(rate.perFiveMinutes)>> firsts{};
     for (const Moment moment : moments) {
-        const int ago = std::max(0, static_cast<int>((now - moment).count()));
-        pace.minutesSinceLast = std::min(pace.minutesSinceLast.value_or(ago), ago);
-        pace.lastTenMinutes += ago < rateMinutes ? 1 : 0;
+        std::chrono::minutes since = now - moment;
+        if (since.count() < 0) // its date was not rolled back where its hour was
+            since += std::chrono::days(1);
+        if (since.count() < 0)
+            continue;
+        const int ago = static_cast<int>(since.count());
+        rate.minutesSinceLast = std::min(rate.minutesSinceLast.value_or(ago), ago);
+        rate.lastTenMinutes += ago < rateMinutes ? 1 : 0;
         if (ago >= static_cast<int>(bars.size()) * barMinutes)
             continue;
         const std::size_t bar = bars.size() - 1 - static_cast<std::size_t>(ago / barMinutes);
-        firsts[bar] = bars[bar] == 0 ? moment : std::min(firsts[bar], moment);
+        firsts[bar] = bars[bar] == 0 ? now - since : std::min(firsts[bar], now - since);
         ++bars[bar];
     }
     const auto best = std::max_element(bars.begin(), bars.end());
     if (*best > 0)
-        pace.bestSince = firsts[static_cast<std::size_t>(best - bars.begin())];
-    return pace;
+        rate.bestSince = firsts[static_cast<std::size_t>(best - bars.begin())];
+    return rate;
 }
 
 std::optional<Moment> momentOf(const UtcTime& utc) {
@@ -50,25 +55,25 @@ std::optional<Moment> momentOf(const UtcTime& utc) {
     return contactMoment(line);
 }
 
-std::string rateText(const Pace& pace) {
-    return std::to_string(pace.lastTenMinutes) + " (" +
-           std::to_string(pace.lastTenMinutes * 60 / rateMinutes) + "/h)";
+std::string rateText(const Rate& rate) {
+    return std::to_string(rate.lastTenMinutes) + " (" +
+           std::to_string(rate.lastTenMinutes * 60 / rateMinutes) + "/h)";
 }
 
-std::string lastText(const Pace& pace) {
-    if (!pace.minutesSinceLast)
+std::string lastText(const Rate& rate) {
+    if (!rate.minutesSinceLast)
         return {};
-    return "LAST " + std::to_string(*pace.minutesSinceLast) + " MIN AGO";
+    return "LAST " + std::to_string(*rate.minutesSinceLast) + " MIN AGO";
 }
 
-std::string hourText(const Pace& pace) {
-    const auto& bars = pace.perFiveMinutes;
+std::string hourText(const Rate& rate) {
+    const auto& bars = rate.perFiveMinutes;
     const std::string text =
         std::to_string(std::accumulate(bars.begin(), bars.end(), 0)) + " contacts in the last hour";
-    if (!pace.bestSince)
+    if (!rate.bestSince)
         return text;
-    const auto day = std::chrono::floor<std::chrono::days>(*pace.bestSince);
-    const std::chrono::hh_mm_ss time(*pace.bestSince - day);
+    const auto day = std::chrono::floor<std::chrono::days>(*rate.bestSince);
+    const std::chrono::hh_mm_ss time(*rate.bestSince - day);
     return text + ", most at " + zeroPadded(static_cast<int>(time.hours().count()), 2) +
            zeroPadded(static_cast<int>(time.minutes().count()), 2);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "screens/main/frmPaceBars.h"
+#include "screens/main/widgets/ratebars.h"
 
 #include "forms/accessible.h"
 #include "forms/colours.h"
@@ -17,27 +17,27 @@ constexpr int charactersWide = 26;
 constexpr int gap = 3; // pixels between bars
 } // namespace
 
-PaceBars::PaceBars(QWidget* parent) : QWidget(parent) {
+RateBars::RateBars(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setRole(this, QAccessible::Graphic);
 }
 
-void PaceBars::setPace(const Pace& pace) {
-    setAccessibleName(toQt(hourText(pace)));
-    if (m_pace.perFiveMinutes == pace.perFiveMinutes)
+void RateBars::setRate(const Rate& rate) {
+    setAccessibleName(toQt(hourText(rate)));
+    if (m_rate.perFiveMinutes == rate.perFiveMinutes)
         return;
-    m_pace = pace;
+    m_rate = rate;
     update();
 }
 
-QSize PaceBars::sizeHint() const {
+QSize RateBars::sizeHint() const {
     return {fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh};
 }
 
 // The five minutes that run now stand out.
-void PaceBars::paintEvent(QPaintEvent*) {
+void RateBars::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const auto& bars = m_pace.perFiveMinutes;
+    const auto& bars = m_rate.perFiveMinutes;
     const int highest = std::max(1, *std::max_element(bars.begin(), bars.end()));
     const int ground = height() - 1;
     const QColor past = frameColour(palette());

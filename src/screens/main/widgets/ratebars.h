@@ -2,19 +2,19 @@
 // The bars of the last hour: contacts per five minutes.
 #pragma once
 
-#include "screens/main/pace.h"
+#include "screens/main/rate.h"
 
 #include <QWidget>
 
 namespace vantrel {
 
-class PaceBars : public QWidget {
+class RateBars : public QWidget {
     Q_OBJECT
 
 public:
-    explicit PaceBars(QWidget* parent);
+    explicit RateBars(QWidget* parent);
 
-    void setPace(const Pace& pace);
+    void setRate(const Rate& rate);
 
     QSize sizeHint() const override;
 
@@ -22,7 +22,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    Pace m_pace;
+    Rate m_rate;
 };
 
 } // namespace vantrel

@@ -14,7 +14,7 @@ namespace vantrel {
 
 struct UtcTime;
 
-struct Pace {
+struct Rate {
     int lastTenMinutes = 0;
     std::optional<int> minutesSinceLast{}; // nothing without any contact
     std::array<int, 12> perFiveMinutes{};  // of the last hour, oldest first
@@ -24,16 +24,17 @@ struct Pace {
 // The minutes of the contacts that have one, duplicates too: they were worked.
 std::vector<Moment> momentsOf(const Contacts& contacts);
 
-// As of `now`; contacts that lie behind it (another clock) count as made now.
-Pace paceOf(const std::vector<Moment>& moments, Moment now);
+// As of `now`. With a negative offset a contact before midnight UTC keeps the local date: one dated
+// up to a day ahead counts a day earlier, and one that lies further ahead does not count.
+Rate rateAt(const std::vector<Moment>& moments, Moment now);
 
 // The minute that a contact logged now would have. Nothing when the clock shows no date.
 std::optional<Moment> momentOf(const UtcTime& utc);
 
 // "5 (30/h)", "LAST 3 MIN AGO" (empty without a contact).
-std::string rateText(const Pace& pace);
-std::string lastText(const Pace& pace);
+std::string rateText(const Rate& rate);
+std::string lastText(const Rate& rate);
 // "12 contacts in the last hour, most at 0010".
-std::string hourText(const Pace& pace);
+std::string hourText(const Rate& rate);
 
 } // namespace vantrel

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "screens/main/frmWorkedList.h"
+#include "screens/main/widgets/workedlist.h"
 
 #include "base/fixedtext.h"
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 #include "log/log.h"
 #include "platform/qt/latin1.h"
+#include "screens/main/widgets/entryboxes.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -80,11 +83,36 @@ WorkedList::WorkedList(QWidget* page)
                         4 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     setFixedWidth(widthOfColumns(QFontMetrics(font()), worked::columns) + margins);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(this, &QListView::doubleClicked, this,
+            [this](const QModelIndex& index) { Q_EMIT chosen(index.row() + 1); });
 }
 
 void WorkedList::setLines(const std::vector<std::string>& lines) {
     m_lines->setLines(lines);
     scrollToBottom();
+}
+
+bool WorkedList::takeFocus() {
+    if (m_lines->rowCount() == 0)
+        return false;
+    setCurrentIndex(m_lines->index(m_lines->rowCount() - 1));
+    setFocus();
+    tellCurrent(this);
+    return true;
+}
+
+void WorkedList::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT escaped();
+    else if (enter && chosenContact() > 0)
+        Q_EMIT chosen(chosenContact());
+    else if (event->key() == Qt::Key_Delete && chosenContact() > 0)
+        Q_EMIT removed(chosenContact());
+    else if (isTyping(*event))
+        event->ignore();
+    else
+        QListView::keyPressEvent(event);
 }
 
 QLabel* WorkedList::headings(QWidget* page) const {

@@ -1,0 +1,405 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/contactentry.h"
+
+#include "base/fixedtext.h"
+#include "base/runtimeerror.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+#include "shared/module1.h"
+#include "shared/utctime.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace vantrel {
+
+namespace {
+
+constexpr std::string_view startFrequency = "14.050";
+
+bool isBlank(const Entry& boxes) {
+    return trim(boxes.call + boxes.name + boxes.state + boxes.number).empty();
+}
+
+UtcTime nowOf(const Platform& platform, const Module1& shared) {
+    return utcTime(platform.clock.now(), shared.settings.gmtOffset);
+}
+
+} // namespace
+
+ContactEntry::ContactEntry(Module1& shared, Platform& platform, Radio radio)
+    : m_shared(shared), m_platform(platform), m_radio(std::move(radio)), m_roster(platform.files) {}
+
+EntryView ContactEntry::view() const {
+    return viewOf(m_draft, m_shared, nowOf(m_platform, m_shared));
+}
+
+std::vector<MemberLine> ContactEntry::members() {
+    return membersLike(m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call),
+                       m_draft.bandTag());
+}
+
+void ContactEntry::opened() {
+    const bool autoReads = m_draft.autoReads;
+    m_draft = Draft();
+    m_draft.autoReads = autoReads;
+    m_draft.boxes.frequency = m_draft.mhz = startFrequency;
+    m_draft.bandText = bandTextOf(m_draft.mhz, "");
+    m_shared.marker = noMarker;
+    clear(ClearTo::nothing);
+    m_cleared.reset();
+}
+
+// --- What is typed ---------------------------------------------------------------------------
+
+void ContactEntry::edited(const Entry& boxes) {
+    const Entry before = std::exchange(m_draft.boxes, boxes);
+    m_draft.boxes.frequency = before.frequency;
+    if (m_draft.boxes != before) {
+        m_draft.happened.reset();
+        if (!m_draft.searched)
+            m_draft.takenBack.clear();
+    }
+    m_draft.boxes.frequency = boxes.frequency;
+    for (std::size_t i = 0; i < lookupBoxes.size(); ++i)
+        if (boxes.*lookupBoxes[i] != before.*lookupBoxes[i])
+            m_draft.lookedUp[i] = false;
+    if (boxes.call != before.call)
+        callChosen(boxes.call);
+}
+
+// What was found of another call says nothing of this one.
+void ContactEntry::callChosen(std::string_view call) {
+    m_draft.boxes.call = call;
+    m_draft.searched.reset();
+    m_draft.happened.reset();
+    m_draft.takenBack.clear();
+    forgetLookup();
+}
+
+// Whoever is logged must not get somebody else's name.
+void ContactEntry::forgetLookup() {
+    for (std::size_t i = 0; i < lookupBoxes.size(); ++i)
+        if (std::exchange(m_draft.lookedUp[i], false))
+            (m_draft.boxes.*lookupBoxes[i]).clear();
+}
+
+// --- Frequency and band ----------------------------------------------------------------------
+
+ContactEntry::Step ContactEntry::enterFrequencyBox(Answer& answer) {
+    return tune(frequencyAsEntered(m_draft.boxes.frequency), answer);
+}
+
+// What SEARCH found holds for one band: on another one the test is made again.
+ContactEntry::Step ContactEntry::tune(const std::string& mhz, Answer& answer) {
+    m_draft.boxes.frequency = m_draft.mhz = mhz;
+    m_draft.bandText = bandTextOf(mhz, m_draft.bandText);
+    if (!m_draft.searched || m_draft.searched->bandTag == m_draft.bandTag())
+        return Step::on;
+    return testForDupe(answer);
+}
+
+// In a sprint a duplicate is marked and logged, or refused; in the event a K3Y duplicate is told
+// besides.
+ContactEntry::Step ContactEntry::testForDupe(Answer& answer) {
+    const OperatingSettings& settings = m_shared.settings;
+    const Contacts& contacts = m_shared.log.contacts();
+    const std::string& call = m_draft.boxes.call;
+    const std::string bandTag = m_draft.bandTag();
+    const std::string_view logged = duplicateOf(contacts, call, bandTag);
+    answer.dupeScreen = answer.dupeScreen || !logged.empty();
+    if (!logged.empty() && !settings.logsDupes()) {
+        clear(ClearTo::nothing);
+        m_draft.happened = {refusedHint(logged), std::string(logged)};
+        answer.toCallBox = true;
+        return Step::ended;
+    }
+    m_draft.searched->bandTag = bandTag;
+    m_draft.searched->marked = !logged.empty();
+    if (m_draft.searched->marked)
+        m_shared.marker = noMarker;
+    if (settings.isK3y() && isK3yDupe(contacts, call, m_draft.boxes.number, bandTag))
+        answer.messages.push_back({std::string(duplicateQsoText), BoxIcon::exclamation});
+    return Step::on;
+}
+
+Answer ContactEntry::frequencyEntered() {
+    Answer answer;
+    std::ignore = enterFrequencyBox(answer); // nothing else was to be done
+    return answer;
+}
+
+Answer ContactEntry::bandStepped(const Band& (*next)(std::string_view bandText)) {
+    Answer answer;
+    answer.toCallBox = true;
+    if (enterFrequencyBox(answer) == Step::on)
+        std::ignore = tune(std::string(next(m_draft.bandText).defaultFrequency), answer);
+    return answer;
+}
+
+// --- The radio -------------------------------------------------------------------------------
+
+Answer ContactEntry::radioAsked() {
+    Answer answer;
+    answer.toCallBox = true;
+    std::ignore = readRadio(ReadCause::manual, answer);
+    return answer;
+}
+
+Answer ContactEntry::autoReadToggled() {
+    m_draft.autoReads = !m_draft.autoReads;
+    m_draft.lastRead = ReadOutcome::noRadio;
+    return {.toCallBox = true};
+}
+
+// One that does not answer is reported, and the frequency in the box stands.
+ContactEntry::Step ContactEntry::readRadio(ReadCause cause, Answer& answer) {
+    const Draft began = m_draft;
+    const ReadResult result = m_draft.autoReads || cause == ReadCause::manual
+                                  ? m_radio.read()
+                                  : ReadResult{ReadOutcome::noRadio};
+    if (result.outcome == ReadOutcome::cancelled) {
+        answer.toCallBox = false;
+        return Step::ended;
+    }
+    if (m_draft != began)
+        return Step::ended;
+    m_draft.lastRead = result.outcome;
+    if (result.outcome == ReadOutcome::read)
+        return tune(result.frequency, answer);
+    if (result.outcome != ReadOutcome::failed)
+        return Step::on;
+    const Draft told = m_draft;
+    m_radio.tellFailure(cause == ReadCause::log
+                            ? withFrequencyUsed(result.message, m_draft.boxes.frequency)
+                            : result.message);
+    return m_draft == told ? Step::on : Step::ended;
+}
+
+// --- SEARCH ----------------------------------------------------------------------------------
+
+Answer ContactEntry::search() {
+    Answer answer;
+    answer.toCallBox = true;
+    if (enterFrequencyBox(answer) == Step::ended)
+        return answer;
+    if (isComplete(m_draft.boxes) && !m_draft.broughtBack)
+        logEntered(answer);
+    else
+        searchEntered(answer);
+    return answer;
+}
+
+void ContactEntry::searchEntered(Answer& answer) {
+    m_draft.broughtBack = false;
+    m_draft.searched.reset();
+    m_draft.happened.reset();
+    m_draft.takenBack.clear();
+    m_draft.boxes.call = callAsEntered(m_draft.boxes.call);
+    Draft::Searched found{};
+    if (!canLookUp(m_draft.boxes.call) || lookUpCall(found) == Step::ended)
+        return;
+    if (readRadio(ReadCause::search, answer) == Step::ended)
+        return;
+    if (trim(m_draft.mhz).empty()) {
+        answer.messages.push_back({std::string(frequencyMissingText), BoxIcon::exclamation});
+        m_draft.boxes.call.clear();
+        forgetLookup();
+        return;
+    }
+    if (tune(completedFrequency(m_draft.mhz), answer) == Step::ended)
+        return;
+    m_draft.takenBack = trim(std::exchange(m_shared.marker, noMarker));
+    m_draft.station = noStationLabel;
+    m_draft.searched = found;
+    if (testForDupe(answer) == Step::on)
+        m_draft.searched->nameMissing = trim(m_draft.boxes.name).empty();
+}
+
+// Fills the boxes; ended where a number was typed that nobody has.
+ContactEntry::Step ContactEntry::lookUpCall(Draft::Searched& found) {
+    const std::string typed = m_draft.boxes.call;
+    found.outcome = lookUp(m_draft.boxes, m_roster);
+    if (found.outcome == LookupOutcome::found)
+        m_draft.lookedUp.fill(true);
+    if (found.outcome == LookupOutcome::notFound)
+        found.hasRoster = m_roster.hasMembers();
+    if (found.outcome != LookupOutcome::nobody)
+        return Step::on;
+    m_draft.happened = {nobodyHint(typed)};
+    return Step::ended;
+}
+
+// --- LOG -------------------------------------------------------------------------------------
+
+Answer ContactEntry::log() {
+    Answer answer;
+    answer.toCallBox = true;
+    if (enterFrequencyBox(answer) == Step::on)
+        logEntered(answer);
+    return answer;
+}
+
+void ContactEntry::logEntered(Answer& answer) {
+    if (!canBeLogged(m_draft.boxes))
+        return;
+    std::optional<std::string> line;
+    try {
+        line = assembledLine(answer);
+    } catch (const RuntimeError& error) {
+        if (error.code() != ErrorCode::invalidCall)
+            throw;
+        answer.messages.push_back(
+            {std::string(invalidEntryText), BoxIcon::exclamation, error.detail()});
+        clear(ClearTo::nothing);
+    }
+    if (!line)
+        return;
+    if (m_shared.settings.isK3y() && isK3yDupe(m_shared.log.contacts(), *line)) {
+        m_asked = asDupe(*line);
+        answer.asksAboutDupe = true;
+        answer.toCallBox = false;
+        return;
+    }
+    append(*line, answer);
+    m_draft.station = noStationLabel;
+}
+
+// The contact line; nothing, and the answer says why, when it cannot be logged.
+std::optional<std::string> ContactEntry::assembledLine(Answer& answer) {
+    const OperatingSettings& settings = m_shared.settings;
+    ContactFields contact = contactFields(m_draft.boxes, settings, nowOf(m_platform, m_shared));
+    if (readRadio(ReadCause::log, answer) == Step::ended)
+        return std::nullopt;
+    std::string mhz = m_draft.mhz;
+    const FrequencyCheck check = enterFrequency(contact, mhz, settings);
+    if (tune(mhz, answer) == Step::ended)
+        return std::nullopt; // a duplicate on the band that the radio is on by now
+    contact.marker = markerOf(m_draft, m_shared);
+    switch (check) {
+    case FrequencyCheck::outsideSprintBands:
+        answer.messages.push_back({mhz + std::string(wrongBandText), BoxIcon::critical});
+        clear(ClearTo::nothing);
+        return std::nullopt;
+    case FrequencyCheck::unloggable:
+        answer.messages.push_back(
+            {std::string(frequencyMissingText), BoxIcon::exclamation, khzFault(contact.frequency)});
+        return std::nullopt;
+    case FrequencyCheck::good:
+        break;
+    }
+    return assembleLine(contact);
+}
+
+// The contact is in the log once its line is on the disk: whatever fails from then on is told,
+// but the boxes are cleared, so that nobody logs it twice.
+void ContactEntry::append(const std::string& line, Answer& answer) {
+    Log& log = m_shared.log;
+    // Logged without a search, or the log was changed since.
+    const std::string repeated(
+        isDupe(line) ? std::string_view()
+                     : duplicateOf(log.contacts(), qso::hisCall.of(line), qso::bandTag.of(line)));
+    const bool logWasThere = m_platform.files.present(log.name());
+    log.append(line);
+    clear(ClearTo::nothing);
+    m_cleared.reset(); // it is in the log
+    m_draft.takenBack.clear();
+    try {
+        log.reread();
+    } catch (const RuntimeError& error) {
+        answer.messages.push_back(failureOnceLogged(error));
+    }
+    m_draft.happened = {loggedHint(line, repeated), line};
+    if (!logWasThere)
+        answer.messages.push_back({std::string(logStartedAgainText), BoxIcon::exclamation,
+                                   m_platform.files.path(log.name())});
+}
+
+Answer ContactEntry::logAsDupe() {
+    Answer answer;
+    answer.toCallBox = true;
+    append(m_asked, answer);
+    return answer;
+}
+
+// --- Dropping and bringing back --------------------------------------------------------------
+
+Answer ContactEntry::droppedDupe() {
+    clear(ClearTo::oneBlank);
+    return {.toCallBox = true};
+}
+
+// What happened last stays told until there is something in the boxes.
+Answer ContactEntry::dropped() {
+    const auto happened = std::exchange(m_draft.happened, std::nullopt);
+    clear(ClearTo::nothing);
+    if (happened && !happened->contact.empty())
+        m_draft.happened = happened;
+    m_draft.station = noStationLabel;
+    return {.toCallBox = true};
+}
+
+// What is cleared can be brought back until something else is.
+void ContactEntry::clear(ClearTo left) {
+    if (!trim(m_draft.boxes.call).empty())
+        m_cleared = {m_draft.boxes, m_draft.lookedUp};
+    const std::string text = left == ClearTo::oneBlank ? " " : "";
+    const std::string report(usualReport);
+    m_draft.boxes = {text, text, text, text, report, report, m_draft.boxes.frequency};
+    m_draft.lookedUp = {};
+    m_draft.broughtBack = false;
+    m_draft.searched.reset();
+    m_draft.happened.reset();
+}
+
+// A contact that was refused is searched for again before it is logged.
+Answer ContactEntry::broughtBack() {
+    if (!m_cleared)
+        return {};
+    const std::string frequency = m_draft.boxes.frequency;
+    m_draft.boxes = m_cleared->boxes;
+    m_draft.boxes.frequency = frequency;
+    m_draft.lookedUp = m_cleared->lookedUp;
+    m_draft.broughtBack = true;
+    m_draft.happened.reset();
+    m_cleared.reset();
+    return {.toCallBox = true};
+}
+
+// --- What comes from elsewhere ---------------------------------------------------------------
+
+void ContactEntry::tagChosen(std::string_view label) {
+    m_draft.station = label;
+    m_draft.takenBack.clear();
+    if (m_draft.searched)
+        m_draft.searched->marked = false;
+}
+
+bool ContactEntry::isInLog(std::string_view contact) const {
+    const Contacts& contacts = m_shared.log.contacts();
+    return std::find(contacts.rbegin(), contacts.rend(), contact) != contacts.rend();
+}
+
+void ContactEntry::logChanged() {
+    const auto& happened = m_draft.happened;
+    if (happened && !happened->contact.empty() && isInLog(happened->contact) != happened->inLog)
+        m_draft.happened.reset();
+}
+
+void ContactEntry::contactCorrected(std::string_view contact) {
+    changedElsewhere(correctedHint(contact), contact, true);
+}
+
+void ContactEntry::contactDeleted(std::string_view contact) {
+    changedElsewhere(deletedHint(contact), contact, false);
+}
+
+// A contact that is being entered has the hint line for itself.
+void ContactEntry::changedElsewhere(const Hint& hint, std::string_view contact, bool inLog) {
+    if (isBlank(m_draft.boxes))
+        m_draft.happened = {hint, std::string(contact), inLog};
+}
+
+} // namespace vantrel

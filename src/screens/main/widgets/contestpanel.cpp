@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/widgets/contestpanel.h"
+
+#include "forms/colours.h"
+#include "forms/controltext.h"
+#include "forms/formbuilder.h"
+#include "forms/layouts.h"
+#include "forms/readtable.h"
+#include "k3y/standings.h"
+#include "output/score/scoregain.h"
+#include "output/score/scorereport.h"
+#include "screens/main/widgets/ratebars.h"
+#include "shared/settings.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHeaderView>
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+
+constexpr double totalEnlargement = 2.2;
+
+QFrame* card(QWidget* panel, QLayout* content) {
+    auto* frame = new QFrame(panel);
+    frame->setFrameShape(QFrame::StyledPanel);
+    frame->setLayout(content);
+    return frame;
+}
+
+std::string_view onBandText(CallOnBand onBand) {
+    switch (onBand) {
+    case CallOnBand::dupe:
+        return "DUPE";
+    case CallOnBand::worked:
+        return "worked";
+    case CallOnBand::notWorked:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+ContestPanel::ContestPanel(QWidget* parent) : QWidget(parent) {
+    FormBuilder build(this);
+    m_totalLabel = build.label("Label29");
+    m_totalLabel->setFont(enlargedFont(this, totalEnlargement));
+    m_sumLabel = build.label("Label30");
+    auto* score = new QGridLayout;
+    score->addWidget(build.caption("TOTAL SCORE", m_totalLabel), 0, 0);
+    score->addWidget(m_sumLabel, 1, 0);
+    score->addWidget(m_totalLabel, 0, 1, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
+
+    m_rateLabel = build.label("Label31");
+    m_rateLabel->setFont(enlargedFont(this, 1));
+    m_lastLabel = build.label("Label32");
+    m_bars = FormBuilder::named(new RateBars(this), "Picture1");
+    auto* rate = new QGridLayout;
+    rate->addWidget(build.caption("LAST 10 MIN", m_rateLabel), 0, 0);
+    rate->addWidget(m_rateLabel, 0, 1, Qt::AlignRight);
+    rate->addWidget(m_bars, 1, 0, 1, 2);
+    rate->addWidget(build.caption("BY 5 MINUTES"), 2, 0);
+    rate->addWidget(m_lastLabel, 2, 1, Qt::AlignRight);
+
+    m_bandTable = build.table("Table1", "BANDS");
+    m_bandTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_bandTable->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* worked = column({m_bandTable});
+    worked->setContentsMargins(0, 0, 0, 0);
+
+    page(this, {card(this, score), card(this, rate), {card(this, worked), 1}})
+        ->setContentsMargins(0, 0, 0, 0);
+    setFixedWidth(fontMetrics().averageCharWidth() * 40);
+}
+
+void ContestPanel::showScore(std::string_view total, std::string_view sum) {
+    put(m_totalLabel, total);
+    put(m_sumLabel, sum);
+}
+
+void ContestPanel::followLog(const Contacts& contacts, const OperatingSettings& settings) {
+    m_moments = momentsOf(contacts);
+    m_shownAt.reset();
+    if (settings.isK3y()) {
+        const Integer16 areas = areaStandings(contacts).total();
+        const Integer16 regions = regionStandings(contacts).total();
+        showScore((areas + regions).text(),
+                  "AREAS " + areas.text() + ", REGIONS " + regions.text());
+        return;
+    }
+    const Score score = computeScore(contacts, settings);
+    showScore(figureText(score.total), scoreSum(score));
+}
+
+void ContestPanel::followClock(const UtcTime& utc) {
+    const std::optional<Moment> now = momentOf(utc);
+    if (!now || m_shownAt == now)
+        return;
+    m_shownAt = now;
+    const Rate rate = rateAt(m_moments, *now);
+    put(m_rateLabel, rateText(rate));
+    put(m_lastLabel, lastText(rate));
+    m_bars->setRate(rate);
+}
+
+void ContestPanel::showBands(const BandTable& table) {
+    m_bandTable->setHeadings(
+        {{"BAND", "", Qt::AlignLeft}, {"QSOs"}, {table.call, "CALL " + table.call}});
+    std::vector<std::vector<ReadTable::Cell>> rows;
+    for (const BandRow& band : table.rows) {
+        const std::string count = std::to_string(band.contacts);
+        const std::string text(onBandText(band.onBand));
+        const QColor colour = band.onBand == CallOnBand::dupe ? warningColour(palette()) : QColor();
+        rows.push_back({{band.name, band.name, Qt::AlignLeft, band.present},
+                        {band.contacts == 0 ? "-" : count, band.name + ' ' + count + " QSOs",
+                         Qt::AlignRight, band.present},
+                        {text, band.name + ' ' + (text.empty() ? "not worked" : text),
+                         Qt::AlignRight, band.present, colour}});
+    }
+    m_bandTable->setRows(rows);
+    const auto present = std::find_if(table.rows.begin(), table.rows.end(),
+                                      [](const BandRow& band) { return band.present; });
+    if (present != table.rows.end()) // there may be no room for all
+        m_bandTable->scrollToItem(
+            m_bandTable->item(static_cast<int>(present - table.rows.begin()), 0));
+}
+
+} // namespace vantrel

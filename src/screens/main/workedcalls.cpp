@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "screens/main/workedcalls.h"
+
+#include "log/bands.h"
+#include "log/qsoline.h"
+#include "roster/rosterlookup.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace vantrel {
+
+namespace {
+
+constexpr int fewestTyped = 2;
+constexpr std::size_t mostMembers = 12;
+constexpr std::size_t shortestEntry = 6; // "K1 20" and a blank
+constexpr std::string_view between = "  ";
+
+// Equal as columns: a line that lost its last blanks in an editor is still the same contact.
+bool sameField(Column column, std::string_view line, std::string_view value) {
+    return trimRight(column.of(line)) == trimRight(left(value, column.width));
+}
+
+struct Worked {
+    std::string_view call;
+    std::vector<std::string_view> bands;
+    bool dupe = false;
+};
+
+// "20" of "20M"; the kHz themselves outside the bands.
+std::string_view bandName(std::string_view line) {
+    const std::string_view khz = qso::frequency.of(line);
+    const Band* band = bandOfKhz(khz);
+    return band == nullptr ? trim(khz) : band->label.substr(0, band->label.size() - 1);
+}
+
+// The first `most` calls: no more are ever shown, and a key must not wait for thousands.
+std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
+                               std::string_view bandTag, std::size_t most) {
+    std::vector<Worked> result;
+    for (const std::string_view line : contacts) {
+        if (mid(line, qso::hisCall.first, length(typed)) != typed)
+            continue;
+        const std::string_view call = trim(qso::hisCall.of(line));
+        auto entry = std::find_if(result.begin(), result.end(),
+                                  [&](const Worked& worked) { return worked.call == call; });
+        if (entry == result.end() && result.size() == most)
+            continue;
+        if (entry == result.end())
+            entry = result.insert(result.end(), {call, {}});
+        const std::string_view band = bandName(line);
+        if (std::find(entry->bands.begin(), entry->bands.end(), band) == entry->bands.end())
+            entry->bands.push_back(band);
+        entry->dupe = entry->dupe || qso::bandTag.of(line) == bandTag;
+    }
+    return result;
+}
+
+std::string textOf(const Worked& worked) {
+    std::string text(worked.call);
+    for (const std::string_view band : worked.bands)
+        text += ' ' + std::string(band);
+    return text;
+}
+
+// A row of the band table: a band as operators count it may have several tags.
+struct RowBand {
+    std::string_view name;
+    std::string_view firstTag;
+    std::string_view lastTag;
+    bool sprint; // may be worked in any contest
+    bool event;  // and in the event
+};
+constexpr std::array<RowBand, 12> rowBands{{
+    {"160", " 1", " 1", true, true},
+    {"80", " 3", " 3", true, true},
+    {"60", " 5", " 5", false, false},
+    {"40", " 7", " 7", true, true},
+    {"30", "10", "10", false, true},
+    {"20", "14", "14", true, true},
+    {"17", "18", "18", false, true},
+    {"15", "21", "21", true, true},
+    {"12", "24", "24", false, true},
+    {"10", "28", "29", true, true},
+    {"6", "50", "53", false, false},
+    {"OTHER", "", "\xFF", false, false},
+}};
+
+std::size_t rowOf(std::string_view tag) {
+    const auto* const row =
+        std::find_if(rowBands.begin(), rowBands.end(), [&](const RowBand& band) {
+            return tag >= band.firstTag && tag <= band.lastTag;
+        });
+    return static_cast<std::size_t>(row - rowBands.begin());
+}
+
+// Where a call was worked, by row.
+struct Bands {
+    std::string_view call;
+    std::array<CallOnBand, rowBands.size()> onBand{};
+
+    void add(std::size_t row, bool dupe) {
+        onBand[row] = std::max(onBand[row], dupe ? CallOnBand::dupe : CallOnBand::worked);
+    }
+};
+
+} // namespace
+
+std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
+                             std::string_view bandTag) {
+    const auto found = std::find_if(contacts.begin(), contacts.end(), [&](std::string_view line) {
+        return qso::bandTag.of(line) == bandTag &&
+               mid(line, qso::hisCall.first, length(call)) == call;
+    });
+    return found == contacts.end() ? std::string_view() : *found;
+}
+
+bool isK3yDupe(const Contacts& contacts, std::string_view contactLine) {
+    return isK3yDupe(contacts, qso::hisCall.of(contactLine), qso::hisNumber.of(contactLine),
+                     qso::bandTag.of(contactLine));
+}
+
+bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view number,
+               std::string_view bandTag) {
+    return std::any_of(contacts.begin(), contacts.end(), [&](std::string_view line) {
+        return sameField(qso::hisCall, line, call) && qso::bandTag.of(line) == bandTag &&
+               sameField(qso::hisNumber, line, number);
+    });
+}
+
+std::string asDupe(std::string_view contactLine) {
+    // A region tag gives way to "DUPE": a duplicate counts for no region.
+    return std::string(left(contactLine, qso::hisNumber.last())) + std::string(dupeMarker);
+}
+
+std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view typed,
+                                     std::string_view bandTag, int columns) {
+    std::vector<WorkedCall> result;
+    if (length(typed) < fewestTyped)
+        return result;
+    const auto most = static_cast<std::size_t>(columns) / shortestEntry + 1;
+    int width = 0;
+    for (const Worked& worked : workedWith(contacts, typed, bandTag, most)) {
+        std::string text = textOf(worked);
+        width += (result.empty() ? 0 : length(between)) + length(text);
+        if (width > columns) {
+            result.push_back({std::string(moreWorked), false});
+            break;
+        }
+        result.push_back({std::move(text), worked.dupe});
+    }
+    return result;
+}
+
+std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
+                                    std::string_view typed, std::string_view bandTag) {
+    std::vector<MemberLine> lines;
+    if (length(typed) < fewestTyped)
+        return lines;
+    for (const Member& member : roster.membersLike(typed, mostMembers)) {
+        MemberLine line{std::string(trim(member.call)), std::string(trim(member.call)), false};
+        for (const std::string& field : {member.name, member.state, member.number})
+            line.text += ' ' + std::string(trim(field));
+        lines.push_back(std::move(line));
+    }
+    for (const std::string_view contact : contacts)
+        if (qso::bandTag.of(contact) == bandTag)
+            for (MemberLine& line : lines)
+                line.dupe = line.dupe || trimRight(qso::hisCall.of(contact)) == line.call;
+    return lines;
+}
+
+BandTable bandTable(const Contacts& contacts, std::string_view typed, std::string_view bandTag,
+                    bool allBands) {
+    std::array<int, rowBands.size()> counts{};
+    std::array<bool, rowBands.size()> worked{};
+    Bands exact{typed};
+    Bands longer;
+    bool several = false;
+    for (const std::string_view contact : contacts) {
+        const std::string_view tag = qso::bandTag.of(contact);
+        const std::size_t row = rowOf(tag);
+        worked[row] = true;
+        counts[row] += isDupe(contact) ? 0 : 1;
+        if (typed.empty() || mid(contact, qso::hisCall.first, length(typed)) != typed)
+            continue;
+        const std::string_view call = trimRight(qso::hisCall.of(contact));
+        several = several || (call != typed && !longer.call.empty() && call != longer.call);
+        if (call != typed)
+            longer.call = call;
+        (call == typed ? exact : longer).add(row, tag == bandTag);
+    }
+    const bool isWorked = exact.onBand != decltype(exact.onBand){};
+    const Bands shown = isWorked ? exact : several ? Bands() : longer;
+    BandTable table{std::string(shown.call), {}};
+    for (std::size_t row = 0; row < rowBands.size(); ++row)
+        if (worked[row] || (allBands ? rowBands[row].event : rowBands[row].sprint))
+            table.rows.push_back({std::string(rowBands[row].name), counts[row],
+                                  row == rowOf(bandTag), shown.onBand[row]});
+    return table;
+}
+
+} // namespace vantrel

@@ -50,7 +50,7 @@ void logging(bench::BenchFolder& folder, Files& files, int contacts) {
         ourLog->open(logName);
     };
     const auto ours = [ourLog, contact] {
-        ourLog->append(contact);
+        std::ignore = ourLog->append(contact);
         ourLog->reread();
     };
     const auto bound = [&folder, contact, worked] {

@@ -2,8 +2,8 @@
 // Importing 19,500 members into roster files near their capacity: without a window against
 // `LC_ALL=C sort` of the same list, in the window against without, and how long the window
 // goes without serving its events.
+#include "roster/rosterfiles.h"
 #include "roster/rosterimport.h"
-#include "roster/rosterrecord.h"
 #include "support/program.h"
 
 #include <QPushButton>

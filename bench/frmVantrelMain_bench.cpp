@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The main page on a full log: from START to its paint, a key in the call box, its panel.
-#include "roster/rosterrecord.h"
+#include "roster/rosterfiles.h"
 #include "screens/main/widgets/contestpanel.h"
 #include "support/program.h"
 
@@ -54,7 +54,7 @@ void typing() {
     times.clear();
     for (int i = 0; i < 9; ++i)
         times.push_back(bench::millisecondsOf([&] {
-            panel->followLog(program.module.log.contacts(), program.module.settings);
+            panel->followLog(program.module.log, program.module.settings);
             QApplication::processEvents();
         }));
     bench::printValue("the panel after a contact", bench::median(times), "ms", 2);

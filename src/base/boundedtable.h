@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A table with a fixed capacity, counted from 1, that says its name when it is full.
+// A table with a fixed capacity and indexes from 1, whose errors name it.
 #pragma once
 
 #include "base/runtimeerror.h"
@@ -31,8 +31,6 @@ public:
     T& at(int index) { return m_entries[checked(index)]; }
 
     int size() const { return static_cast<int>(m_entries.size()); }
-    void clear() { m_entries.clear(); }
-    bool full() const { return size() >= m_capacity; }
 
     const std::vector<T>& entries() const { return m_entries; }
     auto begin() const { return m_entries.begin(); }

@@ -14,11 +14,6 @@ std::size_t toSize(int count) {
     return static_cast<std::size_t>(std::max(count, 0));
 }
 
-bool isControl(char character) {
-    const auto byte = static_cast<unsigned char>(character);
-    return byte < 0x20 || byte == 0x7F;
-}
-
 } // namespace
 
 std::string_view mid(std::string_view text, int first, int count) {
@@ -71,6 +66,15 @@ std::string upper(std::string_view text) {
 
 bool isDigit(char character) {
     return character >= '0' && character <= '9';
+}
+
+bool isControl(char character) {
+    const auto byte = static_cast<unsigned char>(character);
+    return byte < 0x20 || (byte >= 0x7F && byte < 0xA0);
+}
+
+bool allDigits(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), isDigit);
 }
 
 bool isCapital(char character) {
@@ -130,6 +134,10 @@ long long numericValue(std::string_view text) {
     if (result.ec == std::errc::result_out_of_range)
         throw RuntimeError(ErrorCode::overflow, "the number " + std::string(rest));
     return negative ? -value : value;
+}
+
+std::string counted(long long count, std::string_view noun) {
+    return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "S");
 }
 
 std::string zeroPadded(int value, int digits) {

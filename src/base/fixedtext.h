@@ -3,7 +3,6 @@
 // (ISO 8859-1); nothing here depends on the locale. Columns count from 1.
 #pragma once
 
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -16,15 +15,6 @@ std::string_view midToEnd(std::string_view text, int first);
 // The first / last `count` bytes; the whole text when it is shorter.
 std::string_view left(std::string_view text, int count);
 std::string_view right(std::string_view text, int count);
-
-// Whether the text begins with the word / is the word. Here, so that a word of known length is
-// compared without a call into the library: a score asks this of every contact.
-inline bool begins(std::string_view text, std::string_view word) {
-    return text.size() >= word.size() && std::memcmp(text.data(), word.data(), word.size()) == 0;
-}
-inline bool isExactly(std::string_view text, std::string_view word) {
-    return text.size() == word.size() && begins(text, word);
-}
 
 // The text's length in columns.
 int length(std::string_view text);
@@ -40,6 +30,10 @@ char upper(char character);
 std::string upper(std::string_view text);
 
 bool isDigit(char character);
+// 0x00 to 0x1F and 0x7F to 0x9F.
+bool isControl(char character);
+// True for the empty text too.
+bool allDigits(std::string_view text);
 // A capital A-Z.
 bool isCapital(char character);
 // How many characters of the text are capitals A-Z.
@@ -62,6 +56,9 @@ std::string withoutSeparatorsAndQuotes(std::string_view text);
 // The numeric reading: skips leading blanks, takes an optional sign and the digits that
 // follow; 0 without any. Throws RuntimeError 6 beyond 64 bits.
 long long numericValue(std::string_view text);
+
+// "1 LINE", "3 LINES", "0 LINES".
+std::string counted(long long count, std::string_view noun);
 
 // `value` as decimal text, zero-padded on the left to `digits`.
 std::string zeroPadded(int value, int digits);

@@ -30,7 +30,6 @@ public:
     RuntimeError(ErrorCode code, std::string detail);
 
     ErrorCode code() const { return m_code; }
-    int number() const { return static_cast<int>(m_code); }
     const std::string& detail() const { return m_detail; }
 
     // "Run-time error 53: File not found": what the message box shows as its text.

@@ -164,7 +164,7 @@ void frmK3YStandings::showStandings(const Contacts& contacts) {
     for (int column = 1; column <= bandCount; ++column)
         showCount(m_bandTotals[static_cast<std::size_t>(column - 1)], standings.bandTotal(column));
     put(m_total, standings.totalText());
-    put(m_wholeTotal, "BOTH PAGES:  " + wholeStandingsTotal(contacts).text());
+    put(m_wholeTotal, "BOTH PAGES:  " + standingsTotals(contacts).whole().text());
 }
 
 // The other page takes this one's place: leaving it leads back to where this one came from.

@@ -4,7 +4,7 @@
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
-#include "k3y/callarea.h"
+#include "k3y/k3ystation.h"
 #include "platform/clock.h"
 #include "shared/utctime.h"
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The event station a contact is with: the tags that close its line and how the main page
-// shows them.
+// The K3Y event's stations: the tag that closes a contact's line, the call areas, and the log's
+// name for each area.
 #pragma once
 
 #include "log/qsoline.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace vantrel {
@@ -29,5 +30,25 @@ inline constexpr std::array<K3yStation, 7> k3yStations{{
     {"K3Y/SA", "-- K3Y/SA --", 'S'},
     {noMarker, noStationLabel, 'X'},
 }};
+
+struct CallArea {
+    std::string_view item; // as listed
+    std::string_view code;
+};
+
+// In the list's order: area zero stands last of the numbered ones.
+inline constexpr std::array<CallArea, 19> callAreas{{
+    {"USA         01", "01"},   {"USA         02", "02"},    {"USA         03", "03"},
+    {"USA         04", "04"},   {"USA         05", "05"},    {"USA         06", "06"},
+    {"USA         07", "07"},   {"USA         08", "08"},    {"USA         09", "09"},
+    {"USA         00", "00"},   {"KH6          KH", "KH"},   {"KL7           KL", "KL"},
+    {"KP4           KP", "KP"}, {"N. AM (Not W)  NA", "NA"}, {"South AM   SA", "SA"},
+    {"Europe       EU", "EU"},  {"Africa         AF", "AF"}, {"Asia            AS", "AS"},
+    {"Oceania\t   OC", "OC"},
+}};
+
+// "2010-01-05-K3Y-03-W1ABC.CBR". utcDate as contacts carry it; the call in upper case, a `/` in
+// it (it would name a folder) as `-`.
+std::string k3yLogName(std::string_view utcDate, std::string_view code, std::string_view myCall);
 
 } // namespace vantrel

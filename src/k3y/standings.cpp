@@ -64,10 +64,9 @@ Integer16 Standings::bandTotal(int column) const {
 }
 
 bool Standings::fill(int row, std::string_view khzField, std::string_view text) {
-    const Band* band = bandOfKhz(khzField);
-    if (row == 0 || band == nullptr)
+    const std::size_t column = bandIndexOf(khzField);
+    if (row == 0 || column == bands.size())
         return false;
-    const auto column = static_cast<std::size_t>(band - bands.data());
     const auto index = static_cast<std::size_t>(row - 1);
     if (cell(row, m_rows[index].guards.at(column)).filled())
         return false;
@@ -104,8 +103,12 @@ Standings regionStandings(const Contacts& contacts) {
     return result;
 }
 
-Integer16 wholeStandingsTotal(const Contacts& contacts) {
-    return areaStandings(contacts).total() + regionStandings(contacts).total();
+std::string StandingsTotals::text() const {
+    return "AREAS " + areas.text() + ", REGIONS " + regions.text();
+}
+
+StandingsTotals standingsTotals(const Contacts& contacts) {
+    return {areaStandings(contacts).total(), regionStandings(contacts).total()};
 }
 
 } // namespace vantrel

@@ -72,7 +72,6 @@ public:
     // rows: one of the two row tables above, which outlives this.
     explicit Standings(std::span<const StandingsRow> rows) : m_rows(rows), m_cells(rows.size()) {}
 
-    std::span<const StandingsRow> rows() const { return m_rows; }
     // Row and column from 1, as in the row table and the band table.
     const StandingsCell& cell(int row, int column) const;
     // Each filling counts, also that of a cell filled before.
@@ -102,7 +101,14 @@ Standings areaStandings(const Contacts& contacts);
 // most once.
 Standings regionStandings(const Contacts& contacts);
 
-// The totals of both pages together.
-Integer16 wholeStandingsTotal(const Contacts& contacts);
+// The totals of the two pages.
+struct StandingsTotals {
+    Integer16 areas;
+    Integer16 regions;
+
+    Integer16 whole() const { return areas + regions; }
+    std::string text() const; // "AREAS 12, REGIONS 3"
+};
+StandingsTotals standingsTotals(const Contacts& contacts);
 
 } // namespace vantrel

@@ -23,6 +23,16 @@ const Band* bandOfMhz(std::string_view mhz) {
     return bandWhere(&Band::mhzPrefix, mhz);
 }
 
+std::size_t bandIndexOf(std::string_view khzField) {
+    const Band* band = bandOfKhz(khzField);
+    return band == nullptr ? bands.size() : static_cast<std::size_t>(band - bands.data());
+}
+
+std::string_view bandLabelOf(std::string_view khzField) {
+    const Band* band = bandOfKhz(khzField);
+    return band == nullptr ? trim(khzField) : band->label;
+}
+
 std::string_view bandTextOf(std::string_view mhz, std::string_view otherwise) {
     const Band* band = bandOfMhz(mhz);
     return band == nullptr || band->text.empty() ? otherwise : band->text;

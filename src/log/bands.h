@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace vantrel {
@@ -32,6 +33,11 @@ inline constexpr std::array<Band, 9> bands{{
 // first two characters decide); nullptr for none.
 const Band* bandOfKhz(std::string_view khzField);
 const Band* bandOfMhz(std::string_view mhz);
+
+// Index in `bands` of a kHz field's band; bands.size() for none.
+std::size_t bandIndexOf(std::string_view khzField);
+// "20M"; the field itself, trimmed, when it lies in no band.
+std::string_view bandLabelOf(std::string_view khzField);
 
 // The band text of a frequency in MHz; `otherwise` outside the six sprint bands.
 std::string_view bandTextOf(std::string_view mhz, std::string_view otherwise);

@@ -3,42 +3,29 @@
 
 #include "base/fixedtext.h"
 #include "base/itemreader.h"
-#include "base/runtimeerror.h"
 #include "platform/files.h"
 
 #include <algorithm>
 #include <exception>
 #include <iterator>
-#include <optional>
 
 namespace vantrel {
 
 namespace {
 
-void addContacts(std::string_view bytes, Contacts& contacts) {
-    ItemReader reader(bytes);
-    while (!reader.atEnd()) {
-        const std::string_view item = reader.next();
-        if (!isContact(item))
-            continue;
-        if (contacts.size() == Log::capacity)
-            throw RuntimeError(ErrorCode::subscriptOutOfRange, "the QSO table holds at most " +
-                                                                   std::to_string(Log::capacity) +
-                                                                   " contacts");
-        contacts.push_back(item);
-    }
-}
-
-// Whether `bytes` are those before, with nothing or whole lines behind them.
-bool onlyGrew(std::string_view bytes, std::string_view before) {
-    return bytes == before || (before.ends_with('\n') && bytes.starts_with(before));
+// Whether `bytes` are those before, unchanged or with more lines behind them.
+bool hasOnlyNewLines(std::string_view bytes, std::string_view before) {
+    return !before.empty() &&
+           (bytes == before || (before.ends_with('\n') && bytes.starts_with(before)));
 }
 
 } // namespace
 
 Contacts contactsIn(std::string_view logBytes) {
     Contacts contacts;
-    addContacts(logBytes, contacts);
+    for (ItemReader reader(logBytes); !reader.atEnd();)
+        if (const std::string_view item = reader.next(); isContact(item))
+            contacts.push_back(item);
     return contacts;
 }
 
@@ -80,45 +67,32 @@ std::string_view markerOf(std::string_view workedLine) {
 
 void Log::open(const std::string& name) {
     m_name = name;
-    m_readings = {};
+    m_bytes.clear();
+    m_contacts.clear();
+    m_tooLong.reset();
     m_worked.clear();
-    follow(true);
+    reread();
 }
 
+// The pages show what could be read, so they are called before a failure is thrown. One of them
+// may close, or open another, because of it.
 void Log::reread() {
-    follow(false);
-}
-
-// Whoever watches is told before what failed is: he shows what there is.
-void Log::follow(bool anew) {
     std::exception_ptr failure;
-    try {
-        readAndFollow(anew);
-    } catch (...) {
-        failure = std::current_exception();
-    }
-    tellWatchers();
+    const auto attempt = [&failure](const auto& step) {
+        try {
+            step();
+        } catch (...) {
+            if (!failure)
+                failure = std::current_exception();
+        }
+    };
+    attempt([this] { readAndUpdate(); });
+    const auto watchers = m_watchers;
+    for (const auto& watcher : watchers)
+        if (const Watch watch = watcher.lock())
+            attempt(*watch);
     if (failure)
         std::rethrow_exception(failure);
-}
-
-void Log::readAndFollow(bool anew) {
-    const std::size_t before = contacts().size();
-    std::optional<RuntimeError> tooLong;
-    bool grew = false;
-    try {
-        grew = read();
-    } catch (const RuntimeError& error) {
-        if (error.code() != ErrorCode::subscriptOutOfRange)
-            throw;
-        tooLong = error;
-    }
-    if (anew || !grew)
-        rewriteWorked();
-    else
-        addWorked(contacts().size() - before);
-    if (tooLong)
-        throw RuntimeError(*tooLong);
 }
 
 Log::Watch Log::watch(std::function<void()> watcher) {
@@ -128,36 +102,37 @@ Log::Watch Log::watch(std::function<void()> watcher) {
     return watch;
 }
 
-// A page may close, or another one open, because of what it is told.
-void Log::tellWatchers() {
-    const auto watchers = m_watchers;
-    for (const auto& watcher : watchers)
-        if (const Watch watch = watcher.lock())
-            (*watch)();
+void Log::readAndUpdate() {
+    std::string bytes = m_files.read(m_name);
+    const bool grew = hasOnlyNewLines(bytes, m_bytes);
+    const std::size_t before = m_contacts.size();
+    parse(std::move(bytes), grew ? m_bytes.size() : 0);
+    if (grew)
+        addWorked(m_contacts.size() - before);
+    else
+        rewriteWorked();
+    if (m_tooLong)
+        throw RuntimeError(*m_tooLong);
 }
 
-// Whether what was known stands there still, first of all. After a contact it does, and only
-// the line that is new is taken apart.
-bool Log::read() {
-    const Reading& last = m_readings[m_turn];
-    Reading& next = m_readings[1 - m_turn];
-    next.contacts.clear();
-    m_files.readInto(m_name, next.bytes);
-    m_turn = 1 - m_turn;
-    const std::string_view bytes = next.bytes;
-    const bool grew = onlyGrew(bytes, last.bytes);
-    if (grew) {
-        next.contacts.reserve(last.contacts.size() + 1);
-        for (const std::string_view contact : last.contacts)
-            next.contacts.push_back(bytes.substr(
-                static_cast<std::size_t>(contact.data() - last.bytes.data()), contact.size()));
-    }
-    try {
-        addContacts(bytes.substr(grew ? last.bytes.size() : 0), next.contacts);
-    } catch (const RuntimeError& error) {
-        throw RuntimeError(error.code(), m_files.path(m_name) + ": " + error.detail());
-    }
-    return grew;
+// known: how many bytes at the beginning are as they were. After a contact was logged only its
+// line is split into items: there may be thousands before it.
+void Log::parse(std::string bytes, std::size_t known) {
+    const char* const before = m_bytes.data();
+    m_bytes.swap(bytes); // `bytes` keeps the old ones until the contacts point into the new ones
+    if (known == 0)
+        m_contacts.clear();
+    for (std::string_view& contact : m_contacts)
+        contact = {m_bytes.data() + (contact.data() - before), contact.size()};
+    const Contacts added = contactsIn(std::string_view(m_bytes).substr(known));
+    m_contacts.insert(m_contacts.end(), added.begin(), added.end());
+    m_tooLong.reset();
+    if (m_contacts.size() <= capacity)
+        return;
+    m_contacts.resize(capacity);
+    m_tooLong.emplace(ErrorCode::subscriptOutOfRange, m_files.path(m_name) +
+                                                          ": the QSO table holds at most " +
+                                                          std::to_string(capacity) + " contacts");
 }
 
 // Writes nothing while nothing changed: a full disk must not keep a score from being shown.
@@ -186,8 +161,15 @@ void Log::rewriteWorked() {
     m_workedOnDisk = true;
 }
 
-void Log::append(std::string_view line) {
+std::optional<LogLoss> Log::append(std::string_view line) {
+    std::optional<LogLoss> loss;
+    const bool vanished = !m_files.present(m_name);
+    const std::string bytes = m_files.readOrEmpty(m_name);
+    if (vanished || (!bytes.starts_with(m_bytes) && contactsIn(bytes).size() < m_contacts.size()))
+        loss = {vanished,
+                m_contacts.empty() ? std::string() : m_files.keepCopy(m_name + ".OLD", m_bytes)};
     m_files.appendLine(m_name, line);
+    return loss;
 }
 
 } // namespace vantrel

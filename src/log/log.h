@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-// The open log: its contacts as they stand on the disk, and the worked stations that follow
-// them, in memory and in "StnsWorked.TXT".
+// The open log: its contacts as they stand on the disk, and the worked stations made of them, in
+// memory and in "StnsWorked.TXT".
 #pragma once
 
 #include "base/integer16.h"
+#include "base/runtimeerror.h"
 #include "log/qsoline.h"
 
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,8 +24,7 @@ inline constexpr std::string_view workedStationsFile = "StnsWorked.TXT";
 // A log's contact lines, in file order.
 using Contacts = std::vector<std::string_view>;
 
-// Every comma-delimited item that begins "QSO"; views into `logBytes`. Throws RuntimeError 9 at
-// the 12,001st.
+// Every comma-delimited item that begins "QSO", however many; views into `logBytes`.
 Contacts contactsIn(std::string_view logBytes);
 
 // The worked-stations line of a contact: his call (10), "| ", his name (10), "|", his number
@@ -39,6 +39,7 @@ inline constexpr Column number{24, 6};
 inline constexpr Column state{33, 3};
 inline constexpr Column frequency{39, 5};
 inline constexpr Column time{47, 4};
+inline constexpr Column date{54, 10};
 inline constexpr Column marker{65, 6};
 inline constexpr int columns = 70;
 } // namespace worked
@@ -52,6 +53,12 @@ WorkedKind kindOf(std::string_view workedLine);
 // The last field of a worked-stations line, without its blanks: a K3Y tag, "DUPE" or nothing.
 std::string_view markerOf(std::string_view workedLine);
 
+// What had become of the log on the disk when a contact was to be appended.
+struct LogLoss {
+    bool vanished;    // no such file any more; otherwise it held fewer contacts than were read
+    std::string kept; // copy of what was read last, as text to show; empty: it held no contact
+};
+
 class Log {
 public:
     static constexpr int capacity = 12000;
@@ -62,50 +69,47 @@ public:
     Log& operator=(const Log&) = delete;
 
     const std::string& name() const { return m_name; }
-    // At most 12,000; valid until the log is read again.
-    const Contacts& contacts() const { return m_readings[m_turn].contacts; }
-    Integer16 count() const { return static_cast<long long>(contacts().size()); }
+    // The first 12,000; valid until the log is read again.
+    const Contacts& contacts() const { return m_contacts; }
+    Integer16 count() const { return static_cast<long long>(m_contacts.size()); }
+    // RuntimeError 9 while the file holds more contacts than that.
+    const std::optional<RuntimeError>& tooLong() const { return m_tooLong; }
     // The lines of the first 1,000 contacts.
     const std::vector<std::string>& worked() const { return m_worked; }
 
-    // Called whenever contacts and worked stations may have changed, for as long as the Watch
-    // that is handed back is kept.
+    // Calls the watcher after each reading, for as long as the Watch handed back is kept.
     using Watch = std::shared_ptr<const std::function<void()>>;
     [[nodiscard]] Watch watch(std::function<void()> watcher);
 
-    // Makes `name` the open log, reads it and writes "StnsWorked.TXT" anew. Throws as reread();
-    // there are no contacts then unless some could be read.
+    // Makes `name` the open log, reads it and rewrites "StnsWorked.TXT". Throws as reread(); a
+    // log that cannot be read then has no contacts.
     void open(const std::string& name);
 
-    // Reads the log again; worked stations and their file follow, whoever changed it. Throws as
-    // Files::read, all being as before; RuntimeError 9 at the 12,001st contact, the first 12,000
-    // being there; as Files::rewrite for the file of the worked stations, the list being right.
+    // Reads the log again and brings the worked stations and their file up to date, then calls
+    // every watcher. Throws afterwards, the log's own failure before a watcher's: as Files::read,
+    // contacts and worked stations being as before; RuntimeError 9 with tooLong(); as
+    // Files::rewrite for "StnsWorked.TXT", the list in memory being right.
     void reread();
 
-    // Appends the line to the log: on the disk when this returns. Contacts and worked stations
-    // follow at the next reread(). Throws as Files::appendLine.
-    void append(std::string_view line);
+    // Appends the line to the file: on the disk when this returns. The next reread() brings it
+    // into contacts() and worked(). A log that vanished or lost contacts since it was read takes
+    // the line all the same, after what was read is kept beside it as NAME.OLD (numbered). Throws
+    // as Files::read, Files::keepCopy and Files::appendLine; nothing is appended then.
+    [[nodiscard]] std::optional<LogLoss> append(std::string_view line);
 
 private:
-    // Two of them take turns: the log is read after each contact, and memory is used again.
-    struct Reading {
-        std::string bytes;
-        Contacts contacts;
-    };
-
-    void follow(bool anew);
-    void readAndFollow(bool anew);
-    void tellWatchers();
-    bool read();
+    void readAndUpdate();
+    void parse(std::string bytes, std::size_t known);
     void addWorked(std::size_t added);
     void rewriteWorked();
 
     Files& m_files;
     std::string m_name;
-    std::array<Reading, 2> m_readings;
-    std::size_t m_turn = 0;
+    std::string m_bytes; // of the file; m_contacts points into it
+    Contacts m_contacts;
+    std::optional<RuntimeError> m_tooLong;
     std::vector<std::string> m_worked;
-    bool m_workedOnDisk = false; // the file holds what the list does
+    bool m_workedOnDisk = false; // the file holds what m_worked does
     std::vector<std::weak_ptr<const std::function<void()>>> m_watchers;
 };
 

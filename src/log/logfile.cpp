@@ -8,17 +8,22 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 
+#include <algorithm>
+
 namespace vantrel {
 
 namespace {
 
-// By the same reading as the open log's: whatever was counted is worth keeping.
-bool holdsContacts(std::string_view logBytes) {
-    ItemReader reader(logBytes);
-    while (!reader.atEnd())
-        if (isContact(reader.next()))
-            return true;
-    return false;
+constexpr int headerLines = 4;
+constexpr std::string_view contestHeading = " Contest: ";
+constexpr int extensionWidth = 3;
+
+// The log's name without its extension, followed by `ending`.
+std::string beside(std::string_view logFileName, std::string_view ending) {
+    const std::size_t nameLength = lastPart(logFileName).size();
+    const std::size_t extension = lastPart(logFileName).rfind('.');
+    logFileName.remove_suffix(nameLength - std::min(extension, nameLength));
+    return std::string(logFileName) + std::string(ending);
 }
 
 } // namespace
@@ -32,7 +37,7 @@ std::string logHeader(std::string_view contestText, std::string_view myCall,
                       std::string_view myNumber) {
     // The last line reminds whoever reads the file where the other station's call starts.
     return joinLines(std::vector<std::string>{
-        " Contest: " + std::string(contestText), " My Call: " + std::string(myCall),
+        std::string(contestHeading) + std::string(contestText), " My Call: " + std::string(myCall),
         "My SKCC#: " + padded(myNumber, qso::myNumber.width, "the SKCC number"),
         "   Count: 66 to HisCall"});
 }
@@ -43,9 +48,59 @@ std::string startNewLog(Files& files, const std::string& name, std::string_view 
                            "the new file needs a name: type one into the file name box");
     const std::string old = files.readOrEmpty(name);
     const std::string kept =
-        holdsContacts(old) ? files.keepCopy(name + ".OLD", old) : std::string();
+        contactsIn(old).empty() ? std::string() : files.keepCopy(name + ".OLD", old);
     files.rewrite(name, header);
     return kept;
+}
+
+LogSummary summaryOf(std::string_view logBytes) {
+    LogSummary summary{{}, contactsIn(logBytes)};
+    LineReader lines(logBytes);
+    for (int line = 0; line < headerLines && !lines.atEnd(); ++line)
+        if (const std::string_view text = lines.next(); text.starts_with(contestHeading))
+            summary.contest = trim(text.substr(contestHeading.size()));
+    return summary;
+}
+
+std::string qsosText(std::size_t contacts) {
+    return counted(static_cast<long long>(contacts), "QSO");
+}
+
+std::string contactsText(const Contacts& contacts) {
+    const std::string text = qsosText(contacts.size());
+    if (contacts.empty())
+        return text;
+    return text + ", LAST " + std::string(qso::date.of(contacts.back())) + ' ' +
+           std::string(qso::time.of(contacts.back()));
+}
+
+std::string_view lastPart(std::string_view fileName) {
+    return fileName.substr(fileName.find_last_of("/\\") + 1);
+}
+
+std::string adifFileName(std::string_view logFileName) {
+    if (length(logFileName) < extensionWidth)
+        throw RuntimeError(ErrorCode::invalidCall, "the log's name \"" + std::string(logFileName) +
+                                                       "\" has no extension to replace");
+    return std::string(left(logFileName, length(logFileName) - extensionWidth)) + "ADI";
+}
+
+std::string strictAdifFileName(std::string_view logFileName) {
+    return beside(logFileName, "-STRICT.ADI");
+}
+
+std::string scorePdfName(std::string_view logFileName) {
+    return beside(logFileName, "-SCORE.PDF");
+}
+
+std::string logPdfName(std::string_view logFileName) {
+    return beside(logFileName, "-LOG.PDF");
+}
+
+void requireOtherThanLog(const Files& files, std::string_view name, std::string_view logFileName) {
+    if (files.nativePath(name) == files.nativePath(logFileName))
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           files.path(name) + " is the log itself and is not written over");
 }
 
 } // namespace vantrel

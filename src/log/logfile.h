@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
-// A new contest log: its default name, its header, starting one.
+// A log as a file: its name, its header, starting a new one, what one holds, and the names of the
+// files written beside it.
 #pragma once
 
+#include "log/log.h"
+
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace vantrel {
 
-class Files;
 struct LocalTime;
 
 // "SKS061611.CBR": contest code, local month, day and last two digits of the year.
@@ -23,5 +26,34 @@ std::string logHeader(std::string_view contestText, std::string_view myCall,
 // copy's name, empty when there was nothing to keep. Throws RuntimeError 75 for an empty name,
 // and as Files.
 std::string startNewLog(Files& files, const std::string& name, std::string_view header);
+
+// What a log's bytes hold, however much that is. Views into those bytes.
+struct LogSummary {
+    std::optional<std::string_view> contest; // text in the header, trimmed; nothing without one
+    Contacts contacts;
+};
+LogSummary summaryOf(std::string_view logBytes);
+
+// "28 QSOS".
+std::string qsosText(std::size_t contacts);
+// "28 QSOS, LAST 2026-11-21 1441"; "0 QSOS".
+std::string contactsText(const Contacts& contacts);
+
+// Shown in place of what a file would hold.
+inline constexpr std::string_view noSuchFileYet = "NO SUCH FILE YET";
+
+// The last part of a file name: "SKS.CBR" of "LOGS\SKS.CBR".
+std::string_view lastPart(std::string_view fileName);
+
+// "SKS0512.CBR" gives "SKS0512.ADI": the last three characters are replaced. Throws
+// RuntimeError 5 for a name of less than three.
+std::string adifFileName(std::string_view logFileName);
+// "SKS0512-STRICT.ADI", "SKS0512-SCORE.PDF", "SKS0512-LOG.PDF".
+std::string strictAdifFileName(std::string_view logFileName);
+std::string scorePdfName(std::string_view logFileName);
+std::string logPdfName(std::string_view logFileName);
+
+// Throws RuntimeError 75 when writing `name` would replace the log itself.
+void requireOtherThanLog(const Files& files, std::string_view name, std::string_view logFileName);
 
 } // namespace vantrel

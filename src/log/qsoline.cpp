@@ -8,7 +8,7 @@ bool isContact(std::string_view line) {
 }
 
 bool isDupe(std::string_view line) {
-    return isExactly(qso::dupeColumns.of(line), dupeMarker);
+    return qso::dupeColumns.of(line) == dupeMarker;
 }
 
 std::string assembleLine(const ContactFields& qso) {

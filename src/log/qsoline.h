@@ -46,6 +46,8 @@ inline constexpr Column dupeColumns{102, 4}; // where "DUPE" stands
 inline constexpr std::string_view dupeMarker = "DUPE";
 inline constexpr std::string_view noMarker = "      ";
 
+inline constexpr int shortestCall = 3; // less is neither logged nor searched for
+
 // True for a line whose first three characters are "QSO": every reader's test for a contact.
 bool isContact(std::string_view line);
 // True when columns 102-105 read "DUPE".

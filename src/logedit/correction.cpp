@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/correction.h"
 
+#include "log/contactdate.h"
 #include "logedit/logedit.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace vantrel {
 
 namespace {
 
 constexpr std::size_t callBox = 0;
-
-bool isDigits(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), isDigit);
-}
 
 // The kHz of a frequency in MHz: one or two digits, a point or a comma, decimals of which three
 // count. Nothing for anything else.
@@ -26,7 +22,7 @@ std::string khzOfMhz(std::string_view typed) {
         return {};
     const std::string_view mhz = typed.substr(0, point);
     std::string decimals(typed.substr(point + 1));
-    if (!isDigits(mhz) || !isDigits(decimals))
+    if (!allDigits(mhz) || !allDigits(decimals))
         return {};
     decimals.resize(khzDigits, '0');
     const std::string khz = std::string(mhz) + decimals;
@@ -48,31 +44,11 @@ std::string inColumns(std::string_view value, Column column) {
                                : leftAligned(value, column.width);
 }
 
-int number(std::string_view text, Column column) {
-    return static_cast<int>(numericValue(column.of(text)));
-}
-
-bool isTime(std::string_view text) {
-    constexpr Column hours{1, 2};
-    constexpr Column minutes{3, 2};
-    return isDigits(text) && number(text, hours) < 24 && number(text, minutes) < 60;
-}
-
-// YYYY-MM-DD, or MM-01-YYYY as it is logged after the end of a month.
+// One of the two forms in which the program writes dates.
 bool isDate(std::string_view text) {
-    const bool monthFirst = mid(text, 3, 1) == "-";
-    const Column year = monthFirst ? Column{7, 4} : Column{1, 4};
-    const Column month = monthFirst ? Column{1, 2} : Column{6, 2};
-    const Column day = monthFirst ? Column{4, 2} : Column{9, 2};
-    std::string pattern(text);
-    std::replace_if(pattern.begin(), pattern.end(), isDigit, '9');
-    using namespace std::chrono;
-    return pattern == (monthFirst ? "99-99-9999" : "9999-99-99") &&
-           (!monthFirst || day.of(text) == "01") &&
-           year_month_day(std::chrono::year(number(text, year)),
-                          std::chrono::month(static_cast<unsigned>(number(text, month))),
-                          std::chrono::day(static_cast<unsigned>(number(text, day))))
-               .ok();
+    const auto date = readDate(text);
+    const bool firstOfMonth = mid(text, 3, 4) == "-01-";
+    return date && (firstOfMonth || dateText(*date) == text);
 }
 
 // Whether a field holds what a contact can have there; only these three can be told.
@@ -80,9 +56,9 @@ bool isRight(Column column, std::string_view line) {
     const std::string_view text = column.of(line);
     switch (column.first) {
     case qso::frequency.first:
-        return !trim(text).empty() && isDigits(trimLeft(text));
+        return !trim(text).empty() && allDigits(trimLeft(text));
     case qso::time.first:
-        return isTime(text);
+        return readTime(text).has_value();
     case qso::date.first:
         return isDate(text);
     default:
@@ -128,8 +104,7 @@ CorrectionBoxes withCallShown(CorrectionBoxes shown, std::string_view line) {
 }
 
 bool keepsFindable(const CorrectionBoxes& shown, const CorrectionBoxes& typed) {
-    return typed[callBox] == shown[callBox] ||
-           length(tidied(typed[callBox])) >= LogEdit::shortestCall;
+    return typed[callBox] == shown[callBox] || length(tidied(typed[callBox])) >= shortestCall;
 }
 
 } // namespace vantrel

@@ -7,7 +7,7 @@
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 #include "log/qsoline.h"
-#include "logedit/matchtext.h"
+#include "logedit/contacttext.h"
 
 #include <QHBoxLayout>
 #include <QScrollBar>

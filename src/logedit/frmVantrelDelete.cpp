@@ -3,7 +3,7 @@
 
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "logedit/deletion.h"
+#include "logedit/contacttext.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

@@ -2,8 +2,9 @@
 #include "logedit/logedit.h"
 
 #include "base/itemreader.h"
+#include "log/logfile.h"
 #include "log/qsoline.h"
-#include "logedit/duplicates.h"
+#include "logedit/contacttext.h"
 #include "platform/files.h"
 
 #include <algorithm>
@@ -43,8 +44,8 @@ Message droppedNotice(int lines, const std::string& log, const std::string& full
                 fullCopy + "."};
 }
 
-// Whether lines were added behind those of `before`, and nothing else was done.
-bool onlyGrew(std::string_view bytes, std::string_view before) {
+// Whether `bytes` are those before with more lines behind them.
+bool hasGrownFrom(std::string_view bytes, std::string_view before) {
     return bytes.starts_with(before) &&
            (before.ends_with('\n') || bytes.substr(before.size()).starts_with("\r\n"));
 }
@@ -146,7 +147,7 @@ std::string LogEdit::fullCopyName() const {
     std::string name = first;
     for (int number = 2; m_files.present(name); ++number)
         name = first + std::to_string(number);
-    return name.substr(name.find_last_of("/\\") + 1);
+    return std::string(lastPart(name));
 }
 
 // --- Changing --------------------------------------------------------------------------------
@@ -182,7 +183,7 @@ bool LogEdit::followGrowth() {
     std::string bytes = m_files.readOrEmpty(m_logName);
     if (bytes == m_logBytes)
         return true;
-    if (!onlyGrew(bytes, m_logBytes) || (!dropsLines() && linesIn(bytes) > lineCapacity))
+    if (!hasGrownFrom(bytes, m_logBytes) || (!dropsLines() && linesIn(bytes) > lineCapacity))
         return false;
     const int position = m_position;
     take(m_logName, std::move(bytes));

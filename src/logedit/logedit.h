@@ -49,17 +49,16 @@ struct Match {
 
 class LogEdit {
 public:
-    static constexpr int lineCapacity = 2000; // a rewrite drops the lines beyond, see change
-    static constexpr int shortestCall = 3;    // a shorter key finds nothing
+    static constexpr int lineCapacity = 2000; // a rewrite drops the lines beyond
 
-    // Of `log` it takes the name of the open log; to read that again is left to the page.
+    // Takes only its name from `log`; the page rereads the log after a change.
     LogEdit(Files& files, const Log& log) : m_files(files), m_log(log) {}
 
     // Reads the log and finds the first contact whose call begins with the key (tidied). A key
     // that is too short leaves everything as it was. Throws as Files::read.
     SearchResult search(std::string_view key);
-    // The next such contact of the lines read by the search; the one found before stays when
-    // there is none.
+    // The next such contact of the lines read by the search; when there is none, the one found
+    // before stays found.
     SearchResult searchNext(std::string_view key);
     // Reads the log and finds the very contact, as if its call had been searched for.
     SearchResult find(const ContactPlace& place);
@@ -135,11 +134,11 @@ private:
     Files& m_files;
     const Log& m_log;
     std::vector<std::string> m_lines; // the first 2,000; positions count from 1
-    std::string m_key;                // that found the contact found last
+    std::string m_key;                // of the last successful search
     std::string m_logName;            // the log that the table was read from
-    std::string m_logBytes;           // all of it
-    int m_droppedLines = 0;           // how many of its lines the table has no room for
-    int m_position = 0;               // line found last; 0 before the first
+    std::string m_logBytes;           // the whole file
+    int m_droppedLines = 0;           // lines for which the table has no room
+    int m_position = 0;               // of the line found last; 0 before the first line
     bool m_found = false;
     std::optional<Change> m_change;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmVantrelShowDB.h"
 
-#include "roster/rosterview.h"
+#include "roster/rosterfiles.h"
 
 #include <utility>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "roster/memberlist.h"
 
-#include "roster/rosterrecord.h"
+#include "platform/filenames.h"
+#include "roster/rosterfiles.h"
 
 #include <algorithm>
 
@@ -48,6 +49,29 @@ bool isNumber(std::string_view field) {
                        [](char character) { return isDigit(character) || isCapital(character); });
 }
 
+bool isAscii(char character) {
+    return static_cast<unsigned char>(character) < 0x80;
+}
+
+// Whether all of the text is valid UTF-8 by RFC 3629: no overlong forms, no surrogates.
+bool isUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const auto first = static_cast<unsigned char>(text.front());
+        const std::size_t size = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+        if ((first >= 0x80 && first < 0xC2) || first > 0xF4 || text.size() < size)
+            return false;
+        const auto second = static_cast<unsigned char>(text[size == 1 ? 0 : 1]);
+        if ((first == 0xE0 && second < 0xA0) || (first == 0xED && second > 0x9F) ||
+            (first == 0xF0 && second < 0x90) || (first == 0xF4 && second > 0x8F))
+            return false;
+        for (const char character : text.substr(1, size - 1))
+            if ((static_cast<unsigned char>(character) & 0xC0) != 0x80)
+                return false;
+        text.remove_prefix(size);
+    }
+    return true;
+}
+
 } // namespace
 
 std::string downloadByHand(std::string_view programFolder) {
@@ -56,19 +80,23 @@ std::string downloadByHand(std::string_view programFolder) {
            " AND TAKE THE FIRST CHOICE THEN (WITH SKCCLIST.TXT THE SECOND).";
 }
 
-ListLines::ListLines(std::string_view bytes) : m_rest(bytes) {
+ListLines::ListLines(std::string_view bytes)
+    : m_rest(bytes), m_isUtf8(bytes.starts_with(utf8Mark) || isUtf8(bytes)) {
     if (m_rest.starts_with(utf8Mark))
         m_rest.remove_prefix(utf8Mark.size());
 }
 
-std::string_view ListLines::next() {
+std::string ListLines::next() {
     // The library's search for either of two characters takes four times as long.
     const auto* const end = std::find_if(m_rest.begin(), m_rest.end(), [](char character) {
         return character == '\n' || character == '\r';
     });
-    const std::string_view line(m_rest.begin(), end);
+    std::string line(m_rest.begin(), end);
     m_rest.remove_prefix(line.size());
     m_rest.remove_prefix(m_rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(m_rest.size(), 1));
+    if (m_isUtf8 && !std::all_of(line.begin(), line.end(), isAscii))
+        line = shownText(line);
+    std::replace_if(line.begin(), line.end(), isControl, ' ');
     return line;
 }
 
@@ -102,7 +130,7 @@ ListLine MemberListReader::read(std::string_view line) {
     }
     if (isBlank(line))
         return ListLine::other;
-    std::vector<std::string_view>& fields = m_fields; // its memory is used for every line
+    std::vector<std::string_view>& fields = m_fields; // a member, so that each line uses its memory
     split(line, fields);
     const std::size_t count = fieldCount();
     if (count == 0 || fields.size() < count)

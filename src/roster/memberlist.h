@@ -26,17 +26,19 @@ enum class MemberList { data, members };
 
 enum class ListLine { member, other, malformed };
 
-// A list's lines, ended by CR LF, LF or CR; a UTF-8 mark in front of the first is no part of
-// it. Views point into the bytes.
+// A list's lines, ended by CR LF, LF or CR, as text in ISO 8859-1 without control characters
+// (blanks in their place). A list in UTF-8, told by its mark or by being valid UTF-8 throughout, is
+// converted: `?` for what ISO 8859-1 has not; the mark is no part of the first line.
 class ListLines {
 public:
-    explicit ListLines(std::string_view bytes);
+    explicit ListLines(std::string_view bytes); // which outlive this
 
     bool atEnd() const { return m_rest.empty(); }
-    std::string_view next();
+    std::string next();
 
 private:
     std::string_view m_rest;
+    bool m_isUtf8;
 };
 
 // Cuts the lines of one list, in their order: a header may change what follows.
@@ -44,12 +46,12 @@ class MemberListReader {
 public:
     explicit MemberListReader(MemberList list) : m_list(list) {}
 
-    // What the line is: a member, whose record() then holds his 33 columns; a header or blank
-    // line; or one that must not get into the roster. A member's line has its fields within its
-    // first 200 columns and nothing but separators behind them, a call, and a number: digits and
-    // letters that begin with a digit. Of the members' list no line has as many separators as the
-    // data list's, and none counts behind a header of that list: who takes the wrong list for
-    // this one would lose every award letter.
+    // What the line (of ListLines) is: a member, whose record() then holds his 33 columns; a header
+    // or blank line; or malformed and not to be imported. A member's line has its fields within
+    // its first 200 columns and nothing but separators behind them, a call, and a number: digits
+    // and letters that begin with a digit. In the members' list a line with as many separators as
+    // the data list has is malformed, and so is every line behind a header of the data list:
+    // importing that list as this one would take every award letter from the roster.
     ListLine read(std::string_view line);
     const std::string& record() const { return m_record; }
 
@@ -60,7 +62,7 @@ private:
     MemberList m_list;
     std::size_t m_headersFields = 0; // of the members' list; 0: no header yet
     bool m_wrongList = false;
-    std::vector<std::string_view> m_fields; // of the line read last
+    std::vector<std::string_view> m_fields; // of the line being read
     std::string m_record;
 };
 

@@ -4,12 +4,11 @@
 #include "base/boundedtable.h"
 #include "base/itemreader.h"
 #include "platform/files.h"
-#include "roster/rosterrecord.h"
+#include "roster/rosterfiles.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <deque>
+#include <functional>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -32,124 +31,96 @@ std::string_view mergingPhase(MemberList list) {
     return list == MemberList::data ? "ADDING TO DATABASE" : "READING THE DATABASE";
 }
 
-// One roster file in memory: its lines, and where each call stands first.
+// One roster file in memory: its lines, and the first line of each call.
 class RosterTable {
 public:
     // width: shorter lines are padded with blanks to it.
-    RosterTable(std::string_view name, int capacity, int width, std::string bytes)
-        : m_name(name),
-          m_width(static_cast<std::size_t>(width)),
-          m_bytes(std::move(bytes)),
-          m_lines("the table of " + m_name, capacity),
-          m_places(std::bit_ceil(2 * static_cast<std::size_t>(capacity))) {
-        LineReader reader(m_bytes);
-        while (!reader.atEnd()) {
-            const std::string_view line = reader.next();
-            append(line.size() < m_width ? copyOf(line) : line);
+    RosterTable(std::string_view name, int capacity, int width, std::string_view bytes)
+        : m_name(name), m_width(width), m_lines("the table of " + m_name, capacity) {
+        for (LineReader reader(bytes); !reader.atEnd();)
+            append(reader.next());
+    }
+
+    void merge(const std::string& record, ImportResult& result) {
+        const auto place = m_places.find(callOf(record));
+        if (place == m_places.end()) {
+            append(record);
+            ++result.added;
+            m_changed = true;
+            return;
         }
-    }
-    RosterTable(const RosterTable&) = delete; // its lines point into its own bytes
-    RosterTable& operator=(const RosterTable&) = delete;
-
-    // The place of the first line that begins with this call, padded to its columns; 0 for
-    // none.
-    int find(std::string_view call) const { return m_places[slotOf(call)]; }
-    std::string_view line(int place) const { return m_lines.at(place); }
-
-    void add(std::string_view record) { append(copyOf(record)); }
-    void replace(int place, std::string_view record) {
-        if (!holds(m_lines.at(place), record)) // most members are what they were
-            m_lines.at(place) = copyOf(record);
+        std::string& line = m_lines.at(place->second);
+        if (leftAligned(member::number.of(line), member::number.width) != member::number.of(record))
+            ++result.fixed;
+        std::string replaced = paddedLine(record);
+        m_changed = m_changed || line != replaced;
+        line = std::move(replaced);
     }
 
-    FileContent content() const { return {m_name, joinLines(m_lines)}; }
-    FileContent contentBefore() const { return {m_name + std::string(backupSuffix), {}, m_name}; }
+    bool changed() const { return m_changed; }
+    const std::string& name() const { return m_name; }
+    std::string bytes() const { return joinLines(m_lines); }
 
 private:
+    static std::string callOf(std::string_view line) {
+        return std::string(left(line, member::call.width));
+    }
+    std::string paddedLine(std::string_view line) const {
+        return leftAligned(line, std::max(length(line), m_width));
+    }
     void append(std::string_view line) {
-        m_lines.append(line);
-        int& place = m_places[slotOf(callOf(line))];
-        if (place == 0)
-            place = m_lines.size();
-    }
-
-    static std::string_view callOf(std::string_view line) { return left(line, member::call.width); }
-
-    // Where the index holds the call, or has room for it: half of it stays free. An index of
-    // pieces all over the memory takes twice as long.
-    std::size_t slotOf(std::string_view call) const {
-        const std::size_t last = m_places.size() - 1; // all bits set
-        std::size_t slot = std::hash<std::string_view>()(call) & last;
-        while (m_places[slot] != 0 && callOf(m_lines.at(m_places[slot])) != call)
-            slot = (slot + 1) & last;
-        return slot;
-    }
-
-    bool holds(std::string_view line, std::string_view record) const {
-        return line.size() == std::max(record.size(), m_width) && line.starts_with(record) &&
-               trimLeft(line.substr(record.size())).empty();
-    }
-
-    // A copy of the line, padded, that lives as long as the table.
-    std::string_view copyOf(std::string_view line) {
-        std::string& copy = m_copies.emplace_back(line);
-        copy.resize(std::max(copy.size(), m_width), ' ');
-        return copy;
+        m_lines.append(paddedLine(line));
+        m_places.emplace(callOf(m_lines.at(m_lines.size())), m_lines.size());
     }
 
     std::string m_name;
-    std::size_t m_width;
-    std::string m_bytes;              // of the file, for the lines that stay what they are
-    std::deque<std::string> m_copies; // and of all others
-    BoundedTable<std::string_view> m_lines;
-    std::vector<int> m_places; // of calls, each where its hash says or behind; 0: none
+    int m_width;
+    BoundedTable<std::string> m_lines;
+    std::unordered_map<std::string, int> m_places;
+    bool m_changed = false;
 };
 
 class RosterTables {
 public:
     explicit RosterTables(const Files& files) {
-        for (std::size_t i = 0; i < rosterFiles.size(); ++i) {
-            m_present[i] = files.present(rosterFiles[i]);
+        for (std::size_t i = 0; i < rosterFiles.size(); ++i)
             m_tables.emplace_back(rosterFiles[i], rosterCapacities[i],
                                   i == paddedFile ? paddedWidth : 0,
                                   files.readOrEmpty(rosterFiles[i]));
-        }
     }
 
     void merge(const std::string& record, ImportResult& result) {
-        RosterTable& table = m_tables[rosterFileOf(record)];
-        const int place = table.find(member::call.of(record));
-        if (place == 0) {
-            table.add(record);
-            ++result.added;
-            return;
-        }
-        const std::string_view stored = member::number.of(table.line(place));
-        if (leftAligned(stored, member::number.width) != member::number.of(record))
-            ++result.fixed;
-        table.replace(place, record);
+        m_tables[rosterFileOf(record)].merge(record, result);
     }
 
-    // keepOld: the files as they were are kept too.
-    void save(Files& files, bool keepOld, const std::function<void()>& between) const {
+    void save(Files& files, const std::function<void()>& between) const {
         std::vector<FileContent> contents;
-        for (std::size_t i = 0; i < m_tables.size(); ++i)
-            if (keepOld && m_present[i])
-                contents.push_back(m_tables[i].contentBefore());
+        if (std::any_of(m_tables.begin(), m_tables.end(), std::mem_fn(&RosterTable::changed)))
+            for (const RosterTable& table : m_tables)
+                keepOld(files, table.name(), contents);
         for (const RosterTable& table : m_tables)
-            contents.push_back(table.content());
+            contents.push_back({table.name(), table.bytes()});
         files.rewriteAll(contents, between);
     }
 
 private:
-    std::deque<RosterTable> m_tables; // which cannot be moved
-    std::array<bool, rosterFiles.size()> m_present{};
+    // A file that was not there leaves an empty copy in place of one of an earlier import: put
+    // back together, the five copies are the roster as it was.
+    static void keepOld(const Files& files, const std::string& name,
+                        std::vector<FileContent>& contents) {
+        const std::string copy = name + std::string(backupSuffix);
+        if (files.present(name))
+            contents.push_back({copy, {}, name});
+        else if (files.present(copy))
+            contents.push_back({copy, {}});
+    }
+
+    std::vector<RosterTable> m_tables;
 };
 
-BoundedTable<std::string_view> linesOf(std::string_view bytes, const std::string& path) {
-    BoundedTable<std::string_view> lines("the table of " + path, listCapacity);
-    ListLines reader(bytes);
-    while (!reader.atEnd())
+BoundedTable<std::string> linesOf(std::string_view bytes, const std::string& path) {
+    BoundedTable<std::string> lines("the table of " + path, listCapacity);
+    for (ListLines reader(bytes); !reader.atEnd();)
         lines.append(reader.next());
     return lines;
 }
@@ -166,10 +137,10 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     if (std::min(bytes.find('\r'), bytes.size()) > wholeListInOneLine &&
         !progress({splittingPhase}))
         return result;
-    const BoundedTable<std::string_view> lines = linesOf(bytes, files.path(listPath));
+    const BoundedTable<std::string> lines = linesOf(bytes, files.path(listPath));
 
     MemberListReader reader(list);
-    for (const std::string_view line : lines) {
+    for (const std::string& line : lines) {
         if (!progress({mergingPhase(list), ++result.lines, lines.size()}))
             return result;
         const ListLine kind = reader.read(line);
@@ -188,7 +159,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     if (!progress({savingPhase}))
         return result;
     // Too late to give up: the files are all saved, or none.
-    roster.save(files, result.members > 0, [&] { progress({savingPhase}); });
+    roster.save(files, [&] { progress({savingPhase}); });
     result.finished = true;
     return result;
 }
@@ -209,15 +180,15 @@ std::string fixedText(int fixed) {
 }
 
 std::string changedText(int changed) {
-    return std::to_string(changed) + (changed == 1 ? " NUMBER CHANGED" : " NUMBERS CHANGED");
+    return counted(changed, "NUMBER") + " CHANGED";
 }
 
 std::string linesReadText(int lines) {
-    return std::to_string(lines) + (lines == 1 ? " LINE READ" : " LINES READ");
+    return counted(lines, "LINE") + " READ";
 }
 
 std::string skippedText(int skipped) {
-    return skipped == 0 ? std::string() : std::to_string(skipped) + " LINES SKIPPED";
+    return skipped == 0 ? std::string() : counted(skipped, "LINE") + " SKIPPED";
 }
 
 } // namespace vantrel

@@ -33,9 +33,9 @@ struct ImportResult {
 
 // Merges the list `listPath` into the roster files: a member already there (the first line with
 // his call) is rewritten in place, a new one appended to the file of his call's first letter.
-// All five files are then rewritten, or none, and those that were there kept as they were as
-// "SKSDB1.TXT.BAK" and so on; a missing one is an empty one. A list of nothing but lines that are
-// skipped changes nothing, and one without members replaces no kept file. Throws RuntimeError
+// All five files are then rewritten, or none; a missing one is an empty one. Where a record is new
+// or changed, the five files as they were are kept as "SKSDB1.TXT.BAK" and so on. A list of nothing
+// but lines that are skipped writes no file. Throws RuntimeError
 // 9 naming the table for a list of more than 20,000 lines or a roster file beyond its
 // capacity, 53 for a missing list, and as Files; no roster file is touched then.
 ImportResult importMembers(Files& files, MemberList list, std::string_view listPath,

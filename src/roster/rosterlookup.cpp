@@ -3,7 +3,7 @@
 
 #include "base/itemreader.h"
 #include "platform/files.h"
-#include "roster/rosterrecord.h"
+#include "roster/rosterfiles.h"
 
 #include <algorithm>
 #include <iterator>
@@ -30,7 +30,7 @@ bool holds(const std::vector<Member>& members, std::string_view call) {
 }
 
 // Whether one letter put in, left out or exchanged makes one of the other.
-bool isOneLetterAway(std::string_view a, std::string_view b) {
+bool isNPlusOne(std::string_view a, std::string_view b) {
     if (a.size() > b.size())
         std::swap(a, b);
     if (b.size() - a.size() > 1)
@@ -96,7 +96,7 @@ bool Roster::hasMembers() {
     return false;
 }
 
-std::vector<Member> Roster::membersLike(std::string_view text, std::size_t most) {
+std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) {
     for (std::size_t file = 0; file < rosterFiles.size(); ++file)
         current(file); // none of them is read again while its records are looked at
     const auto recordsWith = [this](const auto& test) {
@@ -123,7 +123,7 @@ std::vector<Member> Roster::membersLike(std::string_view text, std::size_t most)
             return place != 0 && place != std::string_view::npos;
         }));
     if (members.empty())
-        take(recordsWith([&](std::string_view call) { return isOneLetterAway(text, call); }));
+        take(recordsWith([&](std::string_view call) { return isNPlusOne(text, call); }));
     return members;
 }
 

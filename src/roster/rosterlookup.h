@@ -2,7 +2,7 @@
 // Looking a member up while a contact is entered: by call, and by number.
 #pragma once
 
-#include "roster/rosterrecord.h"
+#include "roster/rosterfiles.h"
 
 #include <array>
 #include <cstddef>
@@ -57,7 +57,7 @@ public:
     // it; when there are none of either, those whose call is one letter away (another, one more,
     // one less). At most `most`, in the order of the files among equals. Looked through are the
     // records that findByCall looks through. Throws as Files::read.
-    std::vector<Member> membersLike(std::string_view text, std::size_t most);
+    std::vector<Member> partialMatches(std::string_view text, std::size_t most);
 
 private:
     struct ReadFile {

@@ -3,6 +3,7 @@
 
 #include "base/fixedtext.h"
 #include "base/integer16.h"
+#include "log/contactdate.h"
 
 #include <array>
 
@@ -14,7 +15,7 @@ namespace {
 constexpr std::array<int, 12> monthLengths{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
 std::string dateOf(const LocalTime& local, int day) {
-    return zeroPadded(local.year, 4) + '-' + zeroPadded(local.month, 2) + '-' + zeroPadded(day, 2);
+    return dateText(std::chrono::year(local.year) / local.month / day);
 }
 
 // The day after the local one. The first of a month comes out month first (MM-01-YYYY),

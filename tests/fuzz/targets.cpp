@@ -9,18 +9,18 @@
 #include "fakes/radios.h"
 #include "k3y/k3ystation.h"
 #include "k3y/standings.h"
+#include "log/contactdate.h"
 #include "log/logfile.h"
+#include "logedit/contacttext.h"
 #include "logedit/correction.h"
-#include "logedit/deletion.h"
 #include "logedit/editor.h"
 #include "logedit/logedit.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
-#include "output/files/printlog.h"
+#include "output/files/filetexts.h"
 #include "output/score/bonuscount.h"
-#include "output/score/contactdate.h"
 #include "output/score/contestpicture.h"
-#include "output/score/scorereport.h"
+#include "output/score/scoretext.h"
 #include "platform/files.h"
 #include "rig/catlink.h"
 #include "roster/rosterimport.h"
@@ -84,10 +84,10 @@ void log(std::string input) {
         assert(!duplicateOf(contacts, call, qso::bandTag.of(line)).empty()); // a contact is its own
         assert(length(call) < 2 || !workedBefore(contacts, call, "", 1000).empty());
         assert(length(workedLine(line)) <= 70);
-        const auto day = contactDay(line);
-        assert(!day || day->ok());
-        const auto time = contactTime(line);
-        assert(!time || (time->hour >= 0 && time->hour < 24 && time->minute < 60));
+        if (const auto day = readDate(qso::date.of(line)))
+            assert(day->ok() && readDate(dateText(*day)) == day);
+        if (const auto time = readTime(qso::time.of(line)))
+            assert(timeText(*time) == qso::time.of(line));
     }
     assert(contestPicture(contacts).bars.size() <= pictureHours);
     errorOf([&] { countBonusPoints(contacts); });
@@ -162,7 +162,7 @@ void adif(std::string input) {
         const std::string_view call = trim(qso::hisCall.of(line));
         const std::string_view customary = lines.next();
         assert(customary.ends_with("<EOR>") && customary.find(call) != customary.npos);
-        if (call.empty() || !contactMoment(line)) // no logger could take it in
+        if (call.empty() || !contactMinute(line)) // no logger could take it in
             continue;
         const Record record = takeRecord(rest, "EOR");
         for (const auto& [name, value] : record)

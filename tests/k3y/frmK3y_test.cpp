@@ -168,7 +168,7 @@ TEST_F(K3yEvent, StandingsOfTheAreasFillACellOnEachBand) {
     pressButton(regions, "Command2");
     EXPECT_THAT(filled(areas), ::testing::EndsWith("K3Y/0 Text1=1T    ; TOTAL:  1"));
     // They count each contact logged, and asked for while one shows they read the log again.
-    module.log.append(contactLine({.frequency = " 3550", .hisCall = "K3Y/KL7"}));
+    std::ignore = module.log.append(contactLine({.frequency = " 3550", .hisCall = "K3Y/KL7"}));
     module.log.reread();
     EXPECT_EQ(texts(areas, "Label22 Label101"), "BOTH PAGES:  2|1|");
     pressButton(areas, "Command2");

@@ -2,7 +2,6 @@
 #include "fakes/failingcalls.h"
 #include "log/log.h"
 #include "log/logfile.h"
-#include "log/outputfiles.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "support/contacts.h"
@@ -75,14 +74,18 @@ TEST_F(OpenLog, HasTheContactItemsInFileOrderAndTheWorkedStationsOfTheirColumns)
 }
 
 TEST_F(OpenLog, HoldsTwelveThousandAndListsAThousandAsWorked) {
-    EXPECT_RUNTIME_ERROR(open(12001), ErrorCode::subscriptOutOfRange,
-                         files.path(name) + ": the QSO table holds at most 12000 contacts");
+    open(12000);
+    EXPECT_FALSE(log.tooLong());
+    std::ignore = log.append(contactNumber(12001));
+    for (int i = 0; i < 2; ++i) // read on from before, and read whole
+        EXPECT_RUNTIME_ERROR(i == 0 ? log.reread() : log.open(name), ErrorCode::subscriptOutOfRange,
+                             files.path(name) + ": the QSO table holds at most 12000 contacts");
+    EXPECT_TRUE(log.tooLong());
     EXPECT_EQ(log.contacts().back(), contactNumber(12000));
     EXPECT_EQ(log.worked().size(), 1000U);
-    open(12000);
     open(999);
     for (const int number : {1000, 1001}) {
-        log.append(contactNumber(number));
+        std::ignore = log.append(contactNumber(number));
         log.reread();
     }
     EXPECT_EQ(log.count(), 1001);
@@ -103,7 +106,7 @@ TEST_F(OpenLog, FollowsALogThatSomebodyElseChanged) {
         folder.write(name, logHeaderLines + joinLines(contacts));
         log.reread();
         expectContacts(contacts);
-        log.append(third); // and one more
+        EXPECT_FALSE(log.append(third)); // and one more
         log.reread();
         contacts.push_back(third);
         expectContacts(contacts);
@@ -116,13 +119,49 @@ TEST_F(OpenLog, FollowsALogThatSomebodyElseChanged) {
     log.reread();
     expectContacts({contact, other});
     // Worked stations that cannot be written are made anew with the next contact.
-    log.append(third);
+    std::ignore = log.append(third);
     calls.failAt(Call::write, 1, ENOSPC);
     EXPECT_RUNTIME_ERROR(log.reread(), ErrorCode::diskFull, HasSubstr("StnsWorked.TXT"));
     log.reread(); // nothing is new: a full disk keeps nobody from seeing his score
-    log.append(other);
+    std::ignore = log.append(other);
     log.reread();
     expectContacts({contact, other, third, other});
+}
+
+TEST_F(OpenLog, ThatVanishedOrLostContactsIsKeptBeforeTheNextOneIsAppended) {
+    open(2);
+    const std::string held = folder.read(name);
+    const std::string next = contact + "\r\n", changed = logHeaderLines + contact + "\r\nNOTE\r\n";
+    std::filesystem::remove(folder.path() / name);
+    calls.failAt(Call::write, 1, ENOSPC); // nothing is logged unless it is kept
+    EXPECT_RUNTIME_ERROR(std::ignore = log.append(contact), ErrorCode::diskFull, HasSubstr(".OLD"));
+    EXPECT_FALSE(folder.has(name));
+    for (const std::string copy : {".OLD", ".OLD2"}) {
+        const auto loss = log.append(contact);
+        ASSERT_TRUE(loss);
+        EXPECT_EQ(loss->vanished, copy == ".OLD");
+        EXPECT_EQ(loss->kept, files.path(name) + copy);
+        EXPECT_EQ(folder.read(name + copy), held);
+        EXPECT_EQ(folder.read(name), (copy == ".OLD" ? "" : changed) + next);
+        folder.write(name, changed);
+    }
+    log.reread();
+    folder.write(name, changed + next); // as many contacts as were read, or more, are no loss
+    EXPECT_FALSE(log.append(contact));
+}
+
+// A page that fails keeps neither the others from being told nor the log's own failure.
+TEST_F(OpenLog, TellsEveryWatcherAndThenItsOwnFailureOrTheFirstOfTheirs) {
+    open(1);
+    int told = 0;
+    const auto failing = log.watch([&] {
+        ++told;
+        throw RuntimeError(ErrorCode::overflow, "a page");
+    });
+    const auto other = log.watch([&] { ++told; });
+    EXPECT_RUNTIME_ERROR(log.reread(), ErrorCode::overflow, "a page");
+    EXPECT_RUNTIME_ERROR(log.open("GONE.CBR"), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
+    EXPECT_EQ(told, 4);
 }
 
 TEST_F(OpenLog, StartingANewOneKeepsWhateverCountsAsAContact) {

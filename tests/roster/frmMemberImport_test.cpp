@@ -28,7 +28,7 @@ TEST_F(ImportPages, DataListIsReadAndAMissingOneLeavesNothingOfAnEarlierImport) 
     click(dataPage, "Command2");
     EXPECT_EQ(texts(dataPage, "Label2 Label3 Label7 Label6 Label5"),
               "2                        |DONE. . . . 1 MBRS ADDED. Click EXIT|2 LINES READ|"
-              "0 NUMBERS CHANGED|1 LINES SKIPPED|");
+              "0 NUMBERS CHANGED|1 LINE SKIPPED|");
     settle();
     EXPECT_EQ(QApplication::focusWidget(), control(dataPage, "Command1"));
     EXPECT_FALSE(control(dataPage, "ProgressBar1")->isVisible());

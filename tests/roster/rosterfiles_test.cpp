@@ -3,9 +3,9 @@
 #include "base/fixedtext.h"
 #include "platform/files.h"
 #include "platform/systemcalls.h"
+#include "roster/rosterfiles.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterlookup.h"
-#include "roster/rostersort.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
 

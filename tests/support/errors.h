@@ -15,7 +15,7 @@
             statement;                                                                             \
             ADD_FAILURE() << "no run-time error from " #statement;                                 \
         } catch (const ::vantrel::RuntimeError& caught) {                                          \
-            EXPECT_EQ(caught.number(), static_cast<int>(expectedCode)) << caught.what();           \
+            EXPECT_EQ(caught.code(), expectedCode) << caught.what();                               \
             EXPECT_THAT(caught.detail(), detailMatcher);                                           \
         }                                                                                          \
     } while (false)

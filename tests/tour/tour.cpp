@@ -3,7 +3,7 @@
 // compares the files that come of it byte for byte.
 #include "fakes/qt/ptyradio.h"
 #include "forms/visiblestyle.h"
-#include "screens/start/startlog.h"
+#include "screens/start/startnotes.h"
 #include "support/contacts.h"
 #include "tour/stage.h"
 

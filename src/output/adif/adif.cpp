@@ -2,23 +2,29 @@
 #include "output/adif/adif.h"
 
 #include "log/bands.h"
-#include "log/outputfiles.h"
+#include "log/logfile.h"
 #include "log/qsoline.h"
-#include "output/adif/adifitem.h"
 #include "platform/files.h"
 
 namespace vantrel {
 
 namespace {
 
-// Where a date written year first has its parts. One written month first, after a month end,
-// is cut at the same columns: what comes out is no date, and the programs that read these files
-// expect it so.
+// The parts of a date written year first. A date written month first, after a month end, is cut at
+// the same columns: the result is no date, and the programs that read these files expect that.
 constexpr Column year{qso::date.first, 4};
 constexpr Column month{qso::date.first + 5, 2};
 constexpr Column day{qso::date.first + 8, 2};
 constexpr Column continent{qso::marker.first + 4, 2}; // the region letters of a K3Y tag
 constexpr std::size_t typicalRecord = 256;            // bytes
+
+// Appends the length, 0 to 99, and `>`.
+void appendAdifLength(std::string& bytes, int length) {
+    if (length >= 10)
+        bytes += static_cast<char>('0' + length / 10);
+    bytes += static_cast<char>('0' + length % 10);
+    bytes += '>';
+}
 
 class AdifWriter {
 public:
@@ -68,6 +74,12 @@ private:
 };
 
 } // namespace
+
+void appendAdifItem(std::string& bytes, std::string_view head, std::string_view value) {
+    bytes += head;
+    appendAdifLength(bytes, length(value));
+    bytes += value;
+}
 
 std::string adifText(const Contacts& contacts) {
     std::string bytes;

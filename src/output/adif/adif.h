@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The ADIF file of a log, byte for byte as the programs read it that operators feed with it.
+// The customary ADIF file of a log, byte for byte as the programs that operators load it into
+// expect it, and the item that ADIF files are made of.
 #pragma once
 
 #include "log/log.h"
@@ -11,13 +12,16 @@ namespace vantrel {
 
 class Files;
 
+// Appends "<NAME:4>JOHN": `head` is "<NAME:", the length of the value is 0 to 99.
+void appendAdifItem(std::string& bytes, std::string_view head, std::string_view value);
+
 // The file's bytes: "<EOH>", a line per contact (duplicates too), "<EOF>", CR LF after each.
 std::string adifText(const Contacts& contacts);
 
 // Shown above the path of an ADIF file that was written.
 inline constexpr std::string_view adifCreated = "ADIF FILE CREATED AT:";
 
-// Reads the log again and writes its ADIF file. Returns that file's full path, to show. Throws as
+// Rereads the log and writes its ADIF file. Returns that file's full path, to show. Throws as
 // Log::reread, adifFileName, requireOtherThanLog and Files::rewrite; the file is then as it was.
 std::string exportAdif(Files& files, Log& log);
 

@@ -3,10 +3,10 @@
 
 #include "base/integer16.h"
 #include "base/version.h"
-#include "log/outputfiles.h"
+#include "log/contactdate.h"
+#include "log/logfile.h"
 #include "log/qsoline.h"
-#include "output/adif/adifitem.h"
-#include "output/score/contactdate.h"
+#include "output/adif/adif.h"
 #include "output/score/regioncodes.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -68,16 +68,17 @@ private:
     std::string m_folded;
 };
 
-std::string dateText(const chrono::year_month_day& date) {
-    const int monthAndDay = static_cast<int>(static_cast<unsigned>(date.month()) * 100 +
-                                             static_cast<unsigned>(date.day()));
-    return zeroPadded(static_cast<int>(date.year()) * 10'000 + monthAndDay, 8);
+// "20110616"
+std::string adifDate(const chrono::year_month_day& date) {
+    std::string text = dateText(date);
+    std::erase(text, '-');
+    return text;
 }
 
 // 0 for a field that holds no frequency.
 int kilohertz(std::string_view field) {
     const std::string_view khz = trim(field);
-    return std::all_of(khz.begin(), khz.end(), isDigit) ? static_cast<int>(numericValue(khz)) : 0;
+    return allDigits(khz) ? static_cast<int>(numericValue(khz)) : 0;
 }
 
 // "14.050"
@@ -230,7 +231,7 @@ void appendContact(std::string& bytes, std::string_view contact,
                    const chrono::year_month_day& day) {
     const PlainText call(qso::hisCall.of(contact));
     appendField(bytes, "<CALL:", call);
-    appendField(bytes, "<QSO_DATE:", dateText(day));
+    appendField(bytes, "<QSO_DATE:", adifDate(day));
     appendField(bytes, "<TIME_ON:", qso::time.of(contact));
     appendFrequency(bytes, contact);
     appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
@@ -242,9 +243,9 @@ void appendContact(std::string& bytes, std::string_view contact,
 
 // Of a contact that can be written; nothing for any other.
 std::optional<chrono::year_month_day> dayToWrite(std::string_view contact) {
-    if (trim(qso::hisCall.of(contact)).empty() || !contactTime(contact))
+    if (trim(qso::hisCall.of(contact)).empty() || !readTime(qso::time.of(contact)))
         return {};
-    return contactDay(contact);
+    return readDate(qso::date.of(contact));
 }
 
 void appendHeader(std::string& bytes, std::string_view created) {
@@ -270,15 +271,11 @@ std::string strictAdifText(const Contacts& contacts, std::string_view created) {
 }
 
 std::string creationTime(const LocalTime& local, std::string_view gmtOffset) {
-    const chrono::year_month_day localDay(chrono::year(local.year),
-                                          chrono::month(static_cast<unsigned>(local.month)),
-                                          chrono::day(static_cast<unsigned>(local.day)));
-    const auto utc = chrono::sys_days(localDay) +
-                     chrono::hours(local.hour + Integer16(numericValue(gmtOffset)).value());
+    const auto utc = chrono::sys_days(chrono::year(local.year) / local.month / local.day) +
+                     chrono::hours(local.hour + Integer16(numericValue(gmtOffset)).value()) +
+                     chrono::minutes(local.minute);
     const auto day = chrono::floor<chrono::days>(utc);
-    const auto hour = chrono::duration_cast<chrono::hours>(utc - day).count();
-    return dateText(day) + ' ' + zeroPadded(static_cast<int>(hour), 2) +
-           zeroPadded(local.minute, 2) + zeroPadded(local.second, 2);
+    return adifDate(day) + ' ' + timeText(utc - day) + zeroPadded(local.second, 2);
 }
 
 std::string contactsWritten(const StrictAdifFile& file) {

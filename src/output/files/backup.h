@@ -2,6 +2,7 @@
 // A copy of the log in a folder of the operator's choice.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -15,23 +16,24 @@ inline constexpr std::string_view backupDone = "DONE......CLICK EXIT";
 
 // What a backup did.
 struct Backup {
-    int contacts;     // written
-    std::string kept; // where a fuller copy made before is now, as text to show; empty: none was
+    std::size_t contacts; // written
+    std::string kept;     // path of the earlier copy that was kept, as text to show; empty: none
 };
 
-// "28 QSOS WRITTEN", and where the fuller old copy is.
+// "28 QSOS WRITTEN", and where the earlier copy is kept.
 std::string backupText(const Backup& backup);
 
-// The copy that is in the folder typed already: "THE COPY THERE: 28 QSOS, LAST 2026-11-21 1441";
+// The copy that is already in the folder typed: "THE COPY THERE: 28 QSOS, LAST 2026-11-21 1441";
 // "NO COPY THERE YET"; empty without a folder. Throws as Files::read.
 std::string copyThereText(const Files& files, std::string_view logFileName,
                           std::string_view folderTyped);
 
 // Copies the whole log, under the last part of its name, into the folder typed (blanks around
-// it do not matter), in place of a copy made before. A copy with more contacts than the log is
-// first kept as NAME.CBR.OLD (numbered): the log may have been started anew. The copy is on the
-// disk when this returns. Throws RuntimeError 76 for a folder that is empty or missing, 53 for a
-// missing log, and as Files::rewrite; an earlier copy is then as it was. The log is never changed.
+// it do not matter), in place of an earlier copy. An earlier copy that is no beginning of the log
+// is first kept as NAME.CBR.OLD (numbered): the log may have been started anew, or lines of it
+// deleted. The copy is on the disk when this returns. Throws RuntimeError 76 for a folder that is
+// empty or missing, 53 for a missing log, and as Files::rewrite; an earlier copy is then as it was.
+// The log is never changed.
 Backup backUpLog(Files& files, std::string_view logFileName, std::string_view folderTyped);
 
 } // namespace vantrel

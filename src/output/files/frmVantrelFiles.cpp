@@ -5,15 +5,13 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "log/outputfiles.h"
+#include "log/logfile.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
-#include "output/files/fileresults.h"
-#include "output/files/printlog.h"
+#include "output/files/filetexts.h"
 #include "platform/files.h"
 #include "platform/printjob.h"
-#include "roster/rostersort.h"
-#include "roster/rosterview.h"
+#include "roster/rosterfiles.h"
 #include "shared/utctime.h"
 
 #include <QGridLayout>

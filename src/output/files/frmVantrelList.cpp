@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelList.h"
 
-#include "log/outputfiles.h"
-#include "output/files/viewedlines.h"
+#include "log/logfile.h"
+#include "output/files/filetexts.h"
 #include "platform/files.h"
 
 namespace vantrel {

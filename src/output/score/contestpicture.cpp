@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "output/score/contestpicture.h"
 
+#include "log/contactdate.h"
 #include "log/qsoline.h"
-#include "output/score/contactdate.h"
 
 #include <map>
 
@@ -17,9 +17,9 @@ constexpr chrono::minutes hour{60};
 constexpr chrono::minutes shortStep{10};
 
 using ContactsByBand = decltype(PictureBar::contacts);
-using ContactsByMoment = std::map<Moment, ContactsByBand>;
+using ContactsByMoment = std::map<UtcMinute, ContactsByBand>;
 
-Moment stepOf(Moment moment, chrono::minutes step) {
+UtcMinute stepOf(UtcMinute moment, chrono::minutes step) {
     return moment - moment.time_since_epoch() % step;
 }
 
@@ -32,38 +32,33 @@ ContactsByMoment bySteps(const ContactsByMoment& minutes, chrono::minutes step) 
     return steps;
 }
 
-int minuteOfDay(Moment moment) {
+int minuteOfDay(UtcMinute moment) {
     return static_cast<int>((moment - chrono::floor<chrono::days>(moment)).count());
 }
 
 } // namespace
 
-std::size_t bandIndexOf(std::string_view contact) {
-    const Band* band = bandOfKhz(qso::bandTag.of(contact));
-    return band == nullptr ? bands.size() : static_cast<std::size_t>(band - bands.data());
-}
-
 ContestPicture contestPicture(const Contacts& contacts) {
     ContactsByMoment minutes;
     for (const std::string_view contact : contacts)
-        if (const auto moment = contactMoment(contact); moment && !isDupe(contact))
-            ++minutes[*moment][bandIndexOf(contact)];
+        if (const auto moment = contactMinute(contact); moment && !isDupe(contact))
+            ++minutes[*moment][bandIndexOf(qso::frequency.of(contact))];
     if (minutes.empty())
         return {};
 
-    const Moment first = minutes.begin()->first;
-    const Moment last = minutes.rbegin()->first;
+    const UtcMinute first = minutes.begin()->first;
+    const UtcMinute last = minutes.rbegin()->first;
     const bool isShort = last - first < shortLog;
     const chrono::minutes step = isShort ? shortStep : hour;
     ContactsByMoment steps = bySteps(minutes, step);
     if (isShort)
-        for (Moment moment = stepOf(first, step); moment < last; moment += step)
+        for (UtcMinute moment = stepOf(first, step); moment < last; moment += step)
             steps[moment]; // a pause shows as bars of no height
     while (steps.size() > pictureHours)
         steps.erase(steps.begin());
 
     ContestPicture picture{static_cast<int>(step.count()), {}};
-    Moment expected = steps.begin()->first;
+    UtcMinute expected = steps.begin()->first;
     for (const auto& [moment, counts] : steps) {
         picture.bars.push_back({minuteOfDay(moment), moment != expected, counts});
         expected = moment + step;

@@ -12,9 +12,6 @@
 
 namespace vantrel {
 
-// Index in `bands` of the one that a contact was made on; bands.size() for none of them.
-std::size_t bandIndexOf(std::string_view contact);
-
 struct PictureBar {
     int minuteOfDay;                              // when it begins, UTC
     bool afterBreak;                              // no contact in the hour before it

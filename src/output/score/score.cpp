@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "output/score/score.h"
 
+#include "log/bands.h"
 #include "log/qsoline.h"
-#include "output/score/contestpicture.h"
 #include "output/score/regioncodes.h"
 #include "shared/settings.h"
 
@@ -116,6 +116,12 @@ void enterTotal(Score& score, int bonusPoints) {
 
 // --- All contests but the European sprint ---------------------------------------------------
 
+// A duplicate adds no S/P/C, except as the log's first contact: duplicates are told from new values
+// only while looking through the list, and an empty list is not looked through.
+bool addsRegion(std::string_view contact, bool noneYet) {
+    return noneYet || !isDupe(contact);
+}
+
 void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Score& score) {
     const BonusStation bonusStation(settings);
     DistinctValues regions("the list of S/P/Cs");
@@ -125,16 +131,12 @@ void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Sc
     int bonusStationQsos = 0;
     for (const std::string_view contact : contacts) {
         awards.add(memberNumber(contact));
-        const bool dupe = isDupe(contact);
-        // A duplicate adds no S/P/C, except as the log's first contact: duplicates are told
-        // from new values only while looking through the list, and an empty list is not
-        // looked through.
-        if (regions.empty() || !dupe)
+        if (addsRegion(contact, regions.empty()))
             regions.add(qso::hisState.of(contact));
-        if (dupe)
+        if (isDupe(contact))
             continue;
         ++qsos;
-        clubStationQsos += begins(qso::hisCall.of(contact), clubStation) ? 1 : 0;
+        clubStationQsos += qso::hisCall.of(contact).starts_with(clubStation) ? 1 : 0;
         bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
     }
     score.qsos = qsos;
@@ -167,7 +169,7 @@ std::string_view countryOf(std::string_view field) {
 // without any number counts as one member: the sprint's manager scores the logs he gets so.
 bool isRegularMember(std::string_view number) {
     const char award = awardLetter(number);
-    return award != 'T' && award != 'C' && award != noMember && !isExactly(number, noNumber);
+    return award != 'T' && award != 'C' && award != noMember && number != noNumber;
 }
 
 void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& settings,
@@ -184,7 +186,7 @@ void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& sett
         awards.add(number);
         if (isRegularMember(number))
             regularMembers.add(number);
-        if (awardLetter(number) == noMember || begins(qso::hisNumber.of(contact), noNumber))
+        if (awardLetter(number) == noMember || qso::hisNumber.of(contact).starts_with(noNumber))
             ++noMembers;
         if (isDupe(contact))
             continue;
@@ -213,11 +215,10 @@ std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSetti
     std::array<BandScore, bands.size() + 1> all{};
     std::unordered_set<std::string_view> codes;
     for (const std::string_view contact : contacts) {
-        BandScore& band = all[bandIndexOf(contact)];
-        const bool dupe = isDupe(contact);
+        BandScore& band = all[bandIndexOf(qso::frequency.of(contact))];
         const std::string_view state = qso::hisState.of(contact);
-        band.qsos += dupe ? 0 : 1;
-        if (!dupe || (codes.empty() && !european)) // as the score has it
+        band.qsos += isDupe(contact) ? 0 : 1;
+        if (addsRegion(contact, codes.empty() && !european))
             band.newMultipliers += codes.insert(european ? countryOf(state) : state).second ? 1 : 0;
     }
     std::vector<BandScore> worked;
@@ -240,6 +241,15 @@ Score computeScore(const Contacts& contacts, const OperatingSettings& settings) 
     } catch (const RuntimeError& error) {
         score.stoppedBy = error;
     }
+    return score;
+}
+
+Score computeScore(const Log& log, const OperatingSettings& settings) {
+    if (!log.tooLong())
+        return computeScore(log.contacts(), settings);
+    Score score;
+    score.european = settings.contestCode == contestSkse;
+    score.stoppedBy = log.tooLong();
     return score;
 }
 

@@ -34,8 +34,8 @@ struct Score {
     Figure bonusPoints;
     Figure total;
 
-    // What stopped it: 9 for a 401st different value in a list, 6 for a figure beyond
-    // 32,767. The figures reached before it stand.
+    // What stopped it: 9 for a 401st different value in a list or a 12,001st contact, 6 for a
+    // figure beyond 32,767. The figures reached before it stand.
     std::optional<RuntimeError> stoppedBy;
 };
 
@@ -53,5 +53,8 @@ std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSetti
 // The score of a log's contact lines by the rules of `settings.contestCode`. Never throws a
 // RuntimeError: see Score::stoppedBy.
 Score computeScore(const Contacts& contacts, const OperatingSettings& settings);
+// The same for the open log. One with more contacts than it could read has no figures: those of
+// the first 12,000 would look like the whole.
+Score computeScore(const Log& log, const OperatingSettings& settings);
 
 } // namespace vantrel

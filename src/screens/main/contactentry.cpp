@@ -301,8 +301,7 @@ void ContactEntry::append(const std::string& line, Answer& answer) {
     const std::string repeated(
         isDupe(line) ? std::string_view()
                      : duplicateOf(log.contacts(), qso::hisCall.of(line), qso::bandTag.of(line)));
-    const bool logWasThere = m_platform.files.present(log.name());
-    log.append(line);
+    const std::optional<LogLoss> loss = log.append(line);
     clear(ClearTo::nothing);
     m_cleared.reset(); // it is in the log
     m_draft.takenBack.clear();
@@ -312,9 +311,8 @@ void ContactEntry::append(const std::string& line, Answer& answer) {
         answer.messages.push_back(failureOnceLogged(error));
     }
     m_draft.happened = {loggedHint(line, repeated), line};
-    if (!logWasThere)
-        answer.messages.push_back({std::string(logStartedAgainText), BoxIcon::exclamation,
-                                   m_platform.files.path(log.name())});
+    if (loss)
+        answer.messages.push_back(lossNotice(*loss, m_platform.files.path(log.name())));
 }
 
 Answer ContactEntry::logAsDupe() {

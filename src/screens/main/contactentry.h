@@ -39,7 +39,7 @@ public:
     ContactEntry(Module1& shared, Platform& platform, Radio radio);
 
     EntryView view() const;
-    // Members like the call. Throws as Roster::membersLike.
+    // Members like the call. Throws as Roster::partialMatches.
     std::vector<MemberLine> members();
     bool autoReads() const { return m_draft.autoReads; }
     // Space in the call box leads to the first empty box: the search left the name to be typed.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/entryview.h"
 
-#include "output/score/scoregain.h"
+#include "output/score/scoretext.h"
 #include "screens/main/frequency.h"
 #include "shared/module1.h"
 
@@ -25,7 +25,7 @@ std::string gainOf(const std::string& line, const Module1& shared) {
     if (shared.settings.isK3y())
         return {};
     const Contacts& contacts = shared.log.contacts();
-    return scoreGain(contacts, computeScore(contacts, shared.settings), line, shared.settings);
+    return scoreGain(contacts, computeScore(shared.log, shared.settings), line, shared.settings);
 }
 
 // What the next Enter does with the contact searched for, or why LOG will refuse it.

@@ -13,10 +13,6 @@ namespace {
 
 constexpr int decimals = 3;
 
-bool allDigits(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), isDigit);
-}
-
 bool startsWithAnyOf(std::string_view text, std::initializer_list<std::string_view> beginnings) {
     return std::any_of(beginnings.begin(), beginnings.end(),
                        [&](std::string_view beginning) { return text.starts_with(beginning); });

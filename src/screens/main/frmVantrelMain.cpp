@@ -383,7 +383,7 @@ void frmVantrelMain::showLog() {
     const Log& log = shared().log;
     put(m_countBox, countText(log.count()));
     m_workedList->setLines(log.worked());
-    m_panel->followLog(log.contacts(), shared().settings);
+    m_panel->followLog(log, shared().settings);
     secondPassed();
     m_entry.logChanged();
     showEntry();

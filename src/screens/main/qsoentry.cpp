@@ -2,6 +2,7 @@
 #include "screens/main/qsoentry.h"
 
 #include "base/runtimeerror.h"
+#include "log/log.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/frequency.h"
 #include "shared/settings.h"
@@ -12,8 +13,6 @@
 namespace vantrel {
 
 namespace {
-
-constexpr int shortestCall = 3;
 
 std::string fieldOf(std::string_view box, int width) {
     return leftAligned(withoutSeparators(box), width);
@@ -111,6 +110,11 @@ std::optional<std::string> contactLine(const Entry& entry, const OperatingSettin
 
 Message failureOnceLogged(const RuntimeError& error) {
     return {error.headline(), BoxIcon::critical, error.detail() + '\n' + std::string(isLoggedText)};
+}
+
+Message lossNotice(const LogLoss& loss, const std::string& logPath) {
+    return {std::string(loss.vanished ? logStartedAgainText : logShrankText), BoxIcon::exclamation,
+            logPath + (loss.kept.empty() ? "" : "\nWHAT IT HELD IS KEPT IN " + loss.kept)};
 }
 
 std::string countText(Integer16 contacts) {

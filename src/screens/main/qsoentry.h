@@ -15,6 +15,7 @@
 namespace vantrel {
 
 class Roster;
+struct LogLoss;
 struct OperatingSettings;
 struct UtcTime;
 
@@ -43,9 +44,12 @@ inline constexpr std::string_view duplicateQsoText = " <<<<<< THIS IS A DUPLICAT
 // Said with whatever fails after the contact is in the log.
 inline constexpr std::string_view isLoggedText = "THE QSO IS IN THE LOG";
 
-// The log vanished under the program: the contact is in a new one of that name.
+// The log vanished under the program, so the contact is in a new one of that name; or it was
+// replaced by one with fewer contacts, so the contact is in that one.
 inline constexpr std::string_view logStartedAgainText =
     "THE LOG FILE WAS NO LONGER THERE.  A NEW ONE HAS BEEN STARTED WITH THIS QSO";
+inline constexpr std::string_view logShrankText =
+    "THE LOG FILE HELD FEWER QSOS THAN BEFORE.  THIS QSO HAS BEEN ADDED TO IT";
 
 // True when SEARCH has nothing left to do and logs: the number box holds more than one
 // character.
@@ -91,6 +95,9 @@ std::optional<std::string> contactLine(const Entry& entry, const OperatingSettin
 // What to tell the operator when something fails although the contact is in the log (a full
 // table, a file), once his boxes are cleared.
 Message failureOnceLogged(const RuntimeError& error);
+
+// What to tell the operator of a log that had changed so; logPath: as text to show.
+Message lossNotice(const LogLoss& loss, const std::string& logPath);
 
 // The count box: "00", "09", "10", "12000".
 std::string countText(Integer16 contacts);

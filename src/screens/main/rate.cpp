@@ -16,20 +16,20 @@ constexpr int barMinutes = 5;
 
 } // namespace
 
-std::vector<Moment> momentsOf(const Contacts& contacts) {
-    std::vector<Moment> moments;
+std::vector<UtcMinute> momentsOf(const Contacts& contacts) {
+    std::vector<UtcMinute> moments;
     moments.reserve(contacts.size());
     for (const std::string_view contact : contacts)
-        if (const auto moment = contactMoment(contact))
+        if (const auto moment = contactMinute(contact))
             moments.push_back(*moment);
     return moments;
 }
 
-Rate rateAt(const std::vector<Moment>& moments, Moment now) {
+Rate rateAt(const std::vector<UtcMinute>& moments, UtcMinute now) {
     Rate rate;
     auto& bars = rate.perFiveMinutes;
-    std::array<Moment, std::tuple_size_v<decltype(rate.perFiveMinutes)>> firsts{};
-    for (const Moment moment : moments) {
+    std::array<UtcMinute, std::tuple_size_v<decltype(rate.perFiveMinutes)>> firsts{};
+    for (const UtcMinute moment : moments) {
         std::chrono::minutes since = now - moment;
         if (since.count() < 0) // its date was not rolled back where its hour was
             since += std::chrono::days(1);
@@ -50,9 +50,8 @@ Rate rateAt(const std::vector<Moment>& moments, Moment now) {
     return rate;
 }
 
-std::optional<Moment> momentOf(const UtcTime& utc) {
-    std::string line = leftAligned("", qso::date.first - 1) + utc.date + ' ' + utc.time;
-    return contactMoment(line);
+std::optional<UtcMinute> momentOf(const UtcTime& utc) {
+    return readMinute(utc.date, utc.time);
 }
 
 std::string rateText(const Rate& rate) {
@@ -73,9 +72,7 @@ std::string hourText(const Rate& rate) {
     if (!rate.bestSince)
         return text;
     const auto day = std::chrono::floor<std::chrono::days>(*rate.bestSince);
-    const std::chrono::hh_mm_ss time(*rate.bestSince - day);
-    return text + ", most at " + zeroPadded(static_cast<int>(time.hours().count()), 2) +
-           zeroPadded(static_cast<int>(time.minutes().count()), 2);
+    return text + ", most at " + timeText(*rate.bestSince - day);
 }
 
 } // namespace vantrel

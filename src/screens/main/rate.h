@@ -2,8 +2,8 @@
 // How fast contacts come: the last ten minutes, the last hour, the time since the last one.
 #pragma once
 
+#include "log/contactdate.h"
 #include "log/log.h"
-#include "output/score/contactdate.h"
 
 #include <array>
 #include <optional>
@@ -18,18 +18,18 @@ struct Rate {
     int lastTenMinutes = 0;
     std::optional<int> minutesSinceLast{}; // nothing without any contact
     std::array<int, 12> perFiveMinutes{};  // of the last hour, oldest first
-    std::optional<Moment> bestSince{};     // the first contact of the best five minutes
+    std::optional<UtcMinute> bestSince{};  // the first contact of the best five minutes
 };
 
 // The minutes of the contacts that have one, duplicates too: they were worked.
-std::vector<Moment> momentsOf(const Contacts& contacts);
+std::vector<UtcMinute> momentsOf(const Contacts& contacts);
 
 // As of `now`. With a negative offset a contact before midnight UTC keeps the local date: one dated
 // up to a day ahead counts a day earlier, and one that lies further ahead does not count.
-Rate rateAt(const std::vector<Moment>& moments, Moment now);
+Rate rateAt(const std::vector<UtcMinute>& moments, UtcMinute now);
 
 // The minute that a contact logged now would have. Nothing when the clock shows no date.
-std::optional<Moment> momentOf(const UtcTime& utc);
+std::optional<UtcMinute> momentOf(const UtcTime& utc);
 
 // "5 (30/h)", "LAST 3 MIN AGO" (empty without a contact).
 std::string rateText(const Rate& rate);

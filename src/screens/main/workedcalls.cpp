@@ -159,7 +159,7 @@ std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
     std::vector<MemberLine> lines;
     if (length(typed) < fewestTyped)
         return lines;
-    for (const Member& member : roster.membersLike(typed, mostMembers)) {
+    for (const Member& member : roster.partialMatches(typed, mostMembers)) {
         MemberLine line{std::string(trim(member.call)), std::string(trim(member.call)), false};
         for (const std::string& field : {member.name, member.state, member.number})
             line.text += ' ' + std::string(trim(field));

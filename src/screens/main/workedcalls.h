@@ -50,7 +50,7 @@ struct MemberLine {
     bool dupe;        // worked on the present band
 };
 
-// Members like what is typed, from two characters on. Throws as Roster::membersLike.
+// Members like what is typed, from two characters on. Throws as Roster::partialMatches.
 std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
                                     std::string_view typed, std::string_view bandTag);
 

@@ -10,7 +10,6 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/serialport.h"
-#include "screens/start/startlog.h"
 #include "screens/start/startnotes.h"
 
 #include <QCloseEvent>
@@ -45,7 +44,7 @@ void fill(QComboBox* combo, const ValueList& list) {
         combo->addItem(toQt(entry.shown), toQt(entry.stored));
 }
 
-void tell(QLabel* label, const Note& note) {
+void tell(QLabel* label, const StatusNote& note) {
     put(label, note.text);
     label->setToolTip(toQt(note.tip));
     setTextColour(label, note.caution ? cautionColour(label->parentWidget()->palette()) : QColor());
@@ -338,9 +337,9 @@ void frmVantrelStart::startClicked() {
     upperCaseBoxes();
     const OperatingSettings settings = storedSettings(pageSettings());
     saveSettings(platform().files, settings);
-    const LogProbe probe = probeLog(platform().files, settings.logFileName);
-    if (probe != LogProbe::opened) {
-        const bool file = probe == LogProbe::fileNotFound;
+    const OpenResult probe = tryToOpen(platform().files, settings.logFileName);
+    if (probe != OpenResult::opened) {
+        const bool file = probe == OpenResult::fileNotFound;
         messages().show({std::string(file ? fileNotFoundText : pathNotFoundText), BoxIcon::critical,
                          platform().files.path(settings.logFileName)});
         return;

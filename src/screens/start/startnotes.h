@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the start page tells beside its boxes, so that a wrong entry shows before the contest
-// and not after it.
+// What the start page checks: whether the log's name can be a log, and the notes beside its boxes,
+// so that a wrong entry shows before the contest and not after it.
 #pragma once
 
 #include <string>
@@ -12,7 +12,27 @@ namespace vantrel {
 class Clock;
 class Files;
 
-struct Note {
+inline constexpr std::string_view fileNotFoundText =
+    "      THIS FILE CANNOT BE FOUND.        PLEASE TRY ANOTHER FILE."
+    "                                                               -OR-"
+    "     START A NEW CONTEST FILE.";
+inline constexpr std::string_view pathNotFoundText =
+    "THIS PATH CANNOT BE FOUND.  PLEASE CREATE A NEW FILE";
+inline constexpr std::string_view newFileQuestion =
+    "  START A NEW FILE - ARE YOU SURE?          THE NEW FILE WILL START WITH NO QSOS         ";
+
+// Throws RuntimeError 75 when the name stands for one of the program's own files: a log of that
+// name would replace the settings, the worked stations, the roster or the program itself.
+void refuseOwnFile(const Files& files, std::string_view logFileName);
+
+enum class OpenResult { opened, fileNotFound, pathNotFound };
+
+// Opens and reads the log. An empty name is a file that cannot be found. Throws as
+// refuseOwnFile, and as Files::read for whatever else keeps it from being opened.
+OpenResult tryToOpen(const Files& files, std::string_view logFileName);
+
+// A line beside a box.
+struct StatusNote {
     std::string text{};
     bool caution = false; // shown in amber
     std::string tip{};
@@ -21,15 +41,15 @@ struct Note {
 // What the named log is: how many contacts it holds and when the last one was; that it would be
 // a new one, is another contest's (its header names another contest text), or is no log. Empty
 // without a name. Never throws a RuntimeError: what keeps the log from being opened is told.
-Note logNote(const Files& files, std::string_view logFileName, std::string_view contestText);
+StatusNote logNote(const Files& files, std::string_view logFileName, std::string_view contestText);
 
 // How many members the roster holds. Never throws a RuntimeError.
-Note rosterNote(const Files& files);
+StatusNote rosterNote(const Files& files);
 
 // UTC and date by the offset; a caution with the computer's own UTC when the two are more than
 // half an hour apart, as they are after a change of summer time. (Where the zone is at the half
 // hour, no whole offset is nearer.)
-Note utcNote(const Clock& clock, std::string_view gmtOffset);
+StatusNote utcNote(const Clock& clock, std::string_view gmtOffset);
 
 // Of saved settings that no list of the page has: the page shows the default in their place, and
 // START saves that. Each as "RIG: FT-891".

@@ -170,7 +170,7 @@ TEST_F(FilesPage, TheBackupCopiesEveryByteOfTheLogOfTheMomentAndKeepsAFullerCopy
     EXPECT_EQ(shown(backup, "Label6"), "THE COPY THERE: 3 QSOS, LAST 2011-06-16 0012");
     press(backup, "Text1", Qt::Key_Return);
     EXPECT_EQ(texts(backup, "Label3 Label6"),
-              "DONE......CLICK EXIT|0 QSOS WRITTEN. THE COPY THERE HELD MORE: KEPT AS " +
+              "DONE......CLICK EXIT|0 QSOS WRITTEN. THE COPY THERE HELD OTHER LINES: KEPT AS " +
                   folder.string() + "/copies/SKS.CBR.OLD|");
     type(backup, "Text1", folder.string()); // onto itself
     click(backup, "Command2");

@@ -4,7 +4,7 @@
 #include "forms/stackedbars.h"
 #include "log/shortlog.h"
 #include "output/score/contestpicture.h"
-#include "output/score/scorereport.h"
+#include "output/score/scoretext.h"
 #include "support/qt/formharness.h"
 
 #include <QClipboard>

@@ -2,7 +2,7 @@
 #include "forms/colours.h"
 #include "forms/emptyframe.h"
 #include "forms/formbuilder.h"
-#include "screens/start/startlog.h"
+#include "screens/start/startnotes.h"
 #include "support/contacts.h"
 #include "support/qt/formharness.h"
 

@@ -7,8 +7,7 @@
 #include "forms/layouts.h"
 #include "forms/readtable.h"
 #include "k3y/standings.h"
-#include "output/score/scoregain.h"
-#include "output/score/scorereport.h"
+#include "output/score/scoretext.h"
 #include "screens/main/widgets/ratebars.h"
 #include "shared/settings.h"
 
@@ -82,22 +81,20 @@ void ContestPanel::showScore(std::string_view total, std::string_view sum) {
     put(m_sumLabel, sum);
 }
 
-void ContestPanel::followLog(const Contacts& contacts, const OperatingSettings& settings) {
-    m_moments = momentsOf(contacts);
+void ContestPanel::followLog(const Log& log, const OperatingSettings& settings) {
+    m_moments = momentsOf(log.contacts());
     m_shownAt.reset();
-    if (settings.isK3y()) {
-        const Integer16 areas = areaStandings(contacts).total();
-        const Integer16 regions = regionStandings(contacts).total();
-        showScore((areas + regions).text(),
-                  "AREAS " + areas.text() + ", REGIONS " + regions.text());
+    if (settings.isK3y() && !log.tooLong()) {
+        const StandingsTotals totals = standingsTotals(log.contacts());
+        showScore(totals.whole().text(), totals.text());
         return;
     }
-    const Score score = computeScore(contacts, settings);
+    const Score score = computeScore(log, settings);
     showScore(figureText(score.total), scoreSum(score));
 }
 
 void ContestPanel::followClock(const UtcTime& utc) {
-    const std::optional<Moment> now = momentOf(utc);
+    const std::optional<UtcMinute> now = momentOf(utc);
     if (!now || m_shownAt == now)
         return;
     m_shownAt = now;

@@ -25,7 +25,7 @@ public:
     explicit ContestPanel(QWidget* parent);
 
     // Score and rate of the log as it stands now.
-    void followLog(const Contacts& contacts, const OperatingSettings& settings);
+    void followLog(const Log& log, const OperatingSettings& settings);
     // The rate as of this minute.
     void followClock(const UtcTime& utc);
     void showBands(const BandTable& table);
@@ -40,8 +40,8 @@ private:
     RateBars* m_bars;
     ReadTable* m_bandTable;
 
-    std::vector<Moment> m_moments;   // of the contacts
-    std::optional<Moment> m_shownAt; // the minute whose rate is shown
+    std::vector<UtcMinute> m_moments;   // of the contacts
+    std::optional<UtcMinute> m_shownAt; // the minute whose rate is shown
 };
 
 } // namespace vantrel

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "output/score/scorereport.h"
+#include "output/score/scoretext.h"
+
+#include "log/qsoline.h"
+#include "shared/settings.h"
 
 #include <array>
 
@@ -44,6 +47,38 @@ std::string printed(const ReportLine& line, const Score& score) {
     return std::string(line.label) + figureText(score.*line.figure);
 }
 
+struct Gain {
+    Score::Figure Score::*figure;
+    const char* text;
+};
+
+constexpr Gain sprintGains[] = {{&Score::multipliers, "NEW S/P/C"},
+                                {&Score::centurions, "+5 CENTURION"},
+                                {&Score::tribunes, "+10 TRIBUNE"},
+                                {&Score::senators, "+15 SENATOR"},
+                                {&Score::bonusStationQsos, "+25 BONUS STATION"},
+                                {&Score::k9skcQsos, "+25 K9SKC"}};
+constexpr Gain europeanGains[] = {{&Score::multipliers, "NEW COUNTRY"},
+                                  {&Score::centurions, "+5 CENTURION"},
+                                  {&Score::tribunes, "+10 TRIBUNE"},
+                                  {&Score::senators, "+15 SENATOR"},
+                                  {&Score::bonusStationQsos, "+25 BONUS STATION"},
+                                  {&Score::membersPoints, "+1 MEMBER"}};
+
+template <typename Gains>
+std::string grown(const Gains& gains, const Score& before, const Score& after) {
+    std::string text;
+    for (const auto& [figure, gain] : gains)
+        if (*(after.*figure) > *(before.*figure))
+            text += (text.empty() ? "" : "  ") + std::string(gain);
+    return text;
+}
+
+std::string sum(const Score& score, const char* qsos, const char* multipliers) {
+    return score.qsos->text() + qsos + " x " + score.multipliers->text() + multipliers + " + " +
+           score.bonusPoints->text();
+}
+
 } // namespace
 
 std::string figureText(const Score::Figure& figure) {
@@ -51,10 +86,25 @@ std::string figureText(const Score::Figure& figure) {
 }
 
 std::string totalText(const Score& score) {
-    if (!score.total)
+    return score.total ? sum(score, "", "") : std::string();
+}
+
+std::string scoreSum(const Score& score) {
+    return score.total ? sum(score, " QSOs", score.european ? " DXCC" : " S/P/C") : "SEE SCORE";
+}
+
+std::string scoreGain(const Contacts& contacts, const Score& before, std::string_view contact,
+                      const OperatingSettings& settings) {
+    Contacts more(contacts);
+    more.push_back(contact);
+    const Score after = computeScore(more, settings);
+    if (before.stoppedBy || after.stoppedBy)
         return {};
-    return score.qsos->text() + " x " + score.multipliers->text() + " + " +
-           score.bonusPoints->text();
+    const std::string gain =
+        after.european ? grown(europeanGains, before, after) : grown(sprintGains, before, after);
+    if (!isDupe(contact))
+        return gain;
+    return gain.empty() ? "DUPE: +0" : "DUPE  " + gain;
 }
 
 std::vector<std::string> scoreReport(const Score& score, std::string_view logPath) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "k3y/callarea.h"
+#include "k3y/k3ystation.h"
 
 #include "base/fixedtext.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The member record: its one column table, how a number is written in it, and which of the
-// five roster files holds it.
+// The five roster files: the columns of a member's record, which file holds it, counting, viewing
+// and sorting.
 #pragma once
 
 #include "log/qsoline.h"
@@ -9,8 +9,11 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantrel {
+
+class Files;
 
 // Columns of a member record, without separators. Nothing behind column 33 is ever looked at.
 namespace member {
@@ -39,12 +42,41 @@ std::size_t rosterFileOf(std::string_view call);
 std::string normalisedNumber(std::string_view number);
 
 // A record of 33 columns from a member list's fields as they stand there: all upper case; the
-// call without its leading blanks; name and state are cut first and trimmed then, so blanks in
-// front of a name cost it its last letters.
+// call without its leading blanks; name and state are cut before they are trimmed, so a name
+// loses as many letters at its end as it has blanks in front.
 std::string memberRecord(std::string_view number, std::string_view call, std::string_view name,
                          std::string_view state);
 
 // The number without its award letter, padded likewise: "12C" becomes "0012".
 std::string numberKey(std::string_view number);
+
+// How many lines hold a call: of roster file 1 to 5, of all five. A missing file is an empty one.
+// Throw as Files::read.
+int countMembers(const Files& files, std::size_t number);
+int countMembers(const Files& files);
+
+// How many lines of a roster file are viewed at most.
+inline constexpr int viewedLinesCapacity = 8000;
+
+struct RosterView {
+    std::string path; // as text to show
+    std::vector<std::string> lines;
+};
+
+// The comma-delimited items of roster file 1 to 5. Throws RuntimeError 53 when there is no such
+// file, 9 for more than 8,000 items.
+RosterView viewRosterFile(const Files& files, std::size_t number);
+
+// The heading over the columns of a viewed file: "CALL", "SKCC#", "NAME", "S/P/C".
+std::string memberHeading();
+
+// Shown when the files are sorted.
+inline constexpr std::string_view rosterSorted =
+    "THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s";
+
+// Sorts each of the five files by the number in its lines; lines with equal numbers keep their
+// order. One file after the other is replaced: what was sorted before a failure stays so. Throws
+// RuntimeError 53 for a missing file, 9 for one of more than 8,000 lines, and as Files::rewrite.
+void sortRosterFiles(Files& files);
 
 } // namespace vantrel

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "output/files/filetexts.h"
+
+#include "base/boundedtable.h"
+#include "base/fixedtext.h"
+#include "base/itemreader.h"
+#include "log/contactdate.h"
+#include "log/logfile.h"
+#include "log/qsoline.h"
+#include "platform/files.h"
+#include "roster/rosterfiles.h"
+
+namespace vantrel {
+
+namespace chrono = std::chrono;
+
+std::string membersText(const Files& files, std::size_t number) {
+    if (!files.present(rosterFiles.at(number - 1)))
+        return std::string(noSuchFileYet);
+    return counted(countMembers(files, number), "MEMBER");
+}
+
+std::string allMembersText(const Files& files) {
+    return counted(countMembers(files), "MEMBER");
+}
+
+std::string writtenText(const Files& files, std::string_view name, std::string_view utcToday) {
+    const auto written = files.writtenAt(name);
+    if (!written)
+        return std::string(noSuchFileYet);
+    const auto day = chrono::floor<chrono::days>(*written);
+    const std::string date = dateText(day);
+    return std::string(lastPart(name)) + ' ' + (date == utcToday ? "" : date + ' ') +
+           timeText(chrono::floor<chrono::minutes>(*written - day));
+}
+
+std::string logText(std::string_view name, int contacts) {
+    return std::string(lastPart(name)) + ' ' + counted(contacts, "QSO");
+}
+
+std::vector<std::string> wholeLines(std::string_view bytes) {
+    std::vector<std::string> lines;
+    LineReader reader(bytes);
+    while (!reader.atEnd())
+        lines.emplace_back(reader.next());
+    return lines;
+}
+
+std::size_t lastContactOf(const std::vector<std::string>& lines) {
+    for (std::size_t i = lines.size(); i > 0; --i)
+        if (isContact(lines[i - 1]))
+            return i - 1;
+    return lines.empty() ? 0 : lines.size() - 1;
+}
+
+std::vector<std::string> logPrintLines(std::string_view logFileName, std::string_view logBytes) {
+    BoundedTable<std::string_view> items("the list of lines to print", printedItemsCapacity);
+    ItemReader reader(logBytes);
+    while (!reader.atEnd())
+        items.append(reader.next());
+    std::vector<std::string> lines{std::string(logFileName), ""};
+    lines.insert(lines.end(), items.begin(), items.end());
+    return lines;
+}
+
+} // namespace vantrel

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// What the file screen, the list and the printer show of files.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrel {
+
+class Files;
+
+// How the files of the file screen's jobs are now, each shown beside its job.
+
+// "145 MEMBERS" of roster file 1 to 5, or that there is none; of all five together. Throw as
+// Files::read.
+std::string membersText(const Files& files, std::size_t number);
+std::string allMembersText(const Files& files);
+// "SKS112126.ADI 1423": the last part of the name, and when the file was written, UTC; with the
+// date when that was on another day than `utcToday` (YYYY-MM-DD). Or that there is none.
+std::string writtenText(const Files& files, std::string_view name, std::string_view utcToday);
+// "SKS112126.CBR 28 QSOS".
+std::string logText(std::string_view name, int contacts);
+
+// The file's whole lines, for the list screen.
+std::vector<std::string> wholeLines(std::string_view bytes);
+// Index of the last contact among a log's lines; of the last line when there is none.
+std::size_t lastContactOf(const std::vector<std::string>& lines);
+
+// How many items of a log are printed at most.
+inline constexpr int printedItemsCapacity = 12000;
+// Shown when the log has been sent to the printer.
+inline constexpr std::string_view logPrinted = "THE FILE HAS BEEN SENT TO THE PRINTER";
+
+// The log's name, an empty line, then every comma-delimited item of the log, header lines
+// included. Throws RuntimeError 9 at the 12,001st item.
+std::vector<std::string> logPrintLines(std::string_view logFileName, std::string_view logBytes);
+
+} // namespace vantrel

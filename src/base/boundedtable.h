@@ -26,7 +26,7 @@ public:
         m_entries.push_back(std::move(entry));
     }
 
-    // Index 1 to size(). Throws RuntimeError 9 outside of it.
+    // Index 1 to size(); any other throws RuntimeError 9.
     const T& at(int index) const { return m_entries[checked(index)]; }
     T& at(int index) { return m_entries[checked(index)]; }
 

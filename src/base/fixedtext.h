@@ -12,7 +12,7 @@ namespace vantrel {
 std::string_view mid(std::string_view text, int first, int count);
 // From column `first` to the end of the text.
 std::string_view midToEnd(std::string_view text, int first);
-// The first / last `count` bytes; the whole text when it is shorter.
+// The first, or last, `count` bytes; the whole text when it is shorter.
 std::string_view left(std::string_view text, int count);
 std::string_view right(std::string_view text, int count);
 
@@ -34,27 +34,27 @@ bool isDigit(char character);
 bool isControl(char character);
 // True for the empty text too.
 bool allDigits(std::string_view text);
-// A capital A-Z.
+// A to Z.
 bool isCapital(char character);
-// How many characters of the text are capitals A-Z.
+// How many characters of the text are A to Z.
 int countCapitals(std::string_view text);
 
-// Blanks on the right up to `width`. Throws RuntimeError 5 naming `field` when the text is
-// longer: there is no negative number of blanks.
+// Padded with blanks on the right to `width`. Throws RuntimeError 5 naming `field` when the text is
+// longer.
 std::string padded(std::string_view text, int width, std::string_view field);
-// Cut to `width`, then padded on the right with blanks to it. Never throws.
+// Cut to `width` or padded to it with blanks on the right. Never throws.
 std::string leftAligned(std::string_view text, int width);
-// Cut to the first `width`, then padded on the left with blanks to it. Never throws.
+// Cut to the first `width` or padded to it with blanks on the left. Never throws.
 std::string rightAligned(std::string_view text, int width);
 std::string blanks(int count);
 
-// Commas and control characters become blanks: a line's readers split at commas.
+// Commas and control characters as blanks: a comma would split the line for its readers.
 std::string withoutSeparators(std::string_view text);
-// The same, and double quotes too: what may stand in the configuration file.
+// The same with double quotes too, which the configuration file cannot hold.
 std::string withoutSeparatorsAndQuotes(std::string_view text);
 
-// The numeric reading: skips leading blanks, takes an optional sign and the digits that
-// follow; 0 without any. Throws RuntimeError 6 beyond 64 bits.
+// The number at the beginning of the text: blanks are skipped, then an optional sign and digits are
+// read; 0 without digits. Throws RuntimeError 6 beyond 64 bits.
 long long numericValue(std::string_view text);
 
 // "1 LINE", "3 LINES", "0 LINES".

@@ -12,7 +12,7 @@ namespace vantrel {
 
 namespace {
 
-// Takes the text up to the next LF off `rest`, and the LF with a CR before it.
+// Removes the first line with its CR LF or LF from `rest` and returns it without them.
 std::string_view takeLine(std::string_view& rest) {
     const std::size_t end = rest.find('\n');
     if (end == std::string_view::npos)
@@ -33,7 +33,7 @@ std::string_view ItemReader::next() {
         ++m_lineNumber;
     }
 
-    if (m_line.starts_with(' ')) // seldom: a look at each line would cost more than the rest
+    if (m_line.starts_with(' ')) // rare, and trimLeft takes longer than all the rest here
         m_line = trimLeft(m_line);
     const bool quoted = !m_line.empty() && m_line.front() == '"';
     if (quoted)

@@ -18,7 +18,7 @@ public:
     bool atEnd() const { return m_rest.empty() && !m_insideLine; }
     // The next item. Throws RuntimeError 62 at the end of the text.
     std::string_view next();
-    // 1-based number of the line that the last item came from.
+    // Number, from 1, of the line that the last item came from.
     int line() const { return m_lineNumber; }
 
 private:

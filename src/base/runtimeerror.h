@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-// The framework's customary numbers; no others are in use.
+// The framework's customary numbers, as far as they are in use here.
 enum class ErrorCode {
     invalidCall = 5,
     overflow = 6,

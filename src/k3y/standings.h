@@ -19,7 +19,7 @@ namespace vantrel {
 struct StandingsRow {
     std::string_view label; // "K3Y/5"
     std::string_view code;  // what picks the row: the area digit or the two region letters
-    // For each column the column (from 1) whose cell must still be empty for it to fill.
+    // For each column: the column (from 1) whose cell must be empty for a contact to count in it.
     std::array<int, bands.size()> guards;
 };
 
@@ -46,7 +46,7 @@ inline constexpr std::array<StandingsRow, 10> areaRows{{
     {"K3Y/0", "0", standings::ownCells},
 }};
 
-// Second page: the outlying areas, told by the call, then the continents, told by the tag.
+// Second page: the outlying areas, by the call, then the continents, by the tag.
 inline constexpr std::size_t outlyingRows = 3;
 inline constexpr std::array<StandingsRow, 9> regionRows{{
     {"K3Y/KH", "KH", standings::ownCells},
@@ -74,7 +74,7 @@ public:
 
     // Row and column from 1, as in the row table and the band table.
     const StandingsCell& cell(int row, int column) const;
-    // Each filling counts, also that of a cell filled before.
+    // Of all fillings; a cell can be filled more than once, see area5Cells.
     Integer16 total() const { return m_total; }
     Integer16 stationTotal(int row) const;
     Integer16 bandTotal(int column) const;

@@ -12,8 +12,8 @@ struct Band {
     std::string_view bandTag;          // first two columns of the kHz field
     std::string_view mhzPrefix;        // first two characters of the frequency in MHz
     std::string_view label;            // "160M": grids, ADIF
-    std::string_view text;             // ten characters, band label; empty outside the six bands
-    std::string_view defaultFrequency; // MHz, for the band buttons; empty likewise
+    std::string_view text;             // main page, ten characters; empty on no sprint band
+    std::string_view defaultFrequency; // MHz, for the band buttons; empty on no sprint band
 };
 
 // From the lowest frequency up.

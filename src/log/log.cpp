@@ -30,7 +30,7 @@ Contacts contactsIn(std::string_view logBytes) {
 }
 
 std::string workedLine(std::string_view contact) {
-    // Only the number is padded: a shorter line's other fields stand as they are.
+    // Of a contact line that ends early only the number is padded; its other fields are shorter.
     return std::string(qso::hisCall.of(contact)) + "| " + std::string(qso::hisName.of(contact)) +
            '|' + leftAligned(qso::hisNumber.of(contact), qso::hisNumber.width) + " | " +
            std::string(qso::hisState.of(contact)) + " | " +
@@ -135,7 +135,7 @@ void Log::parse(std::string bytes, std::size_t known) {
                                                           std::to_string(capacity) + " contacts");
 }
 
-// Writes nothing while nothing changed: a full disk must not keep a score from being shown.
+// Writes nothing while nothing changed: the score must be seen on a full disk too.
 void Log::addWorked(std::size_t added) {
     if (added == 0 || (m_workedOnDisk && m_worked.size() == workedCapacity))
         return;

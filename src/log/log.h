@@ -44,10 +44,11 @@ inline constexpr Column marker{65, 6};
 inline constexpr int columns = 70;
 } // namespace worked
 
-// The line as one would say it: "K9SKC CLUB 5000S IL 14050 at 0012", and the marker behind it.
+// The line in words, for a screen reader: "K9SKC CLUB 5000S IL 14050 at 0012", then its marker.
 std::string workedWords(std::string_view workedLine);
 
-// Why a worked-stations line stands out: a duplicate, or a name, state or number that is missing.
+// What a worked-stations line is marked for in the list: a duplicate, or missing name, state or
+// number.
 enum class WorkedKind { complete, incomplete, dupe };
 WorkedKind kindOf(std::string_view workedLine);
 // The last field of a worked-stations line, without its blanks: a K3Y tag, "DUPE" or nothing.

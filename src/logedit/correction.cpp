@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::size_t callBox = 0;
 
-// The kHz of a frequency in MHz: one or two digits, a point or a comma, decimals of which three
-// count. Nothing for anything else.
+// The kHz of a frequency in MHz: one or two digits, a point or a comma, decimals (the first three
+// count). Empty for anything else.
 std::string khzOfMhz(std::string_view typed) {
     constexpr int khzDigits = 3;
     typed = trim(typed);
@@ -51,7 +51,7 @@ bool isDate(std::string_view text) {
     return date && (firstOfMonth || dateText(*date) == text);
 }
 
-// Whether a field holds what a contact can have there; only these three can be told.
+// Whether the field is valid. Only these three can be checked; in the others any text is.
 bool isRight(Column column, std::string_view line) {
     const std::string_view text = column.of(line);
     switch (column.first) {

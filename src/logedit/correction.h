@@ -40,9 +40,9 @@ CorrectionBoxes correctionBoxes(std::string_view key, std::string_view line);
 struct Correction {
     std::string line;
     CorrectionBoxes boxes; // for the new line
-    // Labels of boxes, ", " between; empty for none:
-    std::string cut;   // those that were too long
-    std::string wrong; // changed to a frequency, time or date that no contact has
+    // Labels of boxes, ", " between; empty for none.
+    std::string cut;   // text longer than its columns
+    std::string wrong; // changed to what is no frequency, time or date
 };
 
 // The line with every box that differs from what was shown (tidied, cut or padded to its
@@ -50,8 +50,8 @@ struct Correction {
 Correction corrected(std::string_view line, const CorrectionBoxes& shown,
                      const CorrectionBoxes& typed);
 
-// What was shown, for a call box that was typed in after the search: it is no longer the key but
-// the call, whatever it holds.
+// The boxes shown, with the contact's call in place of the search key: once something was typed in
+// the call box, it holds the call.
 CorrectionBoxes withCallShown(CorrectionBoxes shown, std::string_view line);
 
 // False for a call that was edited to fewer than 3 characters: once saved, no search could

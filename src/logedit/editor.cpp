@@ -25,7 +25,7 @@ std::string orBlank(std::string_view text) {
     return std::string(text.empty() ? "BLANK" : text);
 }
 
-// What a line holds in no field.
+// The line with its fields blanked.
 std::string besideTheFields(std::string_view line) {
     std::string rest(line);
     for (const EditorField& field : editorFields)

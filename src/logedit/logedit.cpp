@@ -21,7 +21,7 @@ std::string withSuffix(const std::string& logName, std::string_view suffix) {
     return logName + std::string(suffix);
 }
 
-// Only contacts have a call: header and other lines are never found, so never changed.
+// Header and other lines have no call, so they are never found and never changed.
 bool isContactWith(std::string_view line, std::string_view key) {
     return isContact(line) && mid(line, qso::hisCall.first, length(key)) == key;
 }
@@ -107,7 +107,7 @@ SearchResult LogEdit::find(const ContactPlace& place) {
     readLog();
     int alike = -1;
     for (int index = 1; index <= lineCount() && alike < place.alikeBefore; ++index) {
-        // A contact ends at a comma; its line need not.
+        // The text of a contact ends at a comma; its line may go on.
         const std::string_view line = lineAt(index);
         if (!isContact(line) || line.substr(0, line.find(',')) != place.text)
             continue;
@@ -175,8 +175,8 @@ ChangeResult LogEdit::removeLine() {
     return change(lines, Kind::removal);
 }
 
-// Contacts logged since the search stay behind the lines that were read. When they are the first
-// that a rewrite would drop, the operator has not been told yet, and the log counts as changed.
+// Takes in lines that were added since the search. False when the log changed otherwise; also when
+// only now a rewrite would drop lines, because the operator has not been warned of that.
 bool LogEdit::followGrowth() {
     if (m_log.name() != m_logName)
         return false;
@@ -199,8 +199,8 @@ ChangeResult LogEdit::change(const std::vector<std::string>& lines, Kind kind) {
     return result;
 }
 
-// The log and its copy are replaced together: one after the other, a stop between the two
-// would leave a copy that is the log itself, and in an undo the only other version lost.
+// The log and its copy are replaced together. Otherwise a crash between the two would leave a copy
+// equal to the log, and an undo would lose the other version.
 ChangeResult LogEdit::write(const Change& change) {
     std::optional<Message> notice;
     // An undo brings dropped lines back; the redo drops them again.
@@ -214,8 +214,8 @@ ChangeResult LogEdit::write(const Change& change) {
     return {true, std::move(notice)};
 }
 
-// After a removal nothing is found: a next search goes on with the line that moved up. A contact
-// that has another call now stands among those with that call.
+// After a removal nothing is found, and searchNext() goes on with the line that moved up. Where the
+// call was changed, the matches are from now on those of the new call.
 void LogEdit::takeAfter(const Change& change) {
     take(change.logName, change.after);
     m_found = change.kind == Kind::replacement || change.undone;

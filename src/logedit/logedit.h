@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The log as correction, deletion and editor work on it: one table of lines, one search, one
-// rewrite with its undo.
+// The log as correction, deletion and editor work on it: a table of lines, a search, a rewrite with
+// undo.
 #pragma once
 
 #include "log/log.h"
@@ -15,7 +15,7 @@ namespace vantrel {
 
 class Files;
 
-// What a page's message label reads after an undo and after the next one, which redoes.
+// What a page's message label reads after an undo and after a redo.
 inline constexpr std::string_view undoneText = " Undone....Click EXIT ";
 inline constexpr std::string_view redoneText = " Redone....Click EXIT ";
 
@@ -31,11 +31,11 @@ struct ChangeResult {
     bool changedLog = made;          // false for a save that changes nothing
 };
 
-// A contact of the open log by what it reads, not by its number alone: the log may have changed
-// when it is looked for.
+// A contact of the open log, described by its text and not by its number alone, so that it is found
+// in a log that has changed since.
 struct ContactPlace {
     std::string text;    // empty: no such contact
-    int alikeBefore = 0; // how many contacts before it read the same
+    int alikeBefore = 0; // how many contacts before it have the same text
 };
 // contact: 1 to their number.
 ContactPlace placeOf(const Contacts& contacts, int contact);
@@ -74,8 +74,8 @@ public:
     // The contacts with the call searched for last and the one found, as they were read; valid
     // until the next reading or change.
     std::vector<Match> matches() const;
-    // Whether a rewrite would drop lines, and the name (without its folder) of the file in which
-    // all of them would be kept.
+    // Whether a rewrite would drop lines, and the name, without folder, of the file that would
+    // keep them all.
     bool dropsLines() const { return m_droppedLines > 0; }
     std::string fullCopyName() const;
 
@@ -84,24 +84,23 @@ public:
     // The line found last.
     const std::string& line() const { return lineAt(m_position); }
 
-    // Both rewrite the log whole, lines ended CR LF, and keep the log before as NAME.BAK;
-    // with lines beyond the table's 2,000 those are dropped, the whole log before being kept
-    // as NAME.FULL too. A log that only grew since the search is taken as it is now. Nothing
-    // is written when nothing is found or changed, or (with a notice) when the log on the disk
-    // is no longer what the search read. Throw as Files::rewriteAll and
-    // Files::keepCopy, the log then being as it was.
+    // Both rewrite the whole log with CR LF behind each line and keep the log before as NAME.BAK.
+    // Lines beyond the table's 2,000 are dropped, and the whole log before is kept as NAME.FULL
+    // too. Contacts added since the search stay. Nothing is written when nothing is found or
+    // changed, or (with a notice) when the log on the disk is no longer what the search read.
+    // Throw as Files::rewriteAll and Files::keepCopy; the log is then as it was.
     ChangeResult replaceLine(const std::string& line);
     // A next search goes on with the line that moved up.
     ChangeResult removeLine();
 
     bool canUndo() const { return m_change.has_value(); }
-    // Exchanges the log and its NAME.BAK: undoes the last change made here, or redoes it when
-    // it was undone. Refused, with a notice, unless both are byte for byte as that left them.
-    // Afterwards the contact is found that came back. Throws as the change.
+    // Exchanges the log and its NAME.BAK: undoes the last change made here, or redoes it. Refused,
+    // with a notice, unless both files are byte for byte as that change left them. The contact
+    // that comes back is then the one found. Throws as replaceLine().
     ChangeResult undo();
     // The message label's text after an undo().
     std::string_view undoText() const { return m_change->undone ? undoneText : redoneText; }
-    // What the last change, or its undo, did to duplicates; see duplicateNews.
+    // What the last change, undo or redo did to duplicates; see duplicateNews.
     std::vector<std::string> newsOfDuplicates(bool byNumber) const;
 
 private:

@@ -36,13 +36,8 @@ public:
     bool present(std::string_view name) const;
     // The file's whole content.
     std::string read(std::string_view name) const;
-    // The same into `bytes`, whose memory is used again; its content is lost on failure too.
-    void readInto(std::string_view name, std::string& bytes) const;
     // The file's whole content, empty when there is no such file.
     std::string readOrEmpty(std::string_view name) const;
-    // A text that is another one whenever the file's content may be. Empty when that cannot
-    // be told: no such file, or one written within the last two seconds.
-    std::string stamp(std::string_view name) const;
     // When the file was written last, by UTC; nothing when there is none.
     std::optional<std::chrono::sys_seconds> writtenAt(std::string_view name) const;
     // Appends `line` and CR LF, on the disk when this returns; creates a missing file. A

@@ -15,13 +15,13 @@ inline constexpr std::string_view memberListFile = "SKCCLIST.TXT";
 inline constexpr std::string_view listsAddress = "https://www.skccgroup.com";
 // The program that downloads both lists into its own folder.
 inline constexpr std::string_view fetcherProgram = "ROSTFETCH.EXE";
-// What to do without that program, which not everybody has.
+// Advice for those who have not got that program.
 std::string downloadByHand(std::string_view programFolder);
 
-// data: eleven fields, the number is the first. members: six fields, seven where the header
-// tells of a date, either without a header; the number with its award letter is the last, or
-// where that is empty the first. In both the call is the second field, the name the third and
-// the state the fifth.
+// Fields are separated by `|`; the second is the call, the third the name, the fifth the state.
+// data: eleven fields, the first is the number. members: six fields, seven when the header has a
+// date, either when there is no header; the last is the number with its award letter, and where it
+// is empty the first is.
 enum class MemberList { data, members };
 
 enum class ListLine { member, other, malformed };
@@ -41,7 +41,8 @@ private:
     bool m_isUtf8;
 };
 
-// Cuts the lines of one list, in their order: a header may change what follows.
+// Makes member records from the lines of one list, given in their order: a header decides how the
+// lines behind it are read.
 class MemberListReader {
 public:
     explicit MemberListReader(MemberList list) : m_list(list) {}

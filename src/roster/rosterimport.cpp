@@ -17,7 +17,7 @@ namespace vantrel {
 namespace {
 
 constexpr int listCapacity = 20000;
-constexpr int wholeListInOneLine = 150; // a first line longer than this is no line
+constexpr int longFirstLine = 150; // a longer one means that all lines ended in LF alone
 // The lines of "SKSDB4.TXT", and of no other file, are padded with blanks to 232 columns.
 constexpr std::size_t paddedFile = 3;
 constexpr int paddedWidth = 232;
@@ -34,7 +34,7 @@ std::string_view mergingPhase(MemberList list) {
 // One roster file in memory: its lines, and the first line of each call.
 class RosterTable {
 public:
-    // width: shorter lines are padded with blanks to it.
+    // width: to which shorter lines are padded with blanks.
     RosterTable(std::string_view name, int capacity, int width, std::string_view bytes)
         : m_name(name), m_width(width), m_lines("the table of " + m_name, capacity) {
         for (LineReader reader(bytes); !reader.atEnd();)
@@ -134,8 +134,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
         return result;
     RosterTables roster(files);
     const std::string bytes = files.read(listPath);
-    if (std::min(bytes.find('\r'), bytes.size()) > wholeListInOneLine &&
-        !progress({splittingPhase}))
+    if (std::min(bytes.find('\r'), bytes.size()) > longFirstLine && !progress({splittingPhase}))
         return result;
     const BoundedTable<std::string> lines = linesOf(bytes, files.path(listPath));
 
@@ -158,7 +157,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     }
     if (!progress({savingPhase}))
         return result;
-    // Too late to give up: the files are all saved, or none.
+    // From here on closing the page ends nothing: the files are all saved, or none.
     roster.save(files, [&] { progress({savingPhase}); });
     result.finished = true;
     return result;

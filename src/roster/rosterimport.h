@@ -12,7 +12,7 @@ namespace vantrel {
 
 class Files;
 
-// Where an import is: told when a phase begins (line 0) and at each line of the list.
+// How far an import is, for its page: passed when a phase begins (line 0) and at each list line.
 struct ImportStep {
     std::string_view phase; // in the operator's words
     int line = 0;           // of the list, from 1
@@ -35,22 +35,22 @@ struct ImportResult {
 // his call) is rewritten in place, a new one appended to the file of his call's first letter.
 // All five files are then rewritten, or none; a missing one is an empty one. Where a record is new
 // or changed, the five files as they were are kept as "SKSDB1.TXT.BAK" and so on. A list of nothing
-// but lines that are skipped writes no file. Throws RuntimeError
-// 9 naming the table for a list of more than 20,000 lines or a roster file beyond its
-// capacity, 53 for a missing list, and as Files; no roster file is touched then.
+// but lines that are skipped writes no file. Throws RuntimeError 9 naming the table for a list of
+// more than 20,000 lines or a roster file beyond its capacity, 53 for a missing list, and as
+// Files::rewriteAll; no roster file is touched then.
 ImportResult importMembers(Files& files, MemberList list, std::string_view listPath,
                            const ImportProgress& progress);
 
 // Shown when the list of members is missing.
 inline constexpr std::string_view memberListMissing = "SKCCLIST.TXT IS NOT FOUND";
-// The running line number as shown.
+// The running line number as shown: the digits and 24 blanks.
 std::string lineNumberText(int line);
-// "DONE. . . . 3 MBRS ADDED. Click EXIT", as the list's screen words it.
+// "DONE. . . . 3 MBRS ADDED. Click EXIT"; the page of the members' list has its own wording.
 std::string addedText(MemberList list, int added);
-std::string fixedText(int fixed);     // as the screen of the members' list words it
-std::string changedText(int changed); // and that of the data list
-std::string linesReadText(int lines);
-// Empty for none.
+std::string fixedText(int fixed);     // "3 SKCC#'s Fixed", on the page of the members' list
+std::string changedText(int changed); // "3 NUMBERS CHANGED", on that of the data list
+std::string linesReadText(int lines); // "3 LINES READ"
+// "3 LINES SKIPPED"; empty for none.
 std::string skippedText(int skipped);
 
 } // namespace vantrel

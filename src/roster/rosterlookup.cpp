@@ -6,6 +6,7 @@
 #include "roster/rosterfiles.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <utility>
 
@@ -13,7 +14,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr int recordsLookedThrough = 8000;
+constexpr std::size_t recordsLookedThrough = 8000; // of each file
 
 Member memberOf(std::string_view record) {
     return {std::string(member::call.of(record)), std::string(member::number.of(record)),
@@ -24,12 +25,23 @@ std::string_view callOf(std::string_view record) {
     return trim(member::call.of(record));
 }
 
+using Records = std::vector<std::string_view>;
+
+// The records of a file that are looked through.
+Records recordsIn(std::string_view bytes) {
+    Records records;
+    records.reserve(bytes.size() / member::width);
+    for (ItemReader reader(bytes); records.size() < recordsLookedThrough && !reader.atEnd();)
+        records.push_back(reader.next());
+    return records;
+}
+
 bool holds(const std::vector<Member>& members, std::string_view call) {
     return std::any_of(members.begin(), members.end(),
                        [&](const Member& member) { return trim(member.call) == call; });
 }
 
-// Whether one letter put in, left out or exchanged makes one of the other.
+// Whether one letter added, left out or changed makes the one call of the other.
 bool isNPlusOne(std::string_view a, std::string_view b) {
     if (a.size() > b.size())
         std::swap(a, b);
@@ -44,43 +56,24 @@ bool isNPlusOne(std::string_view a, std::string_view b) {
 
 } // namespace
 
-Roster::ReadFile& Roster::current(std::size_t file) {
-    ReadFile& read = m_read[file];
-    const std::string stamp = m_files.stamp(rosterFiles[file]);
-    if (stamp.empty() || stamp != read.stamp) {
-        read = {};
-        read.bytes = m_files.readOrEmpty(rosterFiles[file]);
-        read.records.reserve(read.bytes.size() / member::width);
-        ItemReader reader(read.bytes);
-        for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k)
-            read.records.push_back(reader.next());
-        read.stamp = stamp;
-    }
-    return read;
+std::optional<Member> Roster::findByCall(std::string_view callBoxText) const {
+    const std::string bytes = m_files.readOrEmpty(rosterFiles[rosterFileOf(callBoxText)]);
+    for (const std::string_view record : recordsIn(bytes))
+        if (callOf(record) == callBoxText)
+            return memberOf(record);
+    return std::nullopt;
 }
 
-std::optional<Member> Roster::findByCall(std::string_view callBoxText) {
-    ReadFile& file = current(rosterFileOf(callBoxText));
-    // Not while the first key of a call is being answered, which reads all five files.
-    if (file.recordOfCall.empty())
-        for (const std::string_view record : file.records)
-            file.recordOfCall.emplace(callOf(record), record);
-    const auto found = file.recordOfCall.find(callBoxText);
-    if (found == file.recordOfCall.end())
-        return std::nullopt;
-    return memberOf(found->second);
-}
-
-NumberMatch Roster::findByNumber(std::string_view callBoxText) {
+NumberMatch Roster::findByNumber(std::string_view callBoxText) const {
     const std::string typed = upper(trim(callBoxText));
     if (countCapitals(typed) > 1)
         return {NumberLookup::notANumber};
     const std::string key = numberKey(typed);
-    if (key.empty()) // every number begins with nothing, but that is nobody's
+    if (key.empty()) // every number begins with the empty one
         return {NumberLookup::nobody};
-    for (std::size_t file = 0; file < rosterFiles.size(); ++file) {
-        ItemReader reader(current(file).bytes);
-        while (!reader.atEnd()) {
+    for (const std::string_view file : rosterFiles) {
+        const std::string bytes = m_files.readOrEmpty(file);
+        for (ItemReader reader(bytes); !reader.atEnd();) {
             const std::string_view record = reader.next();
             if (midToEnd(record, member::number.first).starts_with(key))
                 return {NumberLookup::found, std::string(member::call.of(record))};
@@ -89,30 +82,33 @@ NumberMatch Roster::findByNumber(std::string_view callBoxText) {
     return {NumberLookup::nobody};
 }
 
-bool Roster::hasMembers() {
-    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
-        if (!current(file).records.empty())
-            return true;
-    return false;
+bool Roster::hasMembers() const {
+    return std::any_of(rosterFiles.begin(), rosterFiles.end(), [this](std::string_view file) {
+        return !m_files.readOrEmpty(file).empty();
+    });
 }
 
-std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) {
-    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
-        current(file); // none of them is read again while its records are looked at
-    const auto recordsWith = [this](const auto& test) {
-        std::vector<std::string_view> records;
-        for (const ReadFile& file : m_read)
-            std::copy_if(file.records.begin(), file.records.end(), std::back_inserter(records),
-                         [&](std::string_view record) { return test(callOf(record)); });
+std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) const {
+    std::array<std::string, rosterFiles.size()> bytes;
+    Records all;
+    for (std::size_t i = 0; i < rosterFiles.size(); ++i) {
+        bytes[i] = m_files.readOrEmpty(rosterFiles[i]);
+        const Records records = recordsIn(bytes[i]);
+        all.insert(all.end(), records.begin(), records.end());
+    }
+    const auto recordsWith = [&all](const auto& test) {
+        Records records;
+        std::copy_if(all.begin(), all.end(), std::back_inserter(records),
+                     [&](std::string_view record) { return test(callOf(record)); });
         return records;
     };
     std::vector<Member> members;
-    const auto take = [&](const std::vector<std::string_view>& records) {
+    const auto take = [&](const Records& records) {
         for (const std::string_view record : records)
             if (members.size() < most && !holds(members, callOf(record)))
                 members.push_back(memberOf(record));
     };
-    auto records = recordsWith([&](std::string_view call) { return call.starts_with(text); });
+    Records records = recordsWith([&](std::string_view call) { return call.starts_with(text); });
     std::stable_sort(records.begin(), records.end(), [](std::string_view a, std::string_view b) {
         return callOf(a).size() < callOf(b).size();
     });

@@ -2,14 +2,10 @@
 // Looking a member up while a contact is entered: by call, and by number.
 #pragma once
 
-#include "roster/rosterfiles.h"
-
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace vantrel {
@@ -32,45 +28,34 @@ struct NumberMatch {
     std::string call{}; // 10, when found
 };
 
-// The five roster files as they are on the disk now. What was read is used again until a file
-// changes: a call is looked up while the operator is sending.
+// Lookups in the five roster files. They read the files each time, so they follow every change; a
+// missing file is an empty one. All throw as Files::read.
 class Roster {
 public:
     explicit Roster(const Files& files) : m_files(files) {}
 
     // The first member with exactly this call, among the first 8,000 records of the file for
     // its first letter; the text is compared as it stands, so lower case or a blank behind it
-    // finds nobody. A missing file is an empty one. Throws as Files::read.
-    std::optional<Member> findByCall(std::string_view callBoxText);
+    // finds nobody.
+    std::optional<Member> findByCall(std::string_view callBoxText) const;
 
     // The first member, in the order of the files and of their lines, whose number begins
     // with the one typed: four digits also find a five-digit number that comes first. Case,
-    // blanks around the text and an award letter C or T do not matter. notANumber (two
-    // letters or more) and nobody are told apart, because the first is a call. A missing file
-    // is an empty one. Throws as Files::read.
-    NumberMatch findByNumber(std::string_view callBoxText);
+    // blanks around the text and an award letter C or T do not matter. A text of two letters or
+    // more is notANumber: it is a call.
+    NumberMatch findByNumber(std::string_view callBoxText) const;
 
     // Whether any of the files has a record.
-    bool hasMembers();
+    bool hasMembers() const;
 
-    // Members whose call begins with the text, shorter calls first; then those whose call contains
-    // it; when there are none of either, those whose call is one letter away (another, one more,
-    // one less). At most `most`, in the order of the files among equals. Looked through are the
-    // records that findByCall looks through. Throws as Files::read.
-    std::vector<Member> partialMatches(std::string_view text, std::size_t most);
+    // Check partial: members whose call begins with the text, shorter calls first; then those
+    // whose call contains it; when there are none of either, those one letter away (N+1: changed,
+    // added or left out). At most `most`, otherwise in the order of the files. Looks through the
+    // same records as findByCall.
+    std::vector<Member> partialMatches(std::string_view text, std::size_t most) const;
 
 private:
-    struct ReadFile {
-        std::string stamp; // of the file that was read; empty: read it again
-        std::string bytes;
-        std::vector<std::string_view> records; // those that are looked through
-        std::unordered_map<std::string_view, std::string_view> recordOfCall; // the first one
-    };
-
-    ReadFile& current(std::size_t file);
-
     const Files& m_files;
-    std::array<ReadFile, rosterFiles.size()> m_read;
 };
 
 } // namespace vantrel

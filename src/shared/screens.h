@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How screens reach each other: one slot per screen, and the few things two of them share.
+// How screens open and call each other. Of each screen there is at most one.
 #pragma once
 
 #include <functional>
@@ -63,8 +63,8 @@ public:
 
 enum class ListedFile { log, adif };
 
-// What the K3Y dupe box asks: log the contact as a duplicate, or drop it. When `log` throws,
-// the question stays.
+// The K3Y dupe box's two answers: log the contact as a duplicate, or drop it. When `log` throws,
+// the box stays open.
 struct DupeQuestion {
     std::function<void()> log;
     std::function<void()> drop;
@@ -73,13 +73,13 @@ struct DupeQuestion {
 class Screens {
 public:
     virtual ~Screens() = default;
-    // Shows the screen's single instance, created when there is none, and brings it to front.
+    // Creates the screen when there is none, shows it and brings it to front.
     virtual void open(Screen screen) = 0;
     // Closes `current` and opens `next` in its place: closing that one leads to where closing
     // `current` would have led.
     virtual void replace(Screen current, Screen next) = 0;
-    // A page of log maintenance on one contact of the log, 1 to its count. shown: it stands in the
-    // boxes as if searched for; otherwise only its call does.
+    // A page of log maintenance for contact 1 to log.count(). shown: the contact is in the boxes as
+    // if searched for; otherwise only its call is.
     virtual void openContact(Screen page, int contact, bool shown) = 0;
     // The lines of the log or of its ADIF file.
     virtual void openList(ListedFile file) = 0;
@@ -87,7 +87,7 @@ public:
     virtual void openRoster(std::string path, std::vector<std::string> lines) = 0;
     // The file finder; `receiver` gets the path chosen there.
     virtual void openFinder(Screen receiver) = 0;
-    // The key sheet of the page of that objectName.
+    // The key sheet; page: the objectName of the page that it is for.
     virtual void openHelp(const std::string& page) = 0;
     virtual void askAboutDupe(DupeQuestion question) = 0;
     // Hands the finder's choice to the screen that asked for it, if it is still there.

@@ -35,7 +35,7 @@ constexpr std::array<SettingLine, 14> settingLines{{
     {&OperatingSettings::dupeMode, "dupe mode"},
 }};
 
-std::string stored(std::string_view typed) {
+std::string normalised(std::string_view typed) {
     return upper(trim(withoutSeparatorsAndQuotes(typed)));
 }
 
@@ -43,14 +43,14 @@ std::string stored(std::string_view typed) {
 
 OperatingSettings storedSettings(const OperatingSettings& typed) {
     OperatingSettings settings = typed;
-    settings.myCall = padded(stored(typed.myCall), callWidth, "the call");
+    settings.myCall = padded(normalised(typed.myCall), callWidth, "the call");
     settings.myCall = trimRight(settings.myCall); // the call alone is kept unpadded
-    settings.myName = padded(stored(typed.myName), nameWidth, "the name");
-    settings.myState = padded(stored(typed.myState), stateWidth, "the state");
-    settings.myNumber = padded(stored(typed.myNumber), numberWidth, "the SKCC number");
-    settings.bonusStation = padded(stored(typed.bonusStation), callWidth, "the bonus station");
-    settings.contestText = stored(typed.contestText);
-    settings.logFileName = stored(typed.logFileName);
+    settings.myName = padded(normalised(typed.myName), nameWidth, "the name");
+    settings.myState = padded(normalised(typed.myState), stateWidth, "the state");
+    settings.myNumber = padded(normalised(typed.myNumber), numberWidth, "the SKCC number");
+    settings.bonusStation = padded(normalised(typed.bonusStation), callWidth, "the bonus station");
+    settings.contestText = normalised(typed.contestText);
+    settings.logFileName = normalised(typed.logFileName);
     return settings;
 }
 

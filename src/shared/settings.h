@@ -18,8 +18,8 @@ inline constexpr std::string_view contestK3y = "K3Y";
 // What a rig, port, baud or CI-V setting holds when there is none.
 inline constexpr std::string_view noneSetting = "None";
 
-// The 14 settings, in the order of the file's lines. Text as the start page stored it;
-// fixed-width fields come back from the file without their padding.
+// The 14 settings, in the order of the file's lines. Fixed-width values are padded by
+// storedSettings() and come back from the file without their padding.
 struct OperatingSettings {
     std::string myCall{};
     std::string contestCode{contestSks}; // "SKS", "SKSE", "WES", "K3Y"
@@ -37,7 +37,7 @@ struct OperatingSettings {
     std::string dupeMode{"NO"}; // "YES": duplicates are logged and marked
 
     bool logsDupes() const { return dupeMode == "YES"; }
-    // The event rules hold when the contest's code or its text says so.
+    // True when the contest's code or its text is the event's.
     bool isK3y() const { return contestCode == contestK3y || contestText == contestK3y; }
     bool hasRadio() const { return rig != noneSetting && comPort != noneSetting; }
 };
@@ -48,7 +48,7 @@ inline constexpr int nameWidth = 10;
 inline constexpr int stateWidth = 3;
 inline constexpr int numberWidth = 6;
 
-// The settings as START stores them from what its boxes hold: upper-cased, trimmed, padded
+// The settings as START stores them, from what its boxes hold: upper-cased, trimmed, padded
 // to their widths; commas, double quotes and control characters become blanks. Throws
 // RuntimeError 5 naming the field when a call, name, state, number or bonus station is longer than
 // its width.

@@ -23,6 +23,7 @@
 #include "output/score/scoretext.h"
 #include "platform/files.h"
 #include "rig/catlink.h"
+#include "roster/rosterfiles.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/frequency.h"
@@ -283,6 +284,9 @@ void rosterImport(std::string input) {
     };
     const std::string once = import();
     assert(import() == once && added == 0);
+    assert(!before.empty() || std::none_of(once.begin(), once.end(), [](char character) {
+        return isControl(character) && character != '\r' && character != '\n';
+    }));
 }
 
 // Any text in the call box, looked up in any roster file: a call is found where a plain look

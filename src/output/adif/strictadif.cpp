@@ -40,8 +40,8 @@ constexpr std::array<std::string_view, 64> unaccented{
     "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
     "d", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "th", "y"};
 
-// A field trimmed and in printable ASCII; `?` for what has no plain letter. Most fields are that
-// already and are not copied, so the contact must outlive it.
+// A field trimmed and in printable ASCII; `?` for what has no plain letter. Most fields need no
+// change and are not copied, so the contact must outlive this.
 class PlainText {
 public:
     explicit PlainText(std::string_view field) : m_text(trim(field)) {
@@ -180,7 +180,7 @@ void appendField(std::string& bytes, std::string_view head, std::string_view val
     bytes += ' ';
 }
 
-// What he sent that has no field of its own: a prefix for a state, a power for a number.
+// Parts of his exchange without an ADIF field: a prefix sent for a state, a power for a number.
 std::string notesOf(std::string_view prefix, std::string_view number) {
     std::string notes(prefix);
     if (!isMemberNumber(number) && !number.empty())

@@ -14,8 +14,8 @@ class Clock;
 class Files;
 struct LocalTime;
 
-// The file's bytes: a header, then a line per contact but those that no logger could take in,
-// without a call, a date or a time of day. `created`: "YYYYMMDD HHMMSS", UTC.
+// The file's bytes: a header, then a line per contact. Contacts without a call, a date or a time of
+// day are left out: no logger could import them. `created`: "YYYYMMDD HHMMSS", UTC.
 std::string strictAdifText(const Contacts& contacts, std::string_view created);
 
 // "YYYYMMDD HHMMSS" in UTC, `gmtOffset` hours after local time.
@@ -24,7 +24,7 @@ std::string creationTime(const LocalTime& local, std::string_view gmtOffset);
 struct StrictAdifFile {
     std::string path;    // to show
     std::size_t written; // contacts
-    std::size_t leftOut; // likewise
+    std::size_t leftOut; // contacts
 };
 
 // "27 WRITTEN, 1 LEFT OUT: NO CALL, DATE OR TIME"; "27 WRITTEN" when none was.

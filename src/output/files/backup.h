@@ -10,7 +10,7 @@ namespace vantrel {
 
 class Files;
 
-// What the operator is told meanwhile and afterwards.
+// Shown while the backup is made and afterwards.
 inline constexpr std::string_view backupUnderWay = "    < WORKING >";
 inline constexpr std::string_view backupDone = "DONE......CLICK EXIT";
 

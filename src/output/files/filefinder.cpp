@@ -23,7 +23,7 @@ std::string above(const std::string& folder) {
     return folder.substr(0, std::max<std::size_t>(folder.rfind(separator), 1));
 }
 
-// Whether the program can say this name: both `\` and `/` separate for it.
+// Whether the name can be handed back: it is ISO 8859-1 and has no `\`, which would separate.
 bool canBeNamed(const std::string& name, FinderNames names) {
     const auto said = latin1Text(name);
     if (!said || name.find('\\') != std::string::npos)
@@ -39,8 +39,7 @@ std::vector<std::string> shown(const std::vector<std::string>& names) {
     return texts;
 }
 
-// The folder in upper case, as names are said here, unless that names another one, two of them
-// or none.
+// The folder in upper case where that still leads to it, otherwise in its true case.
 std::string folderText(const Files& files, const std::string& folder) {
     const std::string text = inside(shownText(folder), "");
     try {

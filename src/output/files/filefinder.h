@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Finding a folder or a file: where the operator stands, what he sees there, what is handed
-// back.
+// The file finder's state: the current folder, its content, and the path that is handed back.
 #pragma once
 
 #include "platform/folders.h"
@@ -13,12 +12,12 @@ namespace vantrel {
 
 class Files;
 
-// What the names are for. The start page takes a comma, a quote and a blank at the end of a log's
-// name away (the configuration file could not hold it), and would open nothing, or another file.
+// What the names are for. As a log's name, one with a comma, a quote or a blank at its end is not
+// offered: the configuration file cannot hold it, so START would open another file or none.
 enum class FinderNames { anywhere, asLog };
 
-// Texts are ISO 8859-1, as shown; indexes count from 0 in the list of that name. What has no
-// name in that alphabet could not be handed back and is not listed.
+// Texts are ISO 8859-1, as shown; indexes count from 0 in the list of that name. Files and folders
+// whose names have other characters cannot be handed back and are not listed.
 class FileFinder {
 public:
     // Starts in the program folder. Throws as Folders::content.
@@ -32,8 +31,8 @@ public:
     std::vector<std::string> folders() const;
     std::vector<std::string> files() const;
 
-    // Each moves and forgets the file chosen. Throws as Folders::content; where the operator
-    // stood, and what he chose, then stays.
+    // Both change the current folder and clear the file chosen. Throw as Folders::content; folder
+    // and choice are then as before.
     void openDrive(std::size_t index);
     void enterFolder(std::size_t index);
     void chooseFile(std::size_t index);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Contacts by band as the contest went on: what the score screen's picture shows.
+// Contacts by band over the time of the contest, for the score screen's picture.
 #pragma once
 
 #include "log/bands.h"

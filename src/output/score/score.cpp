@@ -31,8 +31,8 @@ public:
 
     void add(std::string_view value) { m_values.insert(value); }
     bool empty() const { return m_values.empty(); }
-    // Throws RuntimeError 9 naming the list when there was a 401st different value: only here,
-    // so that one pass over the log can fill all lists and the figures before this one stand.
+    // Throws RuntimeError 9 naming the list when there was a 401st different value. Only here, and
+    // not in add(): so the figures that come before this one are still reached.
     Integer16 count() const {
         if (m_values.size() > distinctValuesCapacity)
             throw RuntimeError(ErrorCode::subscriptOutOfRange,
@@ -102,8 +102,7 @@ private:
     bool m_isSet;
 };
 
-// The figures that the others add up to. Where they go beyond 16 bits the operator is told what
-// the whole would be.
+// Bonus points and total. When they are beyond 16 bits, the error says what the total would be.
 void enterTotal(Score& score, int bonusPoints) {
     const int total = score.qsos->value() * score.multipliers->value() + bonusPoints;
     try {

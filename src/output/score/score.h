@@ -46,8 +46,8 @@ struct BandScore {
     int newMultipliers;    // worked there first
 };
 
-// The bands on which there was something, from the lowest frequency up. Over all of them they
-// make the score's QSOs and multipliers.
+// The bands with a contact, from the lowest frequency up. Added up they are the score's QSOs and
+// multipliers.
 std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSettings& settings);
 
 // The score of a log's contact lines by the rules of `settings.contestCode`. Never throws a

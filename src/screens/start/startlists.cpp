@@ -84,7 +84,7 @@ bool isListed(const ValueList& list, std::string_view value) {
 }
 
 std::string offsetByValue(std::string_view saved) {
-    constexpr std::size_t longest = 9; // what no 64 bits hold is no offset either
+    constexpr std::size_t longest = 9; // longer digits might not fit a number
     const bool isNumber =
         saved.size() <= longest && std::any_of(saved.begin(), saved.end(), isDigit);
     return isNumber ? std::to_string(numericValue(saved)) : std::string(saved);

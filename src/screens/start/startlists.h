@@ -26,7 +26,8 @@ ValueList dupeModeList(); // "NO", "YES"
 int positionOf(const ValueList& list, std::string_view value, std::string_view otherwise);
 
 bool isListed(const ValueList& list, std::string_view value);
-// A saved offset as the list has it: "05" and "+5" are "5". What holds no digit stays as it is.
+// A saved offset as it stands in the list: "5" for "05" and "+5". A text without digits is returned
+// as it is.
 std::string offsetByValue(std::string_view saved);
 
 } // namespace vantrel

@@ -38,9 +38,9 @@ struct StatusNote {
     std::string tip{};
 };
 
-// What the named log is: how many contacts it holds and when the last one was; that it would be
-// a new one, is another contest's (its header names another contest text), or is no log. Empty
-// without a name. Never throws a RuntimeError: what keeps the log from being opened is told.
+// What the named log is: "28 QSOS, LAST 2026-11-21 1441"; that there is no such file yet; that its
+// header names another contest; that it is no log, or cannot be opened and why. Empty without a
+// name. Never throws a RuntimeError.
 StatusNote logNote(const Files& files, std::string_view logFileName, std::string_view contestText);
 
 // How many members the roster holds. Never throws a RuntimeError.
@@ -51,8 +51,8 @@ StatusNote rosterNote(const Files& files);
 // hour, no whole offset is nearer.)
 StatusNote utcNote(const Clock& clock, std::string_view gmtOffset);
 
-// Of saved settings that no list of the page has: the page shows the default in their place, and
-// START saves that. Each as "RIG: FT-891".
+// "SAVED, BUT IN NO LIST: RIG: FT-891, ...": for settings that no list of the page has. The page
+// shows the default in their place, and START saves that.
 std::string unknownSettingsText(const std::vector<std::string>& settings);
 
 } // namespace vantrel

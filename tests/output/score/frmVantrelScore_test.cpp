@@ -108,6 +108,13 @@ TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
     messages.expect(overflow);
     EXPECT_EQ(opened("SKS", contacts), "1310|1|0|0|0|0|1310|32750||");
     EXPECT_EQ(messages.shown.back().informative, "THE WHOLE SCORE WOULD BE 34060");
+    std::string full;
+    for (int i = 0; i <= Log::capacity; ++i)
+        full += "QSO\r\n";
+    folder.write("SKS.CBR", full);
+    messages.expect(tooMany);
+    EXPECT_EQ(figures(), "|||||||||no picture");
+    EXPECT_EQ(scoreSum(computeScore(module.log, module.settings)), "SEE SCORE"); // the main page's
     std::filesystem::remove(folder.path() / "SKS.CBR");
     messages.expect("Run-time error 53: File not found");
     EXPECT_EQ(figures(), "|||||||||no picture");

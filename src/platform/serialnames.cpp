@@ -51,6 +51,17 @@ fs::path target(const fs::path& device) {
     return error ? fs::path() : found;
 }
 
+// Goes on from link to link until there is none, or one lies in `folder`.
+fs::path endOfLinks(fs::path path, const fs::path& folder) {
+    std::error_code error;
+    for (int link = 0; link < mostLinks && fs::is_symlink(path, error); ++link) {
+        if (path.parent_path() == folder)
+            break;
+        path = (path.parent_path() / fs::read_symlink(path, error)).lexically_normal();
+    }
+    return path;
+}
+
 std::vector<fs::path> allPorts(const SerialRoots& roots) {
     std::vector<fs::path> ports = sortedEntries(roots.byId);
     std::vector<fs::path> listed;
@@ -85,16 +96,14 @@ std::string serialDevice(const std::string& programFolder, std::string_view port
 }
 
 std::string endOfLinks(const std::string& device) {
-    fs::path path = device;
-    std::error_code error;
-    for (int link = 0; link < mostLinks && fs::is_symlink(path, error); ++link)
-        path = (path.parent_path() / fs::read_symlink(path, error)).lexically_normal();
-    return path.string();
+    return endOfLinks(device, {}).string();
 }
 
 std::string serialIdentity(const Files& files, std::string_view port, const SerialRoots& roots) {
     const fs::path device = serialDevice(files.programFolder(), port, roots);
-    return device.parent_path() == roots.byId ? device.string() : target(device).string();
+    const fs::path end = target(device);
+    const fs::path adapter = endOfLinks(device, roots.byId);
+    return end.empty() || adapter.parent_path() != roots.byId ? end.string() : adapter.string();
 }
 
 std::string serialDeviceShown(const Files& files, std::string_view port, const SerialRoots& roots) {

@@ -31,8 +31,9 @@ std::string serialDevice(const std::string& programFolder, std::string_view port
 // Where the links that begin at `device` end, whether anything is there or not.
 std::string endOfLinks(const std::string& device);
 
-// What tells the device behind `port` from another one that may take its place: an adapter's
-// lasting name where it has one, otherwise the device itself; "" when there is none.
+// What tells the device behind `port` from another one that may take its place: the first lasting
+// name of an adapter that the links behind the port lead over, otherwise the device itself; "" when
+// there is none. Throws as serialDevice.
 std::string serialIdentity(const Files& files, std::string_view port,
                            const SerialRoots& roots = {});
 

@@ -12,20 +12,13 @@ namespace vantrel {
 // Why a port cannot be used. what() says it in plain words for the operator, port named.
 class SerialPortError : public std::runtime_error {
 public:
-    enum class Reason {
-        notThere,     // no such port
-        inUse,        // another program, or a read still running, has it
-        noPermission, // the operator may not open it
-        badSettings,  // no such baud rate, or the port refuses it
-        lost,         // unplugged while in use
-    };
-
-    SerialPortError(Reason reason, const std::string& words)
-        : std::runtime_error(words), m_reason(reason) {}
-    Reason reason() const { return m_reason; }
+    explicit SerialPortError(const std::string& words, bool notThere = false)
+        : std::runtime_error(words), m_notThere(notThere) {}
+    // No such port; otherwise it is there and cannot be used.
+    bool notThere() const { return m_notThere; }
 
 private:
-    Reason m_reason;
+    bool m_notThere;
 };
 
 // The settings text "38400,n,8,2" taken apart.
@@ -48,6 +41,9 @@ enum class RtsLine {
 class SerialPort {
 public:
     virtual ~SerialPort() = default;
+    // What tells the device behind the port `name` from another one that may take its place, as
+    // text to show; "" when there is none. Opens nothing.
+    virtual std::string device(const std::string& name) const = 0;
     // Opens the port `name` ("com1" .. "com10") at `settings` ("38400,n,8,2": baud, parity
     // letter, data bits, stop bits), no flow control, drops DTR, sets RTS, and discards what was
     // waiting. Throws SerialPortError when the port cannot be opened.

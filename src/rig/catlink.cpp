@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rig/catlink.h"
 
+#include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/serialport.h"
 #include "rig/radiofamily.h"
@@ -16,6 +17,10 @@ namespace {
 // Polls shorter than this only cost time: the port wakes us when a byte comes.
 constexpr int shortestPoll = 3; // milliseconds
 
+// What the log's frequency column holds.
+constexpr std::int64_t lowestHertz = 1'000;
+constexpr std::int64_t aboveHertz = 100'000'000;
+
 class OpenPort {
 public:
     OpenPort(SerialPort& port, const std::string& name, const std::string& line, RtsLine rts)
@@ -30,57 +35,90 @@ private:
     SerialPort& m_port;
 };
 
-// What is said to the radio, and what comes of it.
-struct Talk {
+// One query and its reply.
+struct CatTransaction {
     const RadioFamily& family;
     const OperatingSettings& settings;
     SerialPort& port;
     std::string query;
-    std::string bytes{};
-    Heard heard{};
+    std::string bytes{}; // received since the query was sent
+    Reply reply{};
+
+    bool isRead() const {
+        return reply.hertz && *reply.hertz >= lowestHertz && *reply.hertz < aboveHertz;
+    }
 };
+
+// "14.020": cut, not rounded, below a kilohertz.
+std::string mhzText(std::int64_t hertz) {
+    const std::int64_t kilohertz = hertz / 1000;
+    return std::to_string(kilohertz / 1000) + "." +
+           zeroPadded(static_cast<int>(kilohertz % 1000), 3);
+}
 
 std::string lineOf(const RadioFamily& family, const OperatingSettings& settings) {
     return (family.takesBaud ? settings.baud : "") + std::string(family.settings);
 }
 
+// Adapters that are pulled and plugged in change places, and another device may be keyed by what a
+// radio only answers. Throws SerialPortError when the port is another device than at START.
+void requireSameDevice(const OperatingSettings& settings, const SerialPort& port) {
+    const std::string& before = settings.portDevice;
+    const std::string now = before.empty() ? "" : port.device(settings.comPort);
+    if (!now.empty() && now != before)
+        throw SerialPortError(upper(settings.comPort) + " WAS " + before + " AT START AND IS " +
+                                  now +
+                                  " NOW. Nothing was sent. If that is right, press START again.",
+                              true);
+}
+
 // Lets the family's quiet time run out, whatever is heard in it: to send into somebody else's
 // frame spoils both. False when the program is being closed.
-bool settle(const Talk& talk) {
-    while (talk.port.elapsed() < talk.family.settle) {
-        if (!talk.port.wait(talk.family.settle - talk.port.elapsed()))
+bool awaitQuiet(const CatTransaction& cat) {
+    while (cat.port.elapsed() < cat.family.quietMs) {
+        if (!cat.port.wait(cat.family.quietMs - cat.port.elapsed()))
             return false;
-        talk.port.readAll();
+        cat.port.readAll();
     }
     return true;
 }
 
-// Takes what the radio sends until the answer is in or the polls are used up, each lasting its
-// share of the family's time. False when the program is being closed.
-bool awaitAnswer(Talk& talk) {
-    const RadioFamily& family = talk.family;
+// Takes what the radio sends until its reply is complete or the polls are used up, each lasting
+// its share of the family's time. False when the program is being closed.
+bool awaitReply(CatTransaction& cat) {
+    const RadioFamily& family = cat.family;
     const int polls = std::min(family.polls, family.milliseconds / shortestPoll);
     const int share = family.milliseconds / polls;
-    const int deadline = talk.port.elapsed() + family.milliseconds;
-    for (int poll = 0; poll < polls && talk.port.elapsed() < deadline; ++poll) {
-        if (talk.heard.answered)
+    const int sentAt = cat.port.elapsed();
+    int heardAt = sentAt;
+    bool mayRepeat = family.queryLost != nullptr;
+    for (int poll = 0; poll < polls && !cat.reply.complete; ++poll) {
+        const int now = cat.port.elapsed();
+        if (now - sentAt >= family.milliseconds)
             break;
-        if (!talk.port.wait(share))
+        if (mayRepeat && family.queryLost(cat.query, {cat.bytes, now - sentAt, now - heardAt})) {
+            cat.port.write(cat.query);
+            mayRepeat = false;
+        }
+        if (!cat.port.wait(share))
             return false;
-        talk.bytes += talk.port.readAll();
-        talk.heard = family.hear(talk.bytes, talk.query);
+        const std::string received = cat.port.readAll();
+        if (!received.empty())
+            heardAt = cat.port.elapsed();
+        cat.bytes += received;
+        cat.reply = family.parseReply(cat.bytes, cat.query);
     }
     return true;
 }
 
-// One query and what comes back. False when the program is being closed.
-bool exchange(Talk& talk) {
-    const OpenPort open(talk.port, talk.settings.comPort, lineOf(talk.family, talk.settings),
-                        talk.family.rts);
-    if (!settle(talk))
+// False when the program is being closed.
+bool exchange(CatTransaction& cat) {
+    const OpenPort open(cat.port, cat.settings.comPort, lineOf(cat.family, cat.settings),
+                        cat.family.rts);
+    if (!awaitQuiet(cat))
         return false;
-    talk.port.write(talk.query);
-    return awaitAnswer(talk);
+    cat.port.write(cat.query);
+    return awaitReply(cat);
 }
 
 Message failure(const RadioFamily& family, std::string_view text, const std::string& reason) {
@@ -89,14 +127,16 @@ Message failure(const RadioFamily& family, std::string_view text, const std::str
 }
 
 // Why there is no frequency, and what to look after, in the operator's words.
-std::string plainReason(const Talk& talk) {
-    const RadioFamily& family = talk.family;
-    const OperatingSettings& settings = talk.settings;
-    const std::string known = family.reason != nullptr ? family.reason(settings, talk.bytes) : "";
+std::string plainReason(const CatTransaction& cat) {
+    const RadioFamily& family = cat.family;
+    const OperatingSettings& settings = cat.settings;
+    if (cat.reply.hertz && *cat.reply.hertz >= aboveHertz)
+        return mhzText(*cat.reply.hertz) + " MHz IS ABOVE WHAT THE LOG HOLDS";
+    const std::string known = family.reason != nullptr ? family.reason(settings, cat.bytes) : "";
     if (!known.empty())
         return known;
     const std::string line = lineOf(family, settings);
-    const bool silent = talk.bytes.empty() || talk.bytes == talk.query;
+    const bool silent = cat.bytes.empty() || cat.bytes == cat.query;
     return "The " + settings.rig + " on " + settings.comPort +
            (silent ? " did not answer" : " sent no frequency") + " at " +
            line.substr(0, line.find(',')) + " baud" + (family.takesBaud ? "" : ", its fixed rate") +
@@ -104,27 +144,28 @@ std::string plainReason(const Talk& talk) {
            (family.takesBaud ? "" : " BAUD RATE is not used for this rig.");
 }
 
-Message badAnswer(const Talk& talk) {
-    std::string words = plainReason(talk);
-    if (!talk.family.errorLead.empty())
+Message badReply(const CatTransaction& cat) {
+    std::string words = plainReason(cat);
+    if (!cat.family.errorLead.empty())
         words = std::string(errorText(ErrorCode::invalidCall)) + "\n" + words;
-    return failure(talk.family, talk.family.message, words);
+    return failure(cat.family, cat.family.message, words);
 }
 
 ReadResult askRadio(const RadioFamily& family, const OperatingSettings& settings,
                     SerialPort& port) {
-    Talk talk{family, settings, port, family.query(settings)};
-    for (int attempt = 0; attempt < family.attempts && !talk.heard.mhz; ++attempt) {
-        // An answer cut off by the time-out is dropped; a complete bad one stays, and so spoils
+    CatTransaction cat{family, settings, port, family.query(settings)};
+    requireSameDevice(settings, port);
+    for (int attempt = 0; attempt < family.attempts && !cat.isRead(); ++attempt) {
+        // A reply cut off by the time-out is dropped; a complete bad one stays, and so spoils
         // the attempts that are left: a radio that talks nonsense costs no more waiting.
-        if (!talk.heard.answered)
-            talk.bytes.clear();
-        if (!exchange(talk))
+        if (!cat.reply.complete)
+            cat.bytes.clear();
+        if (!exchange(cat))
             return {ReadOutcome::cancelled};
     }
-    if (!talk.heard.mhz)
-        return {ReadOutcome::failed, "", badAnswer(talk)};
-    return {ReadOutcome::read, *talk.heard.mhz};
+    if (!cat.isRead())
+        return {ReadOutcome::failed, "", badReply(cat)};
+    return {ReadOutcome::read, mhzText(*cat.reply.hertz)};
 }
 
 } // namespace
@@ -138,9 +179,8 @@ ReadResult readFrequency(const OperatingSettings& settings, SerialPort& port) {
     try {
         return askRadio(*family, settings, port);
     } catch (const SerialPortError& error) {
-        const bool refused = error.reason() == SerialPortError::Reason::notThere;
         return {ReadOutcome::failed, "",
-                failure(*family, refused ? family->refusedMessage : family->errorMessage,
+                failure(*family, error.notThere() ? family->refusedMessage : family->errorMessage,
                         error.what())};
     }
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Icom CI-V: one wire for both directions, so the query comes back first, then the reply.
-// FE FE addr E0 03 FD, FE FE E0 addr 03, the frequency in pairs of digits from 1 Hz up, FD.
+// Icom CI-V, as its reference manual tells: one wire for both directions, so the query comes back
+// first, then the reply. FE FE addr E0 03 FD, then FE FE E0 addr 03, the frequency in pairs of
+// digits from 1 Hz up, FD.
 #include "base/fixedtext.h"
 #include "rig/radiofamily.h"
-#include "rig/reply.h"
 #include "rig/rigs.h"
 #include "shared/settings.h"
 
@@ -16,12 +16,23 @@ namespace {
 constexpr char frameEnd = '\xFD';
 constexpr std::size_t addressInQuery = 2;
 constexpr std::size_t fullQuery = 6;
-// The digits worth reading: 1 Hz to 10 MHz. The oldest radios send these four pairs and the end,
-// the others a fifth pair, from 100 MHz up.
-constexpr std::size_t pairs = 4;
+// 1 Hz to 10 MHz. The oldest radios send these four pairs and the end, the others a fifth pair,
+// from 100 MHz up.
+constexpr std::size_t fewestPairs = 4;
 
 int hexDigit(char digit) {
     return isDigit(digit) ? digit - '0' : digit - 'A' + 10;
+}
+
+std::string hexText(std::string_view bytes) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text;
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        (text += ' ') += digits[value / 16];
+        text += digits[value % 16];
+    }
+    return text;
 }
 
 // An address that no listed radio has is left out: no radio answers the short frame.
@@ -48,8 +59,8 @@ std::string_view answerIn(std::string_view bytes, std::string_view query) {
     return behind(bytes, std::string("\xFE\xFE\xE0") + query[addressInQuery] + '\x03');
 }
 
-bool isFrom100MHz(std::string_view answer) {
-    return answer.size() > pairs && answer[pairs] != frameEnd && answer[pairs] != 0;
+bool isEchoed(std::string_view bytes, std::string_view query) {
+    return bytes.find(query) != std::string_view::npos;
 }
 
 std::optional<std::int64_t> hertzOf(std::string_view digits) {
@@ -65,16 +76,26 @@ std::optional<std::int64_t> hertzOf(std::string_view digits) {
 
 // The answer stands behind the echo of the query. Around both the radio tells everybody when
 // the dial is turned, and other stations of the bus speak: their frames are passed over.
-Heard hear(std::string_view bytes, std::string_view query) {
+Reply parseReply(std::string_view bytes, std::string_view query) {
     const std::string_view answer = answerIn(behind(bytes, query), query);
-    if (answer.find(frameEnd) < pairs)
+    if (answer.find(frameEnd) < fewestPairs)
         return {true};
-    if (answer.size() <= pairs)
+    if (answer.size() <= fewestPairs)
         return {};
-    const std::optional<std::int64_t> hertz = hertzOf(answer.substr(0, pairs));
-    if (!hertz || isFrom100MHz(answer))
-        return {true};
-    return {true, mhzText(*hertz)};
+    return {true,
+            hertzOf(answer.substr(0, fewestPairs + (answer[fewestPairs] == frameEnd ? 0 : 1)))};
+}
+
+// Two who send at once spoil each other, and a radio whose dial is turned sends every 60 ms or so:
+// right behind one of its frames there is room for a query, and so there is when it is quiet.
+bool queryLost(std::string_view query, const Heard& heard) {
+    constexpr int echoIsInAfter = 200; // also behind somebody's frame at 1,200 baud
+    constexpr int justNow = 5;
+    constexpr int longestPause = 100;
+    const bool spoilt = heard.sinceQuery >= echoIsInAfter && !heard.bytes.empty() &&
+                        !isEchoed(heard.bytes, query) && answerIn(heard.bytes, query).empty();
+    return spoilt && (heard.quiet >= longestPause ||
+                      (heard.quiet < justNow && heard.bytes.back() == frameEnd));
 }
 
 std::string reason(const OperatingSettings& settings, std::string_view bytes) {
@@ -85,17 +106,20 @@ std::string reason(const OperatingSettings& settings, std::string_view bytes) {
     const std::string radio = "The " + settings.rig + " on " + settings.comPort;
     const std::string at =
         " at " + settings.baud + " baud and address " + settings.civAddress.substr(4);
-    const bool echoed = bytes.find(sent) != std::string_view::npos;
-    const std::string_view answer = answerIn(bytes, sent);
-    if (!echoed && !answer.empty())
-        return radio + " answers, but its CI-V echo back is off: turn it on in the radio's menu.";
-    if (isFrom100MHz(answer))
-        return radio + " is above 100 MHz, outside the bands of this log.";
-    if (echoed && answer.empty())
-        return "Only the query came back" + at + ": the radio is off or has another address.";
+    const bool answered = !answerIn(bytes, sent).empty();
     if (bytes.empty())
         return radio + " did not answer" + at + ". Is it on, and set to these?";
-    return "";
+    if (isEchoed(bytes, sent))
+        return answered
+                   ? ""
+                   : "Only the query came back" + at + ": the radio is off or has another address.";
+    if (answered)
+        return radio + " answers, but its CI-V echo back is off: turn it on in the radio's menu.";
+    constexpr std::size_t mostShown = 24;
+    return radio + " was not heard" + at +
+           ", and the query did not come back whole. Heard:" + hexText(bytes.substr(0, mostShown)) +
+           (bytes.size() > mostShown ? " ..." : "") +
+           ". Is the dial being turned, or is the rate another one?";
 }
 
 } // namespace
@@ -104,10 +128,11 @@ const RadioFamily icomCiv{
     .settings = ",n,8,1",
     .takesBaud = true,
     .query = query,
-    .settle = 10,
+    .quietMs = 10,
     .polls = 5'000 + 80'000,
     .milliseconds = 1800, // a second and more at 1,200 baud
-    .hear = hear,
+    .parseReply = parseReply,
+    .queryLost = queryLost,
     .reason = reason,
     .message = "COM PORT NOT READ",
     .refusedMessage = " Incorrect COM Port ",

@@ -1,17 +1,30 @@
 // SPDX-License-Identifier: MIT
-// What is said of a radio family, and the families there are. How they are spoken to is the
-// same for all: catlink.cpp.
+// What is said of a radio family, the families there are, and what they have in common in taking
+// replies apart. How they are spoken to is the same for all: catlink.cpp.
 #pragma once
 
 #include "platform/serialport.h"
-#include "rig/reply.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace vantrel {
 
 struct OperatingSettings;
+
+struct Reply {
+    bool complete = false;               // nothing more is waited for
+    std::optional<std::int64_t> hertz{}; // nothing when it is not of the family's form
+};
+
+// What has come since the query went out.
+struct Heard {
+    std::string_view bytes;
+    int sinceQuery; // milliseconds
+    int quiet;      // milliseconds since the last byte
+};
 
 struct RadioFamily {
     // The port's settings: complete, or what follows the operator's baud rate.
@@ -20,14 +33,16 @@ struct RadioFamily {
     RtsLine rts = RtsLine::low;
 
     std::string (*query)(const OperatingSettings& settings);
-    int settle = 0;   // milliseconds of quiet before the query; what comes then is discarded
+    int quietMs = 0;  // before the query; what comes then is discarded
     int attempts = 1; // how often the query is sent at most
 
     // The reply's polls: so many at most, over so many milliseconds (each attempt).
     int polls;
     int milliseconds;
     // Finds the answer to `query` in all that came since.
-    Heard (*hear)(std::string_view bytes, std::string_view query);
+    Reply (*parseReply)(std::string_view bytes, std::string_view query);
+    // True when the query was lost on its way and now is the moment to send it once more.
+    bool (*queryLost)(std::string_view query, const Heard& heard) = nullptr;
     // Why there was no frequency, in plain words, where the family knows more than others.
     std::string (*reason)(const OperatingSettings& settings, std::string_view bytes) = nullptr;
 
@@ -49,5 +64,14 @@ extern const RadioFamily icomCiv;
 extern const RadioFamily yaesuAscii;
 extern const RadioFamily yaesuBinary;
 extern const RadioFamily kenwood;
+
+// The hertz of an answer that begins with `letters`, then so many digits, then `end`; nothing
+// when it has another form.
+std::optional<std::int64_t> hertzOfAnswer(std::string_view reply, std::string_view letters,
+                                          int digits, char end);
+
+// Four bytes as a number, most significant first. `first`: index of the first, which must
+// have three more behind it.
+std::int64_t bigEndian(std::string_view bytes, std::size_t first);
 
 } // namespace vantrel

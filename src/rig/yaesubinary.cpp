@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Yaesu FT-1000MP: asked for its status, it sends a block of 16 bytes without head or tail;
-// bytes 1 to 4 (from 0) are the frequency in units of 0.625 Hz.
+// Yaesu FT-1000MP, as its CAT manual tells: asked for its status, it sends a block of 16 bytes
+// without head or tail; bytes 1 to 4 (from 0) are the frequency in units of 0.625 Hz.
 #include "rig/radiofamily.h"
-#include "rig/reply.h"
 #include "shared/settings.h"
 
 namespace vantrel {
@@ -11,12 +10,12 @@ namespace {
 
 constexpr std::size_t blockSize = 16;
 
-Heard hear(std::string_view bytes, std::string_view query) {
+Reply statusReply(std::string_view bytes, std::string_view query) {
     if (bytes.starts_with(query)) // echoed: as a block it would be a frequency below 1 kHz
         bytes.remove_prefix(query.size());
     if (bytes.size() < blockSize)
         return {};
-    return {true, mhzText(bigEndian(bytes, 1) * 10 / 16)};
+    return {true, bigEndian(bytes, 1) * 10 / 16};
 }
 
 } // namespace
@@ -28,7 +27,7 @@ const RadioFamily yaesuBinary{
     .query = [](const OperatingSettings&) { return std::string("\x00\x00\x00\x02\x10", 5); },
     .polls = 16'000,
     .milliseconds = 1500,
-    .hear = hear,
+    .parseReply = statusReply,
     .message = " THE COM PORT HAS NOT BEEN READ  ",
     .vfo = "VFO IN USE",
     .rate = "4800 BAUD",

@@ -36,6 +36,9 @@ struct OperatingSettings {
     std::string bonusStation{}; // 10, ten blanks for none
     std::string dupeMode{"NO"}; // "YES": duplicates are logged and marked
 
+    // Not saved: which device the port was at START, as SerialPort::device says it.
+    std::string portDevice{};
+
     bool logsDupes() const { return dupeMode == "YES"; }
     // True when the contest's code or its text is the event's.
     bool isK3y() const { return contestCode == contestK3y || contestText == contestK3y; }

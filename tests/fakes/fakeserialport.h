@@ -25,6 +25,7 @@ struct Answer {
 
 class FakeSerialPort : public SerialPort {
 public:
+    std::string device(const std::string&) const override { return isDevice; }
     void open(const std::string& name, const std::string& settings, RtsLine) override {
         EXPECT_FALSE(m_open) << "opened twice";
         opened.push_back(name + ' ' + settings);
@@ -64,7 +65,7 @@ public:
     }
     std::string readAll() override {
         if (m_gone && m_input.empty())
-            throw SerialPortError(SerialPortError::Reason::lost, "com1 has been unplugged.");
+            throw SerialPortError("com1 has been unplugged.");
         return std::exchange(m_input, {});
     }
     int elapsed() const override { return m_now - m_openedAt; }
@@ -75,6 +76,7 @@ public:
 
     std::deque<Answer> answers; // one a query; silent when there are no more
     std::optional<SerialPortError> refusal;
+    std::string isDevice; // at each read
     std::string noise;    // arrives before the first query
     int closesOnWait = 0; // the program is closed in this wait (1 is the first); 0: never
 

@@ -22,8 +22,6 @@ namespace vantrel {
 
 namespace {
 
-using Reason = SerialPortError::Reason;
-
 enum WaitResult { woken = 1, givenUp = 2 };
 
 // The device behind the port as the system names it, links followed; throws where there is
@@ -33,19 +31,17 @@ std::string realDevice(const std::string& programFolder, const std::string& name
     try {
         device = serialDevice(programFolder, name);
     } catch (const RuntimeError& error) {
-        throw SerialPortError(Reason::notThere, error.detail());
+        throw SerialPortError(error.detail(), true);
     }
     if (device.empty())
-        throw SerialPortError(Reason::notThere, name + " is not there: no such serial port.");
+        throw SerialPortError(name + " is not there: no such serial port.", true);
     std::error_code error;
     const std::filesystem::path real = std::filesystem::canonical(device, error);
     if (error == std::errc::no_such_file_or_directory)
-        throw SerialPortError(Reason::notThere, name + " leads to " +
-                                                    shownText(endOfLinks(device)) +
-                                                    ", which is not there.");
+        throw SerialPortError(
+            name + " leads to " + shownText(endOfLinks(device)) + ", which is not there.", true);
     if (error || !std::filesystem::is_character_file(real, error))
-        throw SerialPortError(Reason::notThere,
-                              name + " (" + shownText(device) + ") is no serial port.");
+        throw SerialPortError(name + " (" + shownText(device) + ") is no serial port.", true);
     return real.string();
 }
 
@@ -63,17 +59,17 @@ SerialPortError openError(const QSerialPort& port, const std::string& device,
                           const std::string& name) {
     switch (port.error()) {
     case QSerialPort::DeviceNotFoundError:
-        return {Reason::notThere, name + " is not there."};
+        return SerialPortError(name + " is not there.", true);
     case QSerialPort::PermissionError:
         // A port one may use and cannot open is taken, and so is one whose lock is held.
         if (::access(device.c_str(), R_OK | W_OK) == 0)
-            return {Reason::inUse, name + " is in use by another program, or its lock file in "
-                                          "/var/lock cannot be made."};
-        return {Reason::noPermission, name + ": no permission. Join the group \"" +
-                                          groupOf(device) + "\" and log in again."};
+            return SerialPortError(name + " is in use by another program, or its lock file in "
+                                          "/var/lock cannot be made.");
+        return SerialPortError(name + ": no permission. Join the group \"" + groupOf(device) +
+                               "\" and log in again.");
     default:
-        return {Reason::badSettings,
-                name + " cannot be used: " + port.errorString().toLatin1().toStdString() + "."};
+        return SerialPortError(
+            name + " cannot be used: " + port.errorString().toLatin1().toStdString() + ".");
     }
 }
 
@@ -108,13 +104,20 @@ QtSerialPort::~QtSerialPort() {
     QtSerialPort::close();
 }
 
+std::string QtSerialPort::device(const std::string& name) const {
+    try {
+        return shownText(serialIdentity(m_files, name));
+    } catch (const RuntimeError&) { // two files are called so: opening it says that
+        return {};
+    }
+}
+
 void QtSerialPort::open(const std::string& name, const std::string& settings, RtsLine rts) {
     if (m_port.isOpen())
-        throw SerialPortError(Reason::inUse, name + " is being read already.");
+        throw SerialPortError(name + " is being read already.");
     const std::optional<LineSettings> line = lineSettings(settings);
     if (!line)
-        throw SerialPortError(Reason::badSettings,
-                              name + ": no baud rate is chosen on the start page.");
+        throw SerialPortError(name + ": no baud rate is chosen on the start page.");
     const std::string device = realDevice(m_files.programFolder(), name);
     m_name = name + " (" + shownText(device) + ")";
     m_port.setPortName(QString::fromStdString(device));
@@ -181,7 +184,7 @@ void QtSerialPort::checkThere() const {
     pollfd state = {m_port.handle(), 0, 0};
     ::poll(&state, 1, 0);
     if ((state.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0)
-        throw SerialPortError(Reason::lost, m_name + " has been unplugged.");
+        throw SerialPortError(m_name + " has been unplugged.");
 }
 
 int QtSerialPort::elapsed() const {

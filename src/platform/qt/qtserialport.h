@@ -20,6 +20,7 @@ public:
     explicit QtSerialPort(const Files& files);
     ~QtSerialPort() override;
 
+    std::string device(const std::string& name) const override;
     void open(const std::string& name, const std::string& settings, RtsLine rts) override;
     void close() override;
     void write(std::string_view bytes) override;

@@ -346,6 +346,7 @@ void frmVantrelStart::startClicked() {
     }
     // Not before: a main page behind this one goes on with the log that it shows.
     shared().settings = settings;
+    shared().settings.portDevice = platform().serialPort.device(settings.comPort);
     m_radio->started();
     openMainPage();
 }

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// Radios that are asked in letters and end their answers with a semicolon: Kenwood (TS-990S,
+// TS-590S, TS-480S, TS-2000), Yaesu (FTdx-5000, FTdx-3000, FT-2000, FT-950, FT-450), Elecraft K3
+// and K2. The forms are those of the makers' CAT reference books.
+#include "base/fixedtext.h"
+#include "rig/radiofamily.h"
+#include "shared/settings.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr std::string_view catError = "ERROR READING FREQUENCY FROM THE CAT PORT";
+constexpr std::string_view catErrorLead = "                       AN ERROR HAS OCCURED: ";
+
+// From the first answer that begins with `letters` and a digit and ends in a semicolon; empty
+// while it is not in. What a radio, its cable or the last read leave in front of it is passed
+// over: the query echoed, "?;", reports nobody asked for, the tail of an answer.
+std::string_view fromAnswer(std::string_view bytes, std::string_view letters) {
+    for (auto end = bytes.find(';'); end != std::string_view::npos;
+         end = bytes.find(';', end + 1)) {
+        // The last before the end: one in front of it was cut off.
+        const auto begin = bytes.rfind(letters, end);
+        if (begin != std::string_view::npos && isDigit(bytes[begin + letters.size()]))
+            return bytes.substr(begin);
+    }
+    return {};
+}
+
+Reply frequencyReply(std::string_view bytes, std::string_view letters, int digits) {
+    const std::string_view answer = fromAnswer(bytes, letters);
+    if (answer.empty())
+        return {};
+    return {true, hertzOfAnswer(answer, letters, digits, ';')};
+}
+
+// "FA00014025000;"
+Reply elevenDigitReply(std::string_view bytes, std::string_view) {
+    return frequencyReply(bytes, "FA", 11);
+}
+
+// "FA14025000;"
+Reply eightDigitReply(std::string_view bytes, std::string_view) {
+    return frequencyReply(bytes, "FA", 8);
+}
+
+// "FT0;FA00014025000;FB00007025000;MD3;": the frequency one transmits on is the one to log, VFO B
+// when the radio transmits on B. What comes behind it is not waited for.
+Reply twoVfoReply(std::string_view bytes, std::string_view) {
+    const std::string_view transmits = fromAnswer(bytes, "FT");
+    if (transmits.empty())
+        return {};
+    if (transmits.starts_with("FT0;"))
+        return frequencyReply(transmits, "FA", 11);
+    if (transmits.starts_with("FT1;"))
+        return frequencyReply(transmits, "FB", 11);
+    return {true};
+}
+
+std::string askVfoA(const OperatingSettings&) {
+    return "FA;";
+}
+
+} // namespace
+
+const RadioFamily kenwood{
+    .settings = ",n,8,1",
+    .takesBaud = true,
+    .rts = RtsLine::high, // it sends nothing while RTS is low
+    .query = askVfoA,
+    .polls = 500,
+    .milliseconds = 1500,
+    .parseReply = elevenDigitReply,
+    .message = catError,
+    .errorLead = catErrorLead,
+};
+
+const RadioFamily yaesuAscii{
+    .settings = ",n,8,2",
+    .takesBaud = true,
+    .rts = RtsLine::high, // it sends nothing while RTS is low
+    .query = askVfoA,
+    .polls = 500,
+    .milliseconds = 1500,
+    .parseReply = eightDigitReply,
+    .message = catError,
+    .errorLead = catErrorLead,
+};
+
+const RadioFamily elecraftK3{
+    .settings = "38400,n,8,2",
+    .takesBaud = false,
+    .query = askVfoA,
+    .polls = 500 + 10'000,
+    .milliseconds = 1500, // on a band change it answers up to half a second later
+    .parseReply = elevenDigitReply,
+    .message = " Com Port Not Read ",
+};
+
+// Which VFO transmits and what each is tuned to, in one go: sending and answering take 150 ms.
+const RadioFamily elecraftK2{
+    .settings = "4800,n,8,2",
+    .takesBaud = false,
+    .query = [](const OperatingSettings&) -> std::string { return "FT;FA;FB;MD;"; },
+    .polls = 110'000 + 8'000,
+    .milliseconds = 1500,
+    .parseReply = twoVfoReply,
+    .message = " Com Port Not Read ",
+    .vfo = "VFO IN USE",
+};
+
+} // namespace vantrel

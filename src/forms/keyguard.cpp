@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QKeyEvent>
 
+#include <utility>
+
 namespace vantrel {
 
 namespace {
@@ -17,16 +19,6 @@ bool isEnter(const QKeyEvent& key) {
 bool typesWithAlt(const QKeyEvent& key) {
     return key.modifiers().testFlag(Qt::AltModifier) && !key.text().isEmpty() &&
            key.text().front().isPrint();
-}
-
-bool takesKey(QObject* receiver, const QKeyEvent& key) {
-    if ((isEnter(key) && key.isAutoRepeat()) || typesWithAlt(key))
-        return true;
-    auto* button = qobject_cast<QAbstractButton*>(receiver);
-    if (button == nullptr || !isEnter(key))
-        return false;
-    button->click();
-    return true;
 }
 
 bool isListWithoutFocus(QObject* receiver) {
@@ -42,11 +34,35 @@ KeyGuard::KeyGuard() {
     qApp->installEventFilter(this);
 }
 
+// A key held down is to an X server a release and a press at one moment. On a busy machine they
+// are read one by one, and then nothing else tells them from a key pressed twice.
+bool KeyGuard::isRepeated(const QKeyEvent& enter) {
+    constexpr quint64 soonestRepeat = 100; // milliseconds; keys typed blindly are up again by then
+    const quint64 before = std::exchange(m_pressedAt, enter.timestamp());
+    m_isHeld = enter.isAutoRepeat() || (enter.timestamp() == m_releasedAt &&
+                                        (m_isHeld || m_releasedAt - before >= soonestRepeat));
+    return m_isHeld;
+}
+
+bool KeyGuard::takesKey(QObject* receiver, const QKeyEvent& key) {
+    if ((isEnter(key) && isRepeated(key)) || typesWithAlt(key))
+        return true;
+    auto* button = qobject_cast<QAbstractButton*>(receiver);
+    if (button == nullptr || !isEnter(key))
+        return false;
+    button->click();
+    return true;
+}
+
 bool KeyGuard::eventFilter(QObject* receiver, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress:
         // Only what is on its way to a control: its window sees the key first.
         return receiver->isWidgetType() && takesKey(receiver, *static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+        if (const auto& key = *static_cast<QKeyEvent*>(event); isEnter(key))
+            m_releasedAt = key.timestamp();
+        return false;
     case QEvent::Wheel:
         if (!isListWithoutFocus(receiver))
             return false;

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+class QKeyEvent;
+
 namespace vantrel {
 
 // Watches the whole program while it lives.
@@ -19,6 +21,15 @@ public:
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    bool takesKey(QObject* receiver, const QKeyEvent& key);
+    bool isRepeated(const QKeyEvent& enter);
+
+    // When Enter was pressed and released, in milliseconds of the window system's clock.
+    quint64 m_pressedAt = 0;
+    quint64 m_releasedAt = 0;
+    bool m_isHeld = false;
 };
 
 } // namespace vantrel

@@ -97,6 +97,12 @@ std::string logPdfName(std::string_view logFileName) {
     return beside(logFileName, "-LOG.PDF");
 }
 
+void requireRoomForNames(const Files& files, std::string_view logFileName) {
+    for (const std::string& longest :
+         {strictAdifFileName(logFileName), std::string(logFileName) + ".OLD99"})
+        files.requireNameFits(longest);
+}
+
 void requireOtherThanLog(const Files& files, std::string_view name, std::string_view logFileName) {
     if (files.nativePath(name) == files.nativePath(logFileName))
         throw RuntimeError(ErrorCode::pathFileAccess,

@@ -53,6 +53,10 @@ std::string strictAdifFileName(std::string_view logFileName);
 std::string scorePdfName(std::string_view logFileName);
 std::string logPdfName(std::string_view logFileName);
 
+// Throws RuntimeError 75 when the log's name leaves no room for those of the files beside it: they
+// would only fail when they are needed.
+void requireRoomForNames(const Files& files, std::string_view logFileName);
+
 // Throws RuntimeError 75 when writing `name` would replace the log itself.
 void requireOtherThanLog(const Files& files, std::string_view name, std::string_view logFileName);
 

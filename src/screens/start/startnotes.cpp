@@ -49,6 +49,7 @@ void refuseOwnFile(const Files& files, std::string_view logFileName) {
         if (upper(files.path(name)) == upper(path))
             throw RuntimeError(ErrorCode::pathFileAccess,
                                path + " is one of the program's own files and cannot be the log");
+    requireRoomForNames(files, logFileName);
 }
 
 OpenResult tryToOpen(const Files& files, std::string_view logFileName) {

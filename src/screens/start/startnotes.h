@@ -22,7 +22,8 @@ inline constexpr std::string_view newFileQuestion =
     "  START A NEW FILE - ARE YOU SURE?          THE NEW FILE WILL START WITH NO QSOS         ";
 
 // Throws RuntimeError 75 when the name stands for one of the program's own files: a log of that
-// name would replace the settings, the worked stations, the roster or the program itself.
+// name would replace the settings, the worked stations, the roster or the program itself. The same
+// when it leaves no room for the names of the files beside a log.
 void refuseOwnFile(const Files& files, std::string_view logFileName);
 
 enum class OpenResult { opened, fileNotFound, pathNotFound };

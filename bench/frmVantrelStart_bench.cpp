@@ -4,6 +4,7 @@
 #include "forms/accessible.h"
 #include "forms/visiblestyle.h"
 #include "platform/programfolder.h"
+#include "platform/systemcalls.h"
 #include "support/program.h"
 
 #include <QLineEdit>
@@ -47,7 +48,8 @@ void showWindow() {
 void showProgram(const std::string& folder, bool mainPage) {
     QApplication::setStyle(new VisibleStyle);
     describeControls();
-    const FolderLock lock(folder);
+    SystemCalls calls;
+    const FolderLock lock(calls, folder);
     bench::RunningProgram program(folder);
     program.files.recover();
     program.module.settings = loadSettings(program.files);

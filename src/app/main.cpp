@@ -34,13 +34,13 @@ std::string programFolder() {
 // Throws RuntimeError when the program cannot start: what it needs is there but broken.
 int runProgram(QtMessages& messages) {
     const std::string folder = programFolder();
-    const FolderLock lock(folder);
+    SystemCalls calls;
+    const FolderLock lock(calls, folder);
     if (!lock.held()) {
         messages.show(
             {"VANTREL IS ALREADY RUNNING IN THIS FOLDER", BoxIcon::critical, shownText(folder)});
         return 1;
     }
-    SystemCalls calls;
     Files files(folder, calls);
     files.recover();
 

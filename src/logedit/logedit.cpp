@@ -209,7 +209,7 @@ ChangeResult LogEdit::write(const Change& change) {
             m_files.keepCopy(withSuffix(change.logName, fullSuffix), change.before);
         notice = droppedNotice(change.droppedLines, m_files.path(change.logName), full);
     }
-    m_files.rewriteAll({{withSuffix(change.logName, backupSuffix), change.before},
+    m_files.rewriteAll({{withSuffix(change.logName, backupSuffix), {}, change.logName},
                         {change.logName, change.after}});
     return {true, std::move(notice)};
 }

@@ -6,10 +6,10 @@
 #include "platform/systemcalls.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 
@@ -46,6 +46,34 @@ ErrorCode codeFor(int error, const std::string& path) {
     }
 }
 
+bool belongsToAnother(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && status.st_uid != ::getuid();
+}
+
+// A file that is written in another one's place, or as its copy.
+class StandIn {
+public:
+    explicit StandIn(const std::string& like) : m_there(::stat(like.c_str(), &m_like) == 0) {}
+
+    // Nobody else reads it before it has the right group.
+    unsigned modeAtFirst() const { return m_there ? m_like.st_mode & 0700 : DiskFile::newMode; }
+    // Owner, group and permissions; not every system and file system lets it. Without the group its
+    // members get no more than everybody.
+    void settle(int file) const {
+        if (!m_there)
+            return;
+        const bool grouped = ::fchown(file, m_like.st_uid, m_like.st_gid) == 0 ||
+                             ::fchown(file, static_cast<uid_t>(-1), m_like.st_gid) == 0;
+        const unsigned mode = m_like.st_mode & 0777;
+        ::fchmod(file, grouped ? mode : (mode & 0707) | ((mode & 07) << 3));
+    }
+
+private:
+    struct stat m_like {};
+    bool m_there;
+};
+
 // Throws unless `path` is a regular file or nothing at all.
 void requireRegular(const std::string& path) {
     struct stat status {};
@@ -61,6 +89,9 @@ DiskFile::DiskFile(SystemCalls& calls, const std::string& path, int flags, std::
     if (m_file < 0)
         throwSystemError(errno, m_named);
 }
+
+DiskFile::DiskFile(SystemCalls& calls, int file, std::string named)
+    : m_calls(calls), m_file(file), m_named(std::move(named)) {}
 
 DiskFile::DiskFile(DiskFile&& other) noexcept
     : m_calls(other.m_calls),
@@ -95,8 +126,18 @@ void DiskFile::syncFolder() const {
 }
 
 void throwSystemError(int error, const std::string& path) {
-    throw RuntimeError(codeFor(error, path),
-                       shownText(path) + ": " + shownText(std::strerror(error)));
+    const bool forbidden = error == EACCES || error == EPERM;
+    const bool ownFolder = ::access(folderOf(path).c_str(), W_OK) == 0;
+    throw RuntimeError(codeFor(error, path), shownText(path) + ": " +
+                                                 shownText(std::generic_category().message(error)) +
+                                                 (forbidden && ownFolder ? chownHint(path) : ""));
+}
+
+std::string chownHint(const std::string& path) {
+    if (!belongsToAnother(path))
+        return {};
+    return ". It belongs to another user; this command makes it yours: sudo chown -R \"$USER\" '" +
+           shownText(path) + "'";
 }
 
 bool exists(const std::string& path) {
@@ -115,13 +156,16 @@ std::string targetPath(const std::string& folder, std::string_view name) {
     return target.string();
 }
 
-std::string writablePath(const std::string& folder, std::string_view name) {
+std::string replaceablePath(const std::string& folder, std::string_view name) {
     const std::string path = targetPath(folder, name);
-    std::error_code ignored;
     requireRegular(path);
-    if (fs::exists(path, ignored) && ::access(path.c_str(), W_OK) != 0)
-        throwSystemError(errno, path);
+    if (!mayWrite(path) && !belongsToAnother(path))
+        throwSystemError(EACCES, path);
     return path;
+}
+
+bool mayWrite(const std::string& path) {
+    return !exists(path) || ::access(path.c_str(), W_OK) == 0;
 }
 
 void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
@@ -147,15 +191,12 @@ void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
     bytes.resize(filled);
 }
 
-DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& target,
-                    std::string_view bytes) {
-    struct stat old {};
-    const bool replaces = ::stat(target.c_str(), &old) == 0;
-    const unsigned mode = replaces ? old.st_mode & 07777 : DiskFile::newMode;
-    DiskFile file(calls, path, O_WRONLY | O_CREAT | O_EXCL, target, mode);
+DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& like,
+                    const std::string& named, std::string_view bytes) {
+    const StandIn standIn(like);
+    DiskFile file(calls, path, O_WRONLY | O_CREAT | O_EXCL, named, standIn.modeAtFirst());
     try {
-        if (replaces)
-            ::fchmod(file, mode); // also what the umask took; not every file system can
+        standIn.settle(file);
         file.write(bytes);
     } catch (const RuntimeError&) {
         calls.remove(path);
@@ -166,7 +207,25 @@ DiskFile createFile(SystemCalls& calls, const std::string& path, const std::stri
 
 DiskFile createBeside(SystemCalls& calls, const std::string& target, std::string_view bytes) {
     calls.remove(newPath(target)); // what a crash may have left
-    return createFile(calls, newPath(target), target, bytes);
+    return createFile(calls, newPath(target), target, target, bytes);
+}
+
+void writeBeside(SystemCalls& calls, const std::string& target, std::string_view bytes) {
+    const StandIn standIn(target);
+    const int unnamed =
+        calls.open(folderOf(target), O_TMPFILE | O_WRONLY | O_CLOEXEC, standIn.modeAtFirst());
+    if (unnamed >= 0) {
+        const DiskFile file(calls, unnamed, target);
+        standIn.settle(file);
+        file.write(bytes);
+        file.sync();
+        calls.remove(newPath(target));
+        if (calls.name(file, newPath(target)) == 0)
+            return;
+        if (errno == ENOSPC || errno == EDQUOT)
+            throwSystemError(errno, target);
+    }
+    createBeside(calls, target, bytes).sync();
 }
 
 void moveInPlace(SystemCalls& calls, const std::string& target) {

@@ -22,6 +22,8 @@ public:
     // named: the file that the operator knows, for the error.
     DiskFile(SystemCalls& calls, const std::string& path, int flags, std::string named,
              unsigned mode = newMode);
+    // One that is open already.
+    DiskFile(SystemCalls& calls, int file, std::string named);
     DiskFile(DiskFile&& other) noexcept;
     ~DiskFile();
 
@@ -38,24 +40,34 @@ private:
     std::string m_named;
 };
 
+// What somebody else made in a folder of the operator's, as a start with sudo does, comes with the
+// command that makes it his.
 [[noreturn]] void throwSystemError(int error, const std::string& path);
+std::string chownHint(const std::string& path);
 
 // True for any entry of that path, a link that leads nowhere too.
 bool exists(const std::string& path);
 // The real path behind a name in `folder`: a link's target is rewritten, not the link. A link
 // that leads nowhere is refused: the log on a stick that is not plugged in is no new log.
 std::string targetPath(const std::string& folder, std::string_view name);
-// The same, checked to be a file that the operator may change: a rename would not ask.
-std::string writablePath(const std::string& folder, std::string_view name);
+// The same, checked to be no file that the operator has made read-only: a rename would not ask.
+// Somebody else's may be replaced, as the system has it, by whoever may write the folder.
+std::string replaceablePath(const std::string& folder, std::string_view name);
+// False for a file that is there and may not be written in place.
+bool mayWrite(const std::string& path);
 
 void readFile(SystemCalls& calls, const std::string& path, std::string& bytes);
 
-// Creates the file, which must not be there; nothing is left of it on failure. It stands in
-// for `target`: it has that one's permissions from the start, and errors name that one.
-DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& target,
-                    std::string_view bytes);
+// Creates the file, which must not be there; nothing is left of it on failure. It gets the owner,
+// group and permissions of `like`, where that exists, as far as the system lets it, and is at no
+// time more readable; errors name `named`.
+DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& like,
+                    const std::string& named, std::string_view bytes);
 // The same at newPath(target), whatever a crash may have left there.
 DiskFile createBeside(SystemCalls& calls, const std::string& target, std::string_view bytes);
+// The same, on the disk when this returns. Where the file system can do that, it has no name until
+// then, so that a kill leaves nothing.
+void writeBeside(SystemCalls& calls, const std::string& target, std::string_view bytes);
 // Renames the file that is written beside over its target.
 void moveInPlace(SystemCalls& calls, const std::string& target);
 DiskFile openFolderOf(SystemCalls& calls, const std::string& path);

@@ -23,14 +23,17 @@ long long sizeOf(int file) {
     return ::lseek(file, 0, SEEK_END);
 }
 
-// What ends a last line that a crash or an editor left open.
-std::string missingLineEnd(int file, long long size, const std::string& path) {
+char lastByte(int file, long long size, const std::string& path) {
     char last = '\n';
     if (size > 0 && ::pread(file, &last, 1, size - 1) != 1)
         throwSystemError(errno, path);
-    if (last == '\n')
-        return {};
-    return last == '\r' ? "\n" : "\r\n";
+    return last;
+}
+
+// The line and its end, behind what ends a last line that a crash or an editor left open.
+std::string asNewLine(char last, std::string_view line) {
+    const std::string_view missing = last == '\n' ? "" : last == '\r' ? "\n" : "\r\n";
+    return std::string(missing) + std::string(line) + "\r\n";
 }
 
 } // namespace
@@ -72,13 +75,16 @@ std::string Files::readOrEmpty(std::string_view name) const {
 }
 
 void Files::appendLine(std::string_view name, std::string_view line) {
-    const std::string path = writablePath(m_programFolder, name);
-    std::error_code ignored;
-    const bool existed = fs::exists(path, ignored);
+    const std::string path = replaceablePath(m_programFolder, name);
+    if (!mayWrite(path)) {
+        const std::string before = read(name);
+        return rewrite(name, before + asNewLine(before.empty() ? '\n' : before.back(), line));
+    }
+    const bool existed = exists(path);
     const DiskFile file(m_calls, path, O_RDWR | O_CREAT | O_APPEND, path);
     const long long size = sizeOf(file);
     try {
-        file.write(missingLineEnd(file, size, path) + std::string(line) + "\r\n");
+        file.write(asNewLine(lastByte(file, size, path), line));
         file.sync();
         if (!existed)
             openFolderOf(m_calls, path).syncFolder();
@@ -94,11 +100,10 @@ void Files::appendLine(std::string_view name, std::string_view line) {
 }
 
 void Files::rewrite(std::string_view name, std::string_view bytes) {
-    const std::string target = writablePath(m_programFolder, name);
+    const std::string target = replaceablePath(m_programFolder, name);
     const DiskFile folder = openFolderOf(m_calls, target);
-    const DiskFile file = createBeside(m_calls, target, bytes);
     try {
-        file.sync();
+        writeBeside(m_calls, target, bytes);
         moveInPlace(m_calls, target);
     } catch (const RuntimeError&) {
         m_calls.remove(newPath(target));
@@ -113,7 +118,8 @@ std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
         taken = std::string(name) + std::to_string(number);
     const std::string path = nativePath(taken);
     const DiskFile folder = openFolderOf(m_calls, path);
-    const DiskFile file = createFile(m_calls, path, path, bytes);
+    const std::string original = nativePath(name.substr(0, name.rfind('.')));
+    const DiskFile file = createFile(m_calls, path, original, path, bytes);
     try {
         file.sync();
         folder.syncFolder();
@@ -122,6 +128,17 @@ std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
         throw;
     }
     return shownText(path);
+}
+
+void Files::requireNameFits(std::string_view name) const {
+    const std::string path = nativePath(name);
+    const std::size_t size = fs::path(newPath(path)).filename().string().size();
+    const long longest = ::pathconf(folderOf(path).c_str(), _PC_NAME_MAX);
+    if (longest > 0 && size > static_cast<std::size_t>(longest))
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           shownText(path) + ": the name is too long by " +
+                               std::to_string(size - static_cast<std::size_t>(longest)) +
+                               " characters");
 }
 
 } // namespace vantrel

@@ -41,11 +41,12 @@ public:
     // When the file was written last, by UTC; nothing when there is none.
     std::optional<std::chrono::sys_seconds> writtenAt(std::string_view name) const;
     // Appends `line` and CR LF, on the disk when this returns; creates a missing file. A
-    // last line without a line end is ended first. On failure the file is as it was.
+    // last line without a line end is ended first. On failure the file is as it was. Somebody
+    // else's file that may not be written is replaced, where its folder may be.
     void appendLine(std::string_view name, std::string_view line);
     // Replaces the whole file: the old or the new one survives a crash, never a mixture. On
     // failure the file is as it was; only when its folder cannot be synced at the very end it
-    // is the new one.
+    // is the new one. It keeps owner, group and permissions as far as the system lets it.
     void rewrite(std::string_view name, std::string_view bytes);
     // Replaces several files of the program folder, all or none, even when the machine stops
     // in the middle: see recover(). between: called again and again, so that a window can live
@@ -55,8 +56,13 @@ public:
         m_replacement.replaceAll(contents, between);
     }
     // Writes the bytes to a file that does not exist yet: `name`, or else `name` followed by
-    // 2, 3, ... Never replaces anything. Returns the path taken, as text to show.
+    // 2, 3, ... Never replaces anything. `name` is that of the file which the bytes are a copy of,
+    // and a suffix (".OLD"); the copy is no more readable. Returns the path taken, as text to show.
     std::string keepCopy(std::string_view name, std::string_view bytes);
+
+    // Throws RuntimeError 75 when the last part of the name is too long for a file that is written
+    // whole: its content is called differently at first.
+    void requireNameFits(std::string_view name) const;
 
     // Finishes or undoes what a crash left of a rewrite; called once at start, before
     // anything is read. Throws when that fails too; the next call tries again.

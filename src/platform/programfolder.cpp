@@ -4,12 +4,12 @@
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
+#include "platform/systemcalls.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
-#include <sys/file.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace vantrel {
@@ -19,6 +19,10 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* lockName = ".vantrel-lock";
+
+std::string lockPath(const std::string& folder) {
+    return (fs::path(folder) / lockName).string();
+}
 
 bool holdsData(const std::string& folder) {
     std::error_code error;
@@ -46,7 +50,7 @@ bool keepsFilesBeside(const std::string& executableFolder) {
         return false;
     if (::access(executableFolder.c_str(), W_OK) == 0)
         return true;
-    const std::string reason = std::strerror(errno);
+    const std::string reason = std::generic_category().message(errno);
     if (holdsData(executableFolder))
         throw RuntimeError(ErrorCode::permissionDenied, "the program's folder cannot be written: " +
                                                             shownText(executableFolder) + ": " +
@@ -54,31 +58,60 @@ bool keepsFilesBeside(const std::string& executableFolder) {
     return false;
 }
 
+// Where bytes are no UTF-8, what comes in their place leads to another folder or to none.
+void requireKnownName(const std::string& folder) {
+    constexpr std::string_view replacement = "\xEF\xBF\xBD";
+    if (folder.find(replacement) != std::string::npos)
+        throw RuntimeError(ErrorCode::pathFileAccess,
+                           "the folder's name is not UTF-8: rename " + shownText(folder));
+}
+
+DiskFile openedLock(SystemCalls& calls, const std::string& path) {
+    try {
+        return {calls, path, O_RDWR | O_CREAT, path};
+    } catch (const RuntimeError&) {
+        if (!exists(path))
+            throw;
+        return {calls, path, O_RDONLY, path}; // another user's
+    }
+}
+
+bool isLocked(SystemCalls& calls, const DiskFile& file, const std::string& path) {
+    if (calls.lock(file) == 0)
+        return true;
+    switch (errno) {
+    case EWOULDBLOCK:
+        return false;
+    case ENOLCK:
+    case EOPNOTSUPP:
+    case ENOSYS:
+        return true; // nobody can lock anything there
+    default:
+        throwSystemError(errno, path);
+    }
+}
+
 } // namespace
 
 std::string chooseProgramFolder(const std::string& executableFolder,
                                 const std::string& userFolder) {
+    requireKnownName(executableFolder);
     if (keepsFilesBeside(executableFolder))
         return executableFolder;
+    requireKnownName(userFolder);
     std::error_code error;
     fs::create_directories(userFolder, error);
     if (error)
         throw RuntimeError(ErrorCode::pathFileAccess,
                            shownText(userFolder) + ": " + error.message());
+    if (!mayWrite(userFolder))
+        throw RuntimeError(ErrorCode::permissionDenied,
+                           shownText(userFolder) + " cannot be written" + chownHint(userFolder));
     return userFolder;
 }
 
-FolderLock::FolderLock(const std::string& folder) {
-    const std::string path = (fs::path(folder) / lockName).string();
-    m_file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (m_file < 0)
-        throw RuntimeError(ErrorCode::pathFileAccess,
-                           shownText(path) + ": " + std::strerror(errno));
-    m_held = ::flock(m_file, LOCK_EX | LOCK_NB) == 0;
-}
-
-FolderLock::~FolderLock() {
-    ::close(m_file);
-}
+FolderLock::FolderLock(SystemCalls& calls, const std::string& folder)
+    : m_file(openedLock(calls, lockPath(folder))),
+      m_held(isLocked(calls, m_file, lockPath(folder))) {}
 
 } // namespace vantrel

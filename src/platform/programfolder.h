@@ -3,6 +3,8 @@
 // out of it.
 #pragma once
 
+#include "platform/diskfile.h"
+
 #include <string>
 #include <string_view>
 
@@ -18,23 +20,22 @@ inline constexpr const char* desktopEntry = "org.vantrel.Vantrel";
 // configuration and no log, or when the program is installed for all users, `userFolder`
 // (created when missing). Both are real paths. Throws RuntimeError 70 when a folder with data
 // cannot be written: that is no reason to start an empty world elsewhere; 75 when `userFolder`
-// cannot be created.
+// cannot be created, or a name is not UTF-8 and so not known to the last byte.
 std::string chooseProgramFolder(const std::string& executableFolder, const std::string& userFolder);
 
 // Holds the folder's lock while it lives; the system drops it when the program is killed.
+// A file system without locks holds nobody up.
 class FolderLock {
 public:
-    // Throws RuntimeError 75 when the lock file cannot be opened.
-    explicit FolderLock(const std::string& folder);
-    ~FolderLock();
-    FolderLock(const FolderLock&) = delete;
-    FolderLock& operator=(const FolderLock&) = delete;
+    // Throws RuntimeError 70 or 75 when the lock file cannot be opened or locked, for whatever
+    // other reason than that another program holds it.
+    FolderLock(SystemCalls& calls, const std::string& folder);
 
     // False when another program holds it.
     bool held() const { return m_held; }
 
 private:
-    int m_file;
+    DiskFile m_file;
     bool m_held;
 };
 

@@ -86,9 +86,10 @@ void Replacement::replaceAll(const std::vector<FileContent>& contents,
 Replacement::ReplacedFiles Replacement::filesOf(const std::vector<FileContent>& contents) const {
     ReplacedFiles files;
     for (const FileContent& content : contents) {
-        const std::string target = writablePath(m_programFolder, content.name);
-        std::error_code ignored;
-        files.push_back({content.name, target, fs::exists(target, ignored)});
+        const bool isCopy = !content.copyOf.empty();
+        const std::string target = isCopy ? resolveName(m_programFolder, content.name)
+                                          : replaceablePath(m_programFolder, content.name);
+        files.push_back({content.name, target, exists(target), isCopy});
     }
     return files;
 }
@@ -100,13 +101,12 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
     const DiskFile folder = openFolderOf(m_calls, journal);
     std::vector<DiskFile> written;
     for (std::size_t i = 0; i < contents.size(); ++i) {
-        if (contents[i].keeps.empty())
-            written.push_back(createBeside(m_calls, files[i].target, contents[i].bytes));
+        if (files[i].isCopy)
+            linkOrCopy(targetPath(m_programFolder, contents[i].copyOf), newPath(files[i].target));
         else
-            giveSecondName(targetPath(m_programFolder, contents[i].keeps),
-                           newPath(files[i].target));
+            written.push_back(createBeside(m_calls, files[i].target, contents[i].bytes));
         if (files[i].existed)
-            giveSecondName(files[i].target, oldPath(files[i].target));
+            linkOrCopy(files[i].target, oldPath(files[i].target));
         if (between)
             between();
     }
@@ -124,7 +124,7 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
 }
 
 // On file systems without links the second name is that of a copy.
-void Replacement::giveSecondName(const std::string& file, const std::string& second) {
+void Replacement::linkOrCopy(const std::string& file, const std::string& second) {
     m_calls.remove(second);
     if (m_calls.link(file, second) == 0)
         return;
@@ -132,14 +132,17 @@ void Replacement::giveSecondName(const std::string& file, const std::string& sec
         throwSystemError(errno, file);
     std::string bytes;
     readFile(m_calls, file, bytes);
-    createFile(m_calls, second, file, bytes).sync();
+    createFile(m_calls, second, file, file, bytes).sync();
 }
 
-// A line each: "+" or "-" for a file that existed or not, and its name.
+// A line each: "+" or "-" for a file that existed or not, "*" or "/" for such a copy; its name.
+constexpr std::string_view existedMarks = "+*";
+constexpr std::string_view newMarks = "-/";
+
 std::string Replacement::journalText(const ReplacedFiles& files) {
     std::string bytes;
     for (const ReplacedFile& file : files)
-        bytes += (file.existed ? '+' : '-') + file.name + '\n';
+        bytes += (file.existed ? existedMarks : newMarks)[file.isCopy ? 1 : 0] + file.name + '\n';
     return bytes;
 }
 
@@ -150,7 +153,12 @@ Replacement::ReplacedFiles Replacement::readJournal(std::string_view journal) co
     for (LineReader lines(bytes); !lines.atEnd();) {
         const std::string_view line = lines.next();
         const std::string name(midToEnd(line, 2));
-        files.push_back({name, targetPath(m_programFolder, name), left(line, 1) == "+"});
+        const bool isCopy = line.starts_with(existedMarks[1]) || line.starts_with(newMarks[1]);
+        const std::string target =
+            isCopy ? resolveName(m_programFolder, name) : targetPath(m_programFolder, name);
+        files.push_back({name, target,
+                         line.starts_with(existedMarks[0]) || line.starts_with(existedMarks[1]),
+                         isCopy});
     }
     return files;
 }
@@ -180,7 +188,7 @@ void Replacement::finish(const ReplacedFiles& files) {
 }
 
 void Replacement::undo(const ReplacedFiles& files) {
-    for (const auto& [name, target, existed] : files) {
+    for (const auto& [name, target, existed, isCopy] : files) {
         // An old file that is kept no longer has been put back already.
         const std::string kept = oldPath(target);
         const bool undone = existed ? !exists(kept) || m_calls.rename(kept, target) == 0

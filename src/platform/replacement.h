@@ -15,7 +15,9 @@ class SystemCalls;
 struct FileContent {
     std::string name;
     std::string bytes;
-    std::string keeps{}; // instead of the bytes: the file of this name as it is before
+    // Instead of the bytes: the file of this name as it is before, with that one's owner and
+    // permissions. Whatever stands where such a copy goes is replaced, also a link.
+    std::string copyOf{};
 };
 
 // 1. Every new file is written beside its target, every old one kept by a second name; only
@@ -42,13 +44,14 @@ private:
         std::string name;
         std::string target; // its real path
         bool existed;       // before: an undo puts the old file back, or removes the new one
+        bool isCopy;
     };
     using ReplacedFiles = std::vector<ReplacedFile>;
 
     ReplacedFiles filesOf(const std::vector<FileContent>& contents) const;
     void prepare(const ReplacedFiles& files, const std::vector<FileContent>& contents,
                  const std::function<void()>& between);
-    void giveSecondName(const std::string& file, const std::string& second);
+    void linkOrCopy(const std::string& file, const std::string& second);
     static std::string journalText(const ReplacedFiles& files);
     ReplacedFiles readJournal(std::string_view journal) const;
     void removeJournal(std::string_view journal);

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,6 +43,15 @@ int SystemCalls::link(const std::string& from, const std::string& to) {
 
 int SystemCalls::remove(const std::string& path) {
     return ::unlink(path.c_str());
+}
+
+int SystemCalls::name(int file, const std::string& path) {
+    const std::string opened = "/proc/self/fd/" + std::to_string(file);
+    return ::linkat(AT_FDCWD, opened.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW);
+}
+
+int SystemCalls::lock(int file) {
+    return ::flock(file, LOCK_EX | LOCK_NB);
 }
 
 } // namespace vantrel

@@ -20,6 +20,10 @@ public:
     virtual int rename(const std::string& from, const std::string& to);
     virtual int link(const std::string& from, const std::string& to);
     virtual int remove(const std::string& path);
+    // Gives a file that was opened without a name its first one.
+    virtual int name(int file, const std::string& path);
+    // For this program alone, without waiting for it.
+    virtual int lock(int file);
 };
 
 } // namespace vantrel

@@ -12,7 +12,7 @@
 
 namespace vantrel::test {
 
-enum class Call { open, write, read, sync, truncate, rename, link, remove };
+enum class Call { open, write, read, sync, truncate, rename, link, remove, lock };
 
 // Stands for the machine stopping: thrown instead of doing the call, caught by the test only.
 struct Crash {};
@@ -55,6 +55,10 @@ public:
     int link(const std::string& from, const std::string& to) override {
         return changeFails(Call::link) ? -1 : SystemCalls::link(from, to);
     }
+    int name(int file, const std::string& path) override {
+        return changeFails(Call::link) ? -1 : SystemCalls::name(file, path);
+    }
+    int lock(int file) override { return callFails(Call::lock) ? -1 : SystemCalls::lock(file); }
     int remove(const std::string& path) override {
         return changeFails(Call::remove) ? -1 : SystemCalls::remove(path);
     }

@@ -254,7 +254,45 @@ public:
         return stopped;
     }
 
+    // The operator is nobody, and so is the folder's owner; the files are `owner`'s. What he writes
+    // is his, with the permissions that were there, and his copies are no more readable.
+    void worksOnFilesOf(uid_t owner, fs::perms permissions) const {
+        const TempFolder folder;
+        fill(folder);
+        const Snapshot before = snapshotOf(folder);
+        folder.write(logName + ".BAK", "read-only");
+        folder.write("PRECIOUS", "not ours");
+        fs::rename(folder.path() / logName, folder.path() / "REAL");
+        fs::create_symlink("REAL", folder.path() / logName);
+        fs::create_symlink("PRECIOUS", folder.path() / "SKSDB1.TXT.BAK");
+        SystemCalls calls;
+        FolderLock(calls, folder.string());
+        for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
+            if (!entry.is_directory())
+                fs::permissions(entry, permissions);
+            EXPECT_EQ(::chown(entry.path().c_str(), entry.is_directory() ? nobody : owner, 0), 0);
+        }
+        EXPECT_EQ(::chown(folder.string().c_str(), nobody, 0), 0);
+        fs::permissions(folder.path() / (logName + ".BAK"), fs::perms(0444));
+        const std::shared_ptr<void> afterwards(nullptr,
+                                               [](void*) { EXPECT_EQ(::setresuid(0, 0, 0), 0); });
+        EXPECT_EQ(::setresuid(nobody, nobody, 0), 0);
+        EXPECT_TRUE(FolderLock(calls, folder.string()).held());
+        World world(folder, calls, m_operation.name == "undo");
+        EXPECT_EQ(attempt(world, ErrorCode::permissionDenied), "");
+        for (const auto& [name, bytes] : m_after) {
+            EXPECT_EQ(folder.read(name), bytes) << name;
+            const std::string original = name.substr(0, name.find('.', name.find('.') + 1));
+            const fs::perms kept = fs::status(folder.path() / name).permissions();
+            EXPECT_TRUE(kept == permissions || before.count(original) == 0) << name;
+        }
+        EXPECT_EQ(folder.read("PRECIOUS"), "not ours");
+        EXPECT_TRUE(fs::is_symlink(folder.path() / logName));
+    }
+
 private:
+    static constexpr uid_t nobody = 65534;
+
     // What it tells of a failure.
     std::string attempt(World& world, ErrorCode expected) const {
         try {
@@ -299,7 +337,17 @@ TEST(Operation, WithAnyCallFailing) {
         failEachCall(trial, Call::link, EDQUOT, ErrorCode::diskFull);
         EXPECT_EQ(failEachCall(trial, Call::link, EPERM, ErrorCode::permissionDenied), 0); // copied
     }
-    EXPECT_EQ(syncs, " 2 2 8 8 8 6 2 11 10 2 2 4") << "how often each waits for the disk";
+    EXPECT_EQ(syncs, " 2 2 7 7 7 6 2 11 10 2 2 4") << "how often each waits for the disk";
+}
+
+TEST(Operation, WithFilesOfAnotherOwnerAndWithPrivateOnes) {
+    if (::getuid() != 0)
+        GTEST_SKIP() << "nobody else can give files to others";
+    for (const Operation& operation : operations) {
+        const Trial trial(operation);
+        trial.worksOnFilesOf(0, fs::perms(0644)); // as a start with sudo leaves them
+        trial.worksOnFilesOf(65534, fs::perms(0600));
+    }
 }
 
 TEST(Operation, StoppedBeforeAnyChangeAndBeforeOneOfTheNextStart) {
@@ -317,8 +365,8 @@ TEST(Operation, StoppedBeforeAnyChangeAndBeforeOneOfTheNextStart) {
 // One life of the program: it logs a contact and imports a list by turns, and tells a byte when it
 // has started and one for each turn as soon as the operator would take it for done.
 [[noreturn]] void live(const TempFolder& folder, int told) {
-    const FolderLock lock(folder.string());
     SystemCalls calls;
+    const FolderLock lock(calls, folder.string());
     World world(folder, calls);
     for (; lock.held() && ::write(told, "+", 1) == 1; ++world.number) {
         world.logContact();
@@ -339,13 +387,14 @@ int liveAndDie(const TempFolder& folder, unsigned long microseconds) {
     ::close(ends[1]);
     char byte = 0;
     EXPECT_EQ(::read(ends[0], &byte, 1), 1) << "it does not start";
-    EXPECT_FALSE(FolderLock(folder.string()).held()) << "while the program runs";
+    SystemCalls calls;
+    EXPECT_FALSE(FolderLock(calls, folder.string()).held()) << "while the program runs";
     ::usleep(static_cast<unsigned>(microseconds));
     ::kill(process, SIGKILL);
     int status = 0;
     ::waitpid(process, &status, 0);
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "it ended by itself";
-    EXPECT_TRUE(FolderLock(folder.string()).held()) << "after the program was killed";
+    EXPECT_TRUE(FolderLock(calls, folder.string()).held()) << "after the program was killed";
     int done = 0;
     while (::read(ends[0], &byte, 1) == 1)
         ++done;

@@ -5,7 +5,6 @@
 #include "support/errors.h"
 #include "support/tempfolder.h"
 
-#include <functional>
 #include <map>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -89,28 +88,6 @@ TEST_F(FilesTest, AppendEndsAnOpenLastLineFirstAndReadGivesEveryByteOfASlowDiskT
     EXPECT_EQ(files.readOrEmpty("GONE.CBR"), "");
     calls.failAt(Call::read, 1, EIO);
     EXPECT_RUNTIME_ERROR(files.readOrEmpty("LOG.CBR"), ErrorCode::pathFileAccess, HasSubstr("LOG"));
-}
-
-TEST_F(FilesTest, LinkedLogIsWrittenAtItsTargetWhosePermissionsAreKept) {
-    const TempFolder elsewhere;
-    elsewhere.write("Real.cbr", "A\r\n");
-    fs::permissions(elsewhere.path() / "Real.cbr", fs::perms(0777));
-    fs::create_symlink(elsewhere.path() / "Real.cbr", folder.path() / "Log.cbr");
-    const std::pair<std::function<void()>, const char*> steps[] = {
-        {[this] { files.appendLine("LOG.CBR", "B"); }, "A\r\nB\r\n"},
-        {[this] { files.rewrite("LOG.CBR", "C\r\n"); }, "C\r\n"},
-        {[this] {
-             files.rewriteAll({{"LOG.CBR", "D\r\n"}});
-         },
-         "D\r\n"}};
-    for (const auto& [step, bytes] : steps) {
-        step();
-        EXPECT_EQ(elsewhere.read("Real.cbr"), bytes);
-        const fs::file_status status = fs::status(elsewhere.path() / "Real.cbr");
-        EXPECT_EQ(status.permissions(), fs::perms(0777)) << bytes;
-        EXPECT_EQ(elsewhere.names().size() + folder.names().size(), 2U) << bytes;
-    }
-    EXPECT_TRUE(fs::is_symlink(folder.path() / "Log.cbr"));
 }
 
 // The window lives on while the disk is waited for, and a contact can be logged.

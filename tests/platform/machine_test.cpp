@@ -2,12 +2,12 @@
 // What the program finds on a machine: files by names without case, folders and drives, the
 // folder of its own files, the device behind a port.
 #include "base/fixedtext.h"
+#include "fakes/failingcalls.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/programfolder.h"
 #include "platform/serialnames.h"
-#include "platform/systemcalls.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
 
@@ -133,7 +133,28 @@ TEST_F(ProgramFolder, InstalledForAllGivesEachUserHisOwnWhateverHeMayWrite) {
     fs::remove(at("home"));
     make({"bin/Vantrel.CFG"});
     EXPECT_EQ(chooseProgramFolder(at("bin"), own), own);
+    if (::getuid() == 0) // who made it for himself alone
+        EXPECT_RUNTIME_ERROR(chosenWhenReadOnly(), ErrorCode::permissionDenied,
+                             HasSubstr("sudo chown -R \"$USER\" '" + own + "'"));
+    fs::permissions(own, fs::perms::all);
     EXPECT_EQ(chosenWhenReadOnly(), own);
+    EXPECT_RUNTIME_ERROR(chooseProgramFolder(at("carried/\xEF\xBF\xBDm"), own),
+                         ErrorCode::pathFileAccess, HasSubstr("not UTF-8"));
+}
+
+TEST_F(ProgramFolder, IsLockedForOneProgramWhereFilesCanBeLocked) {
+    FailingCalls calls;
+    for (const int none : {ENOLCK, EOPNOTSUPP, ENOSYS}) {
+        calls.failAt(Call::lock, 1, none);
+        EXPECT_TRUE(FolderLock(calls, folder.string()).held());
+    }
+    calls.failAt(Call::lock, 1, EIO);
+    EXPECT_RUNTIME_ERROR(FolderLock(calls, folder.string()), ErrorCode::pathFileAccess,
+                         HasSubstr(at(".vantrel-lock")));
+    calls.failAt(Call::open, 1, EACCES); // another user's lock file
+    const FolderLock lock(calls, folder.string());
+    EXPECT_TRUE(lock.held());
+    EXPECT_FALSE(FolderLock(calls, folder.string()).held());
 }
 
 // --- Serial ports ------------------------------------------------------------------------
@@ -165,8 +186,10 @@ TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
     EXPECT_EQ(serialIdentity(files, "com3", roots), at("dev/ttyS1"));
     EXPECT_EQ(serialIdentity(files, "com4", roots), "");
     // A link in the program's folder goes first.
-    make({"program/COM1->../dev/ttyS1", "program/com2->../dev/gone"});
+    make({"program/COM1->../dev/ttyS1", "program/com2->../dev/gone", "program/com3->my",
+          "program/my->../by-id/usb-Z"});
     EXPECT_EQ(shown("com1"), "ttyS1");
+    EXPECT_EQ(serialIdentity(files, "com3", roots), at("by-id/usb-Z"));
     EXPECT_EQ(shown("com2"), "no such port");
     make({"program/Com1"});
     EXPECT_RUNTIME_ERROR(shown("com1"), ErrorCode::pathFileAccess, HasSubstr("COM1"));

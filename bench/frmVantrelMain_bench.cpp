@@ -9,8 +9,6 @@
 #include <QPushButton>
 
 #include <algorithm>
-#include <chrono>
-#include <thread>
 
 namespace {
 
@@ -32,7 +30,6 @@ void writeRoster(const bench::BenchFolder& folder) {
 void typing() {
     bench::Program program;
     writeRoster(program.folder);
-    std::this_thread::sleep_for(std::chrono::milliseconds(2200)); // the roster is no fresh one
     program.screens.open(Screen::main);
     QWidget* page = bench::windowNamed("frmVantrelMain");
     auto* box = page->findChild<QLineEdit*>(QStringLiteral("Text2"));

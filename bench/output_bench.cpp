@@ -48,7 +48,7 @@ void scoring(const Files& files, const Log& log, OperatingSettings& settings) {
     static std::string bytes;
     static Contacts contacts;
     const auto read = [&files, &log] {
-        files.readInto(log.name(), bytes);
+        bytes = files.read(log.name());
         contacts = contactsIn(bytes);
     };
     for (const std::string_view contest : {contestSks, contestSkse}) {

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <utility>
 
 namespace vantrel {
@@ -89,37 +88,36 @@ bool Roster::hasMembers() const {
 }
 
 std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) const {
-    std::array<std::string, rosterFiles.size()> bytes;
-    Records all;
+    std::array<std::string, rosterFiles.size()> bytes; // the records point into them
+    Records beginning;
+    Records containing;
+    Records oneLetterAway;
     for (std::size_t i = 0; i < rosterFiles.size(); ++i) {
         bytes[i] = m_files.readOrEmpty(rosterFiles[i]);
-        const Records records = recordsIn(bytes[i]);
-        all.insert(all.end(), records.begin(), records.end());
+        for (const std::string_view record : recordsIn(bytes[i])) {
+            const std::string_view call = callOf(record);
+            const std::size_t place = call.find(text);
+            if (place == 0)
+                beginning.push_back(record);
+            else if (place != std::string_view::npos)
+                containing.push_back(record);
+            else if (isNPlusOne(text, call))
+                oneLetterAway.push_back(record);
+        }
     }
-    const auto recordsWith = [&all](const auto& test) {
-        Records records;
-        std::copy_if(all.begin(), all.end(), std::back_inserter(records),
-                     [&](std::string_view record) { return test(callOf(record)); });
-        return records;
-    };
+    std::stable_sort(
+        beginning.begin(), beginning.end(),
+        [](std::string_view a, std::string_view b) { return callOf(a).size() < callOf(b).size(); });
     std::vector<Member> members;
     const auto take = [&](const Records& records) {
         for (const std::string_view record : records)
             if (members.size() < most && !holds(members, callOf(record)))
                 members.push_back(memberOf(record));
     };
-    Records records = recordsWith([&](std::string_view call) { return call.starts_with(text); });
-    std::stable_sort(records.begin(), records.end(), [](std::string_view a, std::string_view b) {
-        return callOf(a).size() < callOf(b).size();
-    });
-    take(records);
-    if (members.size() < most)
-        take(recordsWith([&](std::string_view call) {
-            const std::size_t place = call.find(text);
-            return place != 0 && place != std::string_view::npos;
-        }));
+    take(beginning);
+    take(containing);
     if (members.empty())
-        take(recordsWith([&](std::string_view call) { return isNPlusOne(text, call); }));
+        take(oneLetterAway);
     return members;
 }
 

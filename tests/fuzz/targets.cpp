@@ -178,7 +178,7 @@ void adif(std::string input) {
 void contact(std::string input) {
     OperatingSettings settings;
     settings.contestCode = choice(input, 2) == 0 ? contestSks : contestK3y;
-    settings.gmtOffset = offsetList()[choice(input, offsetList().size())].stored;
+    settings.gmtOffset = offsetList()[choice(input, offsetList().size())].savedAs;
     const std::size_t tag = choice(input, k3yStations.size() + 1);
     const std::string marker(tag == k3yStations.size() ? dupeMarker : k3yStations[tag].marker);
     FakeClock clock;

@@ -41,7 +41,7 @@ constexpr std::array<Contest, 4> contests{{
 
 void fill(QComboBox* combo, const ValueList& list) {
     for (const ListEntry& entry : list)
-        combo->addItem(toQt(entry.shown), toQt(entry.stored));
+        combo->addItem(toQt(entry.shown), toQt(entry.savedAs));
 }
 
 void tell(QLabel* label, const StatusNote& note) {

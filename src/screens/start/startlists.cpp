@@ -68,19 +68,15 @@ ValueList dupeModeList() {
 }
 
 int positionOf(const ValueList& list, std::string_view value, std::string_view otherwise) {
-    const auto storedAs = [&](std::string_view stored) {
-        return std::find_if(list.begin(), list.end(),
-                            [&](const ListEntry& entry) { return entry.stored == stored; });
-    };
-    auto found = storedAs(value);
-    if (found == list.end())
-        found = storedAs(otherwise);
+    const std::string_view listed = isListed(list, value) ? value : otherwise;
+    const auto found = std::find_if(
+        list.begin(), list.end(), [&](const ListEntry& entry) { return entry.savedAs == listed; });
     return static_cast<int>(found - list.begin());
 }
 
 bool isListed(const ValueList& list, std::string_view value) {
     return std::any_of(list.begin(), list.end(),
-                       [&](const ListEntry& entry) { return entry.stored == value; });
+                       [&](const ListEntry& entry) { return entry.savedAs == value; });
 }
 
 std::string offsetByValue(std::string_view saved) {

@@ -10,7 +10,7 @@ namespace vantrel {
 
 struct ListEntry {
     std::string shown;
-    std::string stored = shown;
+    std::string savedAs = shown;
 };
 using ValueList = std::vector<ListEntry>;
 

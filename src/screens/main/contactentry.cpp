@@ -126,12 +126,18 @@ ContactEntry::Step ContactEntry::testForDupe(Answer& answer) {
 }
 
 Answer ContactEntry::frequencyEntered() {
+    Answer answer = frequencyLeft();
+    answer.toCallBox = true;
+    return answer;
+}
+
+Answer ContactEntry::frequencyLeft() {
     Answer answer;
     std::ignore = enterFrequencyBox(answer); // nothing else was to be done
     return answer;
 }
 
-Answer ContactEntry::bandStepped(const Band& (*next)(std::string_view bandText)) {
+Answer ContactEntry::stepTo(const Band& (*next)(std::string_view bandText)) {
     Answer answer;
     answer.toCallBox = true;
     if (enterFrequencyBox(answer) == Step::on)
@@ -156,7 +162,7 @@ Answer ContactEntry::autoReadToggled() {
 
 // One that does not answer is reported, and the frequency in the box stands.
 ContactEntry::Step ContactEntry::readRadio(ReadCause cause, Answer& answer) {
-    const Draft began = m_draft;
+    const Entry began = m_draft.boxes;
     const ReadResult result = m_draft.autoReads || cause == ReadCause::manual
                                   ? m_radio.read()
                                   : ReadResult{ReadOutcome::noRadio};
@@ -164,18 +170,17 @@ ContactEntry::Step ContactEntry::readRadio(ReadCause cause, Answer& answer) {
         answer.toCallBox = false;
         return Step::ended;
     }
-    if (m_draft != began)
+    if (m_draft.boxes != began)
         return Step::ended;
     m_draft.lastRead = result.outcome;
     if (result.outcome == ReadOutcome::read)
         return tune(result.frequency, answer);
     if (result.outcome != ReadOutcome::failed)
         return Step::on;
-    const Draft told = m_draft;
     m_radio.tellFailure(cause == ReadCause::log
                             ? withFrequencyUsed(result.message, m_draft.boxes.frequency)
                             : result.message);
-    return m_draft == told ? Step::on : Step::ended;
+    return m_draft.boxes == began ? Step::on : Step::ended;
 }
 
 // --- SEARCH ----------------------------------------------------------------------------------

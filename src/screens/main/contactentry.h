@@ -51,10 +51,12 @@ public:
     void edited(const Entry& boxes);
     // A member of the list, as if he had been typed: Enter is SEARCH then.
     void callChosen(std::string_view call);
-    // Enter in the frequency box, leaving it, and what each command does first.
+    // Enter in the frequency box.
     Answer frequencyEntered();
-    // next: bandUp or bandDown.
-    Answer bandStepped(const Band& (*next)(std::string_view bandText));
+    // And what each command does first.
+    Answer frequencyLeft();
+    Answer bandUp() { return stepTo(vantrel::bandUp); }
+    Answer bandDown() { return stepTo(vantrel::bandDown); }
     // Whether AUTO READ is on or off.
     Answer radioAsked();
     // Off, a dead radio costs no more boxes; a matter of the run.
@@ -91,6 +93,7 @@ private:
     [[nodiscard]] Step testForDupe(Answer& answer);
     [[nodiscard]] Step readRadio(ReadCause cause, Answer& answer);
     [[nodiscard]] Step lookUpCall(Draft::Searched& found);
+    Answer stepTo(const Band& (*next)(std::string_view bandText));
     void searchEntered(Answer& answer);
     void logEntered(Answer& answer);
     std::optional<std::string> assembledLine(Answer& answer);

@@ -11,8 +11,10 @@ namespace {
 
 constexpr int workedColumns = 80;
 
-// "CLUB, IL, 5000S".
-std::string filledIn(const Draft& draft) {
+// What the lookup has put into the boxes: "CLUB, IL, 5000S", or the call of a number.
+std::string spokenBoxes(const Draft& draft) {
+    if (draft.searched->outcome == LookupOutcome::callOfNumber)
+        return std::string(trim(draft.boxes.call));
     std::string words;
     for (std::size_t i = 0; i < lookupBoxes.size(); ++i)
         if (const auto text = trim(draft.boxes.*lookupBoxes[i]); draft.lookedUp[i] && !text.empty())
@@ -41,27 +43,22 @@ Hint nextStep(const Draft& draft, const Module1& shared, const UtcTime& utc) {
         break;
     }
     if (!isComplete(draft.boxes))
-        return {"ENTER LOOKS HIM UP"};
+        return {"ENTER LOOKS HIM UP", HintTone::plain, spokenBoxes(draft)};
     Entry entry = draft.boxes;
     entry.frequency = mhz;
     const auto line = contactLine(entry, shared.settings, markerOf(draft, shared), utc);
     if (!line)
         return {};
     const std::string gain = gainOf(*line, shared);
-    return {"ENTER LOGS" + (gain.empty() ? "" : "   " + gain), HintTone::plain, filledIn(draft)};
+    return {"ENTER LOGS" + (gain.empty() ? "" : "   " + gain), HintTone::plain, spokenBoxes(draft)};
 }
 
 Hint searchedHint(const Draft& draft, const Module1& shared, const UtcTime& utc) {
     const Hint next = nextStep(draft, shared, utc);
-    if (draft.searched->outcome == LookupOutcome::callOfNumber && !isComplete(draft.boxes))
-        return joined({"ENTER LOOKS HIM UP", HintTone::plain, std::string(trim(draft.boxes.call))},
-                      next.tone == HintTone::plain ? Hint() : next);
-    if (draft.searched->outcome == LookupOutcome::found)
+    const std::string missing = missingText(draft.boxes, draft.searched->hasRoster);
+    if (draft.searched->outcome != LookupOutcome::notFound || missing.empty())
         return next;
-    const Hint missing{missingText(draft.boxes, draft.searched->hasRoster), HintTone::caution};
-    if (missing.text.empty())
-        return next;
-    return joined(missing, next.tone == HintTone::plain ? Hint() : next);
+    return joined({missing, HintTone::caution}, next.tone == HintTone::plain ? Hint() : next);
 }
 
 Hint hintOf(const Draft& draft, const Module1& shared, const UtcTime& utc) {

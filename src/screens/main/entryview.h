@@ -31,16 +31,12 @@ struct Draft {
         bool nameMissing; // when the lookup was done
         std::string bandTag{};
         bool marked = false; // a duplicate, to be logged as one
-
-        bool operator==(const Searched&) const = default;
     };
     // What was done last, while there is nothing in the boxes.
     struct Happened {
         Hint hint;
         std::string contact{}; // holds as long as this line
         bool inLog = true;     // is in the log, or is not
-
-        bool operator==(const Happened&) const = default;
     };
 
     Entry boxes{};
@@ -56,7 +52,6 @@ struct Draft {
     ReadOutcome lastRead = ReadOutcome::noRadio;
 
     std::string bandTag() const;
-    bool operator==(const Draft&) const = default;
 };
 
 // What the contact will end in: "DUPE" as SEARCH found it, otherwise the tag chosen.

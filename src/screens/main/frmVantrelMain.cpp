@@ -2,8 +2,6 @@
 #include "screens/main/frmVantrelMain.h"
 
 #include "base/fixedtext.h"
-#include "forms/accessible.h"
-#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/layouts.h"
@@ -27,14 +25,9 @@ namespace vantrel {
 
 namespace {
 constexpr double entryEnlargement = 1.5;
-constexpr double hintEnlargement = 1.1;
 constexpr double statusEnlargement = 1.4;
 constexpr int frequencyColumns = 9;
 constexpr int countColumns = 7;
-
-auto stepTo(const Band& (*next)(std::string_view bandText)) {
-    return [next](ContactEntry& entry) { return entry.bandStepped(next); };
-}
 } // namespace
 
 frmVantrelMain::frmVantrelMain(const FormContext& context)
@@ -51,24 +44,10 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
       m_boxes(this),
       m_hold(this, [this] { platform().serialPort.close(); }) {
     setAttribute(Qt::WA_DeleteOnClose, false);
-    FormBuilder build(this);
-    m_hintLabel = build.alert("Label26");
-    m_hintLabel->setFont(enlargedFont(this, hintEnlargement));
-    page(this, {statusRow(),
-                m_boxes.exchangeRow(this),
-                whoRow(),
-                m_hintLabel,
-                frequencyRow(),
-                entryCommands(),
-                {contestRow(), 1},
-                pageCommands()});
-    // Long texts are cut at the window's edge; they must not widen it, and the page must not jump.
-    for (QLabel* label : {m_fileLabel, m_hintLabel})
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_hintLabel->setFixedHeight(m_hintLabel->sizeHint().height());
+    page(this, {statusRow(), m_boxes.exchangeRow(this), whoRow(), m_boxes.hint, frequencyRow(),
+                entryCommands(), Item(contestRow(), 1), pageCommands()});
     connectBoxes();
     m_second = new QTimer(this);
-    m_second->setInterval(1000);
     connectHandler(m_second, &QTimer::timeout, [this] { secondPassed(); });
     m_logWatch = shared().log.watch([this] { runHandler([this] { showLog(); }); });
     openAtPageSize();
@@ -76,74 +55,65 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
 
 // --- Controls --------------------------------------------------------------------------------
 
+QPushButton* frmVantrelMain::command(const char* name, const char* caption, const char* toolTip,
+                                     Event happens) {
+    return FormBuilder(this).command(name, caption, toolTip, [this, happens] { run(happens); });
+}
+
 QHBoxLayout* frmVantrelMain::statusRow() {
     FormBuilder build(this);
     m_whoLabel = build.label("Label28");
     m_fileLabel = build.label("Label12");
+    m_fileLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // cut at the edge
     m_dupeModeLabel = build.label("Label13");
-    m_readSign = build.caption("");
-    setRole(m_readSign, QAccessible::Graphic);
-    m_autoReadLabel = build.label("Label11");
     m_clockLabel = build.label("Label27");
     for (QLabel* label : {m_whoLabel, m_clockLabel})
         label->setFont(enlargedFont(this, statusEnlargement));
     QPushButton* autoRead =
-        build.command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON",
-                      [this] { run(&ContactEntry::autoReadToggled); });
-    return row({m_whoLabel,
-                {m_fileLabel, 1},
-                m_dupeModeLabel,
-                m_readSign,
-                m_autoReadLabel,
-                autoRead,
-                m_clockLabel,
-                build.caption("UTC", m_clockLabel)});
+        command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON",
+                &ContactEntry::autoReadToggled);
+    return row({m_whoLabel, Item(m_fileLabel, 1), m_dupeModeLabel, m_boxes.readSign,
+                m_boxes.autoRead, autoRead, m_clockLabel, build.caption("UTC", m_clockLabel)});
 }
 
 // Who it may be while he is typed: calls worked on the left, members on the right.
 QHBoxLayout* frmVantrelMain::whoRow() {
-    m_workedLabel = FormBuilder::named(new MarkedLabel(this), "Label24");
-    m_workedLabel->setTextFormat(Qt::PlainText);
-    m_workedLabel->setFont(enlargedFont(this, hintEnlargement, false));
     m_suggestions = FormBuilder::named(new SuggestionList(this), "List2",
                                        "MEMBERS LIKE THE CALL - DOWN AND ENTER TAKES ONE");
-    m_workedLabel->setFixedHeight(m_suggestions->height());
+    m_boxes.worked->setFixedHeight(m_suggestions->height());
     connectHandler(m_suggestions, &SuggestionList::chosen, [this](const QString& call) {
         m_entry.callChosen(fromQt(call));
         showEntry();
         toCallBox();
     });
     connectHandler(m_suggestions, &SuggestionList::escaped, [this] { toCallBox(); });
-    return row({m_workedLabel, {m_suggestions, 1}});
+    return row({m_boxes.worked, {m_suggestions, 1}});
 }
 
 QHBoxLayout* frmVantrelMain::frequencyRow() {
     FormBuilder build(this);
     m_countBox = build.output("Text1");
-    m_bandLabel = build.label("Label10");
     for (QWidget* control :
-         std::initializer_list<QWidget*>{m_boxes.frequency, m_countBox, m_bandLabel})
+         std::initializer_list<QWidget*>{m_boxes.frequency, m_countBox, m_boxes.band})
         control->setFont(enlargedFont(this, entryEnlargement));
     const int character = QFontMetrics(m_countBox->font()).averageCharWidth();
     m_boxes.frequency->setFixedWidth(character * frequencyColumns);
     m_countBox->setFixedWidth(character * countColumns);
     return row(
         {build.caption("FREQ &MHz", m_boxes.frequency), m_boxes.frequency,
-         build.command("Command15", "Enter",
-                       "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON",
-                       [this] { frequencyClicked(); }),
-         build.command("Command13", "&Up", "TOGGELS BAND UP ONE", [this] { run(stepTo(bandUp)); }),
-         build.command("Command14", "&Down", "TOGGLES BAND DOWN ONE",
-                       [this] { run(stepTo(bandDown)); }),
-         m_bandLabel, Item::room(), build.caption("QSOs", m_countBox), m_countBox});
+         command("Command15", "Enter", "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON",
+                 &ContactEntry::frequencyEntered),
+         command("Command13", "&Up", "TOGGELS BAND UP ONE", &ContactEntry::bandUp),
+         command("Command14", "&Down", "TOGGLES BAND DOWN ONE", &ContactEntry::bandDown),
+         m_boxes.band, Item::room(), build.caption("QSOs", m_countBox), m_countBox});
 }
 
 QHBoxLayout* frmVantrelMain::entryCommands() {
     FormBuilder build(this);
-    QPushButton* search = build.command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE",
-                                        [this] { run(&ContactEntry::search); });
-    QPushButton* log = build.command("Command3", "&LOG", "SAVES THE QSO TO CABRILLO FILE",
-                                     [this] { run(&ContactEntry::log); });
+    QPushButton* search =
+        command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE", &ContactEntry::search);
+    QPushButton* log =
+        command("Command3", "&LOG", "SAVES THE QSO TO CABRILLO FILE", &ContactEntry::log);
     for (QPushButton* button : {search, log})
         button->setFont(enlargedFont(this, 1));
     const auto chooseStation = [this] {
@@ -157,14 +127,10 @@ QHBoxLayout* frmVantrelMain::entryCommands() {
                    &QShortcut::activated, chooseStation);
     m_audioButton =
         build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ", [this] { audioClicked(); });
-    m_stationLabel = build.label("Label23");
-    m_markerLabel = build.label("Label25");
     return row({search, log,
-                build.command("Command4", "&NO LOG", "DOES NOT SAVE QSO TO FILE",
-                              [this] { run(&ContactEntry::dropped); }),
-                build.command("Command5", "&FREQ", "READS FREQ FROM RADIO",
-                              [this] { run(&ContactEntry::radioAsked); }),
-                m_audioButton, m_stationOption, m_stationLabel, m_markerLabel, Item::room()});
+                command("Command4", "&NO LOG", "DOES NOT SAVE QSO TO FILE", &ContactEntry::dropped),
+                command("Command5", "&FREQ", "READS FREQ FROM RADIO", &ContactEntry::radioAsked),
+                m_audioButton, m_stationOption, m_boxes.station, m_boxes.marker, Item::room()});
 }
 
 // The list keeps its width and the panel follows it.
@@ -217,9 +183,10 @@ void frmVantrelMain::connectBoxes() {
         });
     connectHandler(m_boxes.call, &QLineEdit::returnPressed, [this] { run(&ContactEntry::search); });
     connectHandler(m_boxes.number, &QLineEdit::returnPressed, [this] { run(&ContactEntry::log); });
-    connectHandler(m_boxes.frequency, &QLineEdit::returnPressed, [this] { frequencyClicked(); });
-    connectHandler(m_boxes.frequency, &QLineEdit::editingFinished,
+    connectHandler(m_boxes.frequency, &QLineEdit::returnPressed,
                    [this] { run(&ContactEntry::frequencyEntered); });
+    connectHandler(m_boxes.frequency, &QLineEdit::editingFinished,
+                   [this] { run(&ContactEntry::frequencyLeft); });
     m_boxes.call->installEventFilter(this);
 }
 
@@ -238,7 +205,7 @@ void frmVantrelMain::load() {
     toCallBox();
     runHandler([this] { shared().log.open(shared().settings.logFileName); });
     m_radioReadDue = settings.hasRadio() && m_entry.autoReads();
-    m_second->start();
+    m_second->start(1000);
     update();
 }
 
@@ -251,7 +218,7 @@ void frmVantrelMain::paintEvent(QPaintEvent* event) {
 
 // Small boxes leave the boxes of the exchange free.
 int frmVantrelMain::freeTop() const {
-    return m_hintLabel->geometry().bottom();
+    return m_boxes.hint->geometry().bottom();
 }
 
 void frmVantrelMain::closeEvent(QCloseEvent* event) {
@@ -261,12 +228,12 @@ void frmVantrelMain::closeEvent(QCloseEvent* event) {
 
 // --- The contact being entered ---------------------------------------------------------------
 
-void frmVantrelMain::run(const std::function<Answer(ContactEntry&)>& happens) {
+void frmVantrelMain::run(Event happens) {
     const InputHold::Scope hold(m_hold);
     m_entry.edited(m_boxes.entry());
     Answer answer;
     try {
-        answer = happens(m_entry);
+        answer = (m_entry.*happens)();
     } catch (const RuntimeError&) {
         showEntry(); // as far as it came
         throw;
@@ -289,47 +256,11 @@ void frmVantrelMain::carryOut(const Answer& answer) {
 
 void frmVantrelMain::showEntry() {
     const EntryView view = m_entry.view();
-    m_boxes.show(view.boxes, view.lookedUp);
-    showFrequency(view);
-    put(m_stationLabel, view.station);
+    m_boxes.show(view);
     m_stationOption->setChecked(view.station != noStationLabel);
-    put(m_markerLabel, view.nextMarker);
-    if (view.hint != m_shown.hint)
-        showHint(view.hint);
-    std::vector<MarkedLabel::Run> runs;
-    for (const WorkedCall& call : view.worked) {
-        const bool joins = runs.empty() || call.text == moreWorked;
-        runs.push_back({toQt((joins ? "" : "  ") + call.text), call.dupe});
-    }
-    m_workedLabel->setRuns(std::move(runs));
-    if (view.bands != m_shown.bands)
+    if (std::exchange(m_bands, view.bands) != view.bands)
         m_panel->showBands(view.bands);
-    m_shown = view;
     m_suggestions->setLines(m_entry.members());
-}
-
-// Outside the six bands the label stays as it was, struck out. Before the other one: a green dot
-// after a good read of the radio, a red cross after a failed one.
-void frmVantrelMain::showFrequency(const EntryView& view) {
-    put(m_bandLabel, view.bandText);
-    put(m_autoReadLabel, view.autoRead);
-    setTextColour(m_bandLabel, view.onBand ? QColor() : cautionColour(palette()));
-    QFont font = m_bandLabel->font();
-    font.setStrikeOut(!view.onBand);
-    m_bandLabel->setFont(font);
-    const bool read = view.lastRead == ReadOutcome::read;
-    const bool failed = view.lastRead == ReadOutcome::failed;
-    m_readSign->setText(read ? QString(QChar(0x25CF)) : failed ? QString(QChar(0xD7)) : QString());
-    m_readSign->setAccessibleName(read ? QStringLiteral("RADIO READ")
-                                       : QStringLiteral("RADIO NOT READ"));
-    setTextColour(m_readSign, read ? goodColour(palette()) : warningColour(palette()));
-}
-
-void frmVantrelMain::showHint(const Hint& hint) {
-    announce(m_hintLabel, hint.text, spokenHint(hint));
-    setTextColour(m_hintLabel, hint.tone == HintTone::plain   ? QColor()
-                               : hint.tone == HintTone::alarm ? warningColour(palette())
-                                                              : cautionColour(palette()));
 }
 
 void frmVantrelMain::showStation(const std::string& text) {
@@ -407,11 +338,6 @@ void frmVantrelMain::openOnContact(Screen page, int contact, bool shown) {
         screens().open(page);
     else
         screens().openContact(page, contact, shown);
-}
-
-void frmVantrelMain::frequencyClicked() {
-    run(&ContactEntry::frequencyEntered);
-    toCallBox();
 }
 
 void frmVantrelMain::audioClicked() {

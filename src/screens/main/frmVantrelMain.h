@@ -8,7 +8,6 @@
 #include "screens/main/contactentry.h"
 #include "screens/main/widgets/entryboxes.h"
 
-#include <functional>
 #include <string>
 
 class QHBoxLayout;
@@ -20,7 +19,6 @@ class QTimer;
 namespace vantrel {
 
 class ContestPanel;
-class MarkedLabel;
 class SuggestionList;
 class WorkedList;
 
@@ -47,6 +45,8 @@ protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
+    QPushButton* command(const char* name, const char* caption, const char* toolTip,
+                         Answer (ContactEntry::*happens)());
     QHBoxLayout* statusRow();
     QHBoxLayout* whoRow();
     QHBoxLayout* frequencyRow();
@@ -56,12 +56,10 @@ private:
     void connectBoxes();
 
     // What happens to the contact being entered, and what the page does then.
-    void run(const std::function<Answer(ContactEntry&)>& happens);
+    using Event = Answer (ContactEntry::*)();
+    void run(Event happens);
     void carryOut(const Answer& answer);
-    // The one place that shows it.
     void showEntry();
-    void showFrequency(const EntryView& view);
-    void showHint(const Hint& hint);
 
     bool callBoxTakes(const QKeyEvent& key);
     void toCallBox();
@@ -69,7 +67,6 @@ private:
     int chosenContact() const;
     void showLog();
     void secondPassed();
-    void frequencyClicked();
     void audioClicked();
 
     ContactEntry m_entry;
@@ -77,24 +74,17 @@ private:
     QLabel* m_whoLabel; // own call and contest
     QLabel* m_fileLabel;
     QLabel* m_dupeModeLabel;
-    QLabel* m_readSign; // before the label: how the last read went
-    QLabel* m_autoReadLabel;
     QLabel* m_clockLabel;
-    MarkedLabel* m_workedLabel;
     SuggestionList* m_suggestions;
-    QLabel* m_hintLabel;
-    QLabel* m_bandLabel;
     QLineEdit* m_countBox;
     QPushButton* m_audioButton;
     QRadioButton* m_stationOption;
-    QLabel* m_stationLabel;
-    QLabel* m_markerLabel; // what the next contact will end in
     WorkedList* m_workedList;
     ContestPanel* m_panel;
     QTimer* m_second;
 
-    EntryView m_shown;
-    InputHold m_hold; // what is typed while the radio is read
+    BandTable m_bands; // as the panel shows them
+    InputHold m_hold;  // what is typed while the radio is read
     Log::Watch m_logWatch;
     bool m_radioReadDue = false; // the radio is read once after the first paint
 };

@@ -4,6 +4,7 @@
 #include "support/contacts.h"
 #include "support/qt/formharness.h"
 
+#include <QRadioButton>
 #include <QTimer>
 
 namespace vantrel::test {
@@ -114,20 +115,6 @@ TEST_F(MainPageTest, RefusedDupeLeavesNothingBehindAndItsScreenTakesNoFocus) {
     form(dupeScreen)->findChild<QTimer*>(QStringLiteral("Timer1"))->setInterval(0);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(dupeScreen); }, 3000));
     EXPECT_EQ(focus(), "Text3");
-
-    // Where they are logged, it is marked, once.
-    module.settings.dupeMode = "YES";
-    module.marker = "K3Y/EU";
-    screens.mainPage()->loadAfresh(); // takes the tag back
-    EXPECT_EQ(shown(page, "Label13") + module.marker, "Dupes Are Logged      ");
-    enterCall("k1abc");
-    enter();
-    std::string expected = joe + joe;
-    expected.replace(expected.size() - 8, 6, "DUPE");
-    EXPECT_EQ(logged() + shown(page, "Text1"), expected + "02");
-    type(page, "Text2", "w5new"); // without SEARCH
-    enterNumber();
-    EXPECT_EQ(logged(), expected + unknown);
 }
 
 TEST_F(MainPageTest, SilentRadioCostsNoContactButClosingDuringItsReadDoes) {
@@ -147,45 +134,14 @@ TEST_F(MainPageTest, SilentRadioCostsNoContactButClosingDuringItsReadDoes) {
     EXPECT_EQ(logged(), joe);
 }
 
-// Searched on 40 m, logged with the dial on a band where he is in the log.
-TEST_F(MainPageTest, DupeThatTheRadioBringsAtLogIsRefusedAndNothingIsWritten) {
-    const Radio& radio = radioNamed("Kenwood");
-    module.settings.rig = radio.rig;
-    module.settings.comPort = "com1";
-    for (const long hertz : {7'050'000, 7'050'000, 14'050'000}) // the first as the page opens
-        serialPort.answers.push_back({radio.query, radio.reply(hertz)});
-    openPage(joe);
-    settle();
-    enterCall("k1abc");
-    enter();
-    EXPECT_EQ(logged(), joe);
-    EXPECT_EQ(texts(page, "Text2 Text7 Label26"),
-              "|14.050|REFUSED: K1ABC 20 METERS 0012 IS IN THE LOG|");
-}
-
-// Which message, and what is left in the call box afterwards.
-TEST_F(MainPageTest, WhatCannotBeLoggedIsSaidAndIsNotInTheLog) {
+TEST_F(MainPageTest, SettingTooWideIsSaidAndNothingIsLogged) {
     openPage();
-    const std::tuple<const char*, const char*, std::string_view, const char*> rows[] = {
-        {"10120", "JOHN", "10.120 MHz IS NOT A VALID SPRINT FREQUENCY", ""},
-        {"QRL", "JOHN", frequencyMissingText, "K1ABC"},
-        {"14.05", "BARTHOLOMEW", invalidEntryText, ""}};
-    for (const auto& [frequency, myName, text, call] : rows) {
-        module.settings.myName = myName;
-        type(page, "Text7", frequency);
-        enterCall("");
-        enterCall("k1abc");
-        messages.expect(std::string(text));
-        enter();
-        EXPECT_EQ(shown(page, "Text2"), call) << text;
-        EXPECT_EQ(messages.shown.back().icon == BoxIcon::critical, frequency[1] == '0');
-        press(page, "Text2", Qt::Key_Escape);
-    }
+    module.settings.myName = "BARTHOLOMEW";
+    enterCall("k1abc");
+    messages.expect(std::string(invalidEntryText));
+    enter();
     EXPECT_THAT(messages.shown.back().informative, HasSubstr("my name"));
-    type(page, "Text7", "");
-    messages.expect(std::string(frequencyMissingText));
-    enterCall("w5new");
-    EXPECT_EQ(shown(page, "Text2") + logged(), "");
+    EXPECT_EQ(boxes() + logged(), "||||");
 }
 
 TEST_F(MainPageTest, FullDiskKeepsTheTypingUntilTheContactIsOnTheDiskAndThenClearsIt) {
@@ -215,49 +171,68 @@ TEST_F(MainPageTest, FullDiskKeepsTheTypingUntilTheContactIsOnTheDiskAndThenClea
     EXPECT_THAT(lines(page, "List1"), ElementsAre(HasSubstr("W5NEW")));
 }
 
-// What the page says of the contact, from the first letter to the line in the log.
-TEST_F(MainPageTest, HintsTellWhatHappenedAndWhatComesNext) {
+// Wherever what is shown of the contact stands, and whatever changes it.
+TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     openPage(joe);
-    EXPECT_EQ(texts(page, "Label12 Label13 Label11 Text7"),
-              "FILE NAME:  SKS061611.CBR|Dupes Not Logged|AUTO READ OFF|14.050|");
-    const auto hint = [this] { return shown(page, "Label26"); };
+    EXPECT_EQ(texts(page, "Label12 Label13 Label11 Text7 Label29 Label30"),
+              "FILE NAME:  SKS061611.CBR|Dupes Not Logged|AUTO READ OFF|14.050|11|1 QSOs x 1 S/P/C "
+              "+ 10|");
     type(page, "Text2", "k1a");
-    EXPECT_EQ(texts(page, "Label29 Label30 Label24"), "11|1 QSOs x 1 S/P/C + 10|K1ABC 20|");
+    EXPECT_EQ(shown(page, "Label24"), "K1ABC 20");
     EXPECT_THAT(lines(page, "List2"), ElementsAre("K1ABC JOE CT 0123T DUPE"));
+    folder.write(log, logHeaderLines);
+    module.log.reread();
+    EXPECT_THAT(lines(page, "List2"), ElementsAre("K1ABC JOE CT 0123T"));
+    EXPECT_EQ(shown(page, "Label24"), "");
+    press(page, "Text2", Qt::Key_Down);
+    press(page, "List2", Qt::Key_Return);
     enter();
-    EXPECT_EQ(hint(), "REFUSED: K1ABC 20 METERS 0012 IS IN THE LOG");
+    EXPECT_EQ(texts(page, "Text3 Label26"), "JOE       |ENTER LOGS   NEW S/P/C  +10 TRIBUNE|");
+    EXPECT_TRUE(control(page, "Text3")->font().italic());
+    type(page, "Text3", "bill");
+    EXPECT_FALSE(control(page, "Text3")->font().italic());
+    press(page, "Text2", Qt::Key_Escape);
+    EXPECT_EQ(boxes() + shown(page, "Label26"), "||||");
     press(page, "Text2", Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(texts(page, "Text2 Label26"), "K1A||");
+    EXPECT_EQ(boxes(), "K1ABC|BILL|CT |0123T     |");
+    press(page, "Text2", Qt::Key_Escape);
 
-    type(page, "Text7", "7040");
-    enterCall("k1abc");
-    EXPECT_EQ(hint(), "ENTER LOGS");
-    click(page, "Command13"); // up to 20 m, where he is a duplicate
-    EXPECT_THAT(hint(), HasSubstr("REFUSED: K1ABC"));
-    EXPECT_EQ(logged(), joe);
-    enterCall("k1new");
-    EXPECT_EQ(hint(), "ENTER LOGS   NEW S/P/C  +5 CENTURION");
     module.marker = "K3Y/EU";
     screens.mainPage()->showStation("-- K3Y/EU --");
-    EXPECT_EQ(shown(page, "Label25"), "NEXT QSO: K3Y/EU");
+    EXPECT_EQ(texts(page, "Label25 Label23"), "NEXT QSO: K3Y/EU|-- K3Y/EU --|");
+    EXPECT_TRUE(control<QRadioButton>(page, "Option1")->isChecked());
     enterCall("w5new");
     EXPECT_EQ(module.marker + texts(page, "Label26 Label25 Label23"),
               "      NOT IN THE ROSTER: NAME, STATE, SKCC#   K3Y/EU TAKEN BACK BY SEARCH||   "
               "None     |");
-    enterCall("w5new");
-    EXPECT_EQ(hint(), "NOT IN THE ROSTER: NAME, STATE, SKCC#");
+    EXPECT_FALSE(control<QRadioButton>(page, "Option1")->isChecked());
     press(page, "Text2", Qt::Key_Space);
     EXPECT_EQ(focus(), "Text3");
+    typeOn("Text3", "BOB");
+    press(page, "Text2", Qt::Key_Space);
+    EXPECT_EQ(focus(), "Text4");
     enterNumber();
-    EXPECT_EQ(hint() + logged(), "LOGGED W5NEW 14050 0012  NO NAME  NO STATE" + joe + unknown);
-    type(page, "Text2", "w5new");
-    click(page, "Command3"); // without SEARCH
-    EXPECT_THAT(hint(), HasSubstr("REPEATS W5NEW 20 METERS 0012"));
-    enterCall("77777");
-    EXPECT_EQ(texts(page, "Label26 Text2"), "NO MEMBER 77777||");
+    EXPECT_EQ(shown(page, "Label26"), "LOGGED W5NEW 14050 0012  NO STATE");
     press(page, "Text2", Qt::Key_Up);
     press(page, "List1", Qt::Key_Return);
     EXPECT_EQ(shown("frmVantrelCorrect", "Text1"), "W5NEW");
+}
+
+// It is a matter of the run: START does not turn it on again.
+TEST_F(MainPageTest, AutoReadStaysOffUntilItIsTurnedOn) {
+    const Radio& radio = radioNamed("Kenwood");
+    module.settings.rig = radio.rig;
+    module.settings.comPort = "com1";
+    serialPort.answers.push_back({radio.query, radio.reply(7'050'000)});
+    openPage();
+    settle();
+    EXPECT_EQ(texts(page, "Text7 Label10 Label11"), "7.050|40 Meters |AUTO READ ON |");
+    click(page, "Command17");
+    screens.mainPage()->loadAfresh();
+    settle();
+    enterCall("k1abc");
+    EXPECT_EQ(texts(page, "Text7 Label11"), "14.050|AUTO READ OFF|");
+    EXPECT_EQ(serialPort.sent.size(), 1U);
 }
 
 TEST_F(MainPageTest, NothingDoneByAccidentChangesAContact) {

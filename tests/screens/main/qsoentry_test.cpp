@@ -86,6 +86,13 @@ TEST(Duplicate, IsSameBandAndCallBeginningWithWhatIsTyped) {
     EXPECT_EQ(worked("K1", 80), "K1ABC 20! K1ABD 50125 ");
     EXPECT_EQ(worked("K1ABCD", 80), "");
     EXPECT_EQ(worked("K1", 20), "K1ABC 20! ... ");
+    // A band that is none of the contest's has a row when there is a contact.
+    std::string table;
+    for (const BandRow& row : bandTable(contacts, "K1ABC", " 7", false).rows)
+        table += row.name + ' ' + std::to_string(row.contacts) + (row.present ? "< " : " ") +
+                 (row.onBand == CallOnBand::worked ? "worked " : "");
+    EXPECT_EQ(table, "160 0 80 0 40 1< 20 2 worked 15 0 10 0 6 1 ");
+    EXPECT_EQ(bandTable(contacts, "K1AB", " 7", false).call, "") << "two begin so";
 }
 
 // Unlike the ordinary check, the start of a call is not the call.

@@ -2,9 +2,11 @@
 #include "screens/main/widgets/entryboxes.h"
 
 #include "base/fixedtext.h"
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/markedlabel.h"
 #include "shared/settings.h"
 
 #include <QGridLayout>
@@ -20,6 +22,7 @@ namespace {
 constexpr int numberBoxWidth = 10; // a lookup fills ten
 constexpr int frequencyBoxWidth = 10;
 constexpr double enlargement = 1.5;
+constexpr double hintEnlargement = 1.1;
 constexpr const char* reports[] = {usualReport, "589", "579", "569", "559", "549",
                                    "539",       "529", "519", "449", "339"};
 
@@ -75,6 +78,20 @@ EntryBoxes::EntryBoxes(QWidget* form) {
     frequency =
         build.text("Text7", frequencyBoxWidth,
                    "THIS FREQ WILL BE PUT INTO THE LOG-->TYPE OVER TO CHANGE - 4 OR 5 DIGITS ");
+    band = build.label("Label10");
+    autoRead = build.label("Label11");
+    readSign = build.caption("");
+    setRole(readSign, QAccessible::Graphic);
+    station = build.label("Label23");
+    worked = FormBuilder::named(new MarkedLabel(form), "Label24");
+    worked->setTextFormat(Qt::PlainText);
+    worked->setFont(enlargedFont(form, hintEnlargement, false));
+    marker = build.label("Label25");
+    hint = build.alert("Label26");
+    hint->setFont(enlargedFont(form, hintEnlargement));
+    // A long text is cut at the window's edge; it must not widen it, and the page must not jump.
+    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    hint->setFixedHeight(hint->sizeHint().height());
     for (QLineEdit* box :
          {call, rstSent->lineEdit(), rstReceived->lineEdit(), name, state, number, frequency})
         keepUpperCase(box);
@@ -89,7 +106,22 @@ Entry EntryBoxes::entry() const {
             textOf(rstSent), textOf(rstReceived), textOf(frequency)};
 }
 
-void EntryBoxes::show(const Entry& entry, const LookupBoxes& lookedUp) const {
+void EntryBoxes::show(const EntryView& view) const {
+    showBoxes(view);
+    showFrequency(view);
+    showHint(view.hint);
+    put(station, view.station);
+    put(marker, view.nextMarker);
+    std::vector<MarkedLabel::Run> runs;
+    for (const WorkedCall& like : view.worked) {
+        const bool joins = runs.empty() || like.text == moreWorked;
+        runs.push_back({toQt((joins ? "" : "  ") + like.text), like.dupe});
+    }
+    worked->setRuns(std::move(runs));
+}
+
+void EntryBoxes::showBoxes(const EntryView& view) const {
+    const Entry& entry = view.boxes;
     for (const auto& [box, text] : {std::pair{call, &entry.call},
                                     {name, &entry.name},
                                     {state, &entry.state},
@@ -103,9 +135,38 @@ void EntryBoxes::show(const Entry& entry, const LookupBoxes& lookedUp) const {
             box->setCurrentIndex(std::max(0, box->findText(toQt(*text))));
             box->setEditText(toQt(*text));
         }
-    for (std::size_t i = 0; i < lookedUp.size(); ++i)
-        if (QLineEdit* box = filledByLookup()[i]; box->font().italic() != lookedUp[i])
-            setLookedUp(box, lookedUp[i]);
+    for (std::size_t i = 0; i < view.lookedUp.size(); ++i)
+        if (QLineEdit* box = filledByLookup()[i]; box->font().italic() != view.lookedUp[i])
+            setLookedUp(box, view.lookedUp[i]);
+}
+
+// Outside the six bands the label stays as it was, struck out. A green dot stands for a good read
+// of the radio, a red cross for a failed one.
+void EntryBoxes::showFrequency(const EntryView& view) const {
+    put(band, view.bandText);
+    setTextColour(band, view.onBand ? QColor() : cautionColour(band->window()->palette()));
+    QFont font = band->font();
+    font.setStrikeOut(!view.onBand);
+    band->setFont(font);
+    put(autoRead, view.autoRead);
+    const bool read = view.lastRead == ReadOutcome::read;
+    const bool failed = view.lastRead == ReadOutcome::failed;
+    readSign->setText(read ? QString(QChar(0x25CF)) : failed ? QString(QChar(0xD7)) : QString());
+    readSign->setAccessibleName(read ? QStringLiteral("RADIO READ")
+                                     : QStringLiteral("RADIO NOT READ"));
+    const QPalette palette = readSign->window()->palette();
+    setTextColour(readSign, read ? goodColour(palette) : warningColour(palette));
+}
+
+// Told again only when it says something else.
+void EntryBoxes::showHint(const Hint& shown) const {
+    if (textOf(hint) == shown.text)
+        return;
+    announce(hint, shown.text, spokenHint(shown));
+    const QPalette palette = hint->window()->palette();
+    setTextColour(hint, shown.tone == HintTone::plain   ? QColor()
+                        : shown.tone == HintTone::alarm ? warningColour(palette)
+                                                        : cautionColour(palette));
 }
 
 void EntryBoxes::toFirstEmpty() const {

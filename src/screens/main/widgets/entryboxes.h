@@ -9,20 +9,24 @@
 #include <QLineEdit>
 
 class QGridLayout;
+class QLabel;
+class QRadioButton;
 class QKeyEvent;
 
 namespace vantrel {
 
+class MarkedLabel;
+
 // A letter or figure, which wherever it is typed belongs into a box.
 bool isTyping(const QKeyEvent& key);
 
+// Its boxes and what is said of it, as children of the form.
 struct EntryBoxes {
-    // Makes them as children of the form.
     explicit EntryBoxes(QWidget* form);
 
     Entry entry() const;
-    // What differs; the cursor stays in what does not. lookedUp: of name, state and number.
-    void show(const Entry& entry, const LookupBoxes& lookedUp) const;
+    // The one place that shows it: what differs; the cursor stays in what does not.
+    void show(const EntryView& view) const;
     // The first box behind the call that is empty has the focus.
     void toFirstEmpty() const;
     // The boxes of the exchange, each under its name, large enough to be read from the key.
@@ -39,6 +43,18 @@ struct EntryBoxes {
     QLineEdit* state;
     QLineEdit* number;
     QLineEdit* frequency; // MHz
+    QLabel* band;
+    QLabel* autoRead;
+    QLabel* readSign; // before that one: how the last read went
+    QLabel* hint;
+    MarkedLabel* worked; // calls like his
+    QLabel* station;
+    QLabel* marker; // what the next contact will end in
+
+private:
+    void showBoxes(const EntryView& view) const;
+    void showFrequency(const EntryView& view) const;
+    void showHint(const Hint& shown) const;
 };
 
 } // namespace vantrel

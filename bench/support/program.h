@@ -4,15 +4,10 @@
 #pragma once
 
 #include "app/appscreens.h"
-#include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/platform.h"
-#include "platform/qt/qteventloop.h"
-#include "platform/qt/qtlauncher.h"
+#include "platform/qt/qtdevices.h"
 #include "platform/qt/qtmessages.h"
-#include "platform/qt/qtprinter.h"
-#include "platform/qt/qtserialport.h"
-#include "platform/qt/qtsound.h"
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
 #include "shared/settings.h"

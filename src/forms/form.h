@@ -3,7 +3,6 @@
 #pragma once
 
 #include "base/runtimeerror.h"
-#include "platform/messages.h"
 #include "platform/platform.h"
 #include "shared/module1.h"
 #include "shared/screens.h"

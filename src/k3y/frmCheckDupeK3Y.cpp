@@ -3,7 +3,7 @@
 
 #include "forms/colours.h"
 #include "forms/formbuilder.h"
-#include "platform/sound.h"
+#include "platform/platform.h"
 
 #include <QHBoxLayout>
 #include <QTimer>

@@ -5,7 +5,7 @@
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 #include "k3y/k3ystation.h"
-#include "platform/clock.h"
+#include "platform/platform.h"
 #include "shared/utctime.h"
 
 #include <QGridLayout>

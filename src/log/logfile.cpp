@@ -5,8 +5,8 @@
 #include "base/itemreader.h"
 #include "base/runtimeerror.h"
 #include "log/qsoline.h"
-#include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/platform.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "log/log.h"
-#include "platform/messages.h"
+#include "platform/platform.h"
 
 #include <optional>
 #include <string>

@@ -51,28 +51,23 @@ bool belongsToAnother(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && status.st_uid != ::getuid();
 }
 
-// A file that is written in another one's place, or as its copy.
-class StandIn {
-public:
-    explicit StandIn(const std::string& like) : m_there(::stat(like.c_str(), &m_like) == 0) {}
+// Nobody else reads a file that stands in for another before it has that one's group.
+unsigned modeAtFirst(const std::string& like) {
+    constexpr unsigned ownerOnly = 0600;
+    return exists(like) ? ownerOnly : DiskFile::newMode;
+}
 
-    // Nobody else reads it before it has the right group.
-    unsigned modeAtFirst() const { return m_there ? m_like.st_mode & 0700 : DiskFile::newMode; }
-    // Owner, group and permissions; not every system and file system lets it. Without the group its
-    // members get no more than everybody.
-    void settle(int file) const {
-        if (!m_there)
-            return;
-        const bool grouped = ::fchown(file, m_like.st_uid, m_like.st_gid) == 0 ||
-                             ::fchown(file, static_cast<uid_t>(-1), m_like.st_gid) == 0;
-        const unsigned mode = m_like.st_mode & 0777;
-        ::fchmod(file, grouped ? mode : (mode & 0707) | ((mode & 07) << 3));
-    }
-
-private:
-    struct stat m_like {};
-    bool m_there;
-};
+// Not every system and file system lets it. Without the group, its members may do no more than
+// everybody.
+void takeOwnerAndPermissions(int file, const std::string& like) {
+    struct stat status {};
+    if (::stat(like.c_str(), &status) != 0)
+        return;
+    const bool grouped = ::fchown(file, status.st_uid, status.st_gid) == 0 ||
+                         ::fchown(file, static_cast<uid_t>(-1), status.st_gid) == 0;
+    const unsigned mode = status.st_mode & 0777;
+    ::fchmod(file, grouped ? mode : (mode & 0707) | ((mode & 07) << 3));
+}
 
 // Throws unless `path` is a regular file or nothing at all.
 void requireRegular(const std::string& path) {
@@ -123,6 +118,18 @@ void DiskFile::syncFolder() const {
     // Some file systems do not know how to sync a folder; that is no failure of ours.
     if (m_calls.sync(m_file) != 0 && errno != EINVAL && errno != ENOTSUP)
         throwSystemError(errno, m_named);
+}
+
+bool DiskFile::lock() const {
+    if (m_calls.lock(m_file) == 0)
+        return true;
+    // Where the file system has no locks, nobody can hold one.
+    const int error = errno;
+    if (error == ENOLCK || error == EOPNOTSUPP || error == ENOSYS)
+        return true;
+    if (error != EWOULDBLOCK)
+        throwSystemError(error, m_named);
+    return false;
 }
 
 void throwSystemError(int error, const std::string& path) {
@@ -193,10 +200,9 @@ void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
 
 DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& like,
                     const std::string& named, std::string_view bytes) {
-    const StandIn standIn(like);
-    DiskFile file(calls, path, O_WRONLY | O_CREAT | O_EXCL, named, standIn.modeAtFirst());
+    DiskFile file(calls, path, O_WRONLY | O_CREAT | O_EXCL, named, modeAtFirst(like));
     try {
-        standIn.settle(file);
+        takeOwnerAndPermissions(file, like);
         file.write(bytes);
     } catch (const RuntimeError&) {
         calls.remove(path);
@@ -211,12 +217,11 @@ DiskFile createBeside(SystemCalls& calls, const std::string& target, std::string
 }
 
 void writeBeside(SystemCalls& calls, const std::string& target, std::string_view bytes) {
-    const StandIn standIn(target);
     const int unnamed =
-        calls.open(folderOf(target), O_TMPFILE | O_WRONLY | O_CLOEXEC, standIn.modeAtFirst());
+        calls.open(folderOf(target), O_TMPFILE | O_WRONLY | O_CLOEXEC, modeAtFirst(target));
     if (unnamed >= 0) {
         const DiskFile file(calls, unnamed, target);
-        standIn.settle(file);
+        takeOwnerAndPermissions(file, target);
         file.write(bytes);
         file.sync();
         calls.remove(newPath(target));

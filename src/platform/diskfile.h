@@ -33,6 +33,8 @@ public:
     void sync() const;
     // The same for a folder.
     void syncFolder() const;
+    // For this program until the file is closed; false when another one has it locked.
+    [[nodiscard]] bool lock() const;
 
 private:
     SystemCalls& m_calls;

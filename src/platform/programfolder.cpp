@@ -4,7 +4,6 @@
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
-#include "platform/systemcalls.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -19,10 +18,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* lockName = ".vantrel-lock";
-
-std::string lockPath(const std::string& folder) {
-    return (fs::path(folder) / lockName).string();
-}
 
 bool holdsData(const std::string& folder) {
     std::error_code error;
@@ -76,21 +71,6 @@ DiskFile openedLock(SystemCalls& calls, const std::string& path) {
     }
 }
 
-bool isLocked(SystemCalls& calls, const DiskFile& file, const std::string& path) {
-    if (calls.lock(file) == 0)
-        return true;
-    switch (errno) {
-    case EWOULDBLOCK:
-        return false;
-    case ENOLCK:
-    case EOPNOTSUPP:
-    case ENOSYS:
-        return true; // nobody can lock anything there
-    default:
-        throwSystemError(errno, path);
-    }
-}
-
 } // namespace
 
 std::string chooseProgramFolder(const std::string& executableFolder,
@@ -111,7 +91,6 @@ std::string chooseProgramFolder(const std::string& executableFolder,
 }
 
 FolderLock::FolderLock(SystemCalls& calls, const std::string& folder)
-    : m_file(openedLock(calls, lockPath(folder))),
-      m_held(isLocked(calls, m_file, lockPath(folder))) {}
+    : m_file(openedLock(calls, (fs::path(folder) / lockName).string())), m_held(m_file.lock()) {}
 
 } // namespace vantrel

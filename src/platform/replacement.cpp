@@ -24,19 +24,19 @@ constexpr std::string_view finishJournal = ".vantrel-finish";
 constexpr std::string_view undoJournal = ".vantrel-undo";
 
 // True as long as this lives.
-class RaisedFlag {
+class ScopedFlag {
 public:
-    explicit RaisedFlag(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~RaisedFlag() { m_flag = false; }
-    RaisedFlag(const RaisedFlag&) = delete;
-    RaisedFlag& operator=(const RaisedFlag&) = delete;
+    explicit ScopedFlag(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~ScopedFlag() { m_flag = false; }
+    ScopedFlag(const ScopedFlag&) = delete;
+    ScopedFlag& operator=(const ScopedFlag&) = delete;
 
 private:
     bool& m_flag;
 };
 
-// All at once: a disk that is slow to answer then writes them in one go. In threads of their own,
-// since that can take longer than a window may stand still.
+// fsync of all files in parallel: a slow disk then writes them in one go. In threads, so that the
+// window is served meanwhile.
 void syncMeanwhile(const std::vector<DiskFile>& files, const std::function<void()>& between) {
     constexpr std::chrono::milliseconds patience(5);
     std::vector<std::future<void>> synced;
@@ -62,7 +62,7 @@ void Replacement::replaceAll(const std::vector<FileContent>& contents,
     if (m_running) // it would take the other's files for strays
         throw RuntimeError(ErrorCode::pathFileAccess,
                            contents.front().name + ": other files are being saved; try again");
-    const RaisedFlag running(m_running);
+    const ScopedFlag running(m_running);
     recover(); // what an earlier one could not settle would mistake our files for its own
     const ReplacedFiles files = filesOf(contents);
     const std::string journal = journalPath(finishJournal);
@@ -101,8 +101,10 @@ void Replacement::prepare(const ReplacedFiles& files, const std::vector<FileCont
     const DiskFile folder = openFolderOf(m_calls, journal);
     std::vector<DiskFile> written;
     for (std::size_t i = 0; i < contents.size(); ++i) {
-        if (files[i].isCopy)
-            linkOrCopy(targetPath(m_programFolder, contents[i].copyOf), newPath(files[i].target));
+        const std::string original =
+            files[i].isCopy ? targetPath(m_programFolder, contents[i].copyOf) : std::string();
+        if (exists(original))
+            linkOrCopy(original, newPath(files[i].target));
         else
             written.push_back(createBeside(m_calls, files[i].target, contents[i].bytes));
         if (files[i].existed)
@@ -135,14 +137,12 @@ void Replacement::linkOrCopy(const std::string& file, const std::string& second)
     createFile(m_calls, second, file, file, bytes).sync();
 }
 
-// A line each: "+" or "-" for a file that existed or not, "*" or "/" for such a copy; its name.
-constexpr std::string_view existedMarks = "+*";
-constexpr std::string_view newMarks = "-/";
-
+// A line each: "+" or "-" for a file that existed or not, "*" for a copy, its name.
 std::string Replacement::journalText(const ReplacedFiles& files) {
     std::string bytes;
     for (const ReplacedFile& file : files)
-        bytes += (file.existed ? existedMarks : newMarks)[file.isCopy ? 1 : 0] + file.name + '\n';
+        bytes +=
+            (file.existed ? "+" : "-") + std::string(file.isCopy ? "*" : "") + file.name + '\n';
     return bytes;
 }
 
@@ -152,13 +152,11 @@ Replacement::ReplacedFiles Replacement::readJournal(std::string_view journal) co
     ReplacedFiles files;
     for (LineReader lines(bytes); !lines.atEnd();) {
         const std::string_view line = lines.next();
-        const std::string name(midToEnd(line, 2));
-        const bool isCopy = line.starts_with(existedMarks[1]) || line.starts_with(newMarks[1]);
-        const std::string target =
-            isCopy ? resolveName(m_programFolder, name) : targetPath(m_programFolder, name);
-        files.push_back({name, target,
-                         line.starts_with(existedMarks[0]) || line.starts_with(existedMarks[1]),
-                         isCopy});
+        const bool isCopy = mid(line, 2, 1) == "*";
+        const std::string name(midToEnd(line, isCopy ? 3 : 2));
+        files.push_back(
+            {name, isCopy ? resolveName(m_programFolder, name) : targetPath(m_programFolder, name),
+             left(line, 1) == "+", isCopy});
     }
     return files;
 }

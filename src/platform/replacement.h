@@ -16,12 +16,13 @@ struct FileContent {
     std::string name;
     std::string bytes;
     // Instead of the bytes: the file of this name as it is before, with that one's owner and
-    // permissions. Whatever stands where such a copy goes is replaced, also a link.
+    // permissions, or nothing where it is missing. Whatever stands where such a copy goes is
+    // replaced, also a link.
     std::string copyOf{};
 };
 
-// 1. Every new file is written beside its target, every old one kept by a second name; only
-//    then the disk is waited for, which takes much less time for all of them than for each.
+// 1. Every new file is written beside its target, every old one gets a second name; only then
+//    the disk is waited for, once for all of them.
 // 2. The journal ".vantrel-finish" lists them: from here on a crash is finished by the next
 //    start.
 // 3. The new files are renamed over the targets; then the journal and the old names go.

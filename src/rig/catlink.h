@@ -2,7 +2,7 @@
 // Reading the operating frequency from the radio that the settings name.
 #pragma once
 
-#include "platform/messages.h"
+#include "platform/platform.h"
 
 #include <string_view>
 

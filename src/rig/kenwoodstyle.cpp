@@ -69,7 +69,6 @@ const RadioFamily kenwood{
     .rts = RtsLine::high, // it sends nothing while RTS is low
     .query = askVfoA,
     .polls = 500,
-    .milliseconds = 1500,
     .parseReply = elevenDigitReply,
     .message = catError,
     .errorLead = catErrorLead,
@@ -81,7 +80,6 @@ const RadioFamily yaesuAscii{
     .rts = RtsLine::high, // it sends nothing while RTS is low
     .query = askVfoA,
     .polls = 500,
-    .milliseconds = 1500,
     .parseReply = eightDigitReply,
     .message = catError,
     .errorLead = catErrorLead,
@@ -89,10 +87,8 @@ const RadioFamily yaesuAscii{
 
 const RadioFamily elecraftK3{
     .settings = "38400,n,8,2",
-    .takesBaud = false,
     .query = askVfoA,
-    .polls = 500 + 10'000,
-    .milliseconds = 1500, // on a band change it answers up to half a second later
+    .polls = 500 + 10'000, // on a band change it answers up to half a second later
     .parseReply = elevenDigitReply,
     .message = " Com Port Not Read ",
 };
@@ -100,10 +96,8 @@ const RadioFamily elecraftK3{
 // Which VFO transmits and what each is tuned to, in one go: sending and answering take 150 ms.
 const RadioFamily elecraftK2{
     .settings = "4800,n,8,2",
-    .takesBaud = false,
     .query = [](const OperatingSettings&) -> std::string { return "FT;FA;FB;MD;"; },
     .polls = 110'000 + 8'000,
-    .milliseconds = 1500,
     .parseReply = twoVfoReply,
     .message = " Com Port Not Read ",
     .vfo = "VFO IN USE",

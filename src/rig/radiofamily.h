@@ -3,7 +3,7 @@
 // replies apart. How they are spoken to is the same for all: catlink.cpp.
 #pragma once
 
-#include "platform/serialport.h"
+#include "platform/platform.h"
 
 #include <cstdint>
 #include <optional>
@@ -29,7 +29,7 @@ struct Heard {
 struct RadioFamily {
     // The port's settings: complete, or what follows the operator's baud rate.
     std::string_view settings;
-    bool takesBaud;
+    bool takesBaud = false;
     RtsLine rts = RtsLine::low;
 
     std::string (*query)(const OperatingSettings& settings);
@@ -38,7 +38,7 @@ struct RadioFamily {
 
     // The reply's polls: so many at most, over so many milliseconds (each attempt).
     int polls;
-    int milliseconds;
+    int milliseconds = 1500;
     // Finds the answer to `query` in all that came since.
     Reply (*parseReply)(std::string_view bytes, std::string_view query);
     // True when the query was lost on its way and now is the moment to send it once more.

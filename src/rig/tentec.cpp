@@ -36,7 +36,6 @@ Reply binaryReply(std::string_view bytes, std::string_view query) {
 
 const RadioFamily tenTecAscii{
     .settings = "57600,n,8,1",
-    .takesBaud = false,
     .query = [](const OperatingSettings&) -> std::string { return "?AF\r"; },
     .attempts = 5,
     .polls = 15'000,
@@ -47,10 +46,8 @@ const RadioFamily tenTecAscii{
 
 const RadioFamily tenTecBinary{
     .settings = "57600,n,8,1",
-    .takesBaud = false,
     .query = [](const OperatingSettings&) -> std::string { return "?A\r"; },
     .polls = 80'000,
-    .milliseconds = 1500,
     .parseReply = binaryReply,
     .message = "COM Port not read",
 };

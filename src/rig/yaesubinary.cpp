@@ -26,7 +26,6 @@ const RadioFamily yaesuBinary{
     .rts = RtsLine::high, // it sends nothing while RTS is low
     .query = [](const OperatingSettings&) { return std::string("\x00\x00\x00\x02\x10", 5); },
     .polls = 16'000,
-    .milliseconds = 1500,
     .parseReply = statusReply,
     .message = " THE COM PORT HAS NOT BEEN READ  ",
     .vfo = "VFO IN USE",

@@ -5,9 +5,9 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "platform/eventloop.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
+#include "platform/platform.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>

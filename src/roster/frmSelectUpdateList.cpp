@@ -3,7 +3,7 @@
 
 #include "forms/formbuilder.h"
 #include "platform/files.h"
-#include "platform/launcher.h"
+#include "platform/platform.h"
 #include "roster/memberlist.h"
 
 #include <QHBoxLayout>

@@ -109,10 +109,8 @@ private:
     static void keepOld(const Files& files, const std::string& name,
                         std::vector<FileContent>& contents) {
         const std::string copy = name + std::string(backupSuffix);
-        if (files.present(name))
+        if (files.present(name) || files.present(copy))
             contents.push_back({copy, {}, name});
-        else if (files.present(copy))
-            contents.push_back({copy, {}});
     }
 
     std::vector<RosterTable> m_tables;

@@ -2,7 +2,7 @@
 // UTC time and date of a contact, from the PC's local clock and the operator's offset.
 #pragma once
 
-#include "platform/clock.h"
+#include "platform/platform.h"
 
 #include <string>
 #include <string_view>

@@ -4,11 +4,7 @@
 #pragma once
 
 #include "base/runtimeerror.h"
-#include "platform/eventloop.h"
-#include "platform/launcher.h"
-#include "platform/messages.h"
-#include "platform/printer.h"
-#include "platform/sound.h"
+#include "platform/platform.h"
 
 #include <deque>
 #include <functional>

@@ -3,7 +3,7 @@
 // wait(), so a test says on which pass a reply comes and sees how long a read took.
 #pragma once
 
-#include "platform/serialport.h"
+#include "platform/platform.h"
 
 #include <deque>
 #include <gtest/gtest.h>

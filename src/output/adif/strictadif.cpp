@@ -8,8 +8,8 @@
 #include "log/qsoline.h"
 #include "output/adif/adif.h"
 #include "output/score/regioncodes.h"
-#include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/platform.h"
 
 #include <algorithm>
 #include <array>

@@ -10,7 +10,7 @@
 #include "output/adif/strictadif.h"
 #include "output/files/filetexts.h"
 #include "platform/files.h"
-#include "platform/printjob.h"
+#include "platform/platform.h"
 #include "roster/rosterfiles.h"
 #include "shared/utctime.h"
 

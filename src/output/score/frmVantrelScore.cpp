@@ -13,7 +13,7 @@
 #include "output/score/contestpicture.h"
 #include "output/score/scoretext.h"
 #include "platform/files.h"
-#include "platform/printjob.h"
+#include "platform/platform.h"
 #include "platform/qt/latin1.h"
 
 #include <QApplication>

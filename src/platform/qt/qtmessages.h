@@ -2,7 +2,7 @@
 // Message boxes as real windows over the form that is active.
 #pragma once
 
-#include "platform/messages.h"
+#include "platform/platform.h"
 
 namespace vantrel {
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/qtprinter.h"
-
 #include "base/runtimeerror.h"
 #include "platform/qt/latin1.h"
+#include "platform/qt/qtdevices.h"
 
 #include <QBuffer>
 #include <QFontMetricsF>

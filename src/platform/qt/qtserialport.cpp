@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/qtserialport.h"
-
+#include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
+#include "platform/qt/qtdevices.h"
 #include "platform/serialnames.h"
 
 #include <QEventLoop>
 #include <QTimer>
 
+#include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
 #include <grp.h>
+#include <optional>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -23,6 +25,40 @@ namespace vantrel {
 namespace {
 
 enum WaitResult { woken = 1, givenUp = 2 };
+
+// The settings text "38400,n,8,2" taken apart.
+struct LineSettings {
+    int baud;
+    char parity; // 'n', 'e' or 'o'
+    int dataBits;
+    int stopBits;
+};
+
+// Nothing when the text has another form ("None,n,8,1").
+std::optional<LineSettings> lineSettings(std::string_view text) {
+    const auto baudEnd = text.find(',');
+    if (baudEnd == std::string_view::npos || baudEnd == 0 || baudEnd > 6)
+        return std::nullopt;
+    const std::string_view baud = text.substr(0, baudEnd);
+    const std::string_view rest = text.substr(baudEnd);
+    const bool form = rest.size() == 6 && rest[0] == ',' && rest[2] == ',' && rest[4] == ',' &&
+                      std::all_of(baud.begin(), baud.end(), isDigit);
+    if (!form || std::string_view("neo").find(rest[1]) == std::string_view::npos ||
+        (rest[3] != '7' && rest[3] != '8') || (rest[5] != '1' && rest[5] != '2'))
+        return std::nullopt;
+    return LineSettings{static_cast<int>(numericValue(baud)), rest[1], rest[3] - '0',
+                        rest[5] - '0'};
+}
+
+void setLine(QSerialPort& port, const LineSettings& line) {
+    port.setBaudRate(line.baud);
+    port.setDataBits(line.dataBits == 7 ? QSerialPort::Data7 : QSerialPort::Data8);
+    port.setStopBits(line.stopBits == 2 ? QSerialPort::TwoStop : QSerialPort::OneStop);
+    port.setParity(line.parity == 'e'   ? QSerialPort::EvenParity
+                   : line.parity == 'o' ? QSerialPort::OddParity
+                                        : QSerialPort::NoParity);
+    port.setFlowControl(QSerialPort::NoFlowControl);
+}
 
 // The device behind the port as the system names it, links followed; throws where there is
 // none.
@@ -121,7 +157,7 @@ void QtSerialPort::open(const std::string& name, const std::string& settings, Rt
     const std::string device = realDevice(m_files.programFolder(), name);
     m_name = name + " (" + shownText(device) + ")";
     m_port.setPortName(QString::fromStdString(device));
-    setLine(*line);
+    setLine(m_port, *line);
     if (!m_port.open(QIODevice::ReadWrite))
         throw openError(m_port, device, m_name);
     // A port without these lines (a pseudo-terminal) refuses, and has nothing to set.
@@ -131,16 +167,6 @@ void QtSerialPort::open(const std::string& name, const std::string& settings, Rt
     m_port.clearError();
     m_port.clear(QSerialPort::Input); // a late answer to an earlier query is no answer to this
     m_sinceOpen.start();
-}
-
-void QtSerialPort::setLine(const LineSettings& line) {
-    m_port.setBaudRate(line.baud);
-    m_port.setDataBits(line.dataBits == 7 ? QSerialPort::Data7 : QSerialPort::Data8);
-    m_port.setStopBits(line.stopBits == 2 ? QSerialPort::TwoStop : QSerialPort::OneStop);
-    m_port.setParity(line.parity == 'e'   ? QSerialPort::EvenParity
-                     : line.parity == 'o' ? QSerialPort::OddParity
-                                          : QSerialPort::NoParity);
-    m_port.setFlowControl(QSerialPort::NoFlowControl);
 }
 
 void QtSerialPort::close() {

@@ -3,7 +3,6 @@
 
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
-#include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "shared/module1.h"

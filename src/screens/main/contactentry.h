@@ -3,7 +3,7 @@
 // thing that happens makes of it. No window: the page shows view() after each of them.
 #pragma once
 
-#include "platform/messages.h"
+#include "platform/platform.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/entryview.h"
 #include "screens/main/frequency.h"

@@ -5,7 +5,7 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "platform/sound.h"
+#include "platform/platform.h"
 
 #include <QEvent>
 #include <QTimer>

@@ -6,7 +6,7 @@
 #include "forms/formbuilder.h"
 #include "forms/layouts.h"
 #include "forms/markedlabel.h"
-#include "platform/serialport.h"
+#include "platform/platform.h"
 #include "screens/main/frequency.h"
 #include "screens/main/widgets/contestpanel.h"
 #include "screens/main/widgets/suggestionlist.h"

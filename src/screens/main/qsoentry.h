@@ -6,7 +6,7 @@
 #include "base/integer16.h"
 #include "base/runtimeerror.h"
 #include "log/qsoline.h"
-#include "platform/messages.h"
+#include "platform/platform.h"
 
 #include <optional>
 #include <string>

@@ -7,9 +7,8 @@
 #include "forms/emptyframe.h"
 #include "forms/formbuilder.h"
 #include "log/logfile.h"
-#include "platform/clock.h"
 #include "platform/files.h"
-#include "platform/serialport.h"
+#include "platform/platform.h"
 #include "screens/start/startnotes.h"
 
 #include <QCloseEvent>

@@ -4,7 +4,7 @@
 #include "log/shortlog.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
-#include "platform/clock.h"
+#include "platform/platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

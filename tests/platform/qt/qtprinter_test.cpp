@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "base/fixedtext.h"
-#include "platform/qt/qtprinter.h"
+#include "platform/qt/qtdevices.h"
 #include "support/tempfolder.h"
 
 #include <QProcess>

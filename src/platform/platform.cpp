@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/clock.h"
+#include "platform/platform.h"
+
+#include "platform/files.h"
 
 #include <ctime>
 
@@ -18,6 +20,14 @@ TimeOfDay SystemClock::utc() const {
     std::tm utc{};
     gmtime_r(&seconds, &utc);
     return {utc.tm_hour, utc.tm_min};
+}
+
+std::string sendToPrinter(Printer& printer, Files& files, const std::vector<std::string>& lines,
+                          const std::string& pdfName) {
+    if (printer.print(lines))
+        return {};
+    files.rewrite(pdfName, printer.pdf(lines));
+    return "There is no printer: the PDF is at " + files.path(pdfName);
 }
 
 } // namespace vantrel

@@ -2,9 +2,11 @@
 // What is typed and clicked while a handler waits arrives afterwards, whole and in order,
 // whether it comes from the system or straight to a control.
 #include "forms/inputhold.h"
+#include "forms/keyguard.h"
 #include "platform/qt/latin1.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -17,6 +19,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace vantrel::test {
 namespace {
@@ -136,6 +139,27 @@ TEST_P(Holding, KeptKeysDoNotAnswerMessageBoxesAndTheirOwnKeysDo) {
         EXPECT_EQ(story, inside ? "<a| box a|><a| a|>" : "<a| a|> box<a| a|>");
         EXPECT_EQ(answer, QMessageBox::No);
         EXPECT_EQ(page->shown(), "ax|");
+    }
+}
+
+// A held Enter counts once, also where the X server's repeats come without their mark: as a release
+// and a press at one moment. Enter pressed twice in one moment, and never long, is typed.
+TEST(KeyGuard, TakesTheRepeatsOfAHeldEnterAndNoneThatIsTyped) {
+    const KeyGuard guard;
+    QLineEdit box;
+    int entered = 0;
+    QObject::connect(&box, &QLineEdit::returnPressed, [&entered] { ++entered; });
+    for (const auto& [moments, times] :
+         {std::pair{std::vector{1000, 1500, 1500, 1533, 1533, 1566}, 1},
+          {std::vector{2000, 2009, 2009, 2018, 2018, 2018}, 3},
+          {std::vector{3000, 3400, 3401, 3500}, 2}}) {
+        entered = 0;
+        for (std::size_t i = 0; i < moments.size(); ++i) {
+            QKeyEvent key(i % 2 == 0 ? QEvent::KeyPress : QEvent::KeyRelease, Qt::Key_Return, {});
+            key.setTimestamp(static_cast<quint64>(moments[i]));
+            QApplication::sendEvent(&box, &key);
+        }
+        EXPECT_EQ(entered, times) << moments.front();
     }
 }
 

@@ -124,7 +124,7 @@ int main(int argc, char** argv) {
     }
     bench::printHead();
     bench::printRatio("import of 19,500, against sort", bench::median(without),
-                      bench::median(sorted), "ms", 2);
+                      bench::median(sorted), "ms", 5);
     bench::printRatio("the same in its window, against without", bench::median(inWindow),
                       bench::median(without), "ms", 2);
     bench::printValue("longest hold of the event loop meanwhile",

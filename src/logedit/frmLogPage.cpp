@@ -238,8 +238,15 @@ void frmLogPage::showWithItsCall() {
 // --- Changing --------------------------------------------------------------------------------
 
 void frmLogPage::changeClicked() {
-    if (m_log.found())
-        change();
+    if (!m_log.found())
+        return;
+    const std::string before = m_log.line();
+    change();
+    MainPage* main = screens().mainPage();
+    if (main != nullptr && !m_log.found())
+        main->contactDeleted(before);
+    else if (main != nullptr && m_log.line() != before)
+        main->contactCorrected(m_log.line());
 }
 
 void frmLogPage::undoClicked() {

@@ -51,6 +51,9 @@ public:
     virtual void showStation(const std::string& text) = 0;
     // Loads the page as if it had just been opened (START pressed again).
     virtual void loadAfresh() = 0;
+    // Another page made this line of a contact of the log, or took that line out of it.
+    virtual void contactCorrected(const std::string& line) = 0;
+    virtual void contactDeleted(const std::string& line) = 0;
 };
 
 // A screen that opens the file finder and takes the path chosen there.

@@ -176,11 +176,16 @@ QHBoxLayout* frmVantrelMain::pageCommands() {
 }
 
 void frmVantrelMain::connectBoxes() {
-    for (QLineEdit* box : {m_boxes.call, m_boxes.name, m_boxes.state, m_boxes.number})
-        connectHandler(box, &QLineEdit::textEdited, [this] {
-            m_entry.edited(m_boxes.entry());
-            showEntry();
-        });
+    const auto edited = [this] {
+        m_entry.edited(m_boxes.entry());
+        showEntry();
+    };
+    for (QLineEdit* box :
+         {m_boxes.call, m_boxes.name, m_boxes.state, m_boxes.number, m_boxes.rstSent->lineEdit(),
+          m_boxes.rstReceived->lineEdit(), m_boxes.frequency})
+        connectHandler(box, &QLineEdit::textEdited, edited);
+    for (QComboBox* box : {m_boxes.rstSent, m_boxes.rstReceived})
+        connectHandler(box, &QComboBox::activated, edited);
     connectHandler(m_boxes.call, &QLineEdit::returnPressed, [this] { run(&ContactEntry::search); });
     connectHandler(m_boxes.number, &QLineEdit::returnPressed, [this] { run(&ContactEntry::log); });
     connectHandler(m_boxes.frequency, &QLineEdit::returnPressed,
@@ -261,11 +266,6 @@ void frmVantrelMain::showEntry() {
     if (std::exchange(m_bands, view.bands) != view.bands)
         m_panel->showBands(view.bands);
     m_suggestions->setLines(m_entry.members());
-}
-
-void frmVantrelMain::showStation(const std::string& text) {
-    m_entry.tagChosen(text);
-    showEntry();
 }
 
 // --- Keys ------------------------------------------------------------------------------------

@@ -28,7 +28,13 @@ class frmVantrelMain : public Form, public MainPage {
 public:
     explicit frmVantrelMain(const FormContext& context);
 
-    void showStation(const std::string& text) override;
+    void showStation(const std::string& text) override { tell(&ContactEntry::tagChosen, text); }
+    void contactCorrected(const std::string& line) override {
+        tell(&ContactEntry::contactCorrected, line);
+    }
+    void contactDeleted(const std::string& line) override {
+        tell(&ContactEntry::contactDeleted, line);
+    }
     void loadAfresh() override {
         runHandler([this] { load(); });
     }
@@ -58,6 +64,10 @@ private:
     // What happens to the contact being entered, and what the page does then.
     using Event = Answer (ContactEntry::*)();
     void run(Event happens);
+    void tell(void (ContactEntry::*happened)(std::string_view), const std::string& text) {
+        (m_entry.*happened)(text);
+        showEntry();
+    }
     void carryOut(const Answer& answer);
     void showEntry();
 

@@ -216,6 +216,17 @@ TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     press(page, "Text2", Qt::Key_Up);
     press(page, "List1", Qt::Key_Return);
     EXPECT_EQ(shown("frmVantrelCorrect", "Text1"), "W5NEW");
+    type("frmVantrelCorrect", "Text3", "sue");
+    click("frmVantrelCorrect", "Command2");
+    EXPECT_EQ(shown(page, "Label26"), "CORRECTED W5NEW 14050 0012");
+    click("frmVantrelCorrect", "Command5");
+    EXPECT_EQ(shown(page, "Label26"), "") << "undone";
+    type(page, "Combo1", "449");
+    press("frmVantrelCorrect", "Text1", Qt::Key_Escape);
+    press(page, "List1", Qt::Key_End);
+    press(page, "List1", Qt::Key_Delete);
+    click("frmVantrelDelete", "Command2");
+    EXPECT_EQ(texts(page, "Label26 Combo1"), "DELETED W5NEW 14050 0012|449|");
 }
 
 // It is a matter of the run: START does not turn it on again.

@@ -1,30 +1,16 @@
 // SPDX-License-Identifier: MIT
-// From the boxes to the line: what is cut, padded, refused, and whom the dupe checks find.
+// What the contact being entered is made with: frequencies, bands, who was worked before, the rate.
 #include "log/shortlog.h"
 #include "screens/main/frequency.h"
 #include "screens/main/qsoentry.h"
+#include "screens/main/rate.h"
 #include "screens/main/workedcalls.h"
-#include "shared/settings.h"
+#include "shared/utctime.h"
 
 #include <gtest/gtest.h>
 
 namespace vantrel::test {
 namespace {
-
-TEST(QsoEntry, OtherBandsAreForTheEventShortCallsForNothing) {
-    OperatingSettings settings;
-    ContactFields contact;
-    std::string mhz = "10";
-    EXPECT_EQ(enterFrequency(contact, mhz, settings), FrequencyCheck::outsideSprintBands);
-    settings.contestText = "K3Y";
-    EXPECT_EQ(enterFrequency(contact, mhz, settings), FrequencyCheck::good);
-    EXPECT_EQ(contact.frequency, "10000");
-    for (const char* call : {"", "K1", "\xC5"})
-        EXPECT_FALSE(canLookUp(call)) << call;
-    for (const char* call : {"7", "K1A"})
-        EXPECT_TRUE(canLookUp(call)) << call;
-    EXPECT_FALSE(canBeLogged({.call = "  K1  "}));
-}
 
 std::string each(std::string (*rule)(std::string_view), std::initializer_list<const char*> texts) {
     std::string all;
@@ -65,17 +51,12 @@ TEST(BandRing, WalksTheSixBandsBothWays) {
     EXPECT_EQ(bandDown("").text, "160 Meters");
 }
 
-// A prefix of a logged call is a duplicate, and so are the padded calls that numbers yield.
-TEST(Duplicate, IsSameBandAndCallBeginningWithWhatIsTyped) {
+// While a call is typed: who was worked where, and on which bands.
+TEST(WorkedCalls, AreThoseThatBeginSoWithTheirBands) {
     const std::string on20 = contactLine({.frequency = "14050", .hisCall = "K1ABC"});
     const std::string on40 = contactLine({.frequency = " 7040", .hisCall = "W1AW/4"});
     const std::string away = contactLine({.frequency = "50125", .hisCall = "K1ABD"});
     const Contacts contacts{on20, on40, on20, away};
-    const std::tuple<const char*, const char*, bool> rows[] = {
-        {"K1AB", "14", true},    {"K1ABC     ", "14", true}, {"W1AW", " 7", true},
-        {"K1ABCD", "14", false}, {"K1ABC", " 7", false},     {"k1abc", "14", false}};
-    for (const auto& [call, band, dupe] : rows)
-        EXPECT_EQ(!duplicateOf(contacts, call, band).empty(), dupe) << call << band;
     const auto worked = [&](const char* typed, int columns) {
         std::string text;
         for (const WorkedCall& call : workedBefore(contacts, typed, "14", columns))
@@ -93,6 +74,24 @@ TEST(Duplicate, IsSameBandAndCallBeginningWithWhatIsTyped) {
                  (row.onBand == CallOnBand::worked ? "worked " : "");
     EXPECT_EQ(table, "160 0 80 0 40 1< 20 2 worked 15 0 10 0 6 1 ");
     EXPECT_EQ(bandTable(contacts, "K1AB", " 7", false).call, "") << "two begin so";
+}
+
+// The last hour of a log whose date was not rolled back where its hour was.
+TEST(Rate, TakesAContactUpToADayAheadForOneOfTheDayBefore) {
+    std::vector<std::string> lines;
+    for (const auto& [date, time] : {std::pair{"2012-02-29", "2359"},
+                                     {"03-01-2012", "0004"},
+                                     {"2012-02-28", "2356"},
+                                     {"2012-02-28", "2300"},
+                                     {"2012-03-01", "0006"},
+                                     {"no date", "0001"}})
+        lines.push_back(contactLine({.date = padded(date, 10), .time = time}));
+    const Rate rate =
+        rateAt(momentsOf({lines.begin(), lines.end()}), *momentOf({"0005", "2012-02-29"}));
+    EXPECT_EQ(rateText(rate), "3 (18/h)");
+    EXPECT_EQ(lastText(rate), "LAST 1 MIN AGO");
+    EXPECT_EQ(hourText(rate), "3 contacts in the last hour, most at 2356");
+    EXPECT_EQ(lastText(rateAt({}, {})) + hourText(rateAt({}, {})), "0 contacts in the last hour");
 }
 
 // Unlike the ordinary check, the start of a call is not the call.

@@ -76,13 +76,13 @@ int main(int argc, char** argv) {
     constexpr int members = 8000;
     for (const int number : {2, 3, 4, 5})
         folder.write("SKSDB" + std::to_string(number) + ".TXT", rosterOf(members));
-    const Roster roster(files);
-    bench::single("lookup of the last of 8,000", 5, [&] {
-        if (!roster.findByCall(call(members - 1)))
+    // The first lookup reads the files, and so does each within two seconds of a change.
+    bench::single("first lookup in a file of 8,000", 5, [&] {
+        if (!Roster(files).findByCall(call(members - 1)))
             std::abort();
     });
-    bench::single("a key: calls like none of 32,000", 5,
-                  [&] { benchmark::DoNotOptimize(roster.partialMatches("QQQ", 8)); });
+    bench::single("the first key: calls like none of 32,000", 5,
+                  [&] { benchmark::DoNotOptimize(Roster(files).partialMatches("QQQ", 8)); });
 
     const std::string log = logOf(Log::capacity);
     const Contacts contacts = contactsIn(log);

@@ -9,6 +9,8 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 namespace {
 
@@ -30,6 +32,7 @@ void writeRoster(const bench::BenchFolder& folder) {
 void typing() {
     bench::Program program;
     writeRoster(program.folder);
+    std::this_thread::sleep_for(std::chrono::milliseconds(2200)); // then it counts as unchanged
     program.screens.open(Screen::main);
     QWidget* page = bench::windowNamed("frmVantrelMain");
     auto* box = page->findChild<QLineEdit*>(QStringLiteral("Text2"));

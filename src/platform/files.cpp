@@ -7,6 +7,8 @@
 #include "platform/systemcalls.h"
 
 #include <cerrno>
+#include <cmath>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -61,6 +63,22 @@ std::string Files::read(std::string_view name) const {
     std::string bytes;
     readFile(m_calls, nativePath(name), bytes);
     return bytes;
+}
+
+std::string Files::stamp(std::string_view name) const {
+    struct stat status {};
+    if (::stat(nativePath(name).c_str(), &status) != 0)
+        return {};
+    // File systems keep times coarsely: a second change right after the first may not show.
+    if (std::abs(std::difftime(std::time(nullptr), status.st_mtim.tv_sec)) < 2)
+        return {};
+    std::string stamp;
+    for (const auto part :
+         {static_cast<long long>(status.st_dev), static_cast<long long>(status.st_ino),
+          static_cast<long long>(status.st_size), static_cast<long long>(status.st_mtim.tv_sec),
+          static_cast<long long>(status.st_mtim.tv_nsec)})
+        stamp += std::to_string(part) + ' ';
+    return stamp;
 }
 
 std::optional<std::chrono::sys_seconds> Files::writtenAt(std::string_view name) const {

@@ -38,6 +38,9 @@ public:
     std::string read(std::string_view name) const;
     // The file's whole content, empty when there is no such file.
     std::string readOrEmpty(std::string_view name) const;
+    // Version stamp: equal stamps mean unchanged content. Empty when that cannot be known: no such
+    // file, or one written within the last two seconds.
+    std::string stamp(std::string_view name) const;
     // When the file was written last, by UTC; nothing when there is none.
     std::optional<std::chrono::sys_seconds> writtenAt(std::string_view name) const;
     // Appends `line` and CR LF, on the disk when this returns; creates a missing file. A

@@ -6,14 +6,13 @@
 #include "roster/rosterfiles.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace vantrel {
 
 namespace {
 
-constexpr std::size_t recordsLookedThrough = 8000; // of each file
+constexpr int recordsLookedThrough = 8000;
 
 Member memberOf(std::string_view record) {
     return {std::string(member::call.of(record)), std::string(member::number.of(record)),
@@ -25,15 +24,6 @@ std::string_view callOf(std::string_view record) {
 }
 
 using Records = std::vector<std::string_view>;
-
-// The records of a file that are looked through.
-Records recordsIn(std::string_view bytes) {
-    Records records;
-    records.reserve(bytes.size() / member::width);
-    for (ItemReader reader(bytes); records.size() < recordsLookedThrough && !reader.atEnd();)
-        records.push_back(reader.next());
-    return records;
-}
 
 bool holds(const std::vector<Member>& members, std::string_view call) {
     return std::any_of(members.begin(), members.end(),
@@ -55,24 +45,43 @@ bool isNPlusOne(std::string_view a, std::string_view b) {
 
 } // namespace
 
-std::optional<Member> Roster::findByCall(std::string_view callBoxText) const {
-    const std::string bytes = m_files.readOrEmpty(rosterFiles[rosterFileOf(callBoxText)]);
-    for (const std::string_view record : recordsIn(bytes))
-        if (callOf(record) == callBoxText)
-            return memberOf(record);
-    return std::nullopt;
+Roster::ReadFile& Roster::current(std::size_t file) {
+    ReadFile& read = m_read[file];
+    const std::string stamp = m_files.stamp(rosterFiles[file]);
+    if (stamp.empty() || stamp != read.stamp) {
+        read = {};
+        read.bytes = m_files.readOrEmpty(rosterFiles[file]);
+        read.records.reserve(read.bytes.size() / member::width);
+        ItemReader reader(read.bytes);
+        for (int k = 1; k <= recordsLookedThrough && !reader.atEnd(); ++k)
+            read.records.push_back(reader.next());
+        read.stamp = stamp;
+    }
+    return read;
 }
 
-NumberMatch Roster::findByNumber(std::string_view callBoxText) const {
+std::optional<Member> Roster::findByCall(std::string_view callBoxText) {
+    ReadFile& file = current(rosterFileOf(callBoxText));
+    // Not while the first key of a call is being answered, which reads all five files.
+    if (file.recordOfCall.empty())
+        for (const std::string_view record : file.records)
+            file.recordOfCall.emplace(callOf(record), record);
+    const auto found = file.recordOfCall.find(callBoxText);
+    if (found == file.recordOfCall.end())
+        return std::nullopt;
+    return memberOf(found->second);
+}
+
+NumberMatch Roster::findByNumber(std::string_view callBoxText) {
     const std::string typed = upper(trim(callBoxText));
     if (countCapitals(typed) > 1)
         return {NumberLookup::notANumber};
     const std::string key = numberKey(typed);
     if (key.empty()) // every number begins with the empty one
         return {NumberLookup::nobody};
-    for (const std::string_view file : rosterFiles) {
-        const std::string bytes = m_files.readOrEmpty(file);
-        for (ItemReader reader(bytes); !reader.atEnd();) {
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file) {
+        ItemReader reader(current(file).bytes);
+        while (!reader.atEnd()) {
             const std::string_view record = reader.next();
             if (midToEnd(record, member::number.first).starts_with(key))
                 return {NumberLookup::found, std::string(member::call.of(record))};
@@ -81,20 +90,19 @@ NumberMatch Roster::findByNumber(std::string_view callBoxText) const {
     return {NumberLookup::nobody};
 }
 
-bool Roster::hasMembers() const {
-    return std::any_of(rosterFiles.begin(), rosterFiles.end(), [this](std::string_view file) {
-        return !m_files.readOrEmpty(file).empty();
-    });
+bool Roster::hasMembers() {
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
+        if (!current(file).records.empty())
+            return true;
+    return false;
 }
 
-std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) const {
-    std::array<std::string, rosterFiles.size()> bytes; // the records point into them
+std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) {
     Records beginning;
     Records containing;
     Records oneLetterAway;
-    for (std::size_t i = 0; i < rosterFiles.size(); ++i) {
-        bytes[i] = m_files.readOrEmpty(rosterFiles[i]);
-        for (const std::string_view record : recordsIn(bytes[i])) {
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file) {
+        for (const std::string_view record : current(file).records) {
             const std::string_view call = callOf(record);
             const std::size_t place = call.find(text);
             if (place == 0)

@@ -2,10 +2,14 @@
 // Looking a member up while a contact is entered: by call, and by number.
 #pragma once
 
+#include "roster/rosterfiles.h"
+
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace vantrel {
@@ -28,8 +32,9 @@ struct NumberMatch {
     std::string call{}; // 10, when found
 };
 
-// Lookups in the five roster files. They read the files each time, so they follow every change; a
-// missing file is an empty one. All throw as Files::read.
+// Lookups in the five roster files as they are on the disk now; a missing file is an empty one.
+// What was read is kept until a file changes: members are looked up at each key. All throw as
+// Files::read.
 class Roster {
 public:
     explicit Roster(const Files& files) : m_files(files) {}
@@ -37,25 +42,35 @@ public:
     // The first member with exactly this call, among the first 8,000 records of the file for
     // its first letter; the text is compared as it stands, so lower case or a blank behind it
     // finds nobody.
-    std::optional<Member> findByCall(std::string_view callBoxText) const;
+    std::optional<Member> findByCall(std::string_view callBoxText);
 
     // The first member, in the order of the files and of their lines, whose number begins
     // with the one typed: four digits also find a five-digit number that comes first. Case,
     // blanks around the text and an award letter C or T do not matter. A text of two letters or
     // more is notANumber: it is a call.
-    NumberMatch findByNumber(std::string_view callBoxText) const;
+    NumberMatch findByNumber(std::string_view callBoxText);
 
     // Whether any of the files has a record.
-    bool hasMembers() const;
+    bool hasMembers();
 
     // Check partial: members whose call begins with the text, shorter calls first; then those
     // whose call contains it; when there are none of either, those one letter away (N+1: changed,
     // added or left out). At most `most`, otherwise in the order of the files. Looks through the
     // same records as findByCall.
-    std::vector<Member> partialMatches(std::string_view text, std::size_t most) const;
+    std::vector<Member> partialMatches(std::string_view text, std::size_t most);
 
 private:
+    struct ReadFile {
+        std::string stamp; // Files::stamp of what was read; empty: read it again
+        std::string bytes;
+        std::vector<std::string_view> records;                               // the first 8,000
+        std::unordered_map<std::string_view, std::string_view> recordOfCall; // the first of each
+    };
+
+    ReadFile& current(std::size_t file);
+
     const Files& m_files;
+    std::array<ReadFile, rosterFiles.size()> m_read;
 };
 
 } // namespace vantrel

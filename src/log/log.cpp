@@ -67,6 +67,7 @@ std::string_view markerOf(std::string_view workedLine) {
 
 void Log::open(const std::string& name) {
     m_name = name;
+    ++m_reading;
     m_bytes.clear();
     m_contacts.clear();
     m_tooLong.reset();
@@ -119,6 +120,7 @@ void Log::readAndUpdate() {
 // line is split into items: there may be thousands before it.
 void Log::parse(std::string bytes, std::size_t known) {
     const char* const before = m_bytes.data();
+    ++m_reading;
     m_bytes.swap(bytes); // `bytes` keeps the old ones until the contacts point into the new ones
     if (known == 0)
         m_contacts.clear();

@@ -73,6 +73,8 @@ public:
     // The first 12,000; valid until the log is read again.
     const Contacts& contacts() const { return m_contacts; }
     Integer16 count() const { return static_cast<long long>(m_contacts.size()); }
+    // Another one whenever the contacts were read again.
+    int reading() const { return m_reading; }
     // RuntimeError 9 while the file holds more contacts than that.
     const std::optional<RuntimeError>& tooLong() const { return m_tooLong; }
     // The lines of the first 1,000 contacts.
@@ -108,6 +110,7 @@ private:
     std::string m_name;
     std::string m_bytes; // of the file; m_contacts points into it
     Contacts m_contacts;
+    int m_reading = 0;
     std::optional<RuntimeError> m_tooLong;
     std::vector<std::string> m_worked;
     bool m_workedOnDisk = false; // the file holds what m_worked does

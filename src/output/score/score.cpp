@@ -6,6 +6,7 @@
 #include "output/score/regioncodes.h"
 #include "shared/settings.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <unordered_set>
@@ -24,28 +25,6 @@ constexpr std::string_view clubStation = "K9SKC";
 constexpr std::string_view noNumber = "NONE";
 constexpr char noMember = 'W'; // as the last character of a number
 
-// Different values, views into the log's lines; 400 of them count.
-class DistinctValues {
-public:
-    explicit DistinctValues(std::string_view name) : m_name(name) {}
-
-    void add(std::string_view value) { m_values.insert(value); }
-    bool empty() const { return m_values.empty(); }
-    // Throws RuntimeError 9 naming the list when there was a 401st different value. Only here, and
-    // not in add(): so the figures that come before this one are still reached.
-    Integer16 count() const {
-        if (m_values.size() > distinctValuesCapacity)
-            throw RuntimeError(ErrorCode::subscriptOutOfRange,
-                               std::string(m_name) + " holds at most " +
-                                   std::to_string(distinctValuesCapacity) + " entries");
-        return static_cast<long long>(m_values.size());
-    }
-
-private:
-    std::string_view m_name;
-    std::unordered_set<std::string_view> m_values;
-};
-
 std::string_view memberNumber(std::string_view contact) {
     return trim(qso::hisNumber.of(contact));
 }
@@ -55,99 +34,11 @@ char awardLetter(std::string_view number) {
     return number.empty() ? ' ' : number.back();
 }
 
-// The numbers worked by award letter. Duplicates are not left out: a duplicate repeats a
-// number that is listed already.
-struct AwardNumbers {
-    DistinctValues centurions{"the list of Centurions"};
-    DistinctValues tribunes{"the list of Tribunes"};
-    DistinctValues senators{"the list of Senators"};
-
-    void add(std::string_view number) {
-        switch (awardLetter(number)) {
-        case 'C':
-            return centurions.add(number);
-        case 'T':
-            return tribunes.add(number);
-        case 'S':
-            return senators.add(number);
-        default:
-            return;
-        }
-    }
-    // All three figures or, when one list overflowed, none.
-    void enter(Score& score) const {
-        const std::array counts{centurions.count(), tribunes.count(), senators.count()};
-        score.centurions = counts[0];
-        score.tribunes = counts[1];
-        score.senators = counts[2];
-    }
-    int points() const {
-        return centurionPoints * centurions.count().value() +
-               tribunePoints * tribunes.count().value() + senatorPoints * senators.count().value();
-    }
-};
-
-class BonusStation {
-public:
-    explicit BonusStation(const OperatingSettings& settings)
-        : m_call(leftAligned(settings.bonusStation, callWidth)), m_isSet(!trim(m_call).empty()) {}
-
-    // No bonus station is ten blanks, which must not match a contact without a call.
-    bool worked(std::string_view contact) const {
-        return m_isSet && qso::hisCall.of(contact) == m_call;
-    }
-
-private:
-    std::string m_call;
-    bool m_isSet;
-};
-
-// Bonus points and total. When they are beyond 16 bits, the error says what the total would be.
-void enterTotal(Score& score, int bonusPoints) {
-    const int total = score.qsos->value() * score.multipliers->value() + bonusPoints;
-    try {
-        score.bonusPoints = bonusPoints;
-        score.total = total;
-    } catch (const RuntimeError& error) {
-        throw RuntimeError(error.code(), "THE WHOLE SCORE WOULD BE " + std::to_string(total));
-    }
-}
-
-// --- All contests but the European sprint ---------------------------------------------------
-
 // A duplicate adds no S/P/C, except as the log's first contact: duplicates are told from new values
 // only while looking through the list, and an empty list is not looked through.
 bool addsRegion(std::string_view contact, bool noneYet) {
     return noneYet || !isDupe(contact);
 }
-
-void scoreSprint(const Contacts& contacts, const OperatingSettings& settings, Score& score) {
-    const BonusStation bonusStation(settings);
-    DistinctValues regions("the list of S/P/Cs");
-    AwardNumbers awards;
-    int qsos = 0;
-    int clubStationQsos = 0; // on any band
-    int bonusStationQsos = 0;
-    for (const std::string_view contact : contacts) {
-        awards.add(memberNumber(contact));
-        if (addsRegion(contact, regions.empty()))
-            regions.add(qso::hisState.of(contact));
-        if (isDupe(contact))
-            continue;
-        ++qsos;
-        clubStationQsos += qso::hisCall.of(contact).starts_with(clubStation) ? 1 : 0;
-        bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
-    }
-    score.qsos = qsos;
-    score.multipliers = regions.count();
-    awards.enter(score);
-    score.k9skcQsos = clubStationQsos;
-    score.bonusStationQsos = bonusStationQsos;
-    enterTotal(score, awards.points() + clubStationPoints * clubStationQsos +
-                          bonusStationPoints * bonusStationQsos);
-}
-
-// --- The European sprint --------------------------------------------------------------------
 
 // Two-letter codes of states and provinces stand for their country. The field is compared as
 // it stands in the line, with its padding: a code that is out of place stays what it is.
@@ -169,42 +60,6 @@ std::string_view countryOf(std::string_view field) {
 bool isRegularMember(std::string_view number) {
     const char award = awardLetter(number);
     return award != 'T' && award != 'C' && award != noMember && number != noNumber;
-}
-
-void scoreEuropeanSprint(const Contacts& contacts, const OperatingSettings& settings,
-                         Score& score) {
-    const BonusStation bonusStation(settings);
-    AwardNumbers awards;
-    DistinctValues regularMembers("the list of regular members");
-    std::unordered_set<std::string_view> states;
-    int qsos = 0;
-    int noMembers = 0;
-    int bonusStationQsos = 0;
-    for (const std::string_view contact : contacts) {
-        const std::string_view number = memberNumber(contact);
-        awards.add(number);
-        if (isRegularMember(number))
-            regularMembers.add(number);
-        if (awardLetter(number) == noMember || qso::hisNumber.of(contact).starts_with(noNumber))
-            ++noMembers;
-        if (isDupe(contact))
-            continue;
-        ++qsos;
-        states.insert(qso::hisState.of(contact));
-        bonusStationQsos += bonusStation.worked(contact) ? 1 : 0;
-    }
-    score.qsos = qsos;
-    awards.enter(score);
-    score.membersPoints = regularMembers.count();
-    score.bonusStationQsos = bonusStationQsos;
-    DistinctValues countries("the list of DXCC countries");
-    for (const std::string_view state : states)
-        countries.add(countryOf(state));
-    score.multipliers = countries.count();
-    // What is shown as regular members worked: Senators are not taken off.
-    score.regularMembersWorked = *score.qsos - *score.centurions - *score.tribunes - noMembers;
-    enterTotal(score, awards.points() + bonusStationPoints * bonusStationQsos +
-                          score.membersPoints->value());
 }
 
 } // namespace
@@ -229,27 +84,125 @@ std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSetti
     return worked;
 }
 
-Score computeScore(const Contacts& contacts, const OperatingSettings& settings) {
+bool DistinctValues::add(std::string_view value) {
+    const auto place = std::lower_bound(m_values.begin(), m_values.end(), value);
+    if (place != m_values.end() && *place == value)
+        return false;
+    if (m_values.size() <= distinctValuesCapacity)
+        m_values.insert(place, value);
+    return true;
+}
+
+Integer16 DistinctValues::count(const char* list) const {
+    if (m_values.size() > distinctValuesCapacity)
+        throw RuntimeError(ErrorCode::subscriptOutOfRange,
+                           "the list of " + std::string(list) + " holds at most " +
+                               std::to_string(distinctValuesCapacity) + " entries");
+    return static_cast<long long>(m_values.size());
+}
+
+// No bonus station is ten blanks, which must not match a contact without a call.
+ScoreTally::ScoreTally(const OperatingSettings& settings, const Contacts& contacts)
+    : m_european(settings.contestCode == contestSkse),
+      m_bonusStation(trim(settings.bonusStation).empty()
+                         ? std::string()
+                         : leftAligned(settings.bonusStation, callWidth)) {
+    for (const std::string_view contact : contacts)
+        add(contact);
+}
+
+ScoreTally::ScoreTally(const OperatingSettings& settings, const Log& log)
+    : ScoreTally(settings, log.tooLong() ? Contacts() : log.contacts()) {
+    m_stoppedBy = log.tooLong();
+}
+
+void ScoreTally::add(std::string_view contact) {
+    const std::string_view number = memberNumber(contact);
+    const char award = awardLetter(number);
+    if (award == 'C' || award == 'T' || award == 'S')
+        (award == 'C' ? m_centurions : award == 'T' ? m_tribunes : m_senators).add(number);
+    if (m_european && isRegularMember(number))
+        m_regularMembers.add(number);
+    if (award == noMember || qso::hisNumber.of(contact).starts_with(noNumber))
+        ++m_noMembers;
+    const std::string_view state = qso::hisState.of(contact);
+    if (!m_european && addsRegion(contact, m_multipliers.empty()))
+        m_multipliers.add(state);
+    if (isDupe(contact))
+        return;
+    ++m_qsos;
+    if (m_european && m_states.add(state))
+        m_multipliers.add(countryOf(state));
+    const std::string_view call = qso::hisCall.of(contact);
+    m_clubStationQsos += call.starts_with(clubStation) ? 1 : 0;
+    m_bonusStationQsos += !m_bonusStation.empty() && call == m_bonusStation ? 1 : 0;
+}
+
+Score ScoreTally::score() const {
     Score score;
-    score.european = settings.contestCode == contestSkse;
+    score.european = m_european;
     try {
-        if (score.european)
-            scoreEuropeanSprint(contacts, settings, score);
+        if (m_stoppedBy)
+            throw RuntimeError(*m_stoppedBy);
+        score.qsos = m_qsos;
+        if (m_european)
+            enterEuropeanSprint(score);
         else
-            scoreSprint(contacts, settings, score);
+            enterSprint(score);
     } catch (const RuntimeError& error) {
         score.stoppedBy = error;
     }
     return score;
 }
 
-Score computeScore(const Log& log, const OperatingSettings& settings) {
-    if (!log.tooLong())
-        return computeScore(log.contacts(), settings);
-    Score score;
-    score.european = settings.contestCode == contestSkse;
-    score.stoppedBy = log.tooLong();
-    return score;
+void ScoreTally::enterSprint(Score& score) const {
+    score.multipliers = m_multipliers.count("S/P/Cs");
+    enterAwards(score);
+    score.k9skcQsos = m_clubStationQsos;
+    score.bonusStationQsos = m_bonusStationQsos;
+    enterTotal(score, clubStationPoints * m_clubStationQsos);
+}
+
+void ScoreTally::enterEuropeanSprint(Score& score) const {
+    enterAwards(score);
+    score.membersPoints = m_regularMembers.count("regular members");
+    score.bonusStationQsos = m_bonusStationQsos;
+    score.multipliers = m_multipliers.count("DXCC countries");
+    // What is shown as regular members worked: Senators are not taken off.
+    score.regularMembersWorked = m_qsos - *score.centurions - *score.tribunes - m_noMembers;
+    enterTotal(score, score.membersPoints->value());
+}
+
+// All three figures or, when one list overflowed, none.
+void ScoreTally::enterAwards(Score& score) const {
+    const std::array counts{m_centurions.count("Centurions"), m_tribunes.count("Tribunes"),
+                            m_senators.count("Senators")};
+    score.centurions = counts[0];
+    score.tribunes = counts[1];
+    score.senators = counts[2];
+}
+
+// Bonus points and total. When they are beyond 16 bits, the error says what the total would be.
+void ScoreTally::enterTotal(Score& score, int points) const {
+    const int bonusPoints = points + centurionPoints * score.centurions->value() +
+                            tribunePoints * score.tribunes->value() +
+                            senatorPoints * score.senators->value() +
+                            bonusStationPoints * m_bonusStationQsos;
+    const int total = score.qsos->value() * score.multipliers->value() + bonusPoints;
+    try {
+        score.bonusPoints = bonusPoints;
+        score.total = total;
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.code(), "THE WHOLE SCORE WOULD BE " + std::to_string(total));
+    }
+}
+
+const ScoreTally& LogTally::tally() const {
+    if (!m_tally || m_reading != m_log.reading()) {
+        m_tally.emplace(m_settings, m_log);
+        m_reading = m_log.reading();
+    }
+    return *m_tally;
 }
 
 } // namespace vantrel

@@ -50,11 +50,73 @@ struct BandScore {
 // multipliers.
 std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSettings& settings);
 
-// The score of a log's contact lines by the rules of `settings.contestCode`. Never throws a
-// RuntimeError: see Score::stoppedBy.
-Score computeScore(const Contacts& contacts, const OperatingSettings& settings);
-// The same for the open log. One with more contacts than it could read has no figures: those of
-// the first 12,000 would look like the whole.
-Score computeScore(const Log& log, const OperatingSettings& settings);
+// Different values, views into the log's lines. Of too many only so many are kept as tell that.
+class DistinctValues {
+public:
+    bool add(std::string_view value); // false for one that is kept already
+    bool empty() const { return m_values.empty(); }
+    // Throws RuntimeError 9 naming the list when there was a 401st. Only here, and not in add():
+    // so the figures that come before this one are still reached.
+    Integer16 count(const char* list) const;
+
+private:
+    std::vector<std::string_view> m_values; // sorted
+};
+
+// What a score is made of, by the rules of `settings.contestCode`. The contacts are views that
+// must live as long as it and its copies.
+class ScoreTally {
+public:
+    explicit ScoreTally(const OperatingSettings& settings, const Contacts& contacts = {});
+    // One with more contacts than the log could read has no figures: those of the first 12,000
+    // would look like the whole.
+    ScoreTally(const OperatingSettings& settings, const Log& log);
+
+    void add(std::string_view contact);
+    // Never throws a RuntimeError: see Score::stoppedBy.
+    Score score() const;
+
+private:
+    void enterSprint(Score& score) const;
+    void enterEuropeanSprint(Score& score) const;
+    void enterAwards(Score& score) const;
+    void enterTotal(Score& score, int points) const;
+
+    bool m_european;
+    std::string m_bonusStation; // ten columns; empty for none
+    std::optional<RuntimeError> m_stoppedBy;
+    int m_qsos = 0;
+    int m_clubStationQsos = 0; // on any band
+    int m_bonusStationQsos = 0;
+    int m_noMembers = 0;
+    DistinctValues m_multipliers; // S/P/Cs, or countries
+    DistinctValues m_states;      // those that the countries were made of
+    // Numbers. Duplicates are not left out: a duplicate repeats a number that is listed already.
+    DistinctValues m_centurions;
+    DistinctValues m_tribunes;
+    DistinctValues m_senators;
+    DistinctValues m_regularMembers;
+};
+
+// The open log's tally: it is counted when the log has been read again, not for each key.
+class LogTally {
+public:
+    LogTally(const Log& log, const OperatingSettings& settings)
+        : m_log(log), m_settings(settings) {}
+    const ScoreTally& tally() const;
+
+private:
+    const Log& m_log;
+    const OperatingSettings& m_settings; // of the log, as long as that is not opened again
+    mutable std::optional<ScoreTally> m_tally;
+    mutable int m_reading = 0;
+};
+
+inline Score computeScore(const Contacts& contacts, const OperatingSettings& settings) {
+    return ScoreTally(settings, contacts).score();
+}
+inline Score computeScore(const Log& log, const OperatingSettings& settings) {
+    return ScoreTally(settings, log).score();
+}
 
 } // namespace vantrel

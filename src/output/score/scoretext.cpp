@@ -2,7 +2,6 @@
 #include "output/score/scoretext.h"
 
 #include "log/qsoline.h"
-#include "shared/settings.h"
 
 #include <array>
 
@@ -49,29 +48,34 @@ std::string printed(const ReportLine& line, const Score& score) {
 
 struct Gain {
     Score::Figure Score::*figure;
-    const char* text;
+    const char* brief;
+    const char* word;
 };
 
-constexpr Gain sprintGains[] = {{&Score::multipliers, "NEW S/P/C"},
-                                {&Score::centurions, "+5 CENTURION"},
-                                {&Score::tribunes, "+10 TRIBUNE"},
-                                {&Score::senators, "+15 SENATOR"},
-                                {&Score::bonusStationQsos, "+25 BONUS STATION"},
-                                {&Score::k9skcQsos, "+25 K9SKC"}};
-constexpr Gain europeanGains[] = {{&Score::multipliers, "NEW COUNTRY"},
-                                  {&Score::centurions, "+5 CENTURION"},
-                                  {&Score::tribunes, "+10 TRIBUNE"},
-                                  {&Score::senators, "+15 SENATOR"},
-                                  {&Score::bonusStationQsos, "+25 BONUS STATION"},
-                                  {&Score::membersPoints, "+1 MEMBER"}};
+constexpr Gain sprintGains[] = {{&Score::multipliers, "NEW S/P/C", ""},
+                                {&Score::centurions, "+5", " CENTURION"},
+                                {&Score::tribunes, "+10", " TRIBUNE"},
+                                {&Score::senators, "+15", " SENATOR"},
+                                {&Score::bonusStationQsos, "+25", " BONUS STATION"},
+                                {&Score::k9skcQsos, "+25", " K9SKC"}};
+constexpr Gain europeanGains[] = {{&Score::multipliers, "NEW COUNTRY", ""},
+                                  {&Score::centurions, "+5", " CENTURION"},
+                                  {&Score::tribunes, "+10", " TRIBUNE"},
+                                  {&Score::senators, "+15", " SENATOR"},
+                                  {&Score::bonusStationQsos, "+25", " BONUS STATION"},
+                                  {&Score::membersPoints, "+1", " MEMBER"}};
 
 template <typename Gains>
-std::string grown(const Gains& gains, const Score& before, const Score& after) {
-    std::string text;
-    for (const auto& [figure, gain] : gains)
+std::string grown(const Gains& gains, const Score& before, const Score& after, GainText text) {
+    const bool full = text == GainText::full;
+    std::string grown;
+    for (const auto& [figure, brief, word] : gains)
         if (*(after.*figure) > *(before.*figure))
-            text += (text.empty() ? "" : "  ") + std::string(gain);
-    return text;
+            grown += (grown.empty() ? ""
+                      : full        ? "  "
+                                    : " ") +
+                     std::string(brief) + (full ? word : "");
+    return grown;
 }
 
 std::string sum(const Score& score, const char* qsos, const char* multipliers) {
@@ -93,15 +97,15 @@ std::string scoreSum(const Score& score) {
     return score.total ? sum(score, " QSOs", score.european ? " DXCC" : " S/P/C") : "SEE SCORE";
 }
 
-std::string scoreGain(const Contacts& contacts, const Score& before, std::string_view contact,
-                      const OperatingSettings& settings) {
-    Contacts more(contacts);
-    more.push_back(contact);
-    const Score after = computeScore(more, settings);
+std::string scoreGain(const ScoreTally& tally, std::string_view contact, GainText text) {
+    ScoreTally more(tally);
+    more.add(contact);
+    const Score before = tally.score();
+    const Score after = more.score();
     if (before.stoppedBy || after.stoppedBy)
         return {};
-    const std::string gain =
-        after.european ? grown(europeanGains, before, after) : grown(sprintGains, before, after);
+    const std::string gain = after.european ? grown(europeanGains, before, after, text)
+                                            : grown(sprintGains, before, after, text);
     if (!isDupe(contact))
         return gain;
     return gain.empty() ? "DUPE: +0" : "DUPE  " + gain;

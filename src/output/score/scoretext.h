@@ -20,11 +20,11 @@ std::string totalText(const Score& score);
 // without a total.
 std::string scoreSum(const Score& score);
 
-// What the contact line would add to the contacts' score (`before`): "NEW S/P/C  +5 CENTURION",
+// What the contact line would add to the score: "NEW S/P/C  +5 CENTURION", in brief "NEW S/P/C +5",
 // "DUPE  +5 CENTURION" (the number of a duplicate can be new), "DUPE: +0"; empty when it only
 // counts as a QSO, or when the score stops.
-std::string scoreGain(const Contacts& contacts, const Score& before, std::string_view contact,
-                      const OperatingSettings& settings);
+enum class GainText { full, brief };
+std::string scoreGain(const ScoreTally& tally, std::string_view contact, GainText text);
 
 // Shown when the report has been sent to the printer.
 inline constexpr std::string_view reportPrinted = "The File has been sent to the Printer!";

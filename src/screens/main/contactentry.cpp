@@ -29,15 +29,25 @@ UtcTime nowOf(const Platform& platform, const Module1& shared) {
 } // namespace
 
 ContactEntry::ContactEntry(Module1& shared, Platform& platform, Radio radio)
-    : m_shared(shared), m_platform(platform), m_radio(std::move(radio)), m_roster(platform.files) {}
+    : m_shared(shared),
+      m_platform(platform),
+      m_radio(std::move(radio)),
+      m_roster(platform.files),
+      m_score(shared.log, shared.settings) {}
 
 EntryView ContactEntry::view() const {
-    return viewOf(m_draft, m_shared, nowOf(m_platform, m_shared));
+    return viewOf(m_draft, m_shared, m_score, nowOf(m_platform, m_shared));
 }
 
 std::vector<MemberLine> ContactEntry::members() {
-    return membersLike(m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call),
-                       m_draft.bandTag());
+    const UtcTime utc = nowOf(m_platform, m_shared);
+    return membersLike(
+        m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call), m_draft.bandTag(),
+        [&](const Member& member) { return gainOf(member, m_draft, m_shared, m_score, utc); });
+}
+
+bool ContactEntry::spaceFillsIn() const {
+    return !lastContact(m_draft, m_shared.log.contacts()).empty();
 }
 
 void ContactEntry::opened() {
@@ -234,6 +244,19 @@ ContactEntry::Step ContactEntry::lookUpCall(Draft::Searched& found) {
         return Step::on;
     m_draft.happened = {nobodyHint(typed)};
     return Step::ended;
+}
+
+Answer ContactEntry::filledFromLog() {
+    const std::string_view contact = lastContact(m_draft, m_shared.log.contacts());
+    for (std::size_t i = 0; i < lookupBoxes.size(); ++i) {
+        const std::string_view text = trim(lookupColumns[i].of(contact));
+        std::string& box = m_draft.boxes.*lookupBoxes[i];
+        if (text.empty() || !trim(box).empty())
+            continue;
+        box = text;
+        m_draft.lookedUp[i] = true;
+    }
+    return {.toCallBox = true};
 }
 
 // --- LOG -------------------------------------------------------------------------------------

@@ -3,6 +3,7 @@
 // thing that happens makes of it. No window: the page shows view() after each of them.
 #pragma once
 
+#include "output/score/score.h"
 #include "platform/platform.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/entryview.h"
@@ -44,6 +45,8 @@ public:
     bool autoReads() const { return m_draft.autoReads; }
     // Space in the call box leads to the first empty box: the search left the name to be typed.
     bool spaceLeadsOn() const { return m_draft.searched && m_draft.searched->nameMissing; }
+    // Or fills in what the log says of who is in no roster.
+    bool spaceFillsIn() const;
 
     // As the page opens: 20 meters, nothing in the boxes.
     void opened();
@@ -64,6 +67,8 @@ public:
 
     // What these throw leaves what was typed in the boxes.
     Answer search(); // and Enter in the call box: LOG when the contact is complete
+    // Into the empty boxes what his last contact says; it belongs to the call as a lookup does.
+    Answer filledFromLog();
     Answer log();
     Answer logAsDupe();
     Answer droppedDupe();
@@ -107,6 +112,7 @@ private:
     Platform& m_platform;
     Radio m_radio;
     Roster m_roster;
+    LogTally m_score;
     Draft m_draft;
     std::optional<Cleared> m_cleared;
     std::string m_asked; // the line that the K3Y dupe box asks about

@@ -16,12 +16,16 @@
 
 namespace vantrel {
 
+class LogTally;
+struct Member;
 struct Module1;
 struct UtcTime;
 
 // The boxes that a lookup fills.
 inline constexpr std::array lookupBoxes{&Entry::name, &Entry::state, &Entry::number};
 using LookupBoxes = std::array<bool, lookupBoxes.size()>;
+// The same in a contact line.
+inline constexpr std::array lookupColumns{qso::hisName, qso::hisState, qso::hisNumber};
 
 struct Draft {
     // What SEARCH found of the call and, on this band, in the log.
@@ -54,6 +58,10 @@ struct Draft {
     std::string bandTag() const;
 };
 
+// The last contact with him whom SEARCH found in no roster, while it says something for a box that
+// is empty.
+std::string_view lastContact(const Draft& draft, const Contacts& contacts);
+
 // What the contact will end in: "DUPE" as SEARCH found it, otherwise the tag chosen.
 std::string markerOf(const Draft& draft, const Module1& shared);
 
@@ -71,6 +79,11 @@ struct EntryView {
     ReadOutcome lastRead{};
 };
 
-EntryView viewOf(const Draft& draft, const Module1& shared, const UtcTime& utc);
+EntryView viewOf(const Draft& draft, const Module1& shared, const LogTally& score,
+                 const UtcTime& utc);
+
+// What the member would bring if he were logged now.
+std::string gainOf(const Member& member, const Draft& draft, const Module1& shared,
+                   const LogTally& score, const UtcTime& utc);
 
 } // namespace vantrel

@@ -294,9 +294,17 @@ bool frmVantrelMain::callBoxTakes(const QKeyEvent& key) {
     }
     if (key.modifiers().testFlag(Qt::AltModifier))
         return false;
+    if (key.key() == Qt::Key_Space && m_entry.spaceFillsIn()) {
+        runHandler([this] { run(&ContactEntry::filledFromLog); });
+        return true;
+    }
     if (key.key() == Qt::Key_Space && m_entry.spaceLeadsOn()) {
         m_boxes.toFirstEmpty();
         return true;
+    }
+    if (key.key() == Qt::Key_Up && empty && shared().log.count().value() > Log::workedCapacity) {
+        runHandler([this] { openOnContact(Screen::correct, chosenContact(), true); });
+        return true; // the list ends before the last contact
     }
     return (key.key() == Qt::Key_Down && m_suggestions->takeFocus()) ||
            (key.key() == Qt::Key_Up && empty && m_workedList->takeFocus());

@@ -57,6 +57,14 @@ std::string missingText(const Entry& boxes, bool hasRoster) {
                      : "NO ROSTER FILES: UPDATE THE DATABASE ON THE START PAGE";
 }
 
+std::string inLogText(std::string_view contact) {
+    std::string text = "IN THE LOG:";
+    for (const Column column : {qso::hisName, qso::hisState, qso::hisNumber})
+        if (!field(column, contact).empty())
+            text += ' ' + field(column, contact);
+    return text + " - SPACE FILLS IN";
+}
+
 Hint loggedHint(std::string_view contact, std::string_view repeated) {
     Hint hint{"LOGGED " + callKhzTime(contact)};
     for (const auto& [column, missing] : {std::pair{qso::hisName, "  NO NAME"},

@@ -30,6 +30,9 @@ std::string spokenHint(const Hint& hint);
 // What is still to be typed of who is in no roster; empty when it is there.
 std::string missingText(const Entry& boxes, bool hasRoster);
 
+// Who is in no roster, but in the log: Space fills in what this contact says of him.
+std::string inLogText(std::string_view contact);
+
 // After a contact is logged: call, kHz and time, and which of name, state and number are blank.
 // repeated: the earlier contact with this call on this band that it was not marked for; empty for
 // none.

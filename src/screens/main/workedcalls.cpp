@@ -155,12 +155,14 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
 }
 
 std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
-                                    std::string_view typed, std::string_view bandTag) {
+                                    std::string_view typed, std::string_view bandTag,
+                                    const std::function<std::string(const Member&)>& gainOf) {
     std::vector<MemberLine> lines;
     if (length(typed) < fewestTyped)
         return lines;
     for (const Member& member : roster.partialMatches(typed, mostMembers)) {
-        MemberLine line{std::string(trim(member.call)), std::string(trim(member.call)), false};
+        const std::string call(trim(member.call));
+        MemberLine line{call, call, false, gainOf(member)};
         for (const std::string& field : {member.name, member.state, member.number})
             line.text += ' ' + std::string(trim(field));
         lines.push_back(std::move(line));

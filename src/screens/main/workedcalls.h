@@ -5,6 +5,7 @@
 
 #include "log/log.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 namespace vantrel {
 
 class Roster;
+struct Member;
 
 // The first logged contact that has the band tag and whose call begins with `call` as it stands:
 // K1AB is a duplicate of K1ABC, K1ABCD is not. Empty when there is none.
@@ -48,11 +50,13 @@ struct MemberLine {
     std::string call;
     std::string text; // "K1ABC JOE CT 0123T"
     bool dupe;        // worked on the present band
+    std::string gain; // what else he would bring: "NEW S/P/C +15"
 };
 
 // Members like what is typed, from two characters on. Throws as Roster::partialMatches.
 std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
-                                    std::string_view typed, std::string_view bandTag);
+                                    std::string_view typed, std::string_view bandTag,
+                                    const std::function<std::string(const Member&)>& gainOf);
 
 enum class CallOnBand { notWorked, worked, dupe };
 

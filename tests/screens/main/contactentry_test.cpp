@@ -50,7 +50,7 @@ public:
 
     void play(int steps) {
         for (int step = 0; step < steps && !::testing::Test::HasFailure(); ++step) {
-            const int event = upTo(19);
+            const int event = upTo(20);
             SCOPED_TRACE("step " + std::to_string(step) + ", event " + std::to_string(event) +
                          " on " + textOf(entry.view()));
             happen(event);
@@ -267,6 +267,27 @@ private:
         searched = true;
         nameMissing = test() && trim(boxes.name).empty();
     }
+    std::array<std::string, 3> inLog() const {
+        std::array<std::string, 3> fills;
+        for (const std::string& line : log)
+            if (line.substr(65, 10) == padded(boxes.call, 10))
+                fills = {std::string(trim(line.substr(80, 10))),
+                         std::string(trim(line.substr(91, 3))),
+                         std::string(trim(line.substr(95, 6)))};
+        bool useful = false;
+        for (std::size_t i = 0; i < 3; ++i)
+            useful |= !fills[i].empty() && trim(boxes.*lookupBoxes[i]).empty();
+        const bool asked = searched && outcome == LookupOutcome::notFound;
+        return asked && useful ? fills : decltype(fills){};
+    }
+    void fillIn() {
+        const auto fills = inLog();
+        for (std::size_t i = 0; i < 3; ++i)
+            if (!fills[i].empty() && trim(boxes.*lookupBoxes[i]).empty()) {
+                boxes.*lookupBoxes[i] = fills[i];
+                tinted[i] = true;
+            }
+    }
     void logNow() {
         if (trim(boxes.call).size() < 3 || !takeRadio(false) || !tune(completedFrequency(mhz)))
             return;
@@ -360,6 +381,8 @@ private:
         case 13:
         case 14:
             return both(entry.log(), [&] { enter() ? logNow() : void(); });
+        case 15:
+            return both(entry.filledFromLog(), [&] { fillIn(); });
         default:
             return both(entry.search(), [&] { search(); });
         }
@@ -376,6 +399,7 @@ private:
         EXPECT_EQ(logged(), log);
         EXPECT_EQ(view.lookedUp, tinted);
         EXPECT_EQ(entry.spaceLeadsOn(), searched && nameMissing);
+        EXPECT_EQ(entry.spaceFillsIn(), (inLog() != std::array<std::string, 3>{}));
         EntryView wanted{.boxes = boxes, .bandText = band, .station = station};
         wanted.nextMarker = marker() == noMarker ? "" : "NEXT QSO: " + marker();
         wanted.hint = joined({searched ? hint(view.hint.text) : std::get<0>(happened)},
@@ -386,8 +410,12 @@ private:
     // What is shown of the score is taken over where it is right.
     std::string hint(const std::string& shown) {
         const std::string problem = problemOfBand();
-        if (const std::string missing = missingText(boxes, true);
-            outcome == LookupOutcome::notFound && !missing.empty())
+        std::string missing = missingText(boxes, true);
+        if (const auto [name, state, number] = inLog(); !(name + state + number).empty())
+            missing = "IN THE LOG:" + (name.empty() ? "" : ' ' + name) +
+                      (state.empty() ? "" : ' ' + state) + (number.empty() ? "" : ' ' + number) +
+                      " - SPACE FILLS IN";
+        if (outcome == LookupOutcome::notFound && !missing.empty())
             return missing + (problem.empty() ? "" : "   " + problem);
         if (!problem.empty())
             return problem;

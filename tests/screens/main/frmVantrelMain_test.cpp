@@ -182,7 +182,7 @@ TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     EXPECT_THAT(lines(page, "List2"), ElementsAre("K1ABC JOE CT 0123T DUPE"));
     folder.write(log, logHeaderLines);
     module.log.reread();
-    EXPECT_THAT(lines(page, "List2"), ElementsAre("K1ABC JOE CT 0123T"));
+    EXPECT_THAT(lines(page, "List2"), ElementsAre("K1ABC JOE CT 0123T NEW S/P/C +10"));
     EXPECT_EQ(shown(page, "Label24"), "");
     press(page, "Text2", Qt::Key_Down);
     press(page, "List2", Qt::Key_Return);
@@ -213,12 +213,18 @@ TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     EXPECT_EQ(focus(), "Text4");
     enterNumber();
     EXPECT_EQ(shown(page, "Label26"), "LOGGED W5NEW 14050 0012  NO STATE");
+    press(page, "Text7", Qt::Key_U, Qt::AltModifier);
+    enterCall("w5new");
+    press(page, "Text2", Qt::Key_Space);
+    EXPECT_EQ(boxes(), "W5NEW|BOB||NONE|");
+    enter();
+    EXPECT_EQ(shown(page, "Label26"), "LOGGED W5NEW 21050 0012  NO STATE");
     press(page, "Text2", Qt::Key_Up);
     press(page, "List1", Qt::Key_Return);
     EXPECT_EQ(shown("frmVantrelCorrect", "Text1"), "W5NEW");
     type("frmVantrelCorrect", "Text3", "sue");
     click("frmVantrelCorrect", "Command2");
-    EXPECT_EQ(shown(page, "Label26"), "CORRECTED W5NEW 14050 0012");
+    EXPECT_EQ(shown(page, "Label26"), "CORRECTED W5NEW 21050 0012");
     click("frmVantrelCorrect", "Command5");
     EXPECT_EQ(shown(page, "Label26"), "") << "undone";
     type(page, "Combo1", "449");

@@ -39,7 +39,9 @@ void SuggestionList::setLines(const std::vector<MemberLine>& lines) {
     const int gap = fontMetrics().averageCharWidth() * spacingCharacters;
     int used = 0;
     for (const MemberLine& line : lines) {
-        auto* item = new QStandardItem(toQt(line.dupe ? line.text + " DUPE" : line.text));
+        auto* item = new QStandardItem(toQt(line.text + (line.dupe           ? " DUPE"
+                                                         : line.gain.empty() ? ""
+                                                                             : " " + line.gain)));
         const int width = fontMetrics().horizontalAdvance(item->text()) + gap;
         used += width;
         if (used > viewport()->width()) {
@@ -48,8 +50,8 @@ void SuggestionList::setLines(const std::vector<MemberLine>& lines) {
         }
         item->setData(toQt(line.call), callRole);
         item->setSizeHint({width, fontMetrics().height()});
-        if (line.dupe)
-            item->setForeground(warningColour(palette()));
+        if (line.dupe || !line.gain.empty())
+            item->setForeground(line.dupe ? warningColour(palette()) : goodColour(palette()));
         m_model->appendRow(item);
     }
 }

@@ -4,6 +4,7 @@
 #include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/form.h"
+#include "forms/layouts.h"
 #include "forms/readtable.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QShortcutEvent>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -148,6 +148,13 @@ QLabel* FormBuilder::label(const char* name, const char* caption) {
     return label;
 }
 
+QLabel* FormBuilder::heading(const char* name, const char* text, double enlargement) {
+    QLabel* heading = label(name, text);
+    heading->setFont(enlargedFont(m_form, enlargement));
+    heading->setAlignment(Qt::AlignCenter);
+    return heading;
+}
+
 QLabel* FormBuilder::alert(const char* name) {
     QLabel* label = this->label(name);
     makeAlert(label);
@@ -216,19 +223,29 @@ QListView* FormBuilder::list(const char* name, const char* toolTip) {
     return list;
 }
 
-// No group box: the style draws that one's frame from a picture, and to read the first picture
-// takes longer than all else that the start page does.
+void FormBuilder::onChoice(QListView* list, const std::function<void(std::size_t)>& chosen) {
+    const auto choose = [list, chosen](const QModelIndex& index) {
+        if (index.isValid())
+            static_cast<Form*>(list->window())->runHandler([&] {
+                chosen(static_cast<std::size_t>(index.row()));
+            });
+    };
+    QObject::connect(list, &QListView::clicked, list, choose);
+    QObject::connect(list, &QListView::activated, list, choose);
+    QObject::connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, list,
+                     [list, choose] {
+                         const QModelIndexList rows = list->selectionModel()->selectedIndexes();
+                         choose(rows.isEmpty() ? QModelIndex() : rows.front());
+                     });
+}
+
+// Not QGroupBox: to load the picture of its frame takes longer than the rest of the start page.
 QLayout* FormBuilder::section(const char* title, QLayout* content) {
     auto* frame = new QFrame(m_form);
     frame->setFrameShape(QFrame::StyledPanel);
     frame->setLayout(content);
     frame->setAccessibleName(vantrel::text(title));
-    auto* part = new QVBoxLayout;
-    QLabel* heading = caption(title);
-    heading->setFont(enlargedFont(m_form, 1));
-    part->addWidget(heading);
-    part->addWidget(frame, 1);
-    return part;
+    return column({bold(caption(title)), {frame, 1}});
 }
 
 QFont fixedWidthFont() {

@@ -37,6 +37,8 @@ public:
     QPushButton* exit(const char* toolTip = "");
     // Plain text, never markup.
     QLabel* label(const char* name, const char* caption = "");
+    // Large, bold and in the middle.
+    QLabel* heading(const char* name, const char* text, double enlargement);
     // A text that a screen reader tells at once: see announce().
     QLabel* alert(const char* name);
     // A caption without a name of its own; `buddy` is the box it names, to screen readers too,
@@ -59,6 +61,8 @@ public:
     ReadTable* table(const char* name, const char* words);
     // A list of lines in the fixed-width font.
     QListView* list(const char* name, const char* toolTip = "");
+    // A click, Enter and an arrow key choose alike; `chosen` gets the row, inside the guard.
+    static void onChoice(QListView* list, const std::function<void(std::size_t)>& chosen);
     // A framed part of the page, under its title.
     QLayout* section(const char* title, QLayout* content);
 
@@ -78,6 +82,16 @@ private:
 QFont fixedWidthFont();
 // The form's font enlarged by `factor`, for what is read across the desk.
 QFont enlargedFont(const QWidget* widget, double factor, bool bold = true);
+template <typename Control>
+Control* bold(Control* control) {
+    control->setFont(enlargedFont(control, 1));
+    return control;
+}
+// The text goes on in a next line where one is not wide enough.
+inline QLabel* wrapped(QLabel* label) {
+    label->setWordWrap(true);
+    return label;
+}
 // The form's font in another family; where that is not installed, the system's nearest.
 QFont familyFont(const QWidget* widget, const char* family);
 // As wide as so many characters of a fixed-width font: one is no whole number of pixels wide.

@@ -3,11 +3,11 @@
 
 #include "forms/formbuilder.h"
 #include "forms/keysheet.h"
+#include "forms/layouts.h"
 #include "platform/qt/latin1.h"
 
 #include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 namespace vantrel {
 
@@ -20,11 +20,7 @@ frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     m_sheet->setTabChangesFocus(true);
     m_sheet->setFont(fixedWidthFont());
     m_sheet->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_exitButton = FormBuilder(this).command("Command1", "E&XIT", "CLOSES THE KEY SHEET");
-    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(m_sheet, 1);
-    page->addWidget(m_exitButton, 0, Qt::AlignRight);
+    page(this, {{m_sheet, 1}, {FormBuilder(this).exit("CLOSES THE KEY SHEET"), 0, Qt::AlignRight}});
 }
 
 void frmVantrelHelp::load() {

@@ -5,7 +5,6 @@
 #include "forms/form.h"
 
 class QPlainTextEdit;
-class QPushButton;
 
 namespace vantrel {
 
@@ -29,7 +28,6 @@ private:
     QSize textSize() const;
 
     QPlainTextEdit* m_sheet;
-    QPushButton* m_exitButton;
     std::string m_page;
 };
 

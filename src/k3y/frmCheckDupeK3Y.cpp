@@ -3,11 +3,10 @@
 
 #include "forms/colours.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "platform/platform.h"
 
-#include <QHBoxLayout>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace vantrel {
 
@@ -19,38 +18,23 @@ constexpr double dupeEnlargement = 5;
 frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     : Form(context, "frmCheckDupeK3Y", "Dupe") {
     setWindowModality(Qt::ApplicationModal);
-    createControls();
-    connectHandler(m_logDupeButton, &QPushButton::clicked, this, &frmCheckDupeK3Y::logDupeClicked);
-    connect(m_noLogButton, &QPushButton::clicked, this, &QWidget::close);
-}
-
-void frmCheckDupeK3Y::createControls() {
     FormBuilder build(this);
-    QLabel* verdict = build.label("Label1", "DUPE");
-    verdict->setFont(enlargedFont(this, dupeEnlargement));
-    verdict->setAlignment(Qt::AlignCenter);
+    QLabel* verdict = build.heading("Label1", "DUPE", dupeEnlargement);
     verdict->setPalette(alarmPalette(palette()));
     verdict->setAutoFillBackground(true);
     QLabel* reason =
         build.label("Label2", "THIS SAME CALL AND SKCC# IS ALREADY IN THE LOG ON THIS BAND");
     reason->setFont(familyFont(this, "Arial Unicode MS"));
     reason->setAlignment(Qt::AlignCenter);
-    m_logDupeButton = build.command("Command2", "LOG THE DUPE");
-    m_noLogButton = build.command("Command1", "NO LOG");
-    for (QPushButton* button : {m_logDupeButton, m_noLogButton})
+    QPushButton* logButton = build.command("Command2", "LOG THE DUPE", "", [this] { logDupe(); });
+    m_noLogButton = build.command("Command1", "NO LOG", "", [this] { close(); });
+    for (QPushButton* button : {logButton, m_noLogButton})
         button->setFont(familyFont(this, "Arial Rounded MT Bold"));
     // Unlike the other dupe screen's, this timer closes nothing: the operator has to decide.
     m_timer = new QTimer(this);
     m_timer->setObjectName(QStringLiteral("Timer1"));
     m_timer->setInterval(timerMilliseconds);
-
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(verdict);
-    page->addWidget(reason);
-    auto* commands = new QHBoxLayout;
-    commands->addWidget(m_logDupeButton);
-    commands->addWidget(m_noLogButton);
-    page->addLayout(commands);
+    page(this, {verdict, reason, row({logButton, m_noLogButton})});
 }
 
 void frmCheckDupeK3Y::load() {
@@ -69,7 +53,7 @@ void frmCheckDupeK3Y::ask(DupeQuestion question) {
 }
 
 // When the log cannot be written the box stays: the contact is still the operator's to log.
-void frmCheckDupeK3Y::logDupeClicked() {
+void frmCheckDupeK3Y::logDupe() {
     m_question.log();
     m_logged = true;
     close();

@@ -24,11 +24,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createControls();
+    void logDupe();
 
-    void logDupeClicked();
-
-    QPushButton* m_logDupeButton;
     QPushButton* m_noLogButton;
     QTimer* m_timer;
 

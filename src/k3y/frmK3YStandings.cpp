@@ -4,11 +4,10 @@
 #include "base/fixedtext.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QPalette>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -73,38 +72,19 @@ std::string regionCellName(int row, int column) {
     return "Text" + std::to_string(row) + std::to_string(row) + std::to_string(column);
 }
 
-frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage& page)
-    : Form(context, page.name, "K3Y Standings"), m_page(page) {
-    createControls();
-    connectHandler(m_otherPageButton, &QPushButton::clicked, this,
-                   &frmK3YStandings::otherPageClicked);
-}
-
-void frmK3YStandings::createControls() {
+frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage& edition)
+    : Form(context, edition.name, "K3Y Standings"), m_page(edition) {
     setFont(familyFont(this, "Arial Rounded MT Bold"));
     FormBuilder build(this);
-    QLabel* headline = build.label("Label1", "K3Y  Regions/Continents Worked");
-    headline->setFont(enlargedFont(this, headlineEnlargement));
-    headline->setAlignment(Qt::AlignCenter);
     m_total = build.label("Label2");
     m_total->setFont(enlargedFont(this, headlineEnlargement));
-    m_wholeTotal = build.label("Label22");
-    m_otherPageButton = build.command("Command2", m_page.otherCaption);
-    QPushButton* exit = build.command("Command1", "E&XIT");
-    connect(exit, &QPushButton::clicked, this, &QWidget::close);
-
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(headline);
-    page->addLayout(createGrid(), 1);
-    auto* commands = new QHBoxLayout;
-    commands->addWidget(m_total);
-    commands->addSpacing(fontMetrics().height());
-    commands->addWidget(m_wholeTotal);
-    commands->addStretch();
-    commands->addWidget(m_otherPageButton);
-    commands->addSpacing(fontMetrics().height());
-    commands->addWidget(exit);
-    page->addLayout(commands);
+    const Item gap = Item::gap(fontMetrics().height());
+    page(this, {build.heading("Label1", "K3Y  Regions/Continents Worked", headlineEnlargement),
+                {createGrid(), 1},
+                row({m_total, gap, m_wholeTotal = build.label("Label22"), Item::room(),
+                     m_otherPageButton = build.command("Command2", m_page.otherCaption, "",
+                                                       [this] { openOtherPage(); }),
+                     gap, build.exit()})});
 }
 
 QGridLayout* frmK3YStandings::createGrid() {
@@ -168,7 +148,7 @@ void frmK3YStandings::showStandings(const Contacts& contacts) {
 }
 
 // The other page takes this one's place: leaving it leads back to where this one came from.
-void frmK3YStandings::otherPageClicked() {
+void frmK3YStandings::openOtherPage() {
     screens().replace(m_page.screen, m_page.other);
 }
 

@@ -44,7 +44,7 @@ class frmK3YStandings : public Form {
     Q_OBJECT
 
 public:
-    frmK3YStandings(const FormContext& context, const StandingsPage& page);
+    frmK3YStandings(const FormContext& context, const StandingsPage& edition);
 
     // Asked for while it shows it reads the log again.
     bool loadsAgain() const override { return true; }
@@ -54,10 +54,9 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void createControls();
     QGridLayout* createGrid();
 
-    void otherPageClicked();
+    void openOtherPage();
 
     void showStandings(const Contacts& contacts);
 

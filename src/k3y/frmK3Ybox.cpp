@@ -3,11 +3,11 @@
 
 #include "base/fixedtext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "platform/qt/latin1.h"
 
 #include <QKeyEvent>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -15,46 +15,31 @@ namespace vantrel {
 
 namespace {
 constexpr double headlineEnlargement = 1.3;
+// In the order of k3yStations.
+constexpr const char* captions[] = {"EU  Europe",      "AF  Africa",        "AS  Asia",
+                                    "OC  Oceania",     "NA  North America", "SA  South America",
+                                    "NONE Add No Note"};
 } // namespace
 
 frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K3Y") {
-    createControls();
-    connectHandlers();
-}
-
-void frmK3Ybox::createControls() {
     setFont(familyFont(this, "Arial"));
     FormBuilder build(this);
-    QLabel* const headlines[] = {build.label("Label1", "APPEND K3Y/xx TO "),
-                                 build.label("Label2", " K3Y DX STATIONS")};
-    m_options = {
-        build.option("Option1", "EU  Europe"),        build.option("Option2", "AF  Africa"),
-        build.option("Option3", "AS  Asia"),          build.option("Option4", "OC  Oceania"),
-        build.option("Option5", "NA  North America"), build.option("Option6", "SA  South America"),
-        build.option("Option7", "NONE Add No Note")};
-    m_okButton =
-        build.command("Command1", "OK", "E, F, A, O, N, S OR X (NONE) CHOOSES AND IS OK TOO");
-
-    auto* page = new QVBoxLayout(this);
-    for (QLabel* headline : headlines) {
-        headline->setFont(enlargedFont(this, headlineEnlargement));
-        headline->setAlignment(Qt::AlignCenter);
-        page->addWidget(headline);
+    std::vector<Item> items{build.heading("Label1", "APPEND K3Y/xx TO ", headlineEnlargement),
+                            build.heading("Label2", " K3Y DX STATIONS", headlineEnlargement)};
+    for (std::size_t index = 0; index < m_options.size(); ++index) {
+        const std::string name = "Option" + std::to_string(index + 1);
+        m_options[index] =
+            build.option(name.c_str(), captions[index], "", [this, index] { choose(index); });
+        items.emplace_back(m_options[index]);
     }
-    for (QRadioButton* option : m_options)
-        page->addWidget(option);
-    page->addWidget(m_okButton);
-}
-
-void frmK3Ybox::connectHandlers() {
-    for (std::size_t index = 0; index < m_options.size(); ++index)
-        connect(m_options[index], &QRadioButton::clicked, this,
-                [this, index] { runHandler([&] { choose(index); }); });
-    connect(m_okButton, &QPushButton::clicked, this, &QWidget::close);
+    items.emplace_back(build.command("Command1", "OK",
+                                     "E, F, A, O, N, S OR X (NONE) CHOOSES AND IS OK TOO",
+                                     [this] { close(); }));
+    page(this, items);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* enter = new QShortcut(key, this);
         enter->setAutoRepeat(false);
-        connectHandler(enter, &QShortcut::activated, this, &frmK3Ybox::okPressed);
+        connectHandler(enter, &QShortcut::activated, [this] { okPressed(); });
     }
 }
 

@@ -7,7 +7,6 @@
 
 #include <array>
 
-class QPushButton;
 class QRadioButton;
 
 namespace vantrel {
@@ -27,14 +26,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void createControls();
-    void connectHandlers();
-
     void choose(std::size_t index);
     void okPressed();
 
     std::array<QRadioButton*, k3yStations.size()> m_options; // as k3yStations
-    QPushButton* m_okButton;
 
     std::size_t m_inForce = 0; // the station that the next contacts get
 };

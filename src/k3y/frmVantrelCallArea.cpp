@@ -4,7 +4,6 @@
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
-#include "k3y/k3ystation.h"
 #include "platform/platform.h"
 #include "shared/utctime.h"
 
@@ -43,13 +42,31 @@ public:
 
 frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     : Form(context, "frmVantrelCallArea", "Get Call Area") {
+    setFont(familyFont(this, "Arial Rounded MT Bold"));
+    FormBuilder build(this);
+    auto* grid = new QGridLayout(this);
+    QLabel* heading = build.label("Label1", "SELECT YOUR CALL AREA");
+    QLabel* instruction = build.label("Label4", "CLICK ON THE CALL AREA SELECTED");
+    heading->setAlignment(Qt::AlignCenter);
+    instruction->setAlignment(Qt::AlignCenter);
+    createAreas();
+    instruction->setBuddy(m_areas);
+    m_chosenArea = build.label("Label3");
+    m_chosenArea->setMinimumWidth(m_areas->minimumWidth() / 2);
+    grid->addWidget(heading, 0, 0, 1, 2);
+    grid->addWidget(instruction, 1, 0, 1, 2);
+    grid->addWidget(m_areas, 2, 0, 1, 2);
+    grid->addWidget(build.label("Label2", "CALL AREA SELECTED:"), 3, 0);
+    grid->addWidget(m_chosenArea, 3, 1);
+    grid->addWidget(build.command("Command1", "OK", "SETS NEW CALL AREA", [this] { close(); }), 4,
+                    0);
+    grid->addWidget(build.command("Command2", "ABORT", "NO CHANGE", [this] { abort(); }), 4, 1);
+}
+
+void frmVantrelCallArea::createAreas() {
     FormBuilder build(this);
     m_areas = build.list("List1");
     m_areas->setAccessibleName(QStringLiteral("CALL AREAS"));
-    m_okButton = build.command("Command1", "OK", "SETS NEW CALL AREA");
-    m_abortButton = build.command("Command2", "ABORT", "NO CHANGE");
-    m_chosenArea = build.label("Label3");
-    setFont(familyFont(this, "Arial Rounded MT Bold"));
     m_areas->setFont(font()); // its items are aligned for it
     std::vector<std::string> items;
     items.reserve(callAreas.size());
@@ -59,16 +76,11 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
     model->setLines(std::move(items));
     m_areas->setModel(model);
     m_areas->setItemDelegate(new AreaDelegate(m_areas));
-    layOut();
-
-    using Page = frmVantrelCallArea;
-    connectHandler(m_areas, &QListView::clicked, this, &Page::areaChosen);
-    connectHandler(m_areas, &QListView::activated, this, &Page::areaChosen); // Enter
-    // An arrow key chooses as a click does.
-    connectHandler(m_areas->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                   &Page::areaSelected);
-    connect(m_okButton, &QPushButton::clicked, this, &QWidget::close);
-    connectHandler(m_abortButton, &QPushButton::clicked, this, &Page::abortClicked);
+    const int rowHeight = fontMetrics().height() + 1;
+    m_areas->setMinimumSize(fontMetrics().averageCharWidth() * listColumns,
+                            rowHeight * static_cast<int>(callAreas.size()) +
+                                2 * m_areas->frameWidth());
+    FormBuilder::onChoice(m_areas, [this](std::size_t row) { choose(callAreas.at(row)); });
 }
 
 void frmVantrelCallArea::load() {
@@ -83,47 +95,19 @@ QWidget* frmVantrelCallArea::firstFocus() {
     return m_areas;
 }
 
-void frmVantrelCallArea::areaChosen(const QModelIndex& index) {
+void frmVantrelCallArea::choose(const CallArea& area) {
     StartPage* page = screens().startPage();
-    if (!index.isValid() || page == nullptr)
+    if (page == nullptr)
         return;
-    const CallArea& area = callAreas.at(static_cast<std::size_t>(index.row()));
     put(m_chosenArea, area.item);
     page->setLogFileName(k3yLogName(m_utcDate, area.code, page->myCall()));
 }
 
-void frmVantrelCallArea::areaSelected() {
-    const QModelIndexList selected = m_areas->selectionModel()->selectedIndexes();
-    if (!selected.isEmpty())
-        areaChosen(selected.front());
-}
-
 // The name goes back to what it was.
-void frmVantrelCallArea::abortClicked() {
+void frmVantrelCallArea::abort() {
     if (StartPage* page = screens().startPage())
         page->setLogFileName(m_savedName);
     close();
-}
-
-void frmVantrelCallArea::layOut() {
-    FormBuilder build(this);
-    QLabel* heading = build.label("Label1", "SELECT YOUR CALL AREA");
-    QLabel* instruction = build.label("Label4", "CLICK ON THE CALL AREA SELECTED");
-    heading->setAlignment(Qt::AlignCenter);
-    instruction->setAlignment(Qt::AlignCenter);
-    instruction->setBuddy(m_areas);
-    auto* grid = new QGridLayout(this);
-    grid->addWidget(heading, 0, 0, 1, 2);
-    grid->addWidget(instruction, 1, 0, 1, 2);
-    grid->addWidget(m_areas, 2, 0, 1, 2);
-    grid->addWidget(build.label("Label2", "CALL AREA SELECTED:"), 3, 0);
-    grid->addWidget(m_chosenArea, 3, 1);
-    grid->addWidget(m_okButton, 4, 0);
-    grid->addWidget(m_abortButton, 4, 1);
-    const QSize row = {fontMetrics().averageCharWidth() * listColumns, fontMetrics().height() + 1};
-    m_areas->setMinimumSize(row.width(), row.height() * static_cast<int>(callAreas.size()) +
-                                             2 * m_areas->frameWidth());
-    m_chosenArea->setMinimumWidth(row.width() / 2);
 }
 
 } // namespace vantrel

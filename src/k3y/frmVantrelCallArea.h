@@ -3,11 +3,10 @@
 #pragma once
 
 #include "forms/form.h"
+#include "k3y/k3ystation.h"
 
 class QLabel;
 class QListView;
-class QModelIndex;
-class QPushButton;
 
 namespace vantrel {
 
@@ -22,15 +21,12 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void layOut();
-    void areaChosen(const QModelIndex& index);
-    void areaSelected();
-    void abortClicked();
+    void createAreas();
+    void choose(const CallArea& area);
+    void abort();
 
     QListView* m_areas;
     QLabel* m_chosenArea;
-    QPushButton* m_okButton;
-    QPushButton* m_abortButton;
 
     std::string m_utcDate;   // when the screen opened
     std::string m_savedName; // of the log, as it stood when the screen opened

@@ -5,13 +5,12 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "forms/linelistmodel.h"
 #include "log/qsoline.h"
 #include "logedit/contacttext.h"
 
-#include <QHBoxLayout>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -27,10 +26,6 @@ std::string searchedNote() {
     return "THE FIRST " + std::to_string(LogEdit::lineCapacity) + " LINES WERE SEARCHED";
 }
 
-void makeBold(QWidget* widget) {
-    widget->setFont(enlargedFont(widget, 1));
-}
-
 } // namespace
 
 frmLogPage::frmLogPage(const FormContext& context, const char* name, const char* caption)
@@ -41,21 +36,21 @@ void frmLogPage::startAt(int contact, bool shown) {
 }
 
 void frmLogPage::load() {
-    tell({});
+    setNotes({});
     if (!m_start)
         return;
     const Start start = *std::exchange(m_start, std::nullopt);
-    say("");
+    setStatus("");
     m_log.forget();
     put(m_callBox, trim(qso::hisCall.of(start.place.text)));
     clearBoxes();
-    followLog();
+    refreshControls();
     if (!start.shown)
         return;
     if (m_log.find(start.place) == SearchResult::found)
         showWithItsCall();
     else
-        tell({m_log.dropsLines() ? searchedNote() : "THIS CONTACT IS NO LONGER IN THE LOG"});
+        setNotes({m_log.dropsLines() ? searchedNote() : "THIS CONTACT IS NO LONGER IN THE LOG"});
 }
 
 QWidget* frmLogPage::firstFocus() {
@@ -64,71 +59,8 @@ QWidget* frmLogPage::firstFocus() {
 
 // --- Controls --------------------------------------------------------------------------------
 
-void frmLogPage::createSearch(QLineEdit* callBox, const char* searchAgainTip) {
-    FormBuilder build(this);
-    m_callBox = callBox;
-    m_searchButton = build.command("Command3", "SEARCH", "ENTER A CALL THEN CLICK HERE");
-    m_searchAgainButton = build.command("Command4", "SEARCH AGAIN", searchAgainTip);
-    m_searchAgainButton->setShortcut(Qt::Key_F3);
-    connectHandler(m_callBox, &QLineEdit::returnPressed, this, &frmLogPage::searchClicked);
-    connectHandler(m_searchButton, &QPushButton::clicked, this, &frmLogPage::searchClicked);
-    connectHandler(m_searchAgainButton, &QPushButton::clicked, this,
-                   &frmLogPage::searchAgainClicked);
-}
-
-QRadioButton* frmLogPage::createDupeOption(QLineEdit* markerBox) {
-    QRadioButton* option = FormBuilder(this).jobOption("Option1", "DUPE NOTE");
-    markerBox->setAccessibleName(QStringLiteral("DUPE NOTE AT THE END"));
-    connect(option, &QRadioButton::clicked, this, [option, markerBox] {
-        put(markerBox, dupeMarker);
-        option->setChecked(false);
-    });
-    return option;
-}
-
-void frmLogPage::createMatches(const char* placeName) {
-    FormBuilder build(this);
-    m_placeLabel = build.label(placeName);
-    m_matchList = build.list("List1", "CLICK A CONTACT, OR ARROWS AND ENTER, TO GO TO IT");
-    m_matchList->setAccessibleName(QStringLiteral("CONTACTS WITH THIS CALL"));
-    m_matchLines = new LineListModel(m_matchList, matchWords);
-    m_matchList->setModel(m_matchLines);
-    connectHandler(m_matchList, &QListView::clicked, this, &frmLogPage::matchChosen);
-    connectHandler(m_matchList, &QListView::activated, this, &frmLogPage::matchChosen);
-}
-
-void frmLogPage::createChange(const char* caption, const char* toolTip, const char* exitTip) {
-    FormBuilder build(this);
-    m_changeButton = build.command("Command2", caption, toolTip);
-    m_undoButton =
-        build.command("Command5", "&UNDO", "UNDOES THE LAST CHANGE MADE HERE, OR REDOES IT");
-    m_exitButton = build.command("Command1", "E&XIT", exitTip);
-    m_changeButton->setEnabled(false);
-    m_undoButton->setEnabled(false);
-    connectHandler(m_changeButton, &QPushButton::clicked, this, &frmLogPage::changeClicked);
-    connectHandler(m_undoButton, &QPushButton::clicked, this, &frmLogPage::undoClicked);
-    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
-}
-
-void frmLogPage::createMessages(const char* messageName, const char* noteName) {
-    m_messageLabel = FormBuilder(this).alert(messageName);
-    m_noteLabel = FormBuilder(this).alert(noteName);
-}
-
-void frmLogPage::chainBoxes(std::span<QLineEdit* const> boxes) {
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        const bool last = i + 1 == boxes.size();
-        QWidget* next = last ? static_cast<QWidget*>(m_changeButton) : boxes[i + 1];
-        connect(boxes[i], &QLineEdit::returnPressed, next,
-                [next] { next->setFocus(Qt::TabFocusReason); }); // as Tab, which selects
-    }
-}
-
 QLabel* frmLogPage::heading(const char* text) {
-    QLabel* heading = FormBuilder(this).caption(text);
-    heading->setFont(enlargedFont(this, headingEnlargement));
-    heading->setAlignment(Qt::AlignCenter);
-    return heading;
+    return FormBuilder(this).heading("", text, headingEnlargement);
 }
 
 void frmLogPage::fit(QLineEdit* box, int columns) {
@@ -136,60 +68,87 @@ void frmLogPage::fit(QLineEdit* box, int columns) {
     box->setMaximumWidth(box->minimumWidth());
 }
 
-QHBoxLayout* frmLogPage::searchRow(const char* caption) {
+QLayout* frmLogPage::searchRow(const char* caption, QLineEdit* callBox,
+                               const char* searchAgainTip) {
+    FormBuilder build(this);
+    m_callBox = callBox;
     fit(m_callBox, qso::hisCall.width);
-    makeBold(m_searchButton);
-    auto* row = new QHBoxLayout;
-    row->addWidget(FormBuilder(this).caption(caption, m_callBox));
-    row->addWidget(m_callBox);
-    row->addWidget(m_searchButton);
-    row->addWidget(m_searchAgainButton);
-    row->addStretch();
-    return row;
+    connectHandler(m_callBox, &QLineEdit::returnPressed, [this] { search(); });
+    QPushButton* again =
+        build.command("Command4", "SEARCH AGAIN", searchAgainTip, [this] { searchAgain(); });
+    again->setShortcut(Qt::Key_F3);
+    return row({build.caption(caption, m_callBox), m_callBox,
+                bold(build.command("Command3", "SEARCH", "ENTER A CALL THEN CLICK HERE",
+                                   [this] { search(); })),
+                again, Item::room()});
 }
 
-QLayout* frmLogPage::matchesCard() {
+QRadioButton* frmLogPage::dupeOption(QLineEdit* markerBox) {
+    QRadioButton* option = FormBuilder(this).jobOption("Option1", "DUPE NOTE");
+    markerBox->setAccessibleName(QStringLiteral("DUPE NOTE AT THE END"));
+    connectHandler(option, &QRadioButton::clicked, [option, markerBox] {
+        put(markerBox, dupeMarker);
+        option->setChecked(false);
+    });
+    return option;
+}
+
+QLayout* frmLogPage::matchesCard(const char* placeName) {
+    FormBuilder build(this);
+    m_placeLabel = build.label(placeName);
+    m_matchList = build.list("List1", "CLICK A CONTACT, OR ARROWS AND ENTER, TO GO TO IT");
+    m_matchList->setAccessibleName(QStringLiteral("CONTACTS WITH THIS CALL"));
+    m_matchLines = new LineListModel(m_matchList, matchWords);
+    m_matchList->setModel(m_matchLines);
     const QFontMetrics metrics(m_matchList->font());
     m_matchList->setMinimumSize(widthOfColumns(metrics, matchColumns + 1) +
                                     m_matchList->verticalScrollBar()->sizeHint().width(),
                                 metrics.height() * matchRows);
-    auto* rows = new QVBoxLayout;
-    rows->addWidget(m_placeLabel);
-    rows->addWidget(m_matchList, 1);
-    return FormBuilder(this).section("CONTACTS WITH THIS CALL", rows);
+    const auto choose = [this](const QModelIndex& index) { showMatch(index); };
+    connectHandler(m_matchList, &QListView::clicked, choose);
+    connectHandler(m_matchList, &QListView::activated, choose);
+    return build.section("CONTACTS WITH THIS CALL", column({m_placeLabel, {m_matchList, 1}}));
 }
 
-QLayout* frmLogPage::messageRows() {
-    makeBold(m_messageLabel);
+QLayout* frmLogPage::messageRows(const char* messageName, const char* noteName) {
+    FormBuilder build(this);
+    m_messageLabel = bold(build.alert(messageName));
     m_messageLabel->setAlignment(Qt::AlignCenter);
+    m_noteLabel = build.alert(noteName);
     m_noteLabel->setWordWrap(true);
     m_noteLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
     // What comes and goes must not move the buttons.
     m_noteLabel->setMinimumHeight(m_noteLabel->fontMetrics().lineSpacing() * noteLines);
-    auto* rows = new QVBoxLayout;
-    rows->addWidget(m_messageLabel);
-    rows->addWidget(m_noteLabel);
-    return rows;
+    return column({m_messageLabel, m_noteLabel});
 }
 
-QHBoxLayout* frmLogPage::changeButtons() {
-    makeBold(m_changeButton);
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_changeButton);
-    row->addWidget(m_undoButton);
-    row->addStretch();
-    row->addWidget(m_exitButton);
-    return row;
+QLayout* frmLogPage::changeButtons(const char* caption, const char* toolTip, const char* exitTip) {
+    FormBuilder build(this);
+    m_changeButton = bold(build.command("Command2", caption, toolTip, [this] { changeFound(); }));
+    m_undoButton = build.command(
+        "Command5", "&UNDO", "UNDOES THE LAST CHANGE MADE HERE, OR REDOES IT", [this] { undo(); });
+    m_changeButton->setEnabled(false);
+    m_undoButton->setEnabled(false);
+    return row({m_changeButton, m_undoButton, Item::room(), build.exit(exitTip)});
+}
+
+void frmLogPage::chainBoxes(std::span<QLineEdit* const> boxes) {
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const bool last = i + 1 == boxes.size();
+        QWidget* next = last ? static_cast<QWidget*>(m_changeButton) : boxes[i + 1];
+        connectHandler(boxes[i], &QLineEdit::returnPressed,
+                       [next] { next->setFocus(Qt::TabFocusReason); }); // as Tab, which selects
+    }
 }
 
 // --- Finding ---------------------------------------------------------------------------------
 
-void frmLogPage::searchClicked() {
+void frmLogPage::search() {
     const std::string key = takeKey();
     showOutcome(m_log.search(key), key, notFoundText(key));
 }
 
-void frmLogPage::searchAgainClicked() {
+void frmLogPage::searchAgain() {
     const std::string key = takeKey();
     showOutcome(m_log.searchNext(key), key, lastEntryText());
 }
@@ -202,19 +161,19 @@ std::string frmLogPage::takeKey() {
 }
 
 void frmLogPage::showOutcome(SearchResult result, const std::string& key, std::string_view none) {
-    Notes notes;
+    std::vector<std::string> notes;
     if (result == SearchResult::found) {
         showFound(key);
     } else if (result == SearchResult::notFound) {
-        say(none);
+        setStatus(none);
         if (m_log.dropsLines())
             notes.push_back(searchedNote());
     }
-    tell(std::move(notes));
-    followLog();
+    setNotes(std::move(notes));
+    refreshControls();
 }
 
-void frmLogPage::matchChosen(const QModelIndex& index) {
+void frmLogPage::showMatch(const QModelIndex& index) {
     if (!index.isValid()) // where one click both chooses and activates
         return;
     const int position = m_matchPositions.at(static_cast<std::size_t>(index.row()));
@@ -222,22 +181,22 @@ void frmLogPage::matchChosen(const QModelIndex& index) {
     if (!m_log.isAt(position)) {
         m_log.goTo(position);
         showFound(textOf(m_callBox));
-        tell({});
+        setNotes({});
     }
-    followLog();
+    refreshControls();
 }
 
 void frmLogPage::showWithItsCall() {
     const std::string call(trim(qso::hisCall.of(m_log.line())));
     put(m_callBox, call);
     showFound(call);
-    tell({});
-    followLog();
+    setNotes({});
+    refreshControls();
 }
 
 // --- Changing --------------------------------------------------------------------------------
 
-void frmLogPage::changeClicked() {
+void frmLogPage::changeFound() {
     if (!m_log.found())
         return;
     const std::string before = m_log.line();
@@ -249,9 +208,9 @@ void frmLogPage::changeClicked() {
         main->contactCorrected(m_log.line());
 }
 
-void frmLogPage::undoClicked() {
+void frmLogPage::undo() {
     const ChangeResult result = m_log.undo();
-    if (!made(result))
+    if (!publish(result))
         return;
     if (m_log.found())
         showWithItsCall();
@@ -260,7 +219,7 @@ void frmLogPage::undoClicked() {
     finish(m_log.undoText(), result);
 }
 
-bool frmLogPage::made(const ChangeResult& result) {
+bool frmLogPage::publish(const ChangeResult& result) {
     // What fails here is told, but the change is made all the same.
     if (result.made)
         runHandler([this] { shared().log.reread(); });
@@ -269,25 +228,26 @@ bool frmLogPage::made(const ChangeResult& result) {
     return result.made;
 }
 
-void frmLogPage::finish(std::string_view message, const ChangeResult& result, Notes notes) {
+void frmLogPage::finish(std::string_view message, const ChangeResult& result,
+                        std::vector<std::string> notes) {
     if (result.changedLog) {
-        Notes news = m_log.newsOfDuplicates(shared().settings.isK3y());
+        std::vector<std::string> news = m_log.newsOfDuplicates(shared().settings.isK3y());
         std::move(news.begin(), news.end(), std::back_inserter(notes));
     } else {
         notes.insert(notes.begin(), "NOTHING WAS CHANGED");
     }
-    say(message);
-    tell(std::move(notes));
-    followLog();
+    setStatus(message);
+    setNotes(std::move(notes));
+    refreshControls();
 }
 
 // --- Showing ---------------------------------------------------------------------------------
 
-void frmLogPage::say(std::string_view message) {
+void frmLogPage::setStatus(std::string_view message) {
     announce(m_messageLabel, message);
 }
 
-void frmLogPage::tell(Notes notes) {
+void frmLogPage::setNotes(std::vector<std::string> notes) {
     if (m_log.found() && m_log.dropsLines())
         notes.push_back("SAVING KEEPS THE FIRST " + std::to_string(LogEdit::lineCapacity) +
                         " LINES, ALL OF THEM IN " + m_log.fullCopyName());
@@ -304,7 +264,7 @@ std::string frmLogPage::placeText(int place, int count) const {
     return std::to_string(place) + " OF " + std::to_string(count);
 }
 
-void frmLogPage::followLog() {
+void frmLogPage::refreshControls() {
     m_changeButton->setEnabled(m_log.found());
     m_undoButton->setEnabled(m_log.canUndo());
     showMatches();

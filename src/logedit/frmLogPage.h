@@ -8,7 +8,6 @@
 
 #include <span>
 
-class QHBoxLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
@@ -20,8 +19,6 @@ class QRadioButton;
 namespace vantrel {
 
 class LineListModel;
-
-using Notes = std::vector<std::string>;
 
 class frmLogPage : public Form {
     Q_OBJECT
@@ -37,22 +34,17 @@ protected:
     void load() override;
     QWidget* firstFocus() override;
 
-    // The controls of all pages; a page makes them where they stand in its tab order.
-    void createSearch(QLineEdit* callBox, const char* searchAgainTip);
-    QRadioButton* createDupeOption(QLineEdit* markerBox);
-    void createMatches(const char* placeName);
-    void createChange(const char* caption, const char* toolTip, const char* exitTip);
-    void createMessages(const char* messageName, const char* noteName);
+    // The parts of the layout that all pages have, made with their controls.
+    QLabel* heading(const char* text);
+    QLayout* searchRow(const char* caption, QLineEdit* callBox, const char* searchAgainTip);
+    QLayout* matchesCard(const char* placeName);
+    QLayout* messageRows(const char* messageName, const char* noteName);
+    QLayout* changeButtons(const char* caption, const char* toolTip, const char* exitTip);
+    // Puts the marker into its box.
+    QRadioButton* dupeOption(QLineEdit* markerBox);
+    static void fit(QLineEdit* box, int columns); // neither narrower nor wider
     // Enter in each of the boxes goes to the next, in the last one to what changes the contact.
     void chainBoxes(std::span<QLineEdit* const> boxes);
-
-    // Their parts of the page's layout.
-    QLabel* heading(const char* text);
-    static void fit(QLineEdit* box, int columns); // neither narrower nor wider
-    QHBoxLayout* searchRow(const char* caption);  // call box and search buttons
-    QLayout* matchesCard();
-    QLayout* messageRows();
-    QHBoxLayout* changeButtons();
     QLabel* messageLabel() { return m_messageLabel; }
 
     // What a page does its own way.
@@ -67,16 +59,17 @@ protected:
     // "2 OF 3".
     virtual std::string placeText(int place, int count) const;
 
-    void say(std::string_view message);
+    void setStatus(std::string_view message);
     // What the operator should know besides; takes the place of what was told before.
-    void tell(Notes notes);
+    void setNotes(std::vector<std::string> notes);
     // Shows what is found and what can be done; the next call may be typed.
-    virtual void followLog();
+    virtual void refreshControls();
 
     // Whether the change was made. If so the open log follows it; its notice is shown.
-    bool made(const ChangeResult& result);
+    bool publish(const ChangeResult& result);
     // The end of what was done to the log.
-    void finish(std::string_view message, const ChangeResult& result, Notes notes = {});
+    void finish(std::string_view message, const ChangeResult& result,
+                std::vector<std::string> notes = {});
 
     LogEdit& log() { return m_log; }
     const LogEdit& log() const { return m_log; }
@@ -88,11 +81,11 @@ private:
         bool shown;
     };
 
-    void searchClicked();
-    void searchAgainClicked();
-    void matchChosen(const QModelIndex& index);
-    void changeClicked();
-    void undoClicked();
+    void search();
+    void searchAgain();
+    void showMatch(const QModelIndex& index);
+    void changeFound();
+    void undo();
 
     // The call box's text tidied, put back into it: from now on it is the key.
     std::string takeKey();
@@ -103,11 +96,8 @@ private:
     void showMatches();
 
     QLineEdit* m_callBox = nullptr;
-    QPushButton* m_searchButton = nullptr;
-    QPushButton* m_searchAgainButton = nullptr;
     QPushButton* m_changeButton = nullptr;
     QPushButton* m_undoButton = nullptr;
-    QPushButton* m_exitButton = nullptr;
     QListView* m_matchList = nullptr;
     LineListModel* m_matchLines = nullptr;
     QLabel* m_placeLabel = nullptr;

@@ -3,37 +3,47 @@
 
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 
-#include <QHBoxLayout>
 #include <QScopeGuard>
-#include <QVBoxLayout>
 
 namespace vantrel {
 
 frmVantrelCorrect::frmVantrelCorrect(const FormContext& context)
     : frmLogPage(context, "frmVantrelCorrect", "CORRECTION PAGE") {
-    createControls();
-    layOut();
-}
-
-void frmVantrelCorrect::createControls() {
     FormBuilder build(this);
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
         m_boxes[i] = build.text(correctionFields[i].box);
-    m_dupeOption = createDupeOption(m_boxes.back());
-    createSearch(m_boxes.front(), "CLICK HERE TO FIND ADDITIONAL ENTRIES");
-    createMatches("Label13");
-    createChange("&SAVE CHANGES", "SAVE WITH CHANGES", "EXIT THIS ROUTINE");
-    createMessages("Label11", "Label12");
+    connectHandler(m_boxes.front(), &QLineEdit::textEdited, [this] { m_callTyped = true; });
+    page(this, {heading("MAKE CORRECTIONS"),
+                searchRow(correctionFields.front().label, m_boxes.front(),
+                          "CLICK HERE TO FIND ADDITIONAL ENTRIES"),
+                {row({build.section("CONTACT", fields()), {matchesCard("Label13"), 1}}), 1},
+                messageRows("Label11", "Label12"),
+                changeButtons("&SAVE CHANGES", "SAVE WITH CHANGES", "EXIT THIS ROUTINE")});
     chainBoxes(std::span(m_boxes).subspan<1>());
-    connect(m_boxes.front(), &QLineEdit::textEdited, this, [this] { m_callTyped = true; });
+}
+
+QLayout* frmVantrelCorrect::fields() {
+    FormBuilder build(this);
+    auto* form = new QFormLayout;
+    for (std::size_t i = 1; i < m_boxes.size(); ++i) {
+        fit(m_boxes[i], correctionFields[i].column.width);
+        // The wrong band is what is corrected most: it has a key of its own.
+        const bool isFrequency = correctionFields[i].column.first == qso::frequency.first;
+        if (i + 1 < m_boxes.size())
+            build.row(form, isFrequency ? "&FREQUENCY" : correctionFields[i].label, m_boxes[i]);
+    }
+    form->addRow(dupeOption(m_boxes.back()), m_boxes.back());
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    return form;
 }
 
 // What is searched for, even in vain, is no correction of the call that is found already.
 void frmVantrelCorrect::searchStarts(const std::string& key) {
     m_shown.front() = key;
     m_callTyped = false;
-    say("");
+    setStatus("");
 }
 
 void frmVantrelCorrect::showFound(const std::string& key) {
@@ -53,10 +63,10 @@ void frmVantrelCorrect::change() {
     }
     const Correction correction = corrected(log().line(), shown, typed);
     const ChangeResult result = rewriteAtWork(correction.line);
-    if (!made(result))
+    if (!publish(result))
         return;
     showBoxes(correction.boxes);
-    Notes notes;
+    std::vector<std::string> notes;
     if (!correction.cut.empty())
         notes.push_back("CUT TO WIDTH: " + correction.cut);
     if (!correction.wrong.empty())
@@ -65,9 +75,9 @@ void frmVantrelCorrect::change() {
 }
 
 ChangeResult frmVantrelCorrect::rewriteAtWork(const std::string& line) {
-    say("    < WORKING >     ");
+    setStatus("    < WORKING >     ");
     messageLabel()->repaint();
-    const QScopeGuard atWorkNoMore([this] { say(""); });
+    const QScopeGuard atWorkNoMore([this] { setStatus(""); });
     return log().replaceLine(line);
 }
 
@@ -84,30 +94,6 @@ void frmVantrelCorrect::showBoxes(const CorrectionBoxes& boxes) {
 std::string frmVantrelCorrect::placeText(int place, int count) const {
     return "FOUND: " + std::string(trim(qso::hisCall.of(log().line()))) + ", " +
            frmLogPage::placeText(place, count);
-}
-
-void frmVantrelCorrect::layOut() {
-    FormBuilder build(this);
-    auto* fields = new QFormLayout;
-    for (std::size_t i = 1; i < m_boxes.size(); ++i) {
-        fit(m_boxes[i], correctionFields[i].column.width);
-        // The wrong band is what is corrected most: it has a key of its own.
-        const bool isFrequency = correctionFields[i].column.first == qso::frequency.first;
-        if (i + 1 < m_boxes.size())
-            build.row(fields, isFrequency ? "&FREQUENCY" : correctionFields[i].label, m_boxes[i]);
-    }
-    fields->addRow(m_dupeOption, m_boxes.back());
-    fields->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-
-    auto* columns = new QHBoxLayout;
-    columns->addLayout(build.section("CONTACT", fields));
-    columns->addLayout(matchesCard(), 1);
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(heading("MAKE CORRECTIONS"));
-    page->addLayout(searchRow(correctionFields.front().label));
-    page->addLayout(columns, 1);
-    page->addLayout(messageRows());
-    page->addLayout(changeButtons());
 }
 
 } // namespace vantrel

@@ -23,15 +23,12 @@ protected:
     std::string placeText(int place, int count) const override;
 
 private:
-    void createControls();
-    void layOut();
-
+    QLayout* fields();
     void showBoxes(const CorrectionBoxes& boxes);
     // Rewrites the log while the message label tells so.
     ChangeResult rewriteAtWork(const std::string& line);
 
     std::array<QLineEdit*, correctionFields.size()> m_boxes; // the first one is the call box
-    QRadioButton* m_dupeOption;
 
     CorrectionBoxes m_shown{}; // as the last search or save left them
     bool m_callTyped = false;  // since then: the call box is no longer the key

@@ -3,10 +3,8 @@
 
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "logedit/contacttext.h"
-
-#include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace vantrel {
 
@@ -16,27 +14,31 @@ constexpr int entryColumns = 36; // the longer of the two lines that show a cont
 
 frmVantrelDelete::frmVantrelDelete(const FormContext& context)
     : frmLogPage(context, "frmVantrelDelete", "DELETE AN ENTRY FROM THE CABRILLO FILE") {
-    createControls();
-    layOut();
-}
-
-void frmVantrelDelete::createControls() {
     FormBuilder build(this);
-    createSearch(build.text("Text1"), "SEARCH FOR ADDITIONAL ENTRIES");
-    createMatches("Label6");
-    createChange("&DELETE", "REMOVE THE ENTRY DISPLAYED ", "QUIT THIS ROUTINE");
     m_callLabel = build.label("Label2");
     m_detailLabel = build.label("Label3");
-    createMessages("Label4", "Label5");
+    for (QLabel* label : {m_callLabel, m_detailLabel}) {
+        label->setFont(fixedWidthFont());
+        label->setMinimumWidth(widthOfColumns(QFontMetrics(label->font()), entryColumns));
+    }
+    page(
+        this,
+        {heading("DELETE AN ENTRY"),
+         searchRow("HIS CALL", build.text("Text1"), "SEARCH FOR ADDITIONAL ENTRIES"),
+         {row({build.section("ENTRY TO DELETE", column({m_callLabel, m_detailLabel, Item::room()})),
+               {matchesCard("Label6"), 1}}),
+          1},
+         messageRows("Label4", "Label5"),
+         changeButtons("&DELETE", "REMOVE THE ENTRY DISPLAYED ", "QUIT THIS ROUTINE")});
 }
 
 void frmVantrelDelete::load() {
     frmLogPage::load();
-    say("ENTER A CALLSIGN ");
+    setStatus("ENTER A CALLSIGN ");
 }
 
 void frmVantrelDelete::showFound(const std::string& /*key*/) {
-    say("");
+    setStatus("");
 }
 
 std::string frmVantrelDelete::notFoundText(const std::string& /*key*/) const {
@@ -45,37 +47,17 @@ std::string frmVantrelDelete::notFoundText(const std::string& /*key*/) const {
 
 void frmVantrelDelete::change() {
     const ChangeResult result = log().removeLine();
-    if (made(result))
+    if (publish(result))
         finish("Deleted...Click EXIT", result);
 }
 
 // Nothing is found after a deletion: a second press would remove the contact that moved up,
 // unseen.
-void frmVantrelDelete::followLog() {
-    frmLogPage::followLog();
+void frmVantrelDelete::refreshControls() {
+    frmLogPage::refreshControls();
     const bool found = log().found();
     put(m_callLabel, found ? deletionCallText(log().line()) : "");
     put(m_detailLabel, found ? deletionDetailText(log().line()) : "");
-}
-
-void frmVantrelDelete::layOut() {
-    auto* entry = new QVBoxLayout;
-    for (QLabel* label : {m_callLabel, m_detailLabel}) {
-        label->setFont(fixedWidthFont());
-        label->setMinimumWidth(widthOfColumns(QFontMetrics(label->font()), entryColumns));
-        entry->addWidget(label);
-    }
-    entry->addStretch();
-    auto* columns = new QHBoxLayout;
-    columns->addLayout(FormBuilder(this).section("ENTRY TO DELETE", entry));
-    columns->addLayout(matchesCard(), 1);
-
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(heading("DELETE AN ENTRY"));
-    page->addLayout(searchRow("HIS CALL"));
-    page->addLayout(columns, 1);
-    page->addLayout(messageRows());
-    page->addLayout(changeButtons());
 }
 
 } // namespace vantrel

@@ -19,12 +19,9 @@ protected:
     std::string_view lastEntryText() const override { return "  LAST ENTRY"; }
     void change() override;
     // Shows the contact found as well.
-    void followLog() override;
+    void refreshControls() override;
 
 private:
-    void createControls();
-    void layOut();
-
     QLabel* m_callLabel;
     QLabel* m_detailLabel;
 };

@@ -23,14 +23,11 @@ protected:
     std::string standingNote() const override;
 
 private:
-    void createControls();
-    void layOut();
     void showBoxes(const EditorBoxes& boxes);
     // The fields from `first` to before `end`, below each other.
     QFormLayout* side(std::size_t first, std::size_t end);
 
     std::array<QLineEdit*, editorFields.size()> m_boxes;
-    QRadioButton* m_dupeOption;
 
     EditorBoxes m_shown{}; // as the last search or save left them
     bool m_saved = false;  // at least once

@@ -60,6 +60,9 @@ public:
     virtual bool ask(const Message& message) = 0;
 };
 
+// How long a display shows one picture, at 60 a second: nothing has to be drawn more often.
+inline constexpr int frameMilliseconds = 16;
+
 // Keeping the window alive during long work and waits.
 class EventLoop {
 public:

@@ -5,21 +5,18 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
-#include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QProgressBar>
-#include <QVBoxLayout>
 
 #include <initializer_list>
 
 namespace vantrel {
 
 namespace {
-constexpr qint64 frameMilliseconds = 16;
 constexpr int widthInCharacters = 90;
 } // namespace
 
@@ -47,32 +44,65 @@ const MemberImportPage memberImportPage{"frmVantrelUpdate",
                                         "Label4",
                                         fixedText};
 
-frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportPage& page)
-    : Form(context, page.name, page.caption), m_page(page) {
-    createControls();
-    layOut();
-    using Page = frmMemberImport;
-    connectHandler(m_addButton, &QPushButton::clicked, this, &Page::addMembersClicked);
-    connectHandler(m_browseButton, &QPushButton::clicked, this, &Page::browseClicked);
-    connect(m_pathBox, &QLineEdit::returnPressed, m_addButton, [this] { m_addButton->setFocus(); });
-    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
-}
-
-void frmMemberImport::createControls() {
+frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportPage& edition)
+    : Form(context, edition.name, edition.caption), m_page(edition) {
     FormBuilder build(this);
     m_pathBox = build.text("Text1", 0, "PATH AND FILE NAME");
-    m_browseButton = build.command("Command3", "&BROWSE", m_page.browseTip);
-    m_addButton = build.command("Command2", "&ADD MBRS", m_page.addTip);
-    m_exitButton = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
+    m_browseButton = build.command("Command3", "&BROWSE", m_page.browseTip,
+                                   [this] { screens().openFinder(m_page.screen); });
+    m_addButton =
+        bold(build.command("Command2", "&ADD MBRS", m_page.addTip, [this] { addMembers(); }));
+    m_exitButton = build.exit("QUIT THIS PAGE");
+    const QLayout* const whole = page(
+        this, {texts(), row({build.caption("LIST:", m_pathBox), {m_pathBox, 1}, m_browseButton}),
+               progressPart(), resultPart(), Item::gap(fontMetrics().height()), Item::room(),
+               row({m_addButton, Item::room(), m_exitButton})});
+    connectHandler(m_pathBox, &QLineEdit::returnPressed, [this] { m_addButton->setFocus(); });
+    // As high as its texts need when they wrap at this width.
+    const int width = fontMetrics().averageCharWidth() * widthInCharacters;
+    resize(width, whole->totalHeightForWidth(width));
+}
+
+QLayout* frmMemberImport::texts() {
+    FormBuilder build(this);
+    std::vector<Item> texts;
+    const std::string address = "The club publishes its lists at " + std::string(listsAddress);
+    for (const char* text :
+         {m_page.explanation, address.c_str(),
+          "Then run this routine to add new members to the database - Click ADD MBRS"}) {
+        if (*text == '\0')
+            continue;
+        QLabel* label = wrapped(build.caption(text));
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        texts.emplace_back(label);
+    }
+    return column(texts);
+}
+
+QLayout* frmMemberImport::progressPart() {
+    FormBuilder build(this);
     m_phase = build.label("Label1");
     m_lineNumber = build.label("Label2");
-    m_added = build.alert("Label3");
+    m_progress = FormBuilder::named(new QProgressBar(this), "ProgressBar1");
+    m_progress->setAccessibleName(QStringLiteral("LINES READ"));
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_phase, m_lineNumber, m_progress}) {
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true); // nothing jumps when it comes and goes
+        widget->setSizePolicy(policy);
+        widget->hide();
+    }
+    return column({row({m_phase, m_lineNumber, Item::room()}), m_progress});
+}
+
+QLayout* frmMemberImport::resultPart() {
+    FormBuilder build(this);
+    const Item gap = Item::gap(2 * fontMetrics().averageCharWidth());
+    m_added = bold(build.alert("Label3"));
     m_linesRead = build.label("Label7");
     m_changed = build.label(m_page.changedLabel);
     m_skipped = build.label("Label5");
     setTextColour(m_skipped, cautionColour(palette()));
-    m_progress = FormBuilder::named(new QProgressBar(this), "ProgressBar1");
-    m_progress->setAccessibleName(QStringLiteral("LINES READ"));
+    return column({m_added, row({m_linesRead, gap, m_changed, gap, m_skipped, gap, Item::room()})});
 }
 
 void frmMemberImport::load() {
@@ -86,31 +116,30 @@ QWidget* frmMemberImport::firstFocus() {
     return m_addButton;
 }
 
-void frmMemberImport::closeEvent(QCloseEvent* event) {
-    m_closed = true;
-    Form::closeEvent(event);
-}
-
 void frmMemberImport::receivePath(const std::string& path) {
     put(m_pathBox, path);
     m_pathBox->setFocus();
 }
 
-void frmMemberImport::browseClicked() {
-    screens().openFinder(m_page.screen);
-}
-
-void frmMemberImport::addMembersClicked() {
+void frmMemberImport::addMembers() {
     const std::string path = textOf(m_pathBox);
     if (m_page.list == MemberList::members && !platform().files.present(path)) {
         messages().show(
             {std::string(memberListMissing), BoxIcon::exclamation, platform().files.path(path)});
         return;
     }
+    // Each import writes all five files as it read them: what the other one added would be lost.
+    bool& isRunning = shared().importRuns;
+    if (isRunning) {
+        messages().show({std::string(otherImportRuns), BoxIcon::exclamation});
+        return;
+    }
+    isRunning = true;
     showRunning(true);
     bool finished = false;
     runHandler([&] { finished = runImport(); });
-    if (m_closed)
+    isRunning = false;
+    if (isGone())
         return;
     showRunning(false);
     if (finished)
@@ -133,7 +162,7 @@ bool frmMemberImport::runImport() {
 
 // Shows a phase at once and the lines once a frame; false once the window has been closed.
 bool frmMemberImport::showStep(const ImportStep& step) {
-    if (m_closed) // files under way are saved to the end; another turn would delete this form
+    if (isGone()) // files under way are saved to the end; another turn would delete this form
         return false;
     const bool lastLine = step.line == step.lines;
     if (!lastLine && m_sinceShown.isValid() && m_sinceShown.elapsed() < frameMilliseconds)
@@ -146,7 +175,7 @@ bool frmMemberImport::showStep(const ImportStep& step) {
     }
     platform().eventLoop.yield();
     m_sinceShown.start();
-    return !m_closed;
+    return !isGone();
 }
 
 void frmMemberImport::showResult(const ImportResult& result) {
@@ -163,78 +192,6 @@ void frmMemberImport::showRunning(bool running) {
         widget->setVisible(running);
     for (QPushButton* button : {m_exitButton, m_addButton, m_browseButton})
         button->setEnabled(!running);
-}
-
-void frmMemberImport::layOut() {
-    FormBuilder build(this);
-    auto* page = new QVBoxLayout(this);
-    page->addLayout(texts());
-    auto* path = new QHBoxLayout;
-    path->addWidget(build.caption("LIST:", m_pathBox));
-    path->addWidget(m_pathBox, 1);
-    path->addWidget(m_browseButton);
-    page->addLayout(path);
-    page->addLayout(progressPart());
-    page->addLayout(resultPart());
-    page->addSpacing(fontMetrics().height());
-    page->addStretch();
-    auto* buttons = new QHBoxLayout;
-    m_addButton->setFont(enlargedFont(this, 1));
-    buttons->addWidget(m_addButton);
-    buttons->addStretch();
-    buttons->addWidget(m_exitButton);
-    page->addLayout(buttons);
-    // As high as its texts need when they wrap at this width.
-    const int width = fontMetrics().averageCharWidth() * widthInCharacters;
-    resize(width, page->totalHeightForWidth(width));
-}
-
-QLayout* frmMemberImport::texts() {
-    FormBuilder build(this);
-    auto* texts = new QVBoxLayout;
-    const std::string address = "The club publishes its lists at " + std::string(listsAddress);
-    for (const char* text :
-         {m_page.explanation, address.c_str(),
-          "Then run this routine to add new members to the database - Click ADD MBRS"}) {
-        if (*text == '\0')
-            continue;
-        QLabel* label = build.caption(text);
-        label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        texts->addWidget(label);
-    }
-    return texts;
-}
-
-QLayout* frmMemberImport::progressPart() {
-    auto* phase = new QHBoxLayout;
-    phase->addWidget(m_phase);
-    phase->addWidget(m_lineNumber);
-    phase->addStretch();
-    auto* part = new QVBoxLayout;
-    part->addLayout(phase);
-    part->addWidget(m_progress);
-    for (QWidget* widget : std::initializer_list<QWidget*>{m_phase, m_lineNumber, m_progress}) {
-        QSizePolicy policy = widget->sizePolicy();
-        policy.setRetainSizeWhenHidden(true); // nothing jumps when it comes and goes
-        widget->setSizePolicy(policy);
-        widget->hide();
-    }
-    return part;
-}
-
-QLayout* frmMemberImport::resultPart() {
-    m_added->setFont(enlargedFont(this, 1));
-    auto* figures = new QHBoxLayout;
-    for (QLabel* label : {m_linesRead, m_changed, m_skipped}) {
-        figures->addWidget(label);
-        figures->addSpacing(2 * fontMetrics().averageCharWidth());
-    }
-    figures->addStretch();
-    auto* part = new QVBoxLayout;
-    part->addWidget(m_added);
-    part->addLayout(figures);
-    return part;
 }
 
 } // namespace vantrel

@@ -35,25 +35,20 @@ class frmMemberImport : public Form, public PathReceiver {
     Q_OBJECT
 
 public:
-    frmMemberImport(const FormContext& context, const MemberImportPage& page);
+    frmMemberImport(const FormContext& context, const MemberImportPage& edition);
 
     void receivePath(const std::string& path) override;
 
 protected:
     void load() override;
     QWidget* firstFocus() override;
-    void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createControls();
-    void layOut();
     QLayout* texts();
     QLayout* progressPart();
     QLayout* resultPart();
 
-    void browseClicked();
-    void addMembersClicked();
-
+    void addMembers();
     bool runImport();
     void showRunning(bool running);
     bool showStep(const ImportStep& step);
@@ -72,7 +67,6 @@ private:
     QLabel* m_skipped;
     QProgressBar* m_progress;
     QElapsedTimer m_sinceShown;
-    bool m_closed = false; // the import under way is given up
 };
 
 } // namespace vantrel

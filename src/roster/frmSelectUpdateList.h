@@ -18,15 +18,9 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void run(QRadioButton* option);
-    void importDataClicked();
-    void importMembersClicked();
-    void downloadClicked();
+    void download();
 
-    QRadioButton* m_downloadOption;
-    QRadioButton* m_dataOption;
-    QRadioButton* m_membersOption;
-    QRadioButton* m_lastRun; // and the first to offer
+    QRadioButton* m_lastRun; // has the focus; at first the job to begin with
 };
 
 } // namespace vantrel

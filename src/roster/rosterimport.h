@@ -43,6 +43,8 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
 
 // Shown when the list of members is missing.
 inline constexpr std::string_view memberListMissing = "SKCCLIST.TXT IS NOT FOUND";
+// Shown for an import while another one runs.
+inline constexpr std::string_view otherImportRuns = "AN IMPORT IS RUNNING: WAIT FOR ITS END";
 // The running line number as shown: the digits and 24 blanks.
 std::string lineNumberText(int line);
 // "DONE. . . . 3 MBRS ADDED. Click EXIT"; the page of the members' list has its own wording.

@@ -64,6 +64,21 @@ TEST_F(ImportPages, MemberListCountsWhatItFixedAndIsReadFromWhereTheFinderSays) 
                 ::testing::HasSubstr(folder.string() + " AND TAKE THE FIRST CHOICE"));
 }
 
+TEST_F(ImportPages, OneWaitsForTheOtherSoThatBothAddTheirMembers) {
+    folder.write("SKCCLIST.TXT", "123|K1ABC|Joe|Town|CT|123T|\r\n");
+    click(choice, "Option1");
+    click(choice, "Option2");
+    bool told = false;
+    eventLoop.onYield = [&] {
+        if (!std::exchange(told, true))
+            clickFor("AN IMPORT IS RUNNING: WAIT FOR ITS END", listPage, "Command2");
+    };
+    click(dataPage, "Command2");
+    click(listPage, "Command2");
+    EXPECT_TRUE(folder.has("SKSDB3.TXT") && folder.has("SKSDB2.TXT"));
+    EXPECT_EQ(shown(listPage, "Label3"), "DONE...1 Mbrs Added...Click EXIT");
+}
+
 TEST_F(ImportPages, ClosedAtAnyStepItGivesUpButWhatIsBeingSavedIsSaved) {
     folder.write("skccdata.txt", "1T|N1AA|NED|" + std::string(130, 'Q') + "|ME||||||\r\n");
     std::string steps;

@@ -16,31 +16,43 @@ constexpr int listRows = 16;
 
 frmFileFinder::frmFileFinder(const FormContext& context)
     : Form(context, "frmFileFinder", "FILE FINDER") {
-    createControls();
-    layOut();
-    using Finder = frmFileFinder;
-    // Chosen, not only changed: the drive that shows already leads back to its top.
-    connectHandler(m_driveBox, &QComboBox::activated, this, &Finder::driveChosen);
-    connectHandler(m_folderList, &QListView::activated, this, &Finder::folderOpened);
-    connectHandler(m_fileList, &QListView::clicked, this, &Finder::fileChosen);
-    connectHandler(m_fileList, &QListView::activated, this, &Finder::fileChosen); // Enter
-    // An arrow key chooses as a click does.
-    connectHandler(m_fileList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                   &Finder::fileSelected);
-    connectHandler(m_returnButton, &QPushButton::clicked, this, &Finder::returnClicked);
-}
-
-void frmFileFinder::createControls() {
     FormBuilder build(this);
-    m_driveBox = build.combo("drvList", "CHOOSE A DRIVE");
-    m_folderList = build.list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER");
-    m_fileList = build.list("filList", "CLICK OR ENTER SELECTS A FILE");
-    m_returnButton = build.command("Command1", "&RETURN", "GOES BACK WITH WHAT IS SELECTED");
-    m_selection = build.label("Label5");
+    auto* grid = new QGridLayout(this);
+    const auto addUnder = [&](QLabel* caption, QWidget* list, int row, int column) {
+        FormBuilder::tie(caption, list);
+        grid->addWidget(caption, row, column);
+        grid->addWidget(list, row + 1, column);
+    };
+    const auto list = [&](const char* name, const char* toolTip, LineListModel* lines) {
+        QListView* view = build.list(name, toolTip);
+        view->setModel(lines);
+        view->setMinimumSize(fontMetrics().averageCharWidth() * listColumns,
+                             fontMetrics().height() * listRows);
+        return view;
+    };
     m_folders = new LineListModel(this);
     m_files = new LineListModel(this);
-    m_folderList->setModel(m_folders);
-    m_fileList->setModel(m_files);
+    m_driveBox = build.combo("drvList", "CHOOSE A DRIVE");
+    m_folderList = list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER", m_folders);
+    QListView* fileList = list("filList", "CLICK OR ENTER SELECTS A FILE", m_files);
+    grid->addWidget(build.label("Label1", "Select a File"), 0, 0, 1, 2, Qt::AlignCenter);
+    addUnder(build.label("Label2", "DRIVE:"), m_driveBox, 1, 0);
+    addUnder(build.label("Label3", "FOLDER"), m_folderList, 3, 0);
+    addUnder(build.label("Label4", "FILE"), fileList, 3, 1);
+    grid->addWidget(build.label("Label6", "FILE SELECTED :"), 5, 0);
+    grid->addWidget(m_selection = wrapped(build.label("Label5")), 6, 0, 1, 2);
+    grid->addWidget(build.command("Command1", "&RETURN", "GOES BACK WITH WHAT IS SELECTED",
+                                  [this] { returnSelection(); }),
+                    7, 1, Qt::AlignRight);
+    grid->setRowStretch(4, 1);
+    // Chosen, not only changed: the drive that shows already leads back to its top.
+    connectHandler(m_driveBox, &QComboBox::activated, [this](int index) { openDrive(index); });
+    connectHandler(m_folderList, &QListView::activated,
+                   [this](const QModelIndex& index) { openFolder(index); });
+    FormBuilder::onChoice(fileList, [this](std::size_t row) {
+        m_finder->chooseFile(row);
+        put(m_selection, m_finder->selection());
+    });
 }
 
 void frmFileFinder::load() {
@@ -56,7 +68,7 @@ QWidget* frmFileFinder::firstFocus() {
     return m_folderList;
 }
 
-void frmFileFinder::driveChosen(int index) {
+void frmFileFinder::openDrive(int index) {
     try {
         m_finder->openDrive(static_cast<std::size_t>(index));
     } catch (const RuntimeError&) {
@@ -66,27 +78,14 @@ void frmFileFinder::driveChosen(int index) {
     showFolder();
 }
 
-void frmFileFinder::folderOpened(const QModelIndex& index) {
+void frmFileFinder::openFolder(const QModelIndex& index) {
     if (!index.isValid())
         return;
     m_finder->enterFolder(static_cast<std::size_t>(index.row()));
     showFolder();
 }
 
-void frmFileFinder::fileChosen(const QModelIndex& index) {
-    if (!index.isValid())
-        return;
-    m_finder->chooseFile(static_cast<std::size_t>(index.row()));
-    put(m_selection, m_finder->selection());
-}
-
-void frmFileFinder::fileSelected() {
-    const QModelIndexList selected = m_fileList->selectionModel()->selectedIndexes();
-    if (!selected.isEmpty())
-        fileChosen(selected.front());
-}
-
-void frmFileFinder::returnClicked() {
+void frmFileFinder::returnSelection() {
     if (!m_finder) { // the program folder could not be listed: there is nothing to hand back
         close();
         return;
@@ -107,28 +106,6 @@ void frmFileFinder::showFolder() {
     m_folders->setLines(m_finder->folders());
     m_files->setLines(m_finder->files());
     put(m_selection, m_finder->selection());
-}
-
-void frmFileFinder::layOut() {
-    FormBuilder build(this);
-    auto* grid = new QGridLayout(this);
-    const auto addUnder = [&](QLabel* caption, QWidget* list, int row, int column) {
-        FormBuilder::tie(caption, list);
-        grid->addWidget(caption, row, column);
-        grid->addWidget(list, row + 1, column);
-    };
-    grid->addWidget(build.label("Label1", "Select a File"), 0, 0, 1, 2, Qt::AlignCenter);
-    addUnder(build.label("Label2", "DRIVE:"), m_driveBox, 1, 0);
-    addUnder(build.label("Label3", "FOLDER"), m_folderList, 3, 0);
-    addUnder(build.label("Label4", "FILE"), m_fileList, 3, 1);
-    grid->addWidget(build.label("Label6", "FILE SELECTED :"), 5, 0);
-    m_selection->setWordWrap(true);
-    grid->addWidget(m_selection, 6, 0, 1, 2);
-    grid->addWidget(m_returnButton, 7, 1, Qt::AlignRight);
-    grid->setRowStretch(4, 1);
-    const int column = fontMetrics().averageCharWidth() * listColumns;
-    for (QWidget* list : {static_cast<QWidget*>(m_folderList), static_cast<QWidget*>(m_fileList)})
-        list->setMinimumSize(column, fontMetrics().height() * listRows);
 }
 
 } // namespace vantrel

@@ -11,7 +11,6 @@ class QComboBox;
 class QLabel;
 class QListView;
 class QModelIndex;
-class QPushButton;
 
 namespace vantrel {
 
@@ -33,23 +32,16 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void createControls();
-    void layOut();
-
-    void driveChosen(int index);
-    void folderOpened(const QModelIndex& index);
-    void fileChosen(const QModelIndex& index);
-    void fileSelected();
-    void returnClicked();
+    void openDrive(int index);
+    void openFolder(const QModelIndex& index);
+    void returnSelection();
 
     void showDrive();
     void showFolder();
 
     QComboBox* m_driveBox;
     QListView* m_folderList;
-    QListView* m_fileList;
     QLabel* m_selection;
-    QPushButton* m_returnButton;
 
     Screen m_receiver = Screen::start;
     SystemFolders m_machine;

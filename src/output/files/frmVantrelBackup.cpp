@@ -5,12 +5,11 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "output/files/backup.h"
 #include "platform/files.h"
 
-#include <QHBoxLayout>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 namespace vantrel {
 
@@ -22,26 +21,35 @@ constexpr int folderColumns = 56;
 frmVantrelBackup::frmVantrelBackup(const FormContext& context)
     : Form(context, "frmVantrelBackup", "BACKUP CABRILLO FILE") {
     FormBuilder build(this);
+    const auto caption = [&](const char* name, const char* text) {
+        QLabel* label = build.label(name, text);
+        setTextColour(label, dimmedColour(palette()));
+        return label;
+    };
     m_folderBox = build.text("Text1");
-    m_browseButton = build.command("Command3", "&BROWSE", "FINDS THE FOLDER");
-    m_backupButton = build.command("Command2", "&BACKUP", "COPIES THE CABRILLO FILE");
-    m_exitButton = build.command("Command1", "E&XIT", "QUIT THIS PAGE");
-    m_logPath = build.label("Label5");
-    m_status = build.alert("Label3");
-    m_copy = build.label("Label6");
-    layOut();
-    using Page = frmVantrelBackup;
-    connectHandler(m_folderBox, &QLineEdit::returnPressed, this, &Page::backupClicked);
-    connectHandler(m_backupButton, &QPushButton::clicked, this, &Page::backupClicked);
-    connectHandler(m_browseButton, &QPushButton::clicked, this, &Page::browseClicked);
-    connectHandler(m_folderBox, &QLineEdit::textChanged, this, &Page::showCopyThere);
+    m_folderBox->setMinimumWidth(fontMetrics().averageCharWidth() * folderColumns);
+    m_copy = wrapped(build.label("Label6"));
+    m_copy->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing jumps below it
+    m_copy->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    QPushButton* browse = build.command("Command3", "&BROWSE", "FINDS THE FOLDER",
+                                        [this] { screens().openFinder(Screen::backup); });
+    m_backupButton = bold(
+        build.command("Command2", "&BACKUP", "COPIES THE CABRILLO FILE", [this] { backUp(); }));
+    QLabel* folderCaption = caption("Label2", "SEND BACKUP TO:");
+    folderCaption->setBuddy(m_folderBox);
+    page(this,
+         {build.heading("Label1", "BACKUP THE CABRILLO FILE", headingEnlargement),
+          caption("Label4", "FILE TO BACKUP:"), m_logPath = wrapped(build.label("Label5")),
+          folderCaption, row({{m_folderBox, 1}, browse}), m_copy, m_status = build.alert("Label3"),
+          Item::room(), row({m_backupButton, Item::room(), build.exit("QUIT THIS PAGE")})});
+    connectHandler(m_folderBox, &QLineEdit::returnPressed, [this] { backUp(); });
+    connectHandler(m_folderBox, &QLineEdit::textChanged, [this] { showCopyThere(); });
     // The captions share their letter: the first stroke leads to BACKUP, the second presses it.
-    for (QPushButton* button : {m_browseButton, m_backupButton})
+    for (QPushButton* button : {browse, m_backupButton})
         button->setShortcut({});
     auto* altB = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_B), this);
     altB->setAutoRepeat(false);
-    connectHandler(altB, &QShortcut::activated, this, &Page::altBPressed);
-    connect(m_exitButton, &QPushButton::clicked, this, &QWidget::close);
+    connectHandler(altB, &QShortcut::activated, [this] { altBPressed(); });
 }
 
 void frmVantrelBackup::load() {
@@ -63,11 +71,7 @@ void frmVantrelBackup::receivePath(const std::string& path) {
     m_folderBox->setFocus();
 }
 
-void frmVantrelBackup::browseClicked() {
-    screens().openFinder(Screen::backup);
-}
-
-void frmVantrelBackup::backupClicked() {
+void frmVantrelBackup::backUp() {
     showLog();
     put(m_status, backupUnderWay);
     m_status->repaint();
@@ -83,7 +87,7 @@ void frmVantrelBackup::backupClicked() {
 
 void frmVantrelBackup::altBPressed() {
     if (m_backupButton->hasFocus())
-        backupClicked();
+        backUp();
     else
         m_backupButton->setFocus();
 }
@@ -101,41 +105,6 @@ void frmVantrelBackup::showCopyThere() {
     } catch (const RuntimeError&) {
         put(m_copy, "THE COPY THERE CANNOT BE READ"); // BACKUP says why
     }
-}
-
-void frmVantrelBackup::layOut() {
-    FormBuilder build(this);
-    QLabel* heading = build.label("Label1", "BACKUP THE CABRILLO FILE");
-    heading->setFont(enlargedFont(this, headingEnlargement));
-    heading->setAlignment(Qt::AlignCenter);
-    QLabel* folderCaption = build.label("Label2", "SEND BACKUP TO:");
-    folderCaption->setBuddy(m_folderBox);
-    QLabel* logCaption = build.label("Label4", "FILE TO BACKUP:");
-    for (QLabel* caption : {folderCaption, logCaption})
-        setTextColour(caption, dimmedColour(palette()));
-    for (QLabel* text : {m_logPath, m_copy})
-        text->setWordWrap(true);
-    m_copy->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing jumps below it
-    m_copy->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_folderBox->setMinimumWidth(fontMetrics().averageCharWidth() * folderColumns);
-    auto* folder = new QHBoxLayout;
-    folder->addWidget(m_folderBox, 1);
-    folder->addWidget(m_browseButton);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(m_backupButton);
-    buttons->addStretch();
-    buttons->addWidget(m_exitButton);
-    m_backupButton->setFont(enlargedFont(this, 1));
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(heading);
-    page->addWidget(logCaption);
-    page->addWidget(m_logPath);
-    page->addWidget(folderCaption);
-    page->addLayout(folder);
-    page->addWidget(m_copy);
-    page->addWidget(m_status);
-    page->addStretch();
-    page->addLayout(buttons);
 }
 
 } // namespace vantrel

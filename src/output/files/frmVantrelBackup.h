@@ -25,18 +25,14 @@ protected:
     QWidget* firstFocus() override;
 
 private:
-    void layOut();
-    void browseClicked();
-    void backupClicked();
+    void backUp();
     void altBPressed();
 
     void showLog();
     void showCopyThere();
 
     QLineEdit* m_folderBox;
-    QPushButton* m_browseButton;
     QPushButton* m_backupButton;
-    QPushButton* m_exitButton;
     QLabel* m_logPath;
     QLabel* m_status;
     QLabel* m_copy; // there already, or what was written

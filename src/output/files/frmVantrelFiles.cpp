@@ -5,6 +5,7 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "log/logfile.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
@@ -15,9 +16,7 @@
 #include "shared/utctime.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QScreen>
-#include <QVBoxLayout>
 
 namespace vantrel {
 
@@ -28,23 +27,21 @@ constexpr int widthInCharacters = 135; // of the page, with each result beside i
 frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     : Form(context, "frmVantrelFiles", "Vantrel - Files") {
     FormBuilder build(this);
-    auto* options = new QHBoxLayout;
-    createOptions(options);
-    m_mainPageButton = build.command("Command1", "&MAIN PAGE", "BACK TO THE MAIN PAGE");
+    std::vector<Item> parts;
+    for (const Group& group : groups())
+        parts.emplace_back(build.section(group.title, jobs(group)));
     m_adifCaption = build.alert("Label5");
     m_adifPath = build.output("Text2");
     m_adifPath->setAccessibleName(QStringLiteral("ADIF FILE"));
     m_adifPath->setAlignment(Qt::AlignLeft);
     FormBuilder::tie(m_adifCaption, m_adifPath);
-    m_adifContacts = build.alert("Label6");
-
-    auto* page = new QVBoxLayout(this);
-    page->addLayout(options, 1);
-    page->addWidget(m_adifCaption);
-    page->addWidget(m_adifPath);
-    page->addWidget(m_adifContacts);
-    page->addWidget(m_mainPageButton, 0, Qt::AlignRight);
-    connect(m_mainPageButton, &QPushButton::clicked, this, &QWidget::close);
+    page(this,
+         {{row(parts), 1},
+          m_adifCaption,
+          m_adifPath,
+          m_adifContacts = build.alert("Label6"),
+          {build.command("Command1", "&MAIN PAGE", "BACK TO THE MAIN PAGE", [this] { close(); }), 0,
+           Qt::AlignRight}});
 }
 
 // All jobs, in the order in which they stand on the screen and Tab passes them.
@@ -87,16 +84,13 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
     };
 }
 
-void frmVantrelFiles::createOptions(QHBoxLayout* page) {
-    FormBuilder build(this);
-    for (const Group& group : groups()) {
-        auto* column = new QGridLayout;
-        for (const Job& job : group.jobs)
-            addOption(job, column);
-        column->setRowStretch(column->rowCount(), 1);
-        column->setColumnStretch(1, 1);
-        page->addLayout(build.section(group.title, column));
-    }
+QLayout* frmVantrelFiles::jobs(const Group& group) {
+    auto* column = new QGridLayout;
+    for (const Job& job : group.jobs)
+        addOption(job, column);
+    column->setRowStretch(column->rowCount(), 1);
+    column->setColumnStretch(1, 1);
+    return column;
 }
 
 void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {

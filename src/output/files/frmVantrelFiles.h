@@ -10,10 +10,9 @@
 #include <vector>
 
 class QGridLayout;
-class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
-class QPushButton;
 class QRadioButton;
 
 namespace vantrel {
@@ -49,7 +48,7 @@ private:
     };
 
     std::vector<Group> groups();
-    void createOptions(QHBoxLayout* page);
+    QLayout* jobs(const Group& group);
     void addOption(const Job& job, QGridLayout* column);
 
     void run(QRadioButton* option, const std::function<void()>& job);
@@ -67,7 +66,6 @@ private:
     QLabel* m_adifCaption;
     QLineEdit* m_adifPath;
     QLabel* m_adifContacts; // how many were written and left out
-    QPushButton* m_mainPageButton;
 };
 
 } // namespace vantrel

@@ -14,7 +14,6 @@ namespace vantrel {
 
 namespace {
 
-constexpr qint64 frameMilliseconds = 16;
 
 // Where the operators' own alarm has always been kept.
 const QString alarmPath = QStringLiteral("C:/Program Files/Quillmoor/Dupe.wav");

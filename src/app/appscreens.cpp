@@ -29,66 +29,50 @@
 
 namespace vantrel {
 
+namespace {
+
+// Editions: what makes one page of two screens.
+template <typename Page, const auto&... editions>
+Form* make(const FormContext& context) {
+    return new Page(context, editions...);
+}
+
+const std::map<Screen, Form* (*)(const FormContext&)> makers{
+    {Screen::start, make<frmVantrelStart>},
+    {Screen::main, make<frmVantrelMain>},
+    {Screen::dupe, make<frmVantrelDupe>},
+    {Screen::correct, make<frmVantrelCorrect>},
+    {Screen::deletion, make<frmVantrelDelete>},
+    {Screen::editor, make<frmVantrelEDITcbr>},
+    {Screen::score, make<frmVantrelScore>},
+    {Screen::bonus, make<frmCountBonus>},
+    {Screen::files, make<frmVantrelFiles>},
+    {Screen::list, make<frmVantrelList>},
+    {Screen::showDb, make<frmVantrelShowDB>},
+    {Screen::backup, make<frmVantrelBackup>},
+    {Screen::finder, make<frmFileFinder>},
+    {Screen::updateList, make<frmSelectUpdateList>},
+    {Screen::readData, make<frmMemberImport, dataImportPage>},
+    {Screen::memberUpdate, make<frmMemberImport, memberImportPage>},
+    {Screen::callArea, make<frmVantrelCallArea>},
+    {Screen::standings, make<frmK3YStandings, areaPage>},
+    {Screen::standings2, make<frmK3YStandings, regionPage>},
+    {Screen::checkDupeK3y, make<frmCheckDupeK3Y>},
+    {Screen::k3yBox, make<frmK3Ybox>},
+    {Screen::help, make<frmVantrelHelp>},
+};
+
+} // namespace
+
 AppScreens::~AppScreens() {
     for (const auto& [screen, form] : m_slots)
         delete form.data();
 }
 
-Form* AppScreens::make(Screen screen) {
-    const FormContext context{m_shared, m_platform, *this};
-    switch (screen) {
-    case Screen::start:
-        return new frmVantrelStart(context);
-    case Screen::main:
-        return new frmVantrelMain(context);
-    case Screen::dupe:
-        return new frmVantrelDupe(context);
-    case Screen::correct:
-        return new frmVantrelCorrect(context);
-    case Screen::deletion:
-        return new frmVantrelDelete(context);
-    case Screen::editor:
-        return new frmVantrelEDITcbr(context);
-    case Screen::standings:
-        return new frmK3YStandings(context, areaPage);
-    case Screen::standings2:
-        return new frmK3YStandings(context, regionPage);
-    case Screen::checkDupeK3y:
-        return new frmCheckDupeK3Y(context);
-    case Screen::k3yBox:
-        return new frmK3Ybox(context);
-    case Screen::score:
-        return new frmVantrelScore(context);
-    case Screen::bonus:
-        return new frmCountBonus(context);
-    case Screen::files:
-        return new frmVantrelFiles(context);
-    case Screen::list:
-        return new frmVantrelList(context);
-    case Screen::showDb:
-        return new frmVantrelShowDB(context);
-    case Screen::backup:
-        return new frmVantrelBackup(context);
-    case Screen::finder:
-        return new frmFileFinder(context);
-    case Screen::updateList:
-        return new frmSelectUpdateList(context);
-    case Screen::readData:
-        return new frmMemberImport(context, dataImportPage);
-    case Screen::memberUpdate:
-        return new frmMemberImport(context, memberImportPage);
-    case Screen::help:
-        return new frmVantrelHelp(context);
-    case Screen::callArea:
-        return new frmVantrelCallArea(context);
-    }
-    return nullptr;
-}
-
 Form* AppScreens::formOf(Screen screen) {
     QPointer<Form>& slot = m_slots[screen];
     if (!slot || slot->isGone())
-        slot = make(screen);
+        slot = makers.at(screen)({m_shared, m_platform, *this});
     return slot;
 }
 
@@ -127,32 +111,32 @@ void AppScreens::openFor(QWidget* opener, Screen screen) {
 }
 
 void AppScreens::openContact(Screen page, int contact, bool shown) {
-    static_cast<frmLogPage*>(formOf(page))->startAt(contact, shown);
+    formOf<frmLogPage>(page).startAt(contact, shown);
     open(page);
 }
 
 void AppScreens::openList(ListedFile file) {
-    static_cast<frmVantrelList*>(formOf(Screen::list))->choose(file);
+    formOf<frmVantrelList>(Screen::list).choose(file);
     open(Screen::list);
 }
 
 void AppScreens::openRoster(std::string path, std::vector<std::string> lines) {
-    static_cast<frmVantrelShowDB*>(formOf(Screen::showDb))->take(std::move(path), std::move(lines));
+    formOf<frmVantrelShowDB>(Screen::showDb).take(std::move(path), std::move(lines));
     open(Screen::showDb);
 }
 
 void AppScreens::openFinder(Screen receiver) {
-    static_cast<frmFileFinder*>(formOf(Screen::finder))->handTo(receiver);
+    formOf<frmFileFinder>(Screen::finder).handTo(receiver);
     open(Screen::finder);
 }
 
 void AppScreens::openHelp(const std::string& page) {
-    static_cast<frmVantrelHelp*>(formOf(Screen::help))->choose(page);
+    formOf<frmVantrelHelp>(Screen::help).choose(page);
     open(Screen::help);
 }
 
 void AppScreens::askAboutDupe(DupeQuestion question) {
-    static_cast<frmCheckDupeK3Y*>(formOf(Screen::checkDupeK3y))->ask(std::move(question));
+    formOf<frmCheckDupeK3Y>(Screen::checkDupeK3y).ask(std::move(question));
     open(Screen::checkDupeK3y);
 }
 

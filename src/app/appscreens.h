@@ -33,9 +33,13 @@ public:
     void quit() override;
 
 private:
-    Form* make(Screen screen);
     // The one there is, or a new one.
     Form* formOf(Screen screen);
+    // Throws std::bad_cast for a screen of another kind.
+    template <typename Page>
+    Page& formOf(Screen screen) {
+        return dynamic_cast<Page&>(*formOf(screen));
+    }
     void openFor(QWidget* opener, Screen screen);
 
     Module1& m_shared;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/accessible.h"
 
-#include "forms/boxtext.h"
-#include "forms/controltext.h"
+#include "forms/accessibletext.h"
 #include "forms/readingorder.h"
 
 #include <QAbstractButton>
@@ -16,6 +15,8 @@
 #include <QTableView>
 #include <QTimer>
 
+#include <optional>
+
 namespace vantrel {
 
 namespace {
@@ -27,8 +28,8 @@ QString withoutMnemonic(QString caption) {
     return caption.remove(QLatin1Char('&'));
 }
 
-// A page or a part of one; its children are told as they are read.
-class Part : public QAccessibleWidget {
+// A page or a part of one; its children are in reading order.
+class AccessibleContainer : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
 
@@ -51,11 +52,11 @@ QAccessible::Role roleOf(const QWidget* control, QAccessible::Role usual) {
 }
 
 // A text behind the caption that it belongs to. Without a text there is nothing to see.
-class Text : public QAccessibleWidget {
+class AccessibleLabel : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
 
-    // It is told of before it is given another role.
+    // The role may be set later than the interface is made.
     QAccessible::Role role() const override { return roleOf(widget(), QAccessible::StaticText); }
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Name)
@@ -76,10 +77,10 @@ private:
     const QLabel* label() const { return static_cast<const QLabel*>(widget()); }
 };
 
-// Pressing it is input like a key: it runs what a click runs, and waits while a radio is read.
-class Button : public QAccessibleWidget {
+// A press by the reader is input like a key: it clicks, and is kept while a radio is read.
+class AccessibleButton : public QAccessibleWidget {
 public:
-    explicit Button(QAbstractButton* button)
+    explicit AccessibleButton(QAbstractButton* button)
         : QAccessibleWidget(button, button->isCheckable() ? QAccessible::RadioButton
                                                           : QAccessible::Button) {}
 
@@ -119,15 +120,15 @@ private:
     QAbstractButton* button() const { return static_cast<QAbstractButton*>(widget()); }
 };
 
-class Box : public QAccessibleWidget {
+class AccessibleLineEdit : public QAccessibleWidget {
 public:
-    explicit Box(QLineEdit* edit)
-        : QAccessibleWidget(edit, QAccessible::EditableText), m_text(edit, nullptr) {}
+    explicit AccessibleLineEdit(QLineEdit* edit)
+        : QAccessibleWidget(edit, QAccessible::EditableText), m_text(*edit) {}
 
     int childCount() const override { return 0; } // what lies in it is only drawn there
     QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Value)
-            return m_text.whole();
+            return m_text.box().text();
         const auto* choice = qobject_cast<QComboBox*>(widget()->parentWidget());
         if (kind == QAccessible::Name && choice != nullptr)
             return choice->accessibleName();
@@ -141,27 +142,21 @@ public:
         return state;
     }
     void* interface_cast(QAccessible::InterfaceType type) override {
-        return textCast(m_text, type, [&] { return QAccessibleWidget::interface_cast(type); });
-    }
-
-    template <typename Otherwise>
-    static void* textCast(BoxText& text, QAccessible::InterfaceType type, Otherwise otherwise) {
-        if (type == QAccessible::TextInterface)
-            return static_cast<QAccessibleTextInterface*>(&text);
-        if (type == QAccessible::EditableTextInterface)
-            return static_cast<QAccessibleEditableTextInterface*>(&text);
-        return otherwise();
+        void* text = m_text.cast(type);
+        return text != nullptr ? text : QAccessibleWidget::interface_cast(type);
     }
 
 private:
-    BoxText m_text;
+    AccessibleText m_text;
 };
 
-// Named by its caption; what is chosen or typed is its text.
-class Choice : public QAccessibleWidget {
+// Named by its caption; what is chosen or typed is its value.
+class AccessibleCombo : public QAccessibleWidget {
 public:
-    explicit Choice(QComboBox* box)
-        : QAccessibleWidget(box, QAccessible::ComboBox), m_text(box->lineEdit(), box) {}
+    explicit AccessibleCombo(QComboBox* box) : QAccessibleWidget(box, QAccessible::ComboBox) {
+        if (box->isEditable())
+            m_text.emplace(*box->lineEdit());
+    }
 
     int childCount() const override { return 1; }
     QAccessibleInterface* child(int index) const override {
@@ -181,7 +176,8 @@ public:
         return state;
     }
     void* interface_cast(QAccessible::InterfaceType type) override {
-        return Box::textCast(m_text, type, [&] { return QAccessibleWidget::interface_cast(type); });
+        void* text = m_text ? m_text->cast(type) : nullptr;
+        return text != nullptr ? text : QAccessibleWidget::interface_cast(type);
     }
     QStringList actionNames() const override {
         return QStringList(showMenuAction()) + QAccessibleWidget::actionNames();
@@ -196,10 +192,10 @@ public:
 private:
     QComboBox* box() const { return static_cast<QComboBox*>(widget()); }
 
-    BoxText m_text;
+    std::optional<AccessibleText> m_text; // of one that can be typed into
 };
 
-void tellLine(QAbstractItemView* list, int row) {
+void announceRow(QAbstractItemView* list, int row) {
     QAccessibleEvent focus(list, QAccessible::Focus);
     focus.setChild(row);
     QAccessible::updateAccessibility(&focus);
@@ -211,18 +207,18 @@ QAccessibleInterface* describe(const QString&, QObject* object) {
     if (widget == nullptr || !widget->window()->property(pageProperty).isValid())
         return nullptr;
     if (auto* box = qobject_cast<QComboBox*>(widget))
-        return new Choice(box);
+        return new AccessibleCombo(box);
     if (auto* edit = qobject_cast<QLineEdit*>(widget))
-        return new Box(edit);
+        return new AccessibleLineEdit(edit);
     if (auto* button = qobject_cast<QAbstractButton*>(widget))
-        return new Button(button);
+        return new AccessibleButton(button);
     if (qobject_cast<QLabel*>(widget) != nullptr)
-        return new Text(widget);
+        return new AccessibleLabel(widget);
     if (widget->isWindow())
-        return new Part(widget, widget->windowType() == Qt::Dialog ? QAccessible::Dialog
-                                                                   : QAccessible::Window);
+        return new AccessibleContainer(
+            widget, widget->windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window);
     if (widget->layout() != nullptr)
-        return new Part(widget, QAccessible::Grouping);
+        return new AccessibleContainer(widget, QAccessible::Grouping);
     const QAccessible::Role role = roleOf(widget, QAccessible::NoRole);
     return role == QAccessible::NoRole ? nullptr : new QAccessibleWidget(widget, role);
 }
@@ -253,50 +249,20 @@ void letReaderReach(QWidget* page) {
     }
 }
 
-void tellChoice(QComboBox* box) {
+void announceChoices(QComboBox* box) {
     QObject::connect(box, &QComboBox::currentTextChanged, box, [box](const QString& text) {
         if (!box->hasFocus())
             return;
         if (!box->isEditable())
-            return tellLine(box->view(), box->currentIndex());
+            return announceRow(box->view(), box->currentIndex());
         QAccessibleTextInsertEvent chosen(box, 0, text);
         QAccessible::updateAccessibility(&chosen);
     });
 }
 
-void tellCurrent(QListView* list) {
+void announceCurrentRow(QListView* list) {
     if (list->currentIndex().isValid())
-        tellLine(list, list->currentIndex().row());
-}
-
-// Readers follow alerts or notifications, none of them both, and the latter speak a notification
-// whenever it is shown: one lies unseen in each alert, and a timer in that.
-void makeAlert(QLabel* label) {
-    setRole(label, QAccessible::AlertMessage);
-    auto* spoken = new QLabel(label);
-    setRole(spoken, QAccessible::Notification);
-    spoken->setFixedSize(0, 0);
-    spoken->setTextFormat(Qt::PlainText);
-    spoken->hide();
-    auto* soon = new QTimer(spoken);
-    soon->setSingleShot(true);
-    QObject::connect(soon, &QTimer::timeout, spoken, &QWidget::show);
-}
-
-void announce(QLabel* alert, std::string_view text, std::string_view words) {
-    // While a page opens so much is told at once that readers drop some of it.
-    constexpr int opening = 500; // milliseconds
-    put(alert, text);
-    auto* spoken = alert->findChild<QLabel*>();
-    auto* soon = spoken->findChild<QTimer*>();
-    spoken->hide();
-    put(spoken, words);
-    soon->stop();
-    QAccessibleEvent shown(alert, QAccessible::ObjectShow);
-    if (!text.empty())
-        QAccessible::updateAccessibility(&shown);
-    if (!words.empty())
-        soon->start(alert->window()->isVisible() ? 0 : opening);
+        announceRow(list, list->currentIndex().row());
 }
 
 } // namespace vantrel

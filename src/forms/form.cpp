@@ -8,9 +8,11 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrel {
 
@@ -95,7 +97,7 @@ void Form::bringToFront() {
     if (first != nullptr)
         first->setFocus();
     if (auto* list = qobject_cast<QListView*>(first))
-        tellCurrent(list);
+        announceCurrentRow(list);
     // Where the focus is shows at once, not only after the first Tab.
     setAttribute(Qt::WA_KeyboardFocusChange);
 }
@@ -108,6 +110,18 @@ bool Form::event(QEvent* event) {
             moveOnto(screen(), frameGeometry());
     }
     return QWidget::event(event);
+}
+
+void Form::afterPaint(std::function<void()> work) {
+    m_afterPaint = std::move(work);
+    update();
+}
+
+void Form::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (m_afterPaint)
+        QTimer::singleShot(
+            0, this, [this, work = std::exchange(m_afterPaint, nullptr)] { runHandler(work); });
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {

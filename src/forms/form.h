@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <exception>
+#include <functional>
 #include <type_traits>
 
 namespace vantrel {
@@ -68,19 +69,17 @@ protected:
     // Down to which line of this page what opens over it leaves it free, if the screen has room.
     virtual int freeTop() const { return 0; }
 
+    // What takes too long to do before the page shows: runs inside the guard once the page has been
+    // drawn again. Takes the place of what has not run yet; nullptr: nothing runs.
+    void afterPaint(std::function<void()> work);
+
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
-    // Connects a signal to a handler inside the guard. Only the signal's first arguments
-    // that the handler takes are handed on.
-    template <typename Sender, typename Signal, typename Self, typename... Args>
-    void connectHandler(Sender* sender, Signal signal, Self* self, void (Self::*handler)(Args...)) {
-        connect(sender, signal, self, [self, handler](Args... args) {
-            self->runHandler([&] { (self->*handler)(args...); });
-        });
-    }
-    // The same for any callable, which takes all of the signal's arguments or none.
+    // Connects a signal to a handler inside the guard. It takes all of the signal's arguments or
+    // none.
     template <typename Sender, typename Signal, typename Handler>
     void connectHandler(Sender* sender, Signal signal, Handler handler) {
         connect(sender, signal, this, [this, handler](const auto&... args) {
@@ -105,6 +104,7 @@ private:
 
     FormContext m_context;
     QPointer<QWidget> m_opener;
+    std::function<void()> m_afterPaint;
     bool m_isPlaced = false; // with its frame, whose width is not known from the start
     bool m_gone = false;
 };

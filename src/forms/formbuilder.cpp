@@ -155,9 +155,9 @@ QLabel* FormBuilder::heading(const char* name, const char* text, double enlargem
     return heading;
 }
 
-QLabel* FormBuilder::alert(const char* name) {
-    QLabel* label = this->label(name);
-    makeAlert(label);
+AlertLabel* FormBuilder::alert(const char* name) {
+    AlertLabel* label = named(new AlertLabel(m_form), name);
+    label->setTextFormat(Qt::PlainText);
     return label;
 }
 
@@ -178,14 +178,10 @@ void FormBuilder::tie(QLabel* caption, QWidget* box) {
         box->setAccessibleName(caption->text().remove(u'&'));
 }
 
-void FormBuilder::row(QFormLayout* form, const char* text, QWidget* box) {
-    form->addRow(caption(text, box), box);
-}
-
 QComboBox* FormBuilder::combo(const char* name, const char* toolTip) {
     QComboBox* combo = named(new QComboBox(m_form), name, toolTip);
     combo->setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus
-    tellChoice(combo);
+    announceChoices(combo);
     return combo;
 }
 

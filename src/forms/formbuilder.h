@@ -3,6 +3,8 @@
 // the control. Tab order is reading order: see readingorder.h.
 #pragma once
 
+#include "forms/alertlabel.h"
+
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QFormLayout>
@@ -39,15 +41,18 @@ public:
     QLabel* label(const char* name, const char* caption = "");
     // Large, bold and in the middle.
     QLabel* heading(const char* name, const char* text, double enlargement);
-    // A text that a screen reader tells at once: see announce().
-    QLabel* alert(const char* name);
+    AlertLabel* alert(const char* name);
     // A caption without a name of its own; `buddy` is the box it names, to screen readers too,
     // and gets the focus on its Alt key.
     QLabel* caption(const char* text, QWidget* buddy = nullptr);
     // The label's text is the name of the box, unless that has one.
     static void tie(QLabel* caption, QWidget* box);
     // A row of a form: a box behind its caption, tied as above.
-    void row(QFormLayout* form, const char* text, QWidget* box);
+    template <typename Box>
+    Box* row(QFormLayout* form, const char* text, Box* box) {
+        form->addRow(caption(text, box), box);
+        return box;
+    }
     QComboBox* combo(const char* name, const char* toolTip = "");
     // A combo that one can also type into: nothing completes or inserts by itself.
     QComboBox* editableCombo(const char* name, const char* toolTip = "");

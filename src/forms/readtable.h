@@ -10,8 +10,6 @@
 namespace vantrel {
 
 class ReadTable : public QTableWidget {
-    Q_OBJECT
-
 public:
     struct Cell {
         std::string text;

@@ -2,17 +2,16 @@
 #include "forms/viewerform.h"
 
 #include "base/fixedtext.h"
-#include "forms/accessible.h"
+#include "forms/alertlabel.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "forms/linelistmodel.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QHBoxLayout>
 #include <QShortcut>
 #include <QStyledItemDelegate>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -62,59 +61,40 @@ std::vector<int> rowsWith(const std::vector<std::string>& lines, std::string_vie
 
 ViewerForm::ViewerForm(const FormContext& context, const char* name, const char* caption)
     : Form(context, name, caption) {
-    createControls();
-    layOut();
-    connectHandlers();
-}
-
-void ViewerForm::createControls() {
     FormBuilder build(this);
+    m_lines = new LineListModel(this);
     m_list = build.list("List1", "CTRL+F FINDS, CTRL+C COPIES THE SELECTED LINES");
-    m_findBox =
-        build.text("Text1", 0, "ENTER OR F3 FINDS THE NEXT LINE, ESC GOES BACK TO THE LIST");
-    m_exitButton = build.command("Command1", "E&XIT", "CLOSES THE LIST");
-    m_pathLabel = build.label("Label1");
-    m_foundLabel = build.alert("Label2");
-    m_headingLabel = build.label("Label3");
-    m_headingLabel->setFont(fixedWidthFont());
-    m_headingLabel->hide();
     m_list->setAccessibleName(QStringLiteral("LINES"));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTextElideMode(Qt::ElideNone);
-    m_lines = new LineListModel(this);
     m_list->setModel(m_lines);
-}
-
-void ViewerForm::layOut() {
-    FormBuilder build(this);
-    auto* commands = new QHBoxLayout;
-    commands->addWidget(build.caption("FIND", m_findBox));
-    commands->addWidget(m_findBox, 1);
-    commands->addWidget(m_foundLabel);
-    commands->addSpacing(fontMetrics().height());
-    commands->addWidget(m_exitButton);
+    m_headingLabel = build.label("Label3");
+    m_headingLabel->setFont(fixedWidthFont());
+    m_headingLabel->hide();
+    m_findBox =
+        build.text("Text1", 0, "ENTER OR F3 FINDS THE NEXT LINE, ESC GOES BACK TO THE LIST");
+    m_foundLabel = build.alert("Label2");
     m_foundLabel->setMinimumWidth(fontMetrics().averageCharWidth() * mostDigits);
+    page(this, {m_pathLabel = build.label("Label1"),
+                m_headingLabel,
+                {m_list, 1},
+                row({build.caption("FIND", m_findBox),
+                     {m_findBox, 1},
+                     m_foundLabel,
+                     Item::gap(fontMetrics().height()),
+                     build.exit("CLOSES THE LIST")})});
 
-    auto* page = new QVBoxLayout(this);
-    page->addWidget(m_pathLabel);
-    page->addWidget(m_headingLabel);
-    page->addWidget(m_list, 1);
-    page->addLayout(commands);
-}
-
-void ViewerForm::connectHandlers() {
-    connectHandler(m_findBox, &QLineEdit::textChanged, this, &ViewerForm::findTyped);
-    connectHandler(m_findBox, &QLineEdit::returnPressed, this, &ViewerForm::findNext);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &ViewerForm::showPlace);
-    connect(m_exitButton, &QPushButton::clicked, this, [this] { close(); });
-    const auto onKeys = [this](QKeySequence::StandardKey keys, void (ViewerForm::*handler)()) {
-        connectHandler(new QShortcut(keys, this), &QShortcut::activated, this, handler);
+    connectHandler(m_findBox, &QLineEdit::textChanged, [this] { findTyped(); });
+    connectHandler(m_findBox, &QLineEdit::returnPressed, [this] { findNext(); });
+    connectHandler(m_list->selectionModel(), &QItemSelectionModel::currentChanged,
+                   [this] { showPlace(); });
+    const auto onKeys = [this](QShortcut* keys, void (ViewerForm::*handler)()) {
+        connectHandler(keys, &QShortcut::activated, [this, handler] { (this->*handler)(); });
     };
-    onKeys(QKeySequence::Find, &ViewerForm::openFind);
-    onKeys(QKeySequence::FindNext, &ViewerForm::findNext);
-    connectHandler(new QShortcut(QKeySequence::Copy, m_list, nullptr, nullptr, Qt::WidgetShortcut),
-                   &QShortcut::activated, this, &ViewerForm::copySelected);
+    onKeys(new QShortcut(QKeySequence::Find, this), &ViewerForm::openFind);
+    onKeys(new QShortcut(QKeySequence::FindNext, this), &ViewerForm::findNext);
+    onKeys(new QShortcut(QKeySequence::Copy, m_list, nullptr, nullptr, Qt::WidgetShortcut),
+           &ViewerForm::copySelected);
 }
 
 QWidget* ViewerForm::firstFocus() {

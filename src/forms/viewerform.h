@@ -12,10 +12,10 @@
 class QLabel;
 class QLineEdit;
 class QListView;
-class QPushButton;
 
 namespace vantrel {
 
+class AlertLabel;
 class LineListModel;
 
 class ViewerForm : public Form {
@@ -42,10 +42,6 @@ protected:
                    std::size_t current = 0);
 
 private:
-    void createControls();
-    void layOut();
-    void connectHandlers();
-
     void openFind();
     void findTyped(); // from the current line on
     void findNext();  // behind it
@@ -59,8 +55,7 @@ private:
     QListView* m_list;
     QLineEdit* m_findBox;
     QLabel* m_headingLabel;
-    QLabel* m_foundLabel;
-    QPushButton* m_exitButton;
+    AlertLabel* m_foundLabel;
     LineListModel* m_lines;
 
     std::vector<int> m_found; // rows with the text to find; all of them without one

@@ -5,6 +5,7 @@
 
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyleOption>
 #include <QToolTip>
@@ -14,6 +15,7 @@ namespace vantrel {
 namespace {
 
 constexpr double corner = 2; // pixels of rounding
+constexpr const char* requiredProperty = "required";
 
 void drawFrame(QPainter& painter, const QRect& rect, const QColor& colour, int width) {
     painter.save();
@@ -23,6 +25,23 @@ void drawFrame(QPainter& painter, const QRect& rect, const QColor& colour, int w
     const double inset = width / 2.0;
     painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), corner, corner);
     painter.restore();
+}
+
+// Inside the frame of the box, which shows where the focus is.
+void drawRequiredFrame(QPainter& painter, const QRect& rect, const QPalette& palette) {
+    constexpr qreal line = 2;
+    constexpr qreal inset = 2 + line / 2;
+    painter.save();
+    painter.setPen(QPen(cautionColour(palette), line));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect).adjusted(inset, inset, -inset, -inset));
+    painter.restore();
+}
+
+bool isMissing(const QWidget* widget) {
+    const auto* box = qobject_cast<const QLineEdit*>(widget);
+    return box != nullptr && box->property(requiredProperty).isValid() &&
+           box->text().trimmed().isEmpty();
 }
 
 // The tool tip of a label whose text has no room.
@@ -42,6 +61,12 @@ protected:
 };
 
 } // namespace
+
+QLineEdit* required(QLineEdit* box) {
+    box->setProperty(requiredProperty, true);
+    QObject::connect(box, &QLineEdit::textChanged, box, [box] { box->update(); });
+    return box;
+}
 
 void VisibleStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
@@ -83,6 +108,8 @@ void VisibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         drawFrame(*painter, option->rect,
                   focus ? accentColour(option->palette) : frameColour(option->palette),
                   focus ? 2 : 1);
+        if (isMissing(widget))
+            drawRequiredFrame(*painter, option->rect, option->palette);
     }
 }
 

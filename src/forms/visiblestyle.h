@@ -6,7 +6,12 @@
 
 #include <QProxyStyle>
 
+class QLineEdit;
+
 namespace vantrel {
+
+// An amber frame shows in the box while it holds nothing but blanks. Returns the box.
+QLineEdit* required(QLineEdit* box);
 
 class VisibleStyle : public QProxyStyle {
 public:

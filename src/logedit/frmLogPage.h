@@ -18,6 +18,7 @@ class QRadioButton;
 
 namespace vantrel {
 
+class AlertLabel;
 class LineListModel;
 
 class frmLogPage : public Form {
@@ -45,7 +46,7 @@ protected:
     static void fit(QLineEdit* box, int columns); // neither narrower nor wider
     // Enter in each of the boxes goes to the next, in the last one to what changes the contact.
     void chainBoxes(std::span<QLineEdit* const> boxes);
-    QLabel* messageLabel() { return m_messageLabel; }
+    AlertLabel* messageLabel() { return m_messageLabel; }
 
     // What a page does its own way.
     virtual void searchStarts(const std::string& /*key*/) {}
@@ -101,8 +102,8 @@ private:
     QListView* m_matchList = nullptr;
     LineListModel* m_matchLines = nullptr;
     QLabel* m_placeLabel = nullptr;
-    QLabel* m_messageLabel = nullptr;
-    QLabel* m_noteLabel = nullptr;
+    AlertLabel* m_messageLabel = nullptr;
+    AlertLabel* m_noteLabel = nullptr;
 
     LogEdit m_log;
     std::vector<int> m_matchPositions; // of the lines in the list

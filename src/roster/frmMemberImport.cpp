@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmMemberImport.h"
 
-#include "forms/accessible.h"
+#include "forms/alertlabel.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -149,7 +149,8 @@ void frmMemberImport::addMembers() {
 }
 
 bool frmMemberImport::runImport() {
-    for (QLabel* label : {m_lineNumber, m_added, m_linesRead, m_changed, m_skipped})
+    for (QLabel* label :
+         std::initializer_list<QLabel*>{m_lineNumber, m_added, m_linesRead, m_changed, m_skipped})
         label->clear();
     m_progress->reset();
     const ImportResult result =

@@ -14,6 +14,8 @@ class QPushButton;
 
 namespace vantrel {
 
+class AlertLabel;
+
 // What differs between the two.
 struct MemberImportPage {
     const char* name;
@@ -61,7 +63,7 @@ private:
     QPushButton* m_exitButton;
     QLabel* m_phase;
     QLabel* m_lineNumber;
-    QLabel* m_added;
+    AlertLabel* m_added;
     QLabel* m_linesRead;
     QLabel* m_changed;
     QLabel* m_skipped;

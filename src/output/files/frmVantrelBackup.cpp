@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelBackup.h"
 
-#include "forms/accessible.h"
+#include "forms/alertlabel.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"

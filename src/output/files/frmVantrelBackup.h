@@ -10,6 +10,7 @@ class QPushButton;
 
 namespace vantrel {
 
+class AlertLabel;
 class frmVantrelBackup : public Form, public PathReceiver {
     Q_OBJECT
 
@@ -34,7 +35,7 @@ private:
     QLineEdit* m_folderBox;
     QPushButton* m_backupButton;
     QLabel* m_logPath;
-    QLabel* m_status;
+    AlertLabel* m_status;
     QLabel* m_copy; // there already, or what was written
 };
 

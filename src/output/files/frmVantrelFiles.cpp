@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelFiles.h"
 
-#include "forms/accessible.h"
+#include "forms/alertlabel.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -96,8 +96,8 @@ QLayout* frmVantrelFiles::jobs(const Group& group) {
 void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
     FormBuilder build(this);
     QRadioButton* option = build.jobOption(job.name, job.caption, job.toolTip);
-    connect(option, &QRadioButton::clicked, this,
-            [this, option, task = job.run] { run(option, task); });
+    connectHandler(option, &QRadioButton::clicked,
+                   [this, option, task = job.run] { run(option, task); });
     if (m_lastRun == nullptr)
         m_lastRun = option;
     const int row = column->rowCount();

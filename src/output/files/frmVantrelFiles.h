@@ -17,6 +17,7 @@ class QRadioButton;
 
 namespace vantrel {
 
+class AlertLabel;
 class frmVantrelFiles : public Form {
     Q_OBJECT
 
@@ -63,9 +64,9 @@ private:
 
     QRadioButton* m_lastRun = nullptr; // has the focus; the first job before one was run
     std::vector<Result> m_results;
-    QLabel* m_adifCaption;
+    AlertLabel* m_adifCaption;
     QLineEdit* m_adifPath;
-    QLabel* m_adifContacts; // how many were written and left out
+    AlertLabel* m_adifContacts; // how many were written and left out
 };
 
 } // namespace vantrel

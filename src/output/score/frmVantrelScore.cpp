@@ -2,7 +2,7 @@
 #include "output/score/frmVantrelScore.h"
 
 #include "base/fixedtext.h"
-#include "forms/accessible.h"
+#include "forms/alertlabel.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"

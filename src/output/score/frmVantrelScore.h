@@ -17,6 +17,7 @@ class QPushButton;
 
 namespace vantrel {
 
+class AlertLabel;
 class ReadTable;
 class StackedBars;
 
@@ -52,7 +53,7 @@ private:
 
     std::vector<std::pair<QLineEdit*, Figure>> m_figures;
     QLineEdit* m_total;
-    QLabel* m_sum; // how the total comes about
+    AlertLabel* m_sum; // how the total comes about
     QLabel* m_copied;
     QLabel* m_logPath;
     QLabel* m_multiplierCaption;

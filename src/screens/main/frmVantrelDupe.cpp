@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmVantrelDupe.h"
 
-#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -37,7 +36,7 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(60, 30, 60, 30);
     layout->addWidget(m_label);
-    connectHandler(m_timer, &QTimer::timeout, this, &frmVantrelDupe::timeUp);
+    connectHandler(m_timer, &QTimer::timeout, [this] { timeUp(); });
 }
 
 void frmVantrelDupe::load() {

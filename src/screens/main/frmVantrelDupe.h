@@ -4,10 +4,11 @@
 
 #include "forms/form.h"
 
-class QLabel;
 class QTimer;
 
 namespace vantrel {
+
+class AlertLabel;
 
 class frmVantrelDupe : public Form {
     Q_OBJECT
@@ -27,7 +28,7 @@ protected:
 private:
     void timeUp();
 
-    QLabel* m_label;
+    AlertLabel* m_label;
     QTimer* m_timer;
 };
 

@@ -209,16 +209,10 @@ void frmVantrelMain::load() {
     m_entry.opened();
     toCallBox();
     runHandler([this] { shared().log.open(shared().settings.logFileName); });
-    m_radioReadDue = settings.hasRadio() && m_entry.autoReads();
     m_second->start(1000);
-    update();
-}
-
-void frmVantrelMain::paintEvent(QPaintEvent* event) {
-    Form::paintEvent(event);
-    if (std::exchange(m_radioReadDue, false))
-        QTimer::singleShot(0, this,
-                           [this] { runHandler([this] { run(&ContactEntry::radioAsked); }); });
+    afterPaint(nullptr);
+    if (settings.hasRadio() && m_entry.autoReads())
+        afterPaint([this] { run(&ContactEntry::radioAsked); });
 }
 
 // Small boxes leave the boxes of the exchange free.

@@ -46,7 +46,6 @@ protected:
     bool isOwnPage() const override { return true; }
     int freeTop() const override;
     void closeEvent(QCloseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
@@ -96,7 +95,6 @@ private:
     BandTable m_bands; // as the panel shows them
     InputHold m_hold;  // what is typed while the radio is read
     Log::Watch m_logWatch;
-    bool m_radioReadDue = false; // the radio is read once after the first paint
 };
 
 } // namespace vantrel

@@ -4,8 +4,9 @@
 #include "base/fixedtext.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
-#include "forms/emptyframe.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
+#include "forms/visiblestyle.h"
 #include "log/logfile.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -13,10 +14,8 @@
 
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -38,22 +37,18 @@ constexpr std::array<Contest, 4> contests{{
     {"Option4", "SELECT THE K3Y EVENT", contestK3y},
 }};
 
-void fill(QComboBox* combo, const ValueList& list) {
-    for (const ListEntry& entry : list)
-        combo->addItem(toQt(entry.shown), toQt(entry.savedAs));
-}
-
-void tell(QLabel* label, const StatusNote& note) {
+void showNote(QLabel* label, const StatusNote& note) {
     put(label, note.text);
     label->setToolTip(toQt(note.tip));
     setTextColour(label, note.caution ? cautionColour(label->parentWidget()->palette()) : QColor());
 }
 
 // As wide as what it takes, in capitals.
-void fitToLength(QLineEdit* box) {
+QLineEdit* fitted(QLineEdit* box) {
     const QFontMetrics metrics(box->font());
     box->setFixedWidth(metrics.horizontalAdvance(QString(box->maxLength(), QLatin1Char('N'))) +
                        3 * metrics.averageCharWidth());
+    return box;
 }
 
 } // namespace
@@ -62,79 +57,111 @@ frmVantrelStart::frmVantrelStart(const FormContext& context)
     : Form(context, "frmVantrelStart", "Vantrel - Start"),
       m_hold(this, [this] { platform().serialPort.close(); }) {
     setAttribute(Qt::WA_DeleteOnClose, false);
-    createControls();
-    layOut();
-    connectHandlers();
-}
-
-void frmVantrelStart::createControls() {
     FormBuilder build(this);
-    for (const Contest& contest : contests)
-        m_contestOptions.push_back(build.option(contest.option, contest.caption));
-    m_contestBox = build.text("Text1", 0, "CONTEST NAME CAN BE CHANGED TO YOUR CHOICE");
-    m_callBox = build.text("Text2", callWidth, "ENTER YOUR OWN CALL HERE");
-    m_nameBox = build.text("Text6", nameWidth, "ENTER YOUR OWN NAME");
-    m_stateBox = build.text("Text7", stateWidth, "ENTER YOUR OWN STATE");
-    m_numberBox = build.text("Text8", numberWidth, "ENTER YOUR OWN SKCC#");
-    m_offsetBox = build.combo("Combo5", "HOURS TO ADD TO THE COMPUTER'S TIME");
-    m_fileBox =
-        build.text("Text9", 0,
-                   "FILE NAME CAN BE CHANGED TO YOUR CHOICE  +  .CBR-->THEN CLICK START A NEW "
-                   "FILE -YES-");
-    m_defaultNameButton = build.command("Command4", "USE DEFAULT FILE NAME",
-                                        "THE DEFAULT NAME  = SPRINT NAME + TODAY'S DATE");
-    m_browseButton = build.command("Command3", "&BROWSE", "CLICK TO FIND AN EXISTING FILE");
-    m_newFileBox = build.combo("Combo7", "YES STARTS A NEW FILE WITH THE NAME ABOVE");
-    m_dupeModeBox = build.combo("Combo6", "YES = DUPES ARE LOGGED AND MARKED");
-    m_bonusBox = build.text("Text10", callWidth, "ENTER THE CALL OF THE BONUS STATION HERE");
-    m_clearBonusButton =
-        build.command("Command6", "CLEAR  BONUS STATION",
-                      "CLEARS THE BONUS STATION BOX-->LEAVE BLANK IF NO BONUS STN");
-    m_radio = std::make_unique<RadioSection>(this, platform().files);
-    m_updateButton =
-        build.command("Command5", "UPDATE THE DATABASE",
-                      "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT");
-    m_startButton =
-        build.command("Command2", "&START", "ACCEPTS ALL ITEMS THIS PAGE AND STARTS PGM");
-    m_exitButton = build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM");
-    m_utcLabel = build.label("Label12");
-    m_oldLogLabel = build.label("Label14");
-    m_logLabel = build.label("Label15");
-    m_membersLabel = build.label("Label16");
-    for (QLineEdit* box : {m_callBox, m_nameBox, m_stateBox, m_numberBox})
-        new EmptyFrame(box);
-    for (const ChosenSetting& chosen : chosenSettings())
-        fill(chosen.box, chosen.list());
-    fill(m_newFileBox, dupeModeList());
-}
-
-void frmVantrelStart::connectHandlers() {
-    using Start = frmVantrelStart;
-    for (QRadioButton* option : m_contestOptions)
-        connectHandler(option, &QRadioButton::clicked, this, &Start::contestClicked);
-    connectHandler(m_defaultNameButton, &QPushButton::clicked, this, &Start::defaultNameClicked);
-    connectHandler(m_browseButton, &QPushButton::clicked, this, &Start::browseClicked);
-    connectHandler(m_newFileBox, &QComboBox::currentIndexChanged, this, &Start::newFileChosen);
-    connectHandler(m_offsetBox, &QComboBox::currentIndexChanged, this, &Start::showUtc);
+    auto* parts = new QGridLayout;
+    parts->addLayout(build.section("CONTEST", contestPart()), 0, 0);
+    parts->addLayout(build.section("OPERATOR", operatorPart()), 0, 1);
+    parts->addLayout(build.section("LOG FILE", filePart()), 1, 0);
+    parts->addLayout(build.section("RADIO", radioPart()), 1, 1);
+    parts->setColumnStretch(0, 1);
+    parts->setColumnStretch(1, 1);
+    QPushButton* startButton = build.command(
+        "Command2", "&START", "ACCEPTS ALL ITEMS THIS PAGE AND STARTS PGM", [this] { start(); });
+    startButton->setFont(enlargedFont(this, 1.3));
+    page(this,
+         {{parts, 1},
+          row({build.command("Command5", "UPDATE THE DATABASE",
+                             "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT",
+                             [this] { screens().open(Screen::updateList); }),
+               m_membersLabel = build.label("Label16"), Item::room(), startButton,
+               Item::gap(2 * fontMetrics().height()),
+               build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM",
+                             [this] { screens().quit(); })})});
     m_second = new QTimer(this);
     m_second->setInterval(1000);
-    connectHandler(m_second, &QTimer::timeout, this, &Start::secondPassed);
-    connectHandler(m_fileBox, &QLineEdit::textEdited, this, &Start::logNameTyped);
-    for (const QLineEdit* box : {m_fileBox, m_contestBox})
-        connectHandler(box, &QLineEdit::textChanged, this, &Start::showLogNote);
-    connectRadio();
-    connectHandler(m_clearBonusButton, &QPushButton::clicked, this, &Start::clearBonusClicked);
-    connectHandler(m_updateButton, &QPushButton::clicked, this, &Start::updateClicked);
-    connectHandler(m_startButton, &QPushButton::clicked, this, &Start::startClicked);
-    connect(m_exitButton, &QPushButton::clicked, this, [this] { screens().quit(); });
+    connectHandler(m_second, &QTimer::timeout, [this] { secondPassed(); });
 }
 
-void frmVantrelStart::connectRadio() {
-    using Start = frmVantrelStart;
-    connectHandler(m_radio->rig, &QComboBox::currentIndexChanged, this, &Start::rigChosen);
+QLayout* frmVantrelStart::contestPart() {
+    FormBuilder build(this);
+    std::vector<Item> items;
+    for (const Contest& contest : contests) {
+        m_contestOptions.push_back(
+            build.option(contest.option, contest.caption, "", [this] { contestClicked(); }));
+        items.emplace_back(m_contestOptions.back());
+    }
+    auto* form = new QFormLayout;
+    m_contestBox = build.row(form, "CONTEST NAME:",
+                             build.text("Text1", 0, "CONTEST NAME CAN BE CHANGED TO YOUR CHOICE"));
+    connectHandler(m_contestBox, &QLineEdit::textChanged, [this] { showLogNote(); });
+    items.insert(items.end(), {form, Item::room()});
+    return column(items);
+}
+
+QLayout* frmVantrelStart::operatorPart() {
+    FormBuilder build(this);
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    const auto box = [&](const char* caption, const char* name, int width, const char* toolTip) {
+        return build.row(form, caption, required(fitted(build.text(name, width, toolTip))));
+    };
+    m_callBox = box("YOUR CALL:", "Text2", callWidth, "ENTER YOUR OWN CALL HERE");
+    m_nameBox = box("YOUR NAME:", "Text6", nameWidth, "ENTER YOUR OWN NAME");
+    m_stateBox = box("YOUR STATE:", "Text7", stateWidth, "ENTER YOUR OWN STATE");
+    m_numberBox = box("YOUR SKCC#:", "Text8", numberWidth, "ENTER YOUR OWN SKCC#");
+    m_offsetBox = build.row(
+        form, "DIFF IN COMPUTER TIME TO GMT:",
+        filled(build.combo("Combo5", "HOURS TO ADD TO THE COMPUTER'S TIME"), offsetList()));
+    connectHandler(m_offsetBox, &QComboBox::currentIndexChanged, [this] { showUtc(); });
+    m_utcLabel = build.row(form, "UTC:", build.label("Label12"));
+    return form;
+}
+
+QLayout* frmVantrelStart::filePart() {
+    FormBuilder build(this);
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    m_fileBox = build.row(
+        form, "FILE NAME:",
+        build.text("Text9", 0,
+                   "FILE NAME CAN BE CHANGED TO YOUR CHOICE  +  .CBR-->THEN CLICK START A NEW "
+                   "FILE -YES-"));
+    connectHandler(m_fileBox, &QLineEdit::textEdited, [this] { logNameTyped(); });
+    connectHandler(m_fileBox, &QLineEdit::textChanged, [this] { showLogNote(); });
+    form->addRow(QString(), m_logLabel = build.label("Label15"));
+    form->addRow(QString(),
+                 row({{build.command("Command4", "USE DEFAULT FILE NAME",
+                                     "THE DEFAULT NAME  = SPRINT NAME + TODAY'S DATE",
+                                     [this] { takeDefaultName(); }),
+                       1},
+                      build.command("Command3", "&BROWSE", "CLICK TO FIND AN EXISTING FILE",
+                                    [this] { screens().openFinder(Screen::start); })}));
+    m_newFileBox =
+        filled(build.combo("Combo7", "YES STARTS A NEW FILE WITH THE NAME ABOVE"), dupeModeList());
+    connectHandler(m_newFileBox, &QComboBox::currentIndexChanged, [this] { newFileChosen(); });
+    m_dupeModeBox =
+        filled(build.combo("Combo6", "YES = DUPES ARE LOGGED AND MARKED"), dupeModeList());
+    form->addRow(build.caption("START A NEW", m_newFileBox),
+                 row({m_newFileBox, Item::room(), build.caption("LOG DUPES:", m_dupeModeBox),
+                      m_dupeModeBox}));
+    form->addRow(m_oldLogLabel = wrapped(build.label("Label14")));
+    m_bonusBox =
+        fitted(build.text("Text10", callWidth, "ENTER THE CALL OF THE BONUS STATION HERE"));
+    form->addRow(build.caption("BONUS STATION:", m_bonusBox),
+                 row({m_bonusBox,
+                      {build.command("Command6", "CLEAR  BONUS STATION",
+                                     "CLEARS THE BONUS STATION BOX-->LEAVE BLANK IF NO BONUS STN",
+                                     [this] { put(m_bonusBox, blanks(callWidth)); }),
+                       1}}));
+    return form;
+}
+
+QLayout* frmVantrelStart::radioPart() {
+    m_radio = std::make_unique<RadioSection>(this, platform().files, [this] { testRadio(); });
+    connectHandler(m_radio->rig, &QComboBox::currentIndexChanged, [this] { m_radio->rigChosen(); });
     for (const QComboBox* box : {m_radio->port, m_radio->baud, m_radio->civ})
-        connectHandler(box, &QComboBox::currentIndexChanged, this, &Start::lineChosen);
-    connectHandler(m_radio->test, &QPushButton::clicked, this, &Start::testClicked);
+        connectHandler(box, &QComboBox::currentIndexChanged, [this] { m_radio->lineChosen(); });
+    return m_radio->layout();
 }
 
 // --- Opening ---------------------------------------------------------------------------------
@@ -148,7 +175,7 @@ void frmVantrelStart::load() {
     m_radio->loaded();
     m_oldLogLabel->clear();
     if (!unknown.empty())
-        tell(m_oldLogLabel, {unknownSettingsText(unknown), true});
+        showNote(m_oldLogLabel, {unknownSettingsText(unknown), true});
 }
 
 // Returns what the page cannot show of the saved settings, if anything.
@@ -177,27 +204,23 @@ std::vector<std::string> frmVantrelStart::loadChosen() {
     return unknown;
 }
 
-// Also when it comes back from behind another page: roster and log may be others now.
+// Also when it comes back from behind another page: roster and log may be others now. To look into
+// log, roster and ports takes as long as to draw the page: it is drawn without them at first.
 void frmVantrelStart::bringToFront() {
     Form::bringToFront();
     runHandler([this] {
         showUtc();
-        if (m_painted)
+        if (std::exchange(m_wasInFront, true))
             showNotes();
+        else
+            afterPaint([this] { showNotes(); });
     });
-}
-
-// To look into log, roster and ports takes as long as to draw the page: it shows without.
-void frmVantrelStart::paintEvent(QPaintEvent* event) {
-    Form::paintEvent(event);
-    if (!std::exchange(m_painted, true))
-        QTimer::singleShot(0, this, [this] { runHandler([this] { showNotes(); }); });
 }
 
 void frmVantrelStart::showNotes() {
     m_radio->showDevice();
     showLogNote();
-    tell(m_membersLabel, rosterNote(platform().files));
+    showNote(m_membersLabel, rosterNote(platform().files));
 }
 
 QWidget* frmVantrelStart::firstFocus() {
@@ -231,12 +254,13 @@ void frmVantrelStart::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmVantrelStart::showUtc() {
-    tell(m_utcLabel, utcNote(platform().clock, stored(m_offsetBox)));
+    showNote(m_utcLabel, utcNote(platform().clock, chosenValue(m_offsetBox)));
 }
 
 void frmVantrelStart::secondPassed() {
     const QString before = m_utcLabel->text();
     showUtc();
+    m_radio->showDevice();
     if (m_utcLabel->text() != before) // a contact may have been logged behind the page
         showNotes();
 }
@@ -249,16 +273,12 @@ void frmVantrelStart::contestClicked() {
         screens().open(Screen::callArea);
 }
 
-void frmVantrelStart::defaultNameClicked() {
+void frmVantrelStart::takeDefaultName() {
     const std::string code = contestCode();
     if (code == contestK3y) // the event's name comes from the call area
         return;
     setLogFileName(defaultLogName(code, platform().clock.now()));
     put(m_contestBox, code);
-}
-
-void frmVantrelStart::browseClicked() {
-    screens().openFinder(Screen::start);
 }
 
 void frmVantrelStart::newFileChosen() {
@@ -282,7 +302,7 @@ void frmVantrelStart::startNewFile() {
     const std::string kept =
         startNewLog(platform().files, name,
                     logHeader(settings.contestText, settings.myCall, settings.myNumber));
-    tell(m_oldLogLabel, {kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept});
+    showNote(m_oldLogLabel, {kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept});
     showLogNote();
     // The main page behind this one goes on with that log, whether START follows or not.
     const Files& files = platform().files;
@@ -298,28 +318,12 @@ void frmVantrelStart::logNameTyped() {
 
 void frmVantrelStart::showLogNote() {
     if (isVisible()) // while it is being loaded, the notes come later
-        tell(m_logLabel, logNote(platform().files, textOf(m_fileBox), textOf(m_contestBox)));
-}
-
-void frmVantrelStart::clearBonusClicked() {
-    put(m_bonusBox, blanks(callWidth));
-}
-
-void frmVantrelStart::updateClicked() {
-    screens().open(Screen::updateList);
+        showNote(m_logLabel, logNote(platform().files, textOf(m_fileBox), textOf(m_contestBox)));
 }
 
 // --- Radio -----------------------------------------------------------------------------------
 
-void frmVantrelStart::rigChosen() {
-    m_radio->rigChosen();
-}
-
-void frmVantrelStart::lineChosen() {
-    m_radio->lineChosen();
-}
-
-void frmVantrelStart::testClicked() {
+void frmVantrelStart::testRadio() {
     const InputHold::Scope hold(m_hold);
     m_radio->showReading();
     const ReadResult result = readFrequency(pageSettings(), platform().serialPort);
@@ -332,7 +336,7 @@ void frmVantrelStart::testClicked() {
 
 // --- START -----------------------------------------------------------------------------------
 
-void frmVantrelStart::startClicked() {
+void frmVantrelStart::start() {
     upperCaseBoxes();
     const OperatingSettings settings = storedSettings(pageSettings());
     saveSettings(platform().files, settings);
@@ -387,7 +391,7 @@ OperatingSettings frmVantrelStart::pageSettings() const {
     for (const auto& [setting, box] : typedSettings())
         settings.*setting = textOf(box);
     for (const auto& [setting, box, list] : chosenSettings())
-        settings.*setting = stored(box);
+        settings.*setting = chosenValue(box);
     return settings;
 }
 
@@ -414,90 +418,12 @@ std::string frmVantrelStart::myCall() const {
 }
 
 std::string frmVantrelStart::gmtOffset() const {
-    return stored(m_offsetBox);
+    return chosenValue(m_offsetBox);
 }
 
 void frmVantrelStart::receivePath(const std::string& path) {
     setLogFileName(path);
     m_fileBox->setFocus();
-}
-
-// --- Layout ----------------------------------------------------------------------------------
-
-void frmVantrelStart::layOut() {
-    FormBuilder build(this);
-    auto* columns = new QGridLayout;
-    columns->addLayout(build.section("CONTEST", contestBox()), 0, 0);
-    columns->addLayout(build.section("OPERATOR", operatorBox()), 0, 1);
-    columns->addLayout(build.section("LOG FILE", fileBox()), 1, 0);
-    columns->addLayout(build.section("RADIO", m_radio->layout()), 1, 1);
-    columns->setColumnStretch(0, 1);
-    columns->setColumnStretch(1, 1);
-
-    auto* buttons = new QHBoxLayout;
-    m_startButton->setFont(enlargedFont(this, 1.3));
-    for (QLineEdit* box : {m_callBox, m_nameBox, m_stateBox, m_numberBox, m_bonusBox})
-        fitToLength(box);
-    buttons->addWidget(m_updateButton);
-    buttons->addWidget(m_membersLabel);
-    buttons->addStretch();
-    buttons->addWidget(m_startButton);
-    buttons->addSpacing(2 * fontMetrics().height());
-    buttons->addWidget(m_exitButton);
-
-    auto* page = new QVBoxLayout(this);
-    page->addLayout(columns, 1);
-    page->addLayout(buttons);
-}
-
-QLayout* frmVantrelStart::contestBox() {
-    FormBuilder build(this);
-    auto* layout = new QVBoxLayout;
-    for (QRadioButton* option : m_contestOptions)
-        layout->addWidget(option);
-    auto* form = new QFormLayout;
-    build.row(form, "CONTEST NAME:", m_contestBox);
-    layout->addLayout(form);
-    layout->addStretch();
-    return layout;
-}
-
-QLayout* frmVantrelStart::operatorBox() {
-    FormBuilder build(this);
-    auto* form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    build.row(form, "YOUR CALL:", m_callBox);
-    build.row(form, "YOUR NAME:", m_nameBox);
-    build.row(form, "YOUR STATE:", m_stateBox);
-    build.row(form, "YOUR SKCC#:", m_numberBox);
-    build.row(form, "DIFF IN COMPUTER TIME TO GMT:", m_offsetBox);
-    form->addRow(build.caption("UTC:", m_utcLabel), m_utcLabel);
-    return form;
-}
-
-QLayout* frmVantrelStart::fileBox() {
-    FormBuilder build(this);
-    auto* nameButtons = new QHBoxLayout;
-    nameButtons->addWidget(m_defaultNameButton, 1);
-    nameButtons->addWidget(m_browseButton);
-    m_oldLogLabel->setWordWrap(true);
-    auto* form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    build.row(form, "FILE NAME:", m_fileBox);
-    form->addRow(QString(), m_logLabel);
-    form->addRow(QString(), nameButtons);
-    auto* choices = new QHBoxLayout;
-    choices->addWidget(m_newFileBox);
-    choices->addStretch();
-    choices->addWidget(build.caption("LOG DUPES:", m_dupeModeBox));
-    choices->addWidget(m_dupeModeBox);
-    form->addRow(build.caption("START A NEW", m_newFileBox), choices);
-    form->addRow(m_oldLogLabel);
-    auto* bonus = new QHBoxLayout;
-    bonus->addWidget(m_bonusBox);
-    bonus->addWidget(m_clearBonusButton, 1);
-    form->addRow(build.caption("BONUS STATION:", m_bonusBox), bonus);
-    return form;
 }
 
 } // namespace vantrel

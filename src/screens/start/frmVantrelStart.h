@@ -4,15 +4,14 @@
 
 #include "forms/form.h"
 #include "forms/inputhold.h"
-#include "screens/start/frmRadioSection.h"
 #include "screens/start/startlists.h"
+#include "screens/start/widgets/radiosection.h"
 
 #include <memory>
 
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QPushButton;
 class QRadioButton;
 class QTimer;
 
@@ -40,7 +39,6 @@ protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     using Setting = std::string OperatingSettings::*;
@@ -54,13 +52,10 @@ private:
         ValueList (*list)();
     };
 
-    void createControls();
-    void layOut();
-    QLayout* contestBox();
-    QLayout* operatorBox();
-    QLayout* fileBox();
-    void connectHandlers();
-    void connectRadio();
+    QLayout* contestPart();
+    QLayout* operatorPart();
+    QLayout* filePart();
+    QLayout* radioPart();
 
     std::vector<std::string> loadContest();
     std::vector<std::string> loadChosen();
@@ -72,15 +67,10 @@ private:
     void showUtc();
     void secondPassed();
     void logNameTyped();
-    void defaultNameClicked();
-    void browseClicked();
+    void takeDefaultName();
     void newFileChosen();
-    void clearBonusClicked();
-    void rigChosen();
-    void lineChosen();
-    void testClicked();
-    void updateClicked();
-    void startClicked();
+    void testRadio();
+    void start();
 
     std::vector<TypedSetting> typedSettings() const;
     std::vector<ChosenSetting> chosenSettings() const;
@@ -100,20 +90,15 @@ private:
     QLabel* m_utcLabel;
     QTimer* m_second;
     QLineEdit* m_fileBox;
-    QPushButton* m_defaultNameButton;
-    QPushButton* m_browseButton;
     QComboBox* m_newFileBox;
     QLabel* m_logLabel;
     QLabel* m_oldLogLabel;
     QComboBox* m_dupeModeBox;
     QLineEdit* m_bonusBox;
-    QPushButton* m_clearBonusButton;
     std::unique_ptr<RadioSection> m_radio;
-    QPushButton* m_updateButton;
     QLabel* m_membersLabel;
-    QPushButton* m_startButton;
-    QPushButton* m_exitButton;
-    bool m_painted = false; // once
+
+    bool m_wasInFront = false;
 
     InputHold m_hold; // what is typed while the radio is tried
 };

@@ -15,6 +15,7 @@ class QKeyEvent;
 
 namespace vantrel {
 
+class AlertLabel;
 class MarkedLabel;
 
 // A letter or figure, which wherever it is typed belongs into a box.
@@ -46,7 +47,7 @@ struct EntryBoxes {
     QLabel* band;
     QLabel* autoRead;
     QLabel* readSign; // before that one: how the last read went
-    QLabel* hint;
+    AlertLabel* hint;
     MarkedLabel* worked; // calls like his
     QLabel* station;
     QLabel* marker; // what the next contact will end in

@@ -61,7 +61,7 @@ bool SuggestionList::takeFocus() {
         return false;
     setCurrentIndex(m_model->index(0, 0));
     setFocus();
-    tellCurrent(this);
+    announceCurrentRow(this);
     return true;
 }
 

@@ -97,7 +97,7 @@ bool WorkedList::takeFocus() {
         return false;
     setCurrentIndex(m_lines->index(m_lines->rowCount() - 1));
     setFocus();
-    tellCurrent(this);
+    announceCurrentRow(this);
     return true;
 }
 

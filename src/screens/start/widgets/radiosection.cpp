@@ -1,67 +1,51 @@
 // SPDX-License-Identifier: MIT
-#include "screens/start/frmRadioSection.h"
+#include "screens/start/widgets/radiosection.h"
 
 #include "base/runtimeerror.h"
-#include "forms/accessible.h"
+#include "forms/alertlabel.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "platform/serialnames.h"
 #include "rig/rigs.h"
-#include "screens/start/startlists.h"
 #include "shared/settings.h"
 
-#include <QHBoxLayout>
-#include <QTimer>
+#include <utility>
 
 namespace vantrel {
 
-namespace {
-constexpr int lookAgainAfter = 1000; // milliseconds
-} // namespace
+QComboBox* filled(QComboBox* combo, const ValueList& list) {
+    for (const ListEntry& entry : list)
+        combo->addItem(toQt(entry.shown), toQt(entry.savedAs));
+    return combo;
+}
 
-std::string stored(const QComboBox* combo) {
+std::string chosenValue(const QComboBox* combo) {
     return fromQt(combo->currentData().toString());
 }
 
-RadioSection::RadioSection(QWidget* page, const Files& files)
-    : m_page(page), m_files(files), m_timer(new QTimer(page)) {
+RadioSection::RadioSection(QWidget* page, const Files& files, std::function<void()> testClicked)
+    : m_page(page), m_files(files), m_layout(new QFormLayout) {
     FormBuilder build(page);
-    rig = build.combo("Combo1");
-    port = build.combo("Combo2");
-    baud = build.combo("Combo3");
-    civ = build.combo("Combo4");
-    test = build.command("Command8", "&TEST", "READS THE FREQUENCY FROM THE RADIO ONCE");
+    rig = build.row(m_layout, "RIG:", filled(build.combo("Combo1"), rigList()));
     m_needsLabel = build.alert("Label17");
-    m_deviceLabel = build.label("Label13");
-    QObject::connect(m_timer, &QTimer::timeout, page, [this] { tick(); });
-}
-
-QLayout* RadioSection::layout() const {
-    FormBuilder build(m_page);
-    m_needsLabel->setWordWrap(true);
-    m_deviceLabel->setWordWrap(true);
-    auto* needs = new QHBoxLayout;
-    needs->addWidget(m_needsLabel, 1);
-    needs->addWidget(test);
-    auto* form = new QFormLayout;
-    build.row(form, "RIG:", rig);
-    form->addRow(needs);
-    build.row(form, "COM:", port);
-    form->addRow(m_deviceLabel);
-    build.row(form, "BAUD RATE:", baud);
-    build.row(form, "ICOM      HEX:", civ);
-    return form;
+    m_testButton = build.command("Command8", "&TEST", "READS THE FREQUENCY FROM THE RADIO ONCE",
+                                 std::move(testClicked));
+    m_layout->addRow(row({{wrapped(m_needsLabel), 1}, m_testButton}));
+    port = build.row(m_layout, "COM:", filled(build.combo("Combo2"), portList()));
+    m_layout->addRow(m_deviceLabel = wrapped(build.label("Label13")));
+    baud = build.row(m_layout, "BAUD RATE:", filled(build.combo("Combo3"), baudList()));
+    civ = build.row(m_layout, "ICOM      HEX:", filled(build.combo("Combo4"), civList()));
 }
 
 void RadioSection::loaded() {
-    m_broughtAddress = usualCivAddress(stored(rig));
+    m_broughtAddress = usualCivAddress(chosenValue(rig));
     lineChosen();
-    m_timer->start(lookAgainAfter);
 }
 
 void RadioSection::rigChosen() {
-    const std::string usual(usualCivAddress(stored(rig)));
-    const std::string chosen = stored(civ);
+    const std::string usual(usualCivAddress(chosenValue(rig)));
+    const std::string chosen = chosenValue(civ);
     if (!usual.empty()) {
         if (chosen == noneSetting || chosen == m_broughtAddress)
             civ->setCurrentIndex(positionOf(civList(), usual, noneSetting));
@@ -93,7 +77,7 @@ void RadioSection::showRead(const ReadResult& result) {
 }
 
 RadioSection::Device RadioSection::device() const {
-    const std::string name = stored(port);
+    const std::string name = chosenValue(port);
     try {
         return {name, serialDeviceShown(m_files, name), serialIdentity(m_files, name)};
     } catch (const RuntimeError& error) { // two entries of the program folder are called so
@@ -112,16 +96,9 @@ void RadioSection::showDevice() {
 }
 
 void RadioSection::showNeeds() {
-    const std::string name = stored(rig);
+    const std::string name = chosenValue(rig);
     put(m_needsLabel, rigNeeds(name));
-    test->setEnabled(familyOf(name) != nullptr && stored(port) != noneSetting);
-}
-
-void RadioSection::tick() {
-    if (m_page->isVisible())
-        showDevice();
-    else
-        m_timer->stop();
+    m_testButton->setEnabled(familyOf(name) != nullptr && chosenValue(port) != noneSetting);
 }
 
 } // namespace vantrel

@@ -4,32 +4,37 @@
 #pragma once
 
 #include "rig/catlink.h"
+#include "screens/start/startlists.h"
 
 #include <QComboBox>
 
+#include <functional>
+
+class QFormLayout;
 class QLabel;
-class QLayout;
 class QPushButton;
-class QTimer;
 
 namespace vantrel {
 
+class AlertLabel;
 class Files;
 
+// The combo, with these entries.
+QComboBox* filled(QComboBox* combo, const ValueList& list);
 // The value of the entry that a combo shows, as the settings hold it.
-std::string stored(const QComboBox* combo);
+std::string chosenValue(const QComboBox* combo);
 
 class RadioSection {
 public:
-    // Makes its controls as children of the page, in tab order.
-    RadioSection(QWidget* page, const Files& files);
+    // Makes its controls as children of the page.
+    RadioSection(QWidget* page, const Files& files, std::function<void()> testClicked);
     RadioSection(const RadioSection&) = delete;
     RadioSection& operator=(const RadioSection&) = delete;
 
-    QLayout* layout() const;
-    // The boxes hold the saved settings now; from here to its hiding the page follows what is
-    // plugged in and out.
+    QFormLayout* layout() const { return m_layout; }
+    // The boxes hold the saved settings now.
     void loaded();
+    // What the chosen port stands for now: adapters are plugged in and out.
     void showDevice();
     // An Icom brings its usual address, unless the operator has chosen one himself.
     void rigChosen();
@@ -44,7 +49,6 @@ public:
     QComboBox* port;
     QComboBox* baud;
     QComboBox* civ;
-    QPushButton* test;
 
 private:
     struct Device {
@@ -54,13 +58,13 @@ private:
     };
     Device device() const;
     void showNeeds();
-    void tick();
 
     QWidget* m_page;
     const Files& m_files;
-    QLabel* m_needsLabel;
+    QFormLayout* m_layout;
+    QPushButton* m_testButton;
+    AlertLabel* m_needsLabel;
     QLabel* m_deviceLabel;
-    QTimer* m_timer;
     Device m_started;             // at the last START of this run
     std::string m_broughtAddress; // the last Icom's usual one
 };

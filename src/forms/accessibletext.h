@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The text of a box of one line as a screen reader asks for it: whole, by words, by characters.
+// The text of a one-line box as a screen reader asks for it: whole, by words, by characters.
 #pragma once
 
 #include <QAccessible>
-
-class QComboBox;
-class QLineEdit;
+#include <QLineEdit>
 
 namespace vantrel {
 
-// Where a part of a text is asked for, Qt's own answer is never left: Qt 6.4 looks for the word at
-// the end of a text for ever, and a program that stands still in a contest loses contacts.
-class BoxText : public QAccessibleTextInterface, public QAccessibleEditableTextInterface {
+// Replaces Qt's own: the text...Offset() of Qt 6.4.2 never return for a word at the end of a text,
+// and a program that stands still in a contest loses contacts.
+class AccessibleText : public QAccessibleTextInterface, public QAccessibleEditableTextInterface {
 public:
-    // edit: nullptr for a choice that one cannot type into.
-    BoxText(QLineEdit* edit, const QComboBox* choice) : m_edit(edit), m_choice(choice) {}
+    explicit AccessibleText(QLineEdit& box) : m_box(box) {}
 
-    QString whole() const;
-    QString text(int begin, int end) const override { return whole().mid(begin, end - begin); }
-    int characterCount() const override { return static_cast<int>(whole().size()); }
+    const QLineEdit& box() const { return m_box; }
+    // This as the interface of that type; nullptr for any other type.
+    void* cast(QAccessible::InterfaceType type);
+
+    QString text(int begin, int end) const override { return m_box.text().mid(begin, end - begin); }
+    int characterCount() const override { return static_cast<int>(m_box.text().size()); }
 
     QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
                          int* end) const override;
@@ -27,13 +27,13 @@ public:
     QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
                             int* end) const override;
 
-    int cursorPosition() const override;
-    void setCursorPosition(int position) override;
-    int selectionCount() const override;
+    int cursorPosition() const override { return m_box.cursorPosition(); }
+    void setCursorPosition(int position) override { m_box.setCursorPosition(position); }
+    int selectionCount() const override { return m_box.hasSelectedText() ? 1 : 0; }
     void selection(int index, int* begin, int* end) const override;
     void addSelection(int begin, int end) override { setSelection(0, begin, end); }
-    void removeSelection(int index) override;
-    void setSelection(int index, int begin, int end) override;
+    void removeSelection(int) override { m_box.deselect(); }
+    void setSelection(int, int begin, int end) override { m_box.setSelection(begin, end - begin); }
     void scrollToSubstring(int begin, int) override { setCursorPosition(begin); }
     QRect characterRect(int) const override { return {}; }
     int offsetAtPoint(const QPoint&) const override { return -1; }
@@ -41,7 +41,7 @@ public:
 
     void deleteText(int begin, int end) override { replaceText(begin, end, {}); }
     void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
-    // As typed: what follows the operator's typing follows this too.
+    // As if typed: whatever follows typing follows this too.
     void replaceText(int begin, int end, const QString& text) override;
 
 private:
@@ -49,11 +49,10 @@ private:
         int begin;
         int end;
     };
-    // A word reaches to the beginning of the next one; a line is all there is.
+    // A word reaches to the beginning of the next one; a line is the whole text.
     Part partAt(int offset, QAccessible::TextBoundaryType boundary) const;
 
-    QLineEdit* m_edit;
-    const QComboBox* m_choice;
+    QLineEdit& m_box;
 };
 
 } // namespace vantrel

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What controls show and hold, as the rules' text (ISO 8859-1): forms speak of no conversions.
+// Text into and out of controls as the rules have it (ISO 8859-1), so that no form converts any.
 #pragma once
 
 #include "platform/qt/latin1.h"

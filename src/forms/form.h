@@ -35,13 +35,13 @@ public:
     virtual void bringToFront();
     // Whether opening the screen again while it shows loads it again.
     virtual bool loadsAgain() const { return false; }
-    // Closed for good: the form lives until the event loop comes round, but must not come back.
+    // Closed and to be deleted by the event loop: it must not be shown again.
     bool isGone() const { return m_gone; }
     // The window that closing leads back to; nullptr when there is none any more.
     QWidget* opener() const { return m_opener; }
 
-    // The one boundary: runs the handler; a run-time error is shown in a critical message box
-    // and ends that operation. The form may be gone afterwards.
+    // The guard: runs the handler and shows what it throws in a critical message box. The form may
+    // have been deleted when this returns.
     template <typename Handler>
     void runHandler(Handler&& handler) {
         Messages& messages = m_context.platform.messages;

@@ -23,8 +23,8 @@ QString text(const char* latin1) {
     return QString::fromLatin1(latin1);
 }
 
-// A box that a lookup has filled is padded to its width, with no room to type into: what is
-// typed takes the padding's place, and that of the blanks alone in an emptied box.
+// Lookups pad what they fill in to the box's full length, so that no more could be typed: typing
+// drops the blanks at the end first, also in a box that holds nothing else.
 class TextBox : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
@@ -55,8 +55,8 @@ private:
     }
 };
 
-// Its Alt key clicks at once. Qt would first show the button pressed for a while, and what is
-// typed meanwhile would still go into the contact being logged.
+// Qt's own Alt key shows the button pressed for a while before it clicks: what is typed meanwhile
+// would still go into the contact being logged.
 template <typename Base>
 class AtOnce : public Base {
 public:
@@ -83,7 +83,7 @@ protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 };
 
-// Runs a job by each click; the last one run is the one that is chosen.
+// Runs its job on each click; the one run last shows as chosen.
 class JobButton : public OptionButton {
 public:
     JobButton(const QString& caption, QWidget* form) : OptionButton(caption, form) {
@@ -122,7 +122,6 @@ QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
     QLineEdit* box = named(new QLineEdit(m_form), name, toolTip);
     box->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
-    // To be read, not typed into: it looks like text.
     box->setFrame(false);
     box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QPalette flat(box->palette());

@@ -28,11 +28,11 @@ public:
     // A one-line box that takes at most `width` characters; 0: no limit. What is typed takes
     // the place of the blanks that pad it.
     QLineEdit* text(const char* name, int width = 0, const char* toolTip = "");
-    // A figure to read: flat, right-aligned, out of the tab order.
+    // A box that only shows a figure: flat, right-aligned, left out by Tab.
     QLineEdit* output(const char* name, const char* toolTip = "");
     // What a click runs, inside the guard of the form that the control is on.
     using Handler = std::function<void()>;
-    // A button whose Alt key clicks it at once.
+    // A button. Its Alt key clicks it before the next key arrives.
     QPushButton* command(const char* name, const char* caption, const char* toolTip = "",
                          Handler clicked = {});
     // The button that closes the form.
@@ -45,7 +45,7 @@ public:
     // A caption without a name of its own; `buddy` is the box it names, to screen readers too,
     // and gets the focus on its Alt key.
     QLabel* caption(const char* text, QWidget* buddy = nullptr);
-    // The label's text is the name of the box, unless that has one.
+    // Makes the label the box's buddy, and its text the box's accessible name if it has none.
     static void tie(QLabel* caption, QWidget* box);
     // A row of a form: a box behind its caption, tied as above.
     template <typename Box>
@@ -56,7 +56,7 @@ public:
     QComboBox* combo(const char* name, const char* toolTip = "");
     // A combo that one can also type into: nothing completes or inserts by itself.
     QComboBox* editableCombo(const char* name, const char* toolTip = "");
-    // Its whole rectangle takes the click.
+    // A click anywhere in its rectangle chooses it.
     QRadioButton* option(const char* name, const char* caption, const char* toolTip = "",
                          Handler clicked = {});
     // An option that runs a job on every click and belongs to no exclusive group.
@@ -99,7 +99,8 @@ inline QLabel* wrapped(QLabel* label) {
 }
 // The form's font in another family; where that is not installed, the system's nearest.
 QFont familyFont(const QWidget* widget, const char* family);
-// As wide as so many characters of a fixed-width font: one is no whole number of pixels wide.
+// The width of so many characters of a fixed-width font, which is not always that many times the
+// width of one: a character may be a fraction of a pixel wider.
 int widthOfColumns(const QFontMetrics& metrics, int columns);
 // A box `columns` characters of its font wide (at least).
 void setColumns(QLineEdit* box, int columns);

@@ -18,8 +18,8 @@ bool isKey(const QEvent& event) {
            event.type() == QEvent::InputMethod;
 }
 
-// A ShortcutOverride only asks who wants the key and changes nothing, so it passes: what it
-// leads to, a key or a shortcut, is kept.
+// ShortcutOverride is let through: it only asks who wants the key. The key press or the shortcut
+// that follows it is kept.
 bool isInput(const QEvent& event) {
     switch (event.type()) {
     case QEvent::Shortcut:
@@ -68,8 +68,8 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
     const bool toFocus = isKey(*event) && receiver == QApplication::focusWidget();
     m_held.push_back({receiver, std::unique_ptr<QEvent>(event->clone()), toFocus});
     event->accept();
-    // A click handed straight to a control has moved the focus before anybody could keep it;
-    // the keys kept before it come first.
+    // A click moves the focus before this filter sees it. The focus goes back, so that the keys
+    // kept before the click reach the control they were typed for.
     if (m_focusBeforeClick != nullptr)
         std::exchange(m_focusBeforeClick, nullptr)->setFocus();
     return true;
@@ -78,8 +78,8 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
 bool InputHold::holdsInput(const QEvent& event) const {
     if (!isInput(event) || QApplication::activeModalWidget() != nullptr)
         return false;
-    // What is being delivered goes through as events that are not the system's own; the
-    // operator's go to the end of the queue.
+    // While kept events are delivered, these pass; what the operator types meanwhile (it comes
+    // from the system, so it is spontaneous) is queued behind them.
     return m_scopes > 0 || !m_delivering || event.spontaneous();
 }
 
@@ -101,7 +101,7 @@ void InputHold::scheduleDelivery() {
 
 void InputHold::deliver() {
     if (m_delivering || m_scopes > 0)
-        return; // goes on when the handler in between has ended
+        return; // called again when the handler under way has ended
     const QPointer<InputHold> self(this);
     m_delivering = true;
     while (m_closing == Closing::no && !m_held.empty() &&
@@ -125,7 +125,7 @@ void InputHold::deliverNext() {
     QObject* receiver = next.receiver;
     if (auto* const button = qobject_cast<QAbstractButton*>(receiver);
         button != nullptr && next.event->type() == QEvent::Shortcut)
-        return button->click(); // at once: its own way to click would come after the next key
+        return button->click(); // the shortcut event itself would click only after the next key
     if (auto* const control = qobject_cast<QWidget*>(receiver); next.toFocus && control != nullptr)
         receiver = control->window()->focusWidget();
     if (receiver != nullptr)

@@ -21,8 +21,8 @@ class InputHold : public QObject {
     Q_OBJECT
 
 public:
-    // giveUp: ends the waiting at once (closes the port); called when `window` or the program
-    // is closed inside a scope. The closing itself follows when the handler has ended.
+    // giveUp: ends the wait at once (closes the port); called when `window` or the program is
+    // closed inside a scope. It is then closed when the handler has ended.
     InputHold(QWidget* window, std::function<void()> giveUp);
 
     // Input is kept from here to the end of the scope. What is typed while a message box is
@@ -47,7 +47,7 @@ private:
     struct HeldEvent {
         QPointer<QObject> receiver;
         std::unique_ptr<QEvent> event;
-        bool toFocus; // a key for whichever control has the focus by then
+        bool toFocus; // a key: delivered to the control that has the focus by then
     };
 
     void begin();

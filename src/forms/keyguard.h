@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Keys and wheel alike on every page: what a hand on the key does by accident changes nothing.
+// On every page: keys and wheel movements that are likely to be accidents change nothing.
 #pragma once
 
 #include <QObject>

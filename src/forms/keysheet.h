@@ -9,8 +9,8 @@ namespace vantrel {
 
 struct OperatingSettings;
 
-// Lines of keys and what they do on the page of that objectName, the contest's exchange first where
-// contacts are entered. Every page has at least what all pages share.
+// The page's keys and what each does, a line each, then the keys of all pages. page: its
+// objectName. The main page's sheet begins with the contest's exchange.
 std::string keySheet(std::string_view page, const OperatingSettings& settings);
 
 } // namespace vantrel

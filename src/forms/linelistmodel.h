@@ -16,8 +16,8 @@ class LineListModel : public QAbstractListModel {
 public:
     using Words = std::string (*)(std::string_view line);
 
-    // words: how a screen reader reads a line; nullptr: as it stands. Bars and doubled blanks
-    // are left out of either.
+    // words: makes what a screen reader says of a line; nullptr: the line itself. Bars and doubled
+    // blanks are left out of both.
     explicit LineListModel(QObject* parent, Words words = nullptr)
         : QAbstractListModel(parent), m_words(words) {}
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A label of which some words stand out: its text is plain all the same.
+// A label that shows some of its words in red and bold; its text is plain.
 #pragma once
 
 #include <QLabel>
@@ -19,7 +19,7 @@ public:
 
     using QLabel::QLabel;
 
-    // The runs follow each other as they stand.
+    // The label's text is the runs joined, without blanks between them.
     void setRuns(std::vector<Run> runs);
 
     QSize sizeHint() const override;

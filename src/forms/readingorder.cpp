@@ -10,7 +10,7 @@ namespace {
 
 void addWidgetsOf(QLayoutItem* item, QList<QWidget*>& order);
 
-// A grid hands its items out in the order in which they were put in.
+// itemAt() of a grid counts items in the order in which they were added, not by place.
 void addWidgetsOf(const QGridLayout& grid, QList<QWidget*>& order) {
     for (int row = 0; row < grid.rowCount(); ++row)
         for (int column = 0; column < grid.columnCount(); ++column)

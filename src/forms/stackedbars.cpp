@@ -14,8 +14,8 @@ namespace vantrel {
 
 namespace {
 
-// All as light as each other: they stand out on a light and on a dark ground, and black letters
-// stand out on them.
+// Of equal luminance: at least 3:1 against light and dark windows, and black text is readable on
+// each.
 constexpr std::array<QRgb, 10> seriesColors{0xFFAA6E61, 0xFF966ABE, 0xFF3A82BE, 0xFF118A96,
                                             0xFF279027, 0xFF818117, 0xFFC95E00, 0xFFD73CA8,
                                             0xFFD84D4D, 0xFF7D7D7D};
@@ -24,7 +24,7 @@ constexpr int fewestRowsHigh = 6;
 constexpr int charactersWide = 60;
 constexpr double barShare = 0.8; // of a bar's place; the rest parts it from the next
 constexpr double gapShare = 0.6; // of a bar's place
-constexpr int seam = 1;          // pixels of ground between a bar's parts
+constexpr int seam = 1;          // pixels of the window's colour between a bar's parts
 
 int totalOf(const StackedBar& bar) {
     return std::accumulate(bar.parts.begin(), bar.parts.end(), 0);
@@ -108,7 +108,7 @@ void StackedBars::paintLegend(QPainter& painter, int top) const {
     }
 }
 
-// The ground line, and a line at the height of the highest bar with its count.
+// The base line, and a line at the height of the highest bar with its count.
 void StackedBars::paintScale(QPainter& painter, const QRect& plot) const {
     painter.save();
     painter.setPen(frameColour(palette()));
@@ -160,9 +160,9 @@ void StackedBars::paintBar(QPainter& painter, const QRectF& column, const Stacke
     painter.drawText(above, Qt::AlignHCenter, total);
 }
 
-// Its name stands in it where there is room: not everybody can tell the colours apart.
+// With the band's name in it where there is room: not everybody can tell the colours apart.
 void StackedBars::paintPart(QPainter& painter, const QRectF& part, std::size_t series) const {
-    QRect solid = part.toRect(); // whole pixels: half a pixel is but a shade of the colour
+    QRect solid = part.toRect(); // whole pixels: a half covered one would have a paler colour
     solid.setTop(solid.top() + (solid.height() > 2 * seam ? seam : 0));
     painter.fillRect(solid, colorOf(series));
     const QString& name = m_series[series];

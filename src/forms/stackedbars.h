@@ -12,7 +12,7 @@ namespace vantrel {
 struct StackedBar {
     QString label;
     std::vector<int> parts;
-    bool afterGap; // a gap before it: something lies between
+    bool afterGap; // a gap before it: time without contacts was left out
 };
 
 class StackedBars : public QWidget {

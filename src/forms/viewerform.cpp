@@ -23,8 +23,8 @@ constexpr int fewestRows = 8;
 constexpr int mostRows = 24;
 constexpr int mostDigits = 14; // "12000 OF 12000"
 
-// Gives every line the width of the longest: the list asks for one line's size only and takes
-// it for all, so that it opens at once however many there are.
+// Gives every line the width of the longest: a list with uniform item sizes asks for the size of
+// one line only, so that it opens at once however many there are.
 class LineDelegate : public QStyledItemDelegate {
 public:
     LineDelegate(QObject* parent, int columns) : QStyledItemDelegate(parent), m_columns(columns) {}
@@ -164,8 +164,8 @@ void ViewerForm::goToFound(int row) {
     showPlace();
 }
 
-// "12 OF 145": where among the lines found, or among all of them, the current one stands. It is
-// spoken with the line while one types what to find; in the list the line is heard by itself.
+// "12 OF 145": the current line's place among the lines found, or among all. A screen reader speaks
+// it with the line while the operator types in FIND; in the list Qt announces the line itself.
 void ViewerForm::showPlace() {
     const QModelIndex line = m_list->currentIndex();
     const auto place = std::lower_bound(m_found.begin(), m_found.end(), line.row());

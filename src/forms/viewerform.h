@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the screens have in common that show a file's lines: the list, finding, copying.
+// The base of the screens that show a file's lines: the list, finding, copying.
 #pragma once
 
 #include "forms/form.h"
@@ -24,7 +24,7 @@ class ViewerForm : public Form {
 public:
     ViewerForm(const FormContext& context, const char* name, const char* caption);
 
-    // Opened again it shows what is to be seen now.
+    // The file may have changed since.
     bool loadsAgain() const override { return true; }
 
     // As wide as its longest line.

@@ -34,8 +34,7 @@ QLineEdit* makeCell(FormBuilder& build, const std::string& name) {
     return box;
 }
 
-// Worked is blue: the text is white in light and dark palettes alike. A screen reader says row and
-// column with what stands there.
+// A worked cell is blue, with white text in every palette. A screen reader says its row and column.
 void showCell(QLineEdit* box, const StandingsCell& cell, std::string_view row,
               std::string_view column) {
     QPalette colours;

@@ -43,7 +43,7 @@ frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K
     }
 }
 
-// No station is chosen, whatever tag is in force; NONE stays as it was.
+// Shows no station as chosen, whatever tag is in force; NONE stays as it was.
 void frmK3Ybox::load() {
     for (QRadioButton* option : m_options) {
         if (option == m_options.back())
@@ -77,7 +77,7 @@ void frmK3Ybox::keyPressEvent(QKeyEvent* event) {
     close();
 }
 
-// A choice holds at once; OK only closes the box.
+// The choice takes effect at once; OK only closes the box.
 void frmK3Ybox::choose(std::size_t index) {
     m_inForce = index;
     const K3yStation& station = k3yStations.at(index);

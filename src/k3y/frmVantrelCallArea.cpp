@@ -17,7 +17,8 @@ namespace {
 
 constexpr int listColumns = 36;
 
-// The items' blanks line the codes up in one font only; here they stand in a column in each.
+// The blanks inside the items line up the codes in one font only; this draws them as a column in
+// any font.
 class AreaDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;

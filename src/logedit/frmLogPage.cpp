@@ -220,7 +220,7 @@ void frmLogPage::undo() {
 }
 
 bool frmLogPage::publish(const ChangeResult& result) {
-    // What fails here is told, but the change is made all the same.
+    // A failure here is shown, but the change has been made.
     if (result.made)
         runHandler([this] { shared().log.reread(); });
     if (result.notice)

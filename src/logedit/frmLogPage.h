@@ -55,20 +55,21 @@ protected:
     virtual std::string_view lastEntryText() const { return "LAST ENTRY"; }
     virtual void change() = 0; // of the contact found
     virtual void clearBoxes() {}
-    // What the page tells besides whenever it tells something.
+    // A note that is added to all others.
     virtual std::string standingNote() const { return {}; }
     // "2 OF 3".
     virtual std::string placeText(int place, int count) const;
 
     void setStatus(std::string_view message);
-    // What the operator should know besides; takes the place of what was told before.
+    // What else the operator should know, a line each, in place of the notes before.
     void setNotes(std::vector<std::string> notes);
     // Shows what is found and what can be done; the next call may be typed.
     virtual void refreshControls();
 
-    // Whether the change was made. If so the open log follows it; its notice is shown.
+    // Reads the open log again after a change, and shows the change's notice. False when nothing
+    // was changed.
     bool publish(const ChangeResult& result);
-    // The end of what was done to the log.
+    // Shows what became of a change that was made.
     void finish(std::string_view message, const ChangeResult& result,
                 std::vector<std::string> notes = {});
 
@@ -90,9 +91,9 @@ private:
 
     // The call box's text tidied, put back into it: from now on it is the key.
     std::string takeKey();
-    // The contact that a search found, or that there is `none`.
+    // Shows the contact that a search found, else the text `none`.
     void showOutcome(SearchResult result, const std::string& key, std::string_view none);
-    // The contact found, which the key in the call box may not have found.
+    // Shows the contact found and puts its call into the call box: it need not begin with the key.
     void showWithItsCall();
     void showMatches();
 

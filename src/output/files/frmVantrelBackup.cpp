@@ -92,7 +92,7 @@ void frmVantrelBackup::altBPressed() {
         m_backupButton->setFocus();
 }
 
-// The log of the moment, and what its copy says.
+// The open log, and what is known of its copy in the folder.
 void frmVantrelBackup::showLog() {
     put(m_logPath, platform().files.path(shared().log.name()));
     showCopyThere();

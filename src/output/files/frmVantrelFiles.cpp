@@ -126,7 +126,7 @@ void frmVantrelFiles::bringToFront() {
     Form::bringToFront();
 }
 
-// What an earlier job made is not what a job that fails now has made.
+// First nothing is said to be made: the job may fail.
 void frmVantrelFiles::run(QRadioButton* option, const std::function<void()>& job) {
     m_lastRun = option;
     showAdifFile({});
@@ -172,7 +172,7 @@ void frmVantrelFiles::exportLogStrictly() {
     setTextColour(m_adifContacts, file.leftOut == 0 ? QColor() : cautionColour(palette()));
 }
 
-// Without a path: none was made.
+// path: empty when no file was made.
 void frmVantrelFiles::showAdifFile(const std::string& path) {
     announce(m_adifCaption, path.empty() ? std::string_view() : adifCreated);
     put(m_adifPath, path);

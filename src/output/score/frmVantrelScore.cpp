@@ -81,7 +81,7 @@ QFormLayout* frmVantrelScore::figures() {
     return form;
 }
 
-// Large, how it comes about below it, and what became of the duplicates.
+// The total in large figures, its sum below it, and whether duplicates are logged and counted.
 QLayout* frmVantrelScore::total() {
     FormBuilder build(this);
     m_total = build.output("Text7");

@@ -53,7 +53,7 @@ private:
 
     std::vector<std::pair<QLineEdit*, Figure>> m_figures;
     QLineEdit* m_total;
-    AlertLabel* m_sum; // how the total comes about
+    AlertLabel* m_sum; // what the total is the sum of
     QLabel* m_copied;
     QLabel* m_logPath;
     QLabel* m_multiplierCaption;

@@ -234,7 +234,7 @@ void frmVantrelStart::closeEvent(QCloseEvent* event) {
         screens().quit();
 }
 
-// Also when it comes back from where it was minimised to.
+// Also after it was minimised.
 void frmVantrelStart::showEvent(QShowEvent* event) {
     m_second->start();
     Form::showEvent(event);
@@ -311,7 +311,7 @@ void frmVantrelStart::startNewFile() {
         shared().log.reread();
 }
 
-// What was told of one name says nothing about another.
+// The note about the old log was about the name before.
 void frmVantrelStart::logNameTyped() {
     m_oldLogLabel->clear();
 }
@@ -347,7 +347,7 @@ void frmVantrelStart::start() {
                          platform().files.path(settings.logFileName)});
         return;
     }
-    // Not before: a main page behind this one goes on with the log that it shows.
+    // Not before: until START a main page behind this one uses the settings that it shows.
     shared().settings = settings;
     shared().settings.portDevice = platform().serialPort.device(settings.comPort);
     m_radio->started();

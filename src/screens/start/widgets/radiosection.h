@@ -40,7 +40,7 @@ public:
     void rigChosen();
     // Another port, baud rate or address, or what the port stands for.
     void lineChosen();
-    // START was pressed: what the port stands for now is what the operator has seen working.
+    // START was pressed: from now on another device at the port is told of.
     void started();
     void showReading();
     void showRead(const ReadResult& result);

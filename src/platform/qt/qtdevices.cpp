@@ -14,7 +14,6 @@ namespace vantrel {
 
 namespace {
 
-
 // Where the operators' own alarm has always been kept.
 const QString alarmPath = QStringLiteral("C:/Program Files/Quillmoor/Dupe.wav");
 const QString builtInAlarm = QStringLiteral("qrc:/Dupe.wav");

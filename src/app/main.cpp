@@ -23,7 +23,7 @@ using namespace vantrel;
 
 std::string programFolder() {
     return chooseProgramFolder(
-        QCoreApplication::applicationDirPath().toStdString(),
+        executableFolder(),
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
 }
 

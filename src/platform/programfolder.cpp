@@ -73,9 +73,13 @@ DiskFile openedLock(SystemCalls& calls, const std::string& path) {
 
 } // namespace
 
+std::string executableFolder() {
+    std::error_code ignored; // without it the files are kept in the user's folder
+    return fs::read_symlink("/proc/self/exe", ignored).parent_path().string();
+}
+
 std::string chooseProgramFolder(const std::string& executableFolder,
                                 const std::string& userFolder) {
-    requireKnownName(executableFolder);
     if (keepsFilesBeside(executableFolder))
         return executableFolder;
     requireKnownName(userFolder);

@@ -16,11 +16,14 @@ inline constexpr std::string_view configurationFile = "Vantrel.CFG";
 // The name by which a desktop knows the program.
 inline constexpr const char* desktopEntry = "org.vantrel.Vantrel";
 
+// Where this program's file lies, to the last byte: text would not hold a name that is no UTF-8.
+std::string executableFolder();
+
 // The executable's folder when the user can write there; when he cannot and it holds no
 // configuration and no log, or when the program is installed for all users, `userFolder`
 // (created when missing). Both are real paths. Throws RuntimeError 70 when a folder with data
 // cannot be written: that is no reason to start an empty world elsewhere; 75 when `userFolder`
-// cannot be created, or a name is not UTF-8 and so not known to the last byte.
+// cannot be created, or its name came through text that could not hold it.
 std::string chooseProgramFolder(const std::string& executableFolder, const std::string& userFolder);
 
 // Holds the folder's lock while it lives; the system drops it when the program is killed.

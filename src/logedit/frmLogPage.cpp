@@ -11,6 +11,7 @@
 #include "logedit/contacttext.h"
 
 #include <QScrollBar>
+#include <QStyle>
 
 #include <utility>
 
@@ -36,6 +37,8 @@ void frmLogPage::startAt(int contact, bool shown) {
 }
 
 void frmLogPage::load() {
+    if (m_start && !mayLeave())
+        return m_start.reset();
     setNotes({});
     if (!m_start)
         return;
@@ -51,6 +54,19 @@ void frmLogPage::load() {
         showWithItsCall();
     else
         setNotes({m_log.dropsLines() ? searchedNote() : "THIS CONTACT IS NO LONGER IN THE LOG"});
+}
+
+void frmLogPage::escapePressed() {
+    if (mayLeave())
+        close();
+}
+
+bool frmLogPage::mayLeave() {
+    const std::vector<std::string> typed = unsaved();
+    if (std::exchange(m_toldUnsaved, typed) == typed || typed.empty())
+        return true;
+    setNotes({"NOT SAVED: ONCE MORE LEAVES"});
+    return false;
 }
 
 QWidget* frmLogPage::firstFocus() {
@@ -105,7 +121,9 @@ QLayout* frmLogPage::matchesCard(const char* placeName) {
                                     m_matchList->verticalScrollBar()->sizeHint().width(),
                                 metrics.height() * matchRows);
     const auto choose = [this](const QModelIndex& index) { showMatch(index); };
-    connectHandler(m_matchList, &QListView::clicked, choose);
+    // Where one click activates, it must not count as two.
+    if (style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick) == 0)
+        connectHandler(m_matchList, &QListView::clicked, choose);
     connectHandler(m_matchList, &QListView::activated, choose);
     return build.section("CONTACTS WITH THIS CALL", column({m_placeLabel, {m_matchList, 1}}));
 }
@@ -174,11 +192,13 @@ void frmLogPage::showOutcome(SearchResult result, const std::string& key, std::s
 }
 
 void frmLogPage::showMatch(const QModelIndex& index) {
-    if (!index.isValid()) // where one click both chooses and activates
+    if (!index.isValid()) // a double click, after its first one made the lines anew
         return;
     const int position = m_matchPositions.at(static_cast<std::size_t>(index.row()));
     // What was typed over the contact that is shown already stays.
     if (!m_log.isAt(position)) {
+        if (!mayLeave())
+            return;
         m_log.goTo(position);
         showFound(textOf(m_callBox));
         setNotes({});

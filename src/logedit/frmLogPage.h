@@ -33,6 +33,7 @@ protected:
     frmLogPage(const FormContext& context, const char* name, const char* caption);
 
     void load() override;
+    void escapePressed() override;
     QWidget* firstFocus() override;
 
     // The parts of the layout that all pages have, made with their controls.
@@ -55,6 +56,8 @@ protected:
     virtual std::string_view lastEntryText() const { return "LAST ENTRY"; }
     virtual void change() = 0; // of the contact found
     virtual void clearBoxes() {}
+    // What the boxes hold when it was typed over the contact found and is not saved.
+    virtual std::vector<std::string> unsaved() const { return {}; }
     // A note that is added to all others.
     virtual std::string standingNote() const { return {}; }
     // "2 OF 3".
@@ -89,6 +92,8 @@ private:
     void changeFound();
     void undo();
 
+    // False, and told, the first time that what is typed would be lost.
+    bool mayLeave();
     // The call box's text tidied, put back into it: from now on it is the key.
     std::string takeKey();
     // Shows the contact that a search found, else the text `none`.
@@ -109,6 +114,7 @@ private:
     LogEdit m_log;
     std::vector<int> m_matchPositions; // of the lines in the list
     std::optional<Start> m_start;
+    std::vector<std::string> m_toldUnsaved;
 };
 
 } // namespace vantrel

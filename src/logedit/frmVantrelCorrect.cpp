@@ -55,7 +55,7 @@ std::string frmVantrelCorrect::notFoundText(const std::string& /*key*/) const {
 }
 
 void frmVantrelCorrect::change() {
-    const CorrectionBoxes shown = m_callTyped ? withCallShown(m_shown, log().line()) : m_shown;
+    const CorrectionBoxes shown = untouched();
     const CorrectionBoxes typed = textsOf(m_boxes);
     if (!keepsFindable(shown, typed)) {
         messages().show({"A CALL NEEDS AT LEAST THREE CHARACTERS", BoxIcon::exclamation});
@@ -72,6 +72,17 @@ void frmVantrelCorrect::change() {
     if (!correction.wrong.empty())
         notes.push_back("LOOKS WRONG: " + correction.wrong);
     finish(" Done....Click EXIT ", result, std::move(notes));
+}
+
+CorrectionBoxes frmVantrelCorrect::untouched() const {
+    return m_callTyped ? withCallShown(m_shown, log().line()) : m_shown;
+}
+
+std::vector<std::string> frmVantrelCorrect::unsaved() const {
+    const CorrectionBoxes typed = textsOf(m_boxes);
+    if (!log().found() || typed == untouched())
+        return {};
+    return {typed.begin(), typed.end()};
 }
 
 ChangeResult frmVantrelCorrect::rewriteAtWork(const std::string& line) {

@@ -19,6 +19,7 @@ protected:
     std::string notFoundText(const std::string& key) const override;
     void change() override;
     void clearBoxes() override;
+    std::vector<std::string> unsaved() const override;
     // The call as well, of which the call box may hold only the beginning.
     std::string placeText(int place, int count) const override;
 
@@ -29,6 +30,9 @@ private:
     ChangeResult rewriteAtWork(const std::string& line);
 
     std::array<QLineEdit*, correctionFields.size()> m_boxes; // the first one is the call box
+
+    // As they are when nothing of the contact was changed.
+    CorrectionBoxes untouched() const;
 
     CorrectionBoxes m_shown{}; // as the last search or save left them
     bool m_callTyped = false;  // since then: the call box is no longer the key

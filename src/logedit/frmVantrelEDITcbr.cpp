@@ -20,6 +20,11 @@ frmVantrelEDITcbr::frmVantrelEDITcbr(const FormContext& context)
         m_boxes[i] = build.text(editorFields[i].box);
         fit(m_boxes[i], editorFields[i].written.width);
     }
+    for (const QLineEdit* box : m_boxes)
+        connectHandler(box, &QLineEdit::textEdited, [this] {
+            m_saved = false;
+            setNotes({});
+        });
     std::vector<Item> contact;
     for (std::size_t i = 0; i < firstOfMine; ++i) {
         contact.emplace_back(build.caption(editorFields[i].label, m_boxes[i]));
@@ -41,6 +46,7 @@ frmVantrelEDITcbr::frmVantrelEDITcbr(const FormContext& context)
 }
 
 void frmVantrelEDITcbr::showFound(const std::string& /*key*/) {
+    m_saved = false;
     showBoxes(editorBoxes(log().line()));
     setStatus("MAKE CORRECTIONS AS NECESSARY");
 }
@@ -50,23 +56,37 @@ std::string frmVantrelEDITcbr::notFoundText(const std::string& key) const {
 }
 
 std::string frmVantrelEDITcbr::standingNote() const {
-    return m_saved ? "" : "A SAVE REBUILDS THE WHOLE LINE. CORRECT KEEPS ALL ELSE.";
+    if (m_saved)
+        return {};
+    const std::string changes = log().found() ? besides() : "";
+    return "A SAVE REBUILDS THE WHOLE LINE. CORRECT KEEPS ALL ELSE." +
+           (changes.empty() ? "" : "\nIT WOULD CHANGE BESIDES: " + changes);
+}
+
+std::string frmVantrelEDITcbr::besides() const {
+    const EditorBoxes typed = textsOf(m_boxes);
+    return changedBesides(log().line(), m_shown, typed,
+                          rebuiltLine(log().line(), tidiedBoxes(typed)));
+}
+
+std::vector<std::string> frmVantrelEDITcbr::unsaved() const {
+    const EditorBoxes typed = textsOf(m_boxes);
+    if (!log().found() || typed == m_shown)
+        return {};
+    return {typed.begin(), typed.end()};
 }
 
 void frmVantrelEDITcbr::change() {
-    const std::string before = log().line();
-    const EditorBoxes typed = textsOf(m_boxes);
-    const EditorBoxes tidy = tidiedBoxes(typed);
-    const std::string rebuilt = rebuiltLine(before, tidy);
-    const ChangeResult result = log().replaceLine(rebuilt);
+    const EditorBoxes tidy = tidiedBoxes(textsOf(m_boxes));
+    const std::string changes = besides();
+    const ChangeResult result = log().replaceLine(rebuiltLine(log().line(), tidy));
     if (!publish(result))
         return;
-    const std::string besides = changedBesides(before, m_shown, typed, rebuilt);
     m_saved = true;
     showBoxes(tidy);
     finish("                   Done......Click EXIT", result,
-           besides.empty() ? std::vector<std::string>{}
-                           : std::vector<std::string>{"CHANGED BESIDES: " + besides});
+           changes.empty() ? std::vector<std::string>{}
+                           : std::vector<std::string>{"CHANGED BESIDES: " + changes});
 }
 
 void frmVantrelEDITcbr::clearBoxes() {

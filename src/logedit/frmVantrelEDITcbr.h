@@ -20,9 +20,11 @@ protected:
     std::string notFoundText(const std::string& key) const override;
     void change() override;
     void clearBoxes() override;
+    std::vector<std::string> unsaved() const override;
     std::string standingNote() const override;
 
 private:
+    std::string besides() const; // what a save changes that was not edited
     void showBoxes(const EditorBoxes& boxes);
     // The fields from `first` to before `end`, below each other.
     QFormLayout* side(std::size_t first, std::size_t end);

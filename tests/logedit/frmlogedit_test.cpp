@@ -241,10 +241,13 @@ TEST_F(LogPages, EditorRebuildsTheLineFromItsBoxes) {
     search("k1abd");
     EXPECT_EQ(told("Label16 Text2 Text12 Label17"),
               "MAKE CORRECTIONS AS NECESSARY|14050|ANN       |"
-              "A SAVE REBUILDS THE WHOLE LINE. CORRECT KEEPS ALL ELSE.|");
+              "A SAVE REBUILDS THE WHOLE LINE. CORRECT KEEPS ALL ELSE.\n"
+              "IT WOULD CHANGE BESIDES: RST SENT 599 > 559|");
     typeIntoBoxes(2, {"7045", "ssb", "2011-06-17", "w2xyz", "579", "jo", "mex", "12345C", "k9a",
                       "448", "bartholomew", "a,", "77s", "2359"});
     click(page, "Option1");
+    press(page, "Text1", Qt::Key_Escape);
+    EXPECT_THAT(told("Label17"), HasSubstr("NOT SAVED: ONCE MORE LEAVES"));
     click(page, "Command2");
     EXPECT_EQ(logged(), logWith({other, joe,
                                  "QSO:  7045 SS 2011-06-17 2359 W2XYZ      557 JO         ME 12345 "
@@ -260,6 +263,8 @@ TEST_F(LogPages, EditorRebuildsTheLineFromItsBoxes) {
     EXPECT_EQ(told("Label16"), "W1AW IS NOT IN THE FILE|");
     click(page, "Command4");
     EXPECT_EQ(told("Label16"), "LAST ENTRY|");
+    press(page, "Text1", Qt::Key_Escape);
+    EXPECT_FALSE(isOpen(page)) << "saved";
 }
 
 TEST(Editor, CutsABoxBeforeItIsTrimmedAndTheLineTo105Columns) {

@@ -8,6 +8,9 @@
 
 namespace vantrel {
 
+// What some editors put in front of a text.
+inline constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+
 // `count` bytes from column `first`; shorter or empty when the text ends before.
 std::string_view mid(std::string_view text, int first, int count);
 // From column `first` to the end of the text.

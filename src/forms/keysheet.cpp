@@ -15,7 +15,8 @@ struct PageKeys {
 constexpr std::string_view mainKeys =
     "Enter            in the call box: SEARCH; once more: LOG\n"
     "                 in a box of the exchange: the next box; in SKCC#: LOG\n"
-    "Space            after a search without a name: the first empty box\n"
+    "Space            after a search without a name: the first empty box; what the\n"
+    "                 log knows of who is in no roster it fills in first\n"
     "Esc              NO LOG; Ctrl+Z brings back what was cleared\n"
     "Down             the members like the call: Enter takes one, Esc goes back\n"
     "Up               with an empty call box: the last contact; Enter corrects it,\n"
@@ -35,10 +36,17 @@ constexpr std::string_view logPageKeys = "Enter            in the call box: SEAR
                                          "F3               SEARCH AGAIN\n"
                                          "Alt+S Alt+D      SAVE CHANGES, DELETE\n"
                                          "Alt+F            the frequency, on the correction page\n"
-                                         "Alt+U            UNDO; once more: redo\n";
+                                         "Alt+U            UNDO; once more: redo\n"
+                                         "Esc              closes the page; twice when something\n"
+                                         "                 is typed and not saved\n";
 
 constexpr PageKeys pages[] = {
-    {"frmVantrelStart", "Enter            the next box\n"
+    {"frmVantrelStart", "1 choose the contest, fill in your call, name, state and SKCC#\n"
+                        "2 set the hours to UTC until the time shown is right\n"
+                        "3 USE DEFAULT FILE NAME, then START A NEW: YES\n"
+                        "4 LOG DUPES, bonus station, rig, port and rate as they are\n"
+                        "5 START; the settings are kept for the next time\n\n"
+                        "Enter            the next box\n"
                         "Alt+S            START\n"
                         "Alt+B            BROWSE for a log\n"
                         "Alt+T            TEST the radio\n"},
@@ -64,7 +72,6 @@ constexpr PageKeys pages[] = {
 constexpr std::string_view everywhere = "Tab Shift+Tab    the next box or button, the one before\n"
                                         "Enter Space      press the button that has the focus\n"
                                         "Alt+letter       the button or box with that letter\n"
-                                        "Esc              closes the page\n"
                                         "F1               this sheet\n";
 
 std::string_view exchangeOf(const OperatingSettings& settings) {
@@ -84,7 +91,9 @@ std::string keySheet(std::string_view page, const OperatingSettings& settings) {
             text += exchangeOf(settings);
         text += std::string(keys.keys) + '\n';
     }
-    return text + std::string(everywhere);
+    text += everywhere;
+    const bool told = text.find("Esc  ") != std::string::npos;
+    return text + (told || page == "frmVantrelStart" ? "" : "Esc              closes the page\n");
 }
 
 } // namespace vantrel

@@ -23,6 +23,13 @@ const Band* bandOfMhz(std::string_view mhz) {
     return bandWhere(&Band::mhzPrefix, mhz);
 }
 
+bool isOnBand(std::string_view khzField) {
+    constexpr std::array others{" 5", "29", "50", "51", "52", "53"};
+    return bandOfKhz(khzField) != nullptr ||
+           std::any_of(others.begin(), others.end(),
+                       [&](const char* begin) { return khzField.starts_with(begin); });
+}
+
 std::size_t bandIndexOf(std::string_view khzField) {
     const Band* band = bandOfKhz(khzField);
     return band == nullptr ? bands.size() : static_cast<std::size_t>(band - bands.data());

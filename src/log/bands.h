@@ -34,6 +34,9 @@ inline constexpr std::array<Band, 9> bands{{
 const Band* bandOfKhz(std::string_view khzField);
 const Band* bandOfMhz(std::string_view mhz);
 
+// Whether a contact may stand there: on one of those, 60 m, or all of 10 m and 6 m.
+bool isOnBand(std::string_view khzField);
+
 // Index in `bands` of a kHz field's band; bands.size() for none.
 std::size_t bandIndexOf(std::string_view khzField);
 // "20M"; the field itself, trimmed, when it lies in no band.

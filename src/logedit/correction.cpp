@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/correction.h"
 
+#include "log/bands.h"
 #include "log/contactdate.h"
 #include "logedit/logedit.h"
 
@@ -56,7 +57,7 @@ bool isRight(Column column, std::string_view line) {
     const std::string_view text = column.of(line);
     switch (column.first) {
     case qso::frequency.first:
-        return !trim(text).empty() && allDigits(trimLeft(text));
+        return !trim(text).empty() && allDigits(trimLeft(text)) && isOnBand(text);
     case qso::time.first:
         return readTime(text).has_value();
     case qso::date.first:

@@ -42,7 +42,7 @@ struct Correction {
     CorrectionBoxes boxes; // for the new line
     // Labels of boxes, ", " between; empty for none.
     std::string cut;   // text longer than its columns
-    std::string wrong; // changed to what is no frequency, time or date
+    std::string wrong; // changed to what is no frequency on a band, no time or no date
 };
 
 // The line with every box that differs from what was shown (tidied, cut or padded to its

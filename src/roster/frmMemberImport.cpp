@@ -124,8 +124,8 @@ void frmMemberImport::receivePath(const std::string& path) {
 void frmMemberImport::addMembers() {
     const std::string path = textOf(m_pathBox);
     if (m_page.list == MemberList::members && !platform().files.present(path)) {
-        messages().show(
-            {std::string(memberListMissing), BoxIcon::exclamation, platform().files.path(path)});
+        messages().show({std::string(memberListMissing), BoxIcon::exclamation,
+                         missingListText(platform().files, path)});
         return;
     }
     // Each import writes all five files as it read them: what the other one added would be lost.
@@ -180,7 +180,7 @@ bool frmMemberImport::showStep(const ImportStep& step) {
 }
 
 void frmMemberImport::showResult(const ImportResult& result) {
-    put(m_skipped, skippedText(result.skipped));
+    put(m_skipped, skippedText(m_page.list, result));
     const std::string added = addedText(m_page.list, result.added);
     announce(m_added, added, added + ". " + textOf(m_skipped));
     put(m_linesRead, linesReadText(result.lines));

@@ -16,7 +16,6 @@ constexpr std::size_t dataFields = 11;
 constexpr std::size_t memberFields = 6;
 constexpr std::size_t datedMemberFields = 7;
 constexpr std::string_view dateHeading = "|DATE ISSUED|";
-constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
 enum Field : std::size_t { memberNumber = 0, call = 1, name = 2, state = 4 };
 

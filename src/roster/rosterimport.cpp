@@ -116,6 +116,16 @@ private:
     std::vector<RosterTable> m_tables;
 };
 
+std::string readList(const Files& files, std::string_view path) {
+    try {
+        return files.read(path);
+    } catch (const RuntimeError& error) {
+        if (error.code() != ErrorCode::fileNotFound)
+            throw;
+        throw RuntimeError(error.code(), missingListText(files, path));
+    }
+}
+
 BoundedTable<std::string> linesOf(std::string_view bytes, const std::string& path) {
     BoundedTable<std::string> lines("the table of " + path, listCapacity);
     for (ListLines reader(bytes); !reader.atEnd();)
@@ -131,7 +141,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     if (!progress({workingPhase}))
         return result;
     RosterTables roster(files);
-    const std::string bytes = files.read(listPath);
+    const std::string bytes = readList(files, listPath);
     if (std::min(bytes.find('\r'), bytes.size()) > longFirstLine && !progress({splittingPhase}))
         return result;
     const BoundedTable<std::string> lines = linesOf(bytes, files.path(listPath));
@@ -150,6 +160,10 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     }
 
     if (result.members == 0 && result.skipped > 0) { // the wrong file: nothing is written
+        MemberListReader other(list == MemberList::data ? MemberList::members : MemberList::data);
+        result.otherList = std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
+            return other.read(line) == ListLine::member;
+        });
         result.finished = true;
         return result;
     }
@@ -184,8 +198,17 @@ std::string linesReadText(int lines) {
     return counted(lines, "LINE") + " READ";
 }
 
-std::string skippedText(int skipped) {
-    return skipped == 0 ? std::string() : counted(skipped, "LINE") + " SKIPPED";
+std::string skippedText(MemberList list, const ImportResult& result) {
+    if (result.skipped == 0)
+        return {};
+    const std::string choice = list == MemberList::data ? "SECOND" : "FIRST";
+    return counted(result.skipped, "LINE") + " SKIPPED" +
+           (result.otherList ? ". THIS IS THE OTHER LIST: TAKE THE " + choice + " CHOICE" : "");
+}
+
+std::string missingListText(const Files& files, std::string_view listPath) {
+    return files.path(listPath) + "\nDOWNLOAD IT FROM " + std::string(listsAddress) +
+           " AND PUT IT INTO " + files.path("") + ", OR BROWSE TO WHERE THE BROWSER SAVED IT";
 }
 
 } // namespace vantrel

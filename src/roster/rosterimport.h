@@ -23,12 +23,13 @@ struct ImportStep {
 using ImportProgress = std::function<bool(const ImportStep&)>;
 
 struct ImportResult {
-    bool finished = false; // false: given up, no file touched
-    int lines = 0;         // of the list
-    int members = 0;       // in them
-    int added = 0;         // members new to the roster
-    int fixed = 0;         // members whose stored number differed from the list's
-    int skipped = 0;       // lines that are no member, header or blank
+    bool finished = false;  // false: given up, no file touched
+    int lines = 0;          // of the list
+    int members = 0;        // in them
+    int added = 0;          // members new to the roster
+    int fixed = 0;          // members whose stored number differed from the list's
+    int skipped = 0;        // lines that are no member, header or blank
+    bool otherList = false; // all of them are members' lines of the other list
 };
 
 // Merges the list `listPath` into the roster files: a member already there (the first line with
@@ -52,7 +53,9 @@ std::string addedText(MemberList list, int added);
 std::string fixedText(int fixed);     // "3 SKCC#'s Fixed", on the page of the members' list
 std::string changedText(int changed); // "3 NUMBERS CHANGED", on that of the data list
 std::string linesReadText(int lines); // "3 LINES READ"
-// "3 LINES SKIPPED"; empty for none.
-std::string skippedText(int skipped);
+// "3 LINES SKIPPED", and that it is the other list; empty for none.
+std::string skippedText(MemberList list, const ImportResult& result);
+// Where a missing list comes from, and where it may be.
+std::string missingListText(const Files& files, std::string_view listPath);
 
 } // namespace vantrel

@@ -17,6 +17,7 @@ struct Module1 {
     Log log;
     std::string marker{noMarker}; // end-of-line marker of the contact being logged
     bool audioOn = false;         // duplicates sound the alarm
+    std::string backupFolder{};   // of SEND BACKUP TO, for the run
     bool importRuns = false;      // of members, on either page
 };
 

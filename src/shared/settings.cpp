@@ -65,14 +65,17 @@ OperatingSettings loadSettings(const Files& files) {
     OperatingSettings settings;
     if (!files.present(configurationFile))
         return settings;
-    const std::string bytes = files.read(configurationFile);
+    std::string bytes = files.read(configurationFile);
+    if (bytes.starts_with(utf8Mark)) // from an editor
+        bytes.erase(0, utf8Mark.size());
     ItemReader reader(bytes);
     for (const SettingLine& line : settingLines) {
         if (reader.atEnd())
             throw RuntimeError(ErrorCode::inputPastEnd, files.path(configurationFile) + ": line " +
                                                             std::to_string(reader.line() + 1) +
                                                             " (" + std::string(line.name) +
-                                                            ") is missing");
+                                                            ") is missing\nDELETE THE FILE "
+                                                            "TO START WITH THE DEFAULTS");
         settings.*line.field = std::string(trimRight(reader.next()));
     }
     return settings;

@@ -20,7 +20,7 @@ TEST(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
     const std::string stored = "W1ABC\r\nSKSE\r\n-5\r\nHex 6A\r\nJOHN      \r\nMA \r\n1234T \r\n"
                                "FTdx5000\r\ncom1\r\n38400\r\nA B  C\r\nMY LOG.CBR\r\n"
                                "K9SKC     \r\nYES\r\n";
-    folder.write("Vantrel.CFG", stored);
+    folder.write("Vantrel.CFG", "\xEF\xBB\xBF" + stored);
     const OperatingSettings settings = loadSettings(files);
     EXPECT_EQ(settings.myName + settings.myState + settings.myNumber + settings.bonusStation,
               "JOHNMA1234TK9SKC");
@@ -28,7 +28,8 @@ TEST(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
     EXPECT_EQ(loadSettings(files).rig + loadSettings(files).dupeMode, "YES");
     folder.write("Vantrel.CFG", stored.substr(0, stored.rfind("YES")));
     EXPECT_RUNTIME_ERROR(loadSettings(files), ErrorCode::inputPastEnd,
-                         folder.string() + "/Vantrel.CFG: line 14 (dupe mode) is missing");
+                         folder.string() + "/Vantrel.CFG: line 14 (dupe mode) is missing\n"
+                                           "DELETE THE FILE TO START WITH THE DEFAULTS");
 
     const std::tuple<std::string OperatingSettings::*, std::string, const char*> rows[] = {
         {&OperatingSettings::myCall, "W1ABC/QRP/P", "the call is longer"},

@@ -43,7 +43,10 @@ frmVantrelBackup::frmVantrelBackup(const FormContext& context)
           folderCaption, row({{m_folderBox, 1}, browse}), m_copy, m_status = build.alert("Label3"),
           Item::room(), row({m_backupButton, Item::room(), build.exit("QUIT THIS PAGE")})});
     connectHandler(m_folderBox, &QLineEdit::returnPressed, [this] { backUp(); });
-    connectHandler(m_folderBox, &QLineEdit::textChanged, [this] { showCopyThere(); });
+    connectHandler(m_folderBox, &QLineEdit::textChanged, [this] {
+        shared().backupFolder = textOf(m_folderBox);
+        showCopyThere();
+    });
     // The captions share their letter: the first stroke leads to BACKUP, the second presses it.
     for (QPushButton* button : {browse, m_backupButton})
         button->setShortcut({});
@@ -53,6 +56,7 @@ frmVantrelBackup::frmVantrelBackup(const FormContext& context)
 }
 
 void frmVantrelBackup::load() {
+    put(m_folderBox, shared().backupFolder);
     showLog();
 }
 

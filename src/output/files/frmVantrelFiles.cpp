@@ -53,7 +53,9 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
         return [=, this] { return membersText(platform().files, number); };
     };
     const auto adif = [this] { return writtenNow(adifFileName(shared().log.name())); };
-    const auto strictAdif = [this] { return writtenNow(strictAdifFileName(shared().log.name())); };
+    const auto strictAdif = [this] {
+        return "UPLOAD THIS: " + writtenNow(strictAdifFileName(shared().log.name()));
+    };
     const auto log = [this] { return logText(shared().log.name(), shared().log.count().value()); };
     return {
         {"MEMBERS",
@@ -71,7 +73,7 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
         {"LOG",
          {{"Option6", "MAKE AN AD&IF FILE", "WRITES THE LOG AS AN ADIF FILE",
            [this] { exportLog(); }, adif},
-          {"Option14", "ADIF FILE FOR OTHER LOGGERS",
+          {"Option14", "ADIF FILE &FOR OTHER LOGGERS",
            "WRITES THE LOG STRICTLY BY ADIF 3.1, BESIDE THE OTHER ADIF FILE",
            [this] { exportLogStrictly(); }, strictAdif},
           {"Option7", "&LIST THE ADIF FILE", "DISPLAYS THE ADIF FILE", lists(ListedFile::adif),

@@ -5,6 +5,7 @@
 #include "base/runtimeerror.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "rig/rigs.h"
 #include "shared/module1.h"
 #include "shared/utctime.h"
 
@@ -184,11 +185,16 @@ ContactEntry::Step ContactEntry::readRadio(ReadCause cause, Answer& answer) {
     m_draft.lastRead = result.outcome;
     if (result.outcome == ReadOutcome::read)
         return tune(result.frequency, answer);
+    if (result.outcome == ReadOutcome::noReader && cause == ReadCause::manual)
+        m_draft.happened = {{rigNeeds(m_shared.settings.rig), HintTone::caution}};
     if (result.outcome != ReadOutcome::failed)
         return Step::on;
-    m_radio.tellFailure(cause == ReadCause::log
-                            ? withFrequencyUsed(result.message, m_draft.boxes.frequency)
-                            : result.message);
+    Message message = cause == ReadCause::log
+                          ? withFrequencyUsed(result.message, m_draft.boxes.frequency)
+                          : result.message;
+    if (m_draft.autoReads)
+        message.informative += "\nALT+A STOPS THE READING";
+    m_radio.tellFailure(message);
     return m_draft.boxes == began ? Step::on : Step::ended;
 }
 
@@ -300,7 +306,8 @@ std::optional<std::string> ContactEntry::assembledLine(Answer& answer) {
     ContactFields contact = contactFields(m_draft.boxes, settings, nowOf(m_platform, m_shared));
     if (readRadio(ReadCause::log, answer) == Step::ended)
         return std::nullopt;
-    std::string mhz = m_draft.mhz;
+    const std::string typed = m_draft.mhz;
+    std::string mhz = typed;
     const FrequencyCheck check = enterFrequency(contact, mhz, settings);
     if (tune(mhz, answer) == Step::ended)
         return std::nullopt; // a duplicate on the band that the radio is on by now
@@ -311,8 +318,8 @@ std::optional<std::string> ContactEntry::assembledLine(Answer& answer) {
         clear(ClearTo::nothing);
         return std::nullopt;
     case FrequencyCheck::unloggable:
-        answer.messages.push_back(
-            {std::string(frequencyMissingText), BoxIcon::exclamation, khzFault(contact.frequency)});
+        answer.messages.push_back({std::string(frequencyMissingText), BoxIcon::exclamation,
+                                   khzFault(contact.frequency, typed)});
         return std::nullopt;
     case FrequencyCheck::good:
         break;
@@ -328,7 +335,12 @@ void ContactEntry::append(const std::string& line, Answer& answer) {
     const std::string repeated(
         isDupe(line) ? std::string_view()
                      : duplicateOf(log.contacts(), qso::hisCall.of(line), qso::bandTag.of(line)));
-    const std::optional<LogLoss> loss = log.append(line);
+    std::optional<LogLoss> loss;
+    try {
+        loss = log.append(line);
+    } catch (const RuntimeError& error) {
+        throw notLogged(error);
+    }
     clear(ClearTo::nothing);
     m_cleared.reset(); // it is in the log
     m_draft.takenBack.clear();

@@ -40,7 +40,7 @@ Hint nextStep(const Draft& draft, const Module1& shared, const LogTally& score,
     case FrequencyCheck::outsideSprintBands:
         return {mhz + " IS NO SPRINT BAND: LOG REFUSES IT", HintTone::caution};
     case FrequencyCheck::unloggable:
-        return {khzFault(contact.frequency), HintTone::caution};
+        return {khzFault(contact.frequency, draft.mhz), HintTone::caution};
     case FrequencyCheck::good:
         break;
     }
@@ -67,10 +67,9 @@ Hint searchedHint(const Draft& draft, const Module1& shared, const LogTally& sco
 }
 
 Hint hintOf(const Draft& draft, const Module1& shared, const LogTally& score, const UtcTime& utc) {
-    const Hint hint = draft.searched   ? searchedHint(draft, shared, score, utc)
-                      : draft.happened ? draft.happened->hint
-                                       : Hint();
-    return joined(hint, takenBackHint(draft.takenBack));
+    const Hint found = draft.searched ? searchedHint(draft, shared, score, utc) : Hint();
+    const Hint happened = draft.happened ? draft.happened->hint : Hint();
+    return joined(joined(found, happened), takenBackHint(draft.takenBack));
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "base/fixedtext.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 namespace vantrel {
@@ -76,7 +75,7 @@ std::string completedFrequency(std::string_view entry) {
 
 bool isOutsideSprintBands(std::string_view mhz, std::string_view khzField) {
     return startsWithAnyOf(mhz, {"10.", "18.", "24."}) ||
-           (khzFault(khzField).empty() && startsWithAnyOf(khzField, {"10", "18", "24"}));
+           (khzFault(khzField, khzField).empty() && startsWithAnyOf(khzField, {"10", "18", "24"}));
 }
 
 std::string khzField(std::string_view mhz) {
@@ -96,15 +95,11 @@ std::string khzField(std::string_view mhz) {
     return f;
 }
 
-std::string khzFault(std::string_view field) {
-    const std::string shown = '"' + std::string(trim(field)) + '"';
+std::string khzFault(std::string_view field, std::string_view typed) {
+    const std::string shown = '"' + std::string(trim(typed)) + '"';
     if (length(field) != 5 || !allDigits(trimLeft(field)) || trim(field).empty())
         return shown + " IS NO FREQUENCY. TYPE IT LIKE 14.050, 14050 OR 7.04";
-    constexpr std::array loggedBeginnings{" 1", " 3", " 5", " 7", "10", "14", "18", "21",
-                                          "24", "28", "29", "50", "51", "52", "53"};
-    const bool known = std::any_of(loggedBeginnings.begin(), loggedBeginnings.end(),
-                                   [&](const char* begin) { return field.starts_with(begin); });
-    return known ? "" : shown + " kHz IS ON NO BAND";
+    return isOnBand(field) ? "" : shown + " IS ON NO BAND";
 }
 
 std::string bandTagOf(std::string_view mhz) {

@@ -24,9 +24,9 @@ bool isOutsideSprintBands(std::string_view mhz, std::string_view khzField);
 // The 5-column kHz field of a completed frequency: "14.050" gives "14050", "7.040" " 7040".
 std::string khzField(std::string_view mhz);
 
-// Why a kHz field cannot be logged, for the operator: not digits with blanks in front, or not
-// on a band. Empty when it can.
-std::string khzFault(std::string_view field);
+// Why a kHz field cannot be logged, for the operator who typed this: not digits with blanks in
+// front, or not on a band. Empty when it can.
+std::string khzFault(std::string_view field, std::string_view typed);
 
 // The band tag of a frequency in MHz: " 1", " 3", " 7", else its first two characters.
 std::string bandTagOf(std::string_view mhz);

@@ -88,7 +88,8 @@ FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
     contact.frequency = khzField(mhz);
     if (!settings.isK3y() && isOutsideSprintBands(mhz, contact.frequency))
         return FrequencyCheck::outsideSprintBands;
-    return khzFault(contact.frequency).empty() ? FrequencyCheck::good : FrequencyCheck::unloggable;
+    return khzFault(contact.frequency, mhz).empty() ? FrequencyCheck::good
+                                                    : FrequencyCheck::unloggable;
 }
 
 std::optional<std::string> contactLine(const Entry& entry, const OperatingSettings& settings,
@@ -106,6 +107,15 @@ std::optional<std::string> contactLine(const Entry& entry, const OperatingSettin
             throw;
     }
     return std::nullopt;
+}
+
+RuntimeError notLogged(const RuntimeError& error) {
+    const std::string remedy = error.code() == ErrorCode::diskFull ? "MAKE ROOM ON THE DISK, "
+                               : error.code() == ErrorCode::permissionDenied
+                                   ? "ALLOW THE FILE TO BE WRITTEN, "
+                                   : "";
+    return {error.code(), error.detail() + "\nNOT LOGGED. THE BOXES ARE KEPT: " + remedy +
+                              "THEN PRESS LOG AGAIN"};
 }
 
 Message failureOnceLogged(const RuntimeError& error) {

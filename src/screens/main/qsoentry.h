@@ -92,6 +92,9 @@ FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
 std::optional<std::string> contactLine(const Entry& entry, const OperatingSettings& settings,
                                        std::string_view marker, const UtcTime& utc);
 
+// A failure at LOG with what is to be done about it.
+RuntimeError notLogged(const RuntimeError& error);
+
 // What to tell the operator when something fails although the contact is in the log (a full
 // table, a file), once his boxes are cleared.
 Message failureOnceLogged(const RuntimeError& error);

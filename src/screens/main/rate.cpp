@@ -62,7 +62,10 @@ std::string rateText(const Rate& rate) {
 std::string lastText(const Rate& rate) {
     if (!rate.minutesSinceLast)
         return {};
-    return "LAST " + std::to_string(*rate.minutesSinceLast) + " MIN AGO";
+    constexpr int shownInMinutes = 120;
+    const int minutes = *rate.minutesSinceLast;
+    return "LAST " + (minutes < shownInMinutes ? std::to_string(minutes) + " MIN AGO"
+                                               : std::to_string(minutes / 60) + " H AGO");
 }
 
 std::string hourText(const Rate& rate) {

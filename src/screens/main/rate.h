@@ -31,7 +31,7 @@ Rate rateAt(const std::vector<UtcMinute>& moments, UtcMinute now);
 // The minute that a contact logged now would have. Nothing when the clock shows no date.
 std::optional<UtcMinute> momentOf(const UtcTime& utc);
 
-// "5 (30/h)", "LAST 3 MIN AGO" (empty without a contact).
+// "5 (30/h)", "LAST 3 MIN AGO", "LAST 11 H AGO" (empty without a contact).
 std::string rateText(const Rate& rate);
 std::string lastText(const Rate& rate);
 // "12 contacts in the last hour, most at 0010".

@@ -285,7 +285,8 @@ void frmVantrelStart::newFileChosen() {
     if (m_newFileBox->currentIndex() != 1)
         return;
     const bool yes =
-        messages().ask({std::string(newFileQuestion), BoxIcon::exclamation, "", "WARNING"});
+        messages().ask({std::string(newFileQuestion), BoxIcon::exclamation,
+                        newFileWarning(platform().files, textOf(m_fileBox)), "WARNING"});
     m_newFileBox->setCurrentIndex(0);
     if (yes)
         startNewFile();

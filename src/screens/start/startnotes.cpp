@@ -85,6 +85,21 @@ StatusNote logNote(const Files& files, std::string_view logFileName, std::string
     }
 }
 
+std::string newFileWarning(const Files& files, std::string_view logFileName) {
+    try {
+        const std::string name(trim(withoutSeparatorsAndQuotes(logFileName)));
+        const std::string bytes = files.readOrEmpty(name);
+        const LogSummary log = summaryOf(bytes);
+        if (log.contacts.empty())
+            return {};
+        return files.path(name) + " HOLDS " + contactsText(log.contacts) +
+               ".\nTHEY ARE KEPT BESIDE IT AS " + std::string(lastPart(name)) +
+               ".OLD (NUMBERED WHEN THERE IS ONE)";
+    } catch (const RuntimeError&) {
+        return {}; // the new start says why
+    }
+}
+
 StatusNote rosterNote(const Files& files) {
     try {
         const int members = countMembers(files);

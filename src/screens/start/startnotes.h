@@ -44,6 +44,10 @@ struct StatusNote {
 // name. Never throws a RuntimeError.
 StatusNote logNote(const Files& files, std::string_view logFileName, std::string_view contestText);
 
+// What a new start over that log keeps: "SKS061611.CBR HOLDS 28 QSOS, LAST ...". Empty where it
+// holds no contact. Never throws a RuntimeError.
+std::string newFileWarning(const Files& files, std::string_view logFileName);
+
 // How many members the roster holds. Never throws a RuntimeError.
 StatusNote rosterNote(const Files& files);
 

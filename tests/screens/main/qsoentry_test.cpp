@@ -34,9 +34,9 @@ TEST(Frequency, BoxCompletionAndKhzField) {
               " 7040|14050| 7040|50125|145.5|");
     EXPECT_EQ(each(bandTagOf, {"1.820", "3.550", "7.040", "28.050"}), " 1| 3| 7|28|");
     for (const char* field : {"145.5", "     ", "QRL  ", "", "7040", "14 50", " 4050", "13999"})
-        EXPECT_NE(khzFault(field), "") << field; // "7040" would shift every column behind it
+        EXPECT_NE(khzFault(field, field), "") << field; // "7040" would shift every column behind it
     for (const char* field : {" 7040", "14050", " 5355", "29050", "50125", "53999"})
-        EXPECT_EQ(khzFault(field), "") << field;
+        EXPECT_EQ(khzFault(field, field), "") << field;
     for (const char* mhz : {"10.120", "18.080", "24.900", "101205"})
         EXPECT_TRUE(isOutsideSprintBands(mhz, khzField(mhz))) << mhz;
 }
@@ -90,6 +90,9 @@ TEST(Rate, TakesAContactUpToADayAheadForOneOfTheDayBefore) {
         rateAt(momentsOf({lines.begin(), lines.end()}), *momentOf({"0005", "2012-02-29"}));
     EXPECT_EQ(rateText(rate), "3 (18/h)");
     EXPECT_EQ(lastText(rate), "LAST 1 MIN AGO");
+    EXPECT_EQ(lastText(rateAt(momentsOf({lines.begin(), lines.end()}),
+                              *momentOf({"1149", "2012-02-29"}))),
+              "LAST 11 H AGO");
     EXPECT_EQ(hourText(rate), "3 contacts in the last hour, most at 2356");
     EXPECT_EQ(lastText(rateAt({}, {})) + hourText(rateAt({}, {})), "0 contacts in the last hour");
 }

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QListView>
 #include <QScreen>
 #include <QTimer>
@@ -102,8 +103,13 @@ void Form::bringToFront() {
     setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
-// The window manager has put its frame around the page by the time that the page gets the keys.
 bool Form::event(QEvent* event) {
+    // The layout itself bounds the height as if nothing wrapped.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+        if (layout() != nullptr && layout()->hasHeightForWidth())
+            setMinimumHeight(std::max(layout()->totalMinimumSize().height(),
+                                      layout()->totalMinimumHeightForWidth(width())));
+    // The window manager has put its frame around the page by the time that it gets the keys.
     if (event->type() == QEvent::WindowActivate && !m_isPlaced && !frameOf(this).isNull()) {
         m_isPlaced = true;
         if (!screen()->availableGeometry().contains(frameGeometry()))

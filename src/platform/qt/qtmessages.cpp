@@ -41,7 +41,7 @@ class WrappedText : public QObject {
 public:
     explicit WrappedText(QLabel* label)
         : QObject(label), m_label(label), m_shown(breakable(label->text())) {
-        constexpr int usualCharacters = 64;
+        constexpr int usualCharacters = 80;
         const QFontMetrics metrics = label->fontMetrics();
         const int widest = label->screen()->availableGeometry().width() / 2;
         int width = std::min(metrics.averageCharWidth() * usualCharacters, widest);
@@ -85,9 +85,15 @@ int showBox(const Message& message, QMessageBox::StandardButtons buttons,
     box.setStandardButtons(buttons);
     box.setEscapeButton(escapeButton);
     box.setDefaultButton(escapeButton); // Enter by accident changes nothing
+    int width = 0;
     for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"})
-        if (auto* label = box.findChild<QLabel*>(QLatin1String(name)))
+        if (auto* label = box.findChild<QLabel*>(QLatin1String(name))) {
             new WrappedText(label);
+            width = std::max(width, label->width());
+        }
+    // The box goes by the width of its text alone, not of what we add.
+    if (auto* text = box.findChild<QLabel*>(QLatin1String("qt_msgbox_label")))
+        text->setFixedWidth(width);
     const int button = box.exec();
     // No window is active by itself after a box closes on every platform.
     if (parent)

@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+// Nothing is cut: every page as small as it lets itself be made, in the fonts that desktops have
+// and with the longest texts it can hold, and every message box.
+#include "forms/controltext.h"
+#include "forms/form.h"
+#include "forms/visiblestyle.h"
+#include "platform/qt/qtmessages.h"
+#include "screens/main/qsoentry.h"
+#include "screens/start/startlog.h"
+#include "support/contacts.h"
+#include "support/qt/formharness.h"
+
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QListView>
+#include <QMessageBox>
+#include <QTableWidget>
+#include <QTimer>
+#include <QToolTip>
+
+#include <gtest/gtest.h>
+
+namespace vantrel::test {
+namespace {
+
+const std::string longPath = "/home/operator/contest-logs/sprints of 2026/straight-key/november/"
+                             "SKS-W1ABC-PORTABLE-112226.CBR";
+
+struct Look {
+    int points;
+    QSize most; // of a page: what a small screen leaves inside a frame
+};
+void PrintTo(const Look& look, std::ostream* out) {
+    *out << look.points << " pt";
+}
+
+bool tellsAll(QLabel* label) {
+    QHelpEvent asked(QEvent::ToolTip, QPoint(1, 1), label->mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(label, &asked);
+    const bool told = QToolTip::text() == label->text() || label->toolTip() == label->text();
+    QToolTip::hideText();
+    return told;
+}
+
+bool isWhole(QLabel* label) {
+    const QSize room = label->contentsRect().size();
+    if (label->wordWrap())
+        return label->heightForWidth(label->width()) <= label->height();
+    const QSize text = label->fontMetrics().size(Qt::TextShowMnemonic, label->text());
+    return text.height() <= room.height() && (text.width() <= room.width() || tellsAll(label));
+}
+
+bool isWhole(const QLineEdit* box) {
+    if (box->maxLength() > 32) // of any length: it is scrolled
+        return true;
+    const QString longest(box->maxLength(), QLatin1Char('N'));
+    return box->fontMetrics().horizontalAdvance(longest) <= box->width() - 4;
+}
+
+bool isWhole(const QTableWidget* table) {
+    for (int column = 0; column < table->columnCount(); ++column)
+        for (int row = 0; row < table->rowCount(); ++row)
+            if (const QTableWidgetItem* item = table->item(row, column))
+                if (QFontMetrics(item->font()).horizontalAdvance(item->text()) >
+                    table->columnWidth(column))
+                    return false;
+    return true;
+}
+
+// Its object name, or its text where it has none; "" when all of it is seen.
+std::string cutOf(QWidget* control) {
+    bool whole = control->parentWidget()->rect().contains(control->geometry());
+    if (auto* label = qobject_cast<QLabel*>(control))
+        whole = whole && isWhole(label);
+    else if (const auto* box = qobject_cast<QLineEdit*>(control))
+        whole = whole && isWhole(box);
+    else if (const auto* table = qobject_cast<QTableWidget*>(control))
+        whole = whole && isWhole(table);
+    else if (qobject_cast<QAbstractButton*>(control) || qobject_cast<QComboBox*>(control))
+        whole = whole && control->size().expandedTo(control->minimumSizeHint()) == control->size();
+    else if (qobject_cast<QListView*>(control))
+        whole = whole && QFontInfo(control->font()).fixedPitch();
+    if (whole)
+        return "";
+    const std::string text = fromQt(control->property("text").toString());
+    return fromQt(control->objectName()) + " \"" + text.substr(0, 40) + "\"; ";
+}
+
+class Looks : public ::testing::TestWithParam<Look>, public FormHarness {
+protected:
+    Looks() {
+        QApplication::setStyle(new VisibleStyle);
+        QFont font = QApplication::font();
+        font.setPointSize(GetParam().points);
+        QApplication::setFont(font);
+        const Fields longest{.frequency = "21050",
+                             .hisCall = "WW0WWW/MMM",
+                             .hisName = "WILHELMINA",
+                             .hisState = "ONT",
+                             .hisNumber = "12345T",
+                             .marker = "K3Y/SA"};
+        folder.write("LONG-NAMED-LOG-OF-THE-YEAR-2026.CBR", logHeaderLines + contactLine(longest) + "\r\n");
+        folder.write("SKSDB5.TXT", "WW0WWW/MMM12345T    WILHELMINAONT\r\n");
+        module.settings.myCall = "WW0WWW/MMM";
+        module.settings.logFileName = "LONG-NAMED-LOG-OF-THE-YEAR-2026.CBR";
+    }
+    void openAll();
+    std::string cutOn(QWidget* page);
+};
+
+void Looks::openAll() {
+    screens.open(Screen::start);
+    screens.open(Screen::main);
+    for (const Screen screen :
+         {Screen::correct, Screen::deletion, Screen::editor, Screen::score, Screen::bonus,
+          Screen::files, Screen::backup, Screen::updateList, Screen::readData,
+          Screen::memberUpdate, Screen::callArea, Screen::standings, Screen::k3yBox}) {
+        form("frmVantrelMain")->activateWindow();
+        screens.open(screen);
+    }
+    screens.openList(ListedFile::log);
+    screens.openRoster("SKSDB5.TXT", {"WW0WWW/MMM12345T    WILHELMINAONT"});
+    screens.openFinder(Screen::start);
+    screens.openHelp("frmVantrelMain");
+    screens.askAboutDupe({[] {}, [] {}});
+    settle();
+}
+
+// What a page shows at times: the longest there is.
+const struct {
+    const char* page;
+    const char* label;
+    std::string text;
+} longestTexts[] = {
+    {"frmVantrelMain", "Label26", "LOGGED WW0WWW/MMM 21050 2359  NO NAME  NO STATE  NO SKCC#  REPEATS WW0WWW/MMM 160 METERS 2359"},
+    {"frmVantrelMain", "Label12", "FILE NAME:  " + longPath},
+    {"frmVantrelMain", "Label11", "AUTO READ OFF"},
+    {"frmVantrelMain", "Label10", "Not A Contest Band"},
+    {"frmVantrelMain", "Label23", "-- K3Y/EU --"},
+    {"frmVantrelMain", "Label25", "NEXT QSO: K3Y/EU"},
+    {"frmVantrelMain", "Label28", "WW0WWW/MMM  SKSE"},
+    {"frmVantrelMain", "Label29", "1999800"},
+    {"frmVantrelMain", "Label30", "12000 QSOs x 150 S/P/C + 32000"},
+    {"frmVantrelMain", "Label31", "120 (720/h)"},
+    {"frmVantrelMain", "Label32", "LAST 9999 MIN AGO"},
+    {"frmVantrelStart", "Label13", "/dev/serial/by-id/usb-Silicon_Labs_CP2102_USB_to_UART_Bridge-if00-port0"},
+    {"frmVantrelStart", "Label14", "THE OLD LOG IS KEPT AS " + longPath},
+    {"frmVantrelStart", "Label15", "12000 QSOS, LAST 2026-11-22 2359"},
+    {"frmVantrelStart", "Label16", "THE ROSTER CANNOT BE READ"},
+    {"frmVantrelStart", "Label17", "ADDRESS 6A, CI-V TRANSCEIVE OFF, 9600 BAUD, VFO IN USE"},
+    {"frmVantrelCorrect", "Label11", " Changes Made....Click EXIT "},
+    {"frmVantrelCorrect", "Label12", "WW0WWW/MMM 160 METERS 2359 IS NOW A DUPLICATE OF 2358 WITHOUT THE MARK"},
+    {"frmVantrelBackup", "Label5", longPath},
+    {"frmVantrelBackup", "Label6", "12000 QSOS WRITTEN. THE COPY THERE HELD MORE: KEPT AS " + longPath},
+    {"frmFileFinder", "Label5", longPath},
+    {"frmVantrelScore", "Label1", longPath},
+    {"frmVantrelScore", "Label20", "12000 x 150 + 32000"},
+    {"frmVantrelList", "Label1", longPath + "   12000 LINES"},
+    {"frmVantrelFiles", "Option6Result", "LONG-NAMED-LOG-OF-THE-YEAR-2026.ADI 2026-11-22 2359"},
+    {"frmReadSKCCDATA", "Label3", "DONE. . . . 32000 MBRS ADDED. Click EXIT"},
+};
+
+std::string Looks::cutOn(QWidget* page) {
+    page->resize(0, 0);
+    settle();
+    std::string cut;
+    for (QWidget* control : page->findChildren<QWidget*>())
+        if (control->isVisible() && control->parentWidget()->layout() != nullptr)
+            cut += cutOf(control);
+    return cut;
+}
+
+TEST_P(Looks, CutNothingOnAnyPageAsSmallAsItGets) {
+    openAll();
+    for (const auto& longest : longestTexts)
+        control<QLabel>(longest.page, longest.label)->setText(toQt(longest.text));
+    for (QWidget* page : QApplication::topLevelWidgets()) {
+        if (!page->isVisible() || qobject_cast<Form*>(page) == nullptr)
+            continue;
+        const std::string name = fromQt(page->objectName());
+        EXPECT_EQ(cutOn(page), "") << name;
+        EXPECT_EQ(page->size().boundedTo(GetParam().most), page->size()) << name;
+        RecordProperty(name, std::to_string(page->width()) + " x " + std::to_string(page->height()));
+        if (qEnvironmentVariableIsSet("VANTREL_PICS")) {
+            page->grab().save(qEnvironmentVariable("VANTREL_PICS") + QStringLiteral("/%1-%2.png").arg(page->objectName()).arg(GetParam().points));
+            printf("SIZE %2d pt %-24s %4d x %4d\n", GetParam().points, name.c_str(), page->width(), page->height());
+        }
+    }
+}
+
+TEST_P(Looks, CutNothingInAMessageBoxAndBreakAPathAtItsSlashesAlone) {
+    const Message boxes[] = {
+        {std::string(newFileQuestion), BoxIcon::exclamation, "", "WARNING"},
+        {std::string(fileNotFoundText), BoxIcon::critical, longPath},
+        {std::string(logStartedAgainText), BoxIcon::exclamation, longPath},
+        {std::string(duplicateQsoText), BoxIcon::exclamation},
+        {"ERROR READING FREQUENCY FROM THE CAT PORT", BoxIcon::exclamation,
+         "                       AN ERROR HAS OCCURED: Invalid procedure call or argument\n"
+         "NO PERMISSION: " + longPath + " (the \"dialout\" group)"},
+        {"Run-time error '53': File not found", BoxIcon::critical, std::string(200, 'W')},
+    };
+    for (const Message& message : boxes) {
+        QTimer::singleShot(0, qApp, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(fromQt(box->text()), message.text);
+            EXPECT_EQ(fromQt(box->informativeText()), message.informative);
+            EXPECT_EQ(box->size().boundedTo(GetParam().most), box->size());
+            for (QLabel* label : box->findChildren<QLabel*>()) {
+                if (!label->isVisible() || label->text().isEmpty())
+                    continue;
+                EXPECT_TRUE(box->rect().contains(label->geometry())) << message.text;
+                const QRect room(0, 0, label->width(), box->height());
+                const int flags = label->text().contains(u"WWW") ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
+                const QSize needed = label->fontMetrics().boundingRect(room, flags, label->text()).size();
+                EXPECT_EQ(needed.boundedTo(label->size()), needed) << message.text;
+            }
+            if (qEnvironmentVariableIsSet("VANTREL_PICS"))
+                box->grab().save(qEnvironmentVariable("VANTREL_PICS") + QStringLiteral("/box%1-%2.png").arg(&message - boxes).arg(GetParam().points));
+            box->done(QMessageBox::Ok);
+        });
+        QtMessages().show(message);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, Looks,
+                         ::testing::Values(Look{9, {1024, 570}}, Look{11, {1024, 570}},
+                                           Look{16, {1366, 738}}));
+
+} // namespace
+} // namespace vantrel::test

@@ -23,14 +23,6 @@ double lightOf(const QColor& colour) {
            0.0722 * linear(colour.blueF()) + 0.05; // a room is never quite dark
 }
 
-QColor mixed(const QColor& one, const QColor& other, int percentOfOther) {
-    const auto between = [percentOfOther](int a, int b) {
-        return (a * (100 - percentOfOther) + b * percentOfOther) / 100;
-    };
-    return QColor(between(one.red(), other.red()), between(one.green(), other.green()),
-                  between(one.blue(), other.blue()));
-}
-
 // All grounds are one there, and nothing but text and frames parts what lies on them.
 bool isHighContrast(const QPalette& palette) {
     const QColor window = palette.color(QPalette::Window);
@@ -93,6 +85,14 @@ double contrastOf(const QColor& one, const QColor& other) {
     return light / dark;
 }
 
+QColor mixed(const QColor& one, const QColor& other, int percentOfOther) {
+    const auto between = [percentOfOther](int a, int b) {
+        return (a * (100 - percentOfOther) + b * percentOfOther) / 100;
+    };
+    return QColor(between(one.red(), other.red()), between(one.green(), other.green()),
+                  between(one.blue(), other.blue()));
+}
+
 QColor standingOut(QColor colour, const QColor& ground, double contrast) {
     constexpr int step = 10; // per cent
     const QColor end =
@@ -126,6 +126,25 @@ QColor dimmedColour(const QPalette& palette) {
 
 QColor frameColour(const QPalette& palette) {
     return weaker(palette, 45);
+}
+
+QColor faintColour(const QPalette& palette, const QColor& text, const QColor& ground) {
+    constexpr double weakest = 4.5;
+    constexpr int step = 2; // per cent
+    QColor faint = text;
+    for (int share = step; share < 100 && !isHighContrast(palette); share += step) {
+        const QColor fainter = mixed(text, ground, share);
+        if (contrastOf(fainter, ground) < weakest)
+            break;
+        faint = fainter;
+    }
+    return faint;
+}
+
+QColor tinted(const QPalette& palette, const QColor& tone) {
+    constexpr int tint = 10; // per cent
+    const QColor window = palette.color(QPalette::Window);
+    return isHighContrast(palette) ? window : mixed(window, tone, tint);
 }
 
 QColor lookedUpColour(const QPalette& palette) {

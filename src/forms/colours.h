@@ -14,6 +14,7 @@ constexpr double textContrast = 5.5;
 
 // How many times as light one is as the other, as an eye sees it: 1 to 21.
 double contrastOf(const QColor& one, const QColor& other);
+QColor mixed(const QColor& one, const QColor& other, int percentOfOther);
 // The colour, made so much darker or lighter that it stands out from the ground.
 QColor standingOut(QColor colour, const QColor& ground, double contrast);
 
@@ -28,6 +29,8 @@ QColor accentColour(const QPalette& palette);
 QColor dimmedColour(const QPalette& palette);
 // Rings of options, frames of boxes, buttons and sections.
 QColor frameColour(const QPalette& palette);
+// The text as weak as can still be read on the ground: what is there but says nothing new.
+QColor faintColour(const QPalette& palette, const QColor& text, const QColor& ground);
 // The ground of a box whose text was looked up.
 QColor lookedUpColour(const QPalette& palette);
 // For a panel across which one word of alarm is written: ground and text.
@@ -41,6 +44,16 @@ inline void setTextColour(QWidget* label, Colour colour) {
     setColour(label, QPalette::WindowText, colour);
 }
 void setTextColour(QWidget* label, const QColor& colour);
+// A strip of the window in that tone, and a text on it.
+QColor tinted(const QPalette& palette, const QColor& tone);
+template <Colour tone>
+QColor tintColour(const QPalette& palette) {
+    return tinted(palette, tone(palette));
+}
+template <Colour tone>
+QColor onTintColour(const QPalette& palette) {
+    return standingOut(tone(palette), tintColour<tone>(palette), textContrast);
+}
 // A box that says by its ground and by slanted letters that its text was looked up, not typed.
 void setLookedUp(QWidget* box, bool lookedUp);
 

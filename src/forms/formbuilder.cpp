@@ -260,6 +260,16 @@ QFont enlargedFont(const QWidget* widget, double factor, bool bold) {
     return font;
 }
 
+QFont glanceFont(const QWidget* widget, double points, bool bold) {
+    constexpr double usual = 9;
+    constexpr double growth = 0.6;
+    QFont font = widget->font();
+    const double text = font.pointSizeF();
+    font.setPointSizeF(std::max(text, points + growth * (text - usual)));
+    font.setBold(bold);
+    return font;
+}
+
 QFont familyFont(const QWidget* widget, const char* family) {
     QFont font = widget->font();
     font.setFamily(QString::fromLatin1(family));

@@ -97,6 +97,9 @@ inline QLabel* wrapped(QLabel* label) {
     label->setWordWrap(true);
     return label;
 }
+// For what is read at a glance: so many points where the text has the usual nine; in a larger font
+// it grows less than the text does.
+QFont glanceFont(const QWidget* widget, double points, bool bold = false);
 // The form's font in another family; where that is not installed, the system's nearest.
 QFont familyFont(const QWidget* widget, const char* family);
 // The width of so many characters of a fixed-width font, which is not always that many times the

@@ -22,7 +22,7 @@ void MarkedLabel::setRuns(std::vector<Run> runs) {
 QSize MarkedLabel::sizeHint() const {
     int width = 0;
     for (const Run& run : m_runs)
-        width += QFontMetrics(fontOf(run)).horizontalAdvance(run.text);
+        width += widthOf(run);
     return {width, QLabel::sizeHint().height()};
 }
 
@@ -30,6 +30,11 @@ QFont MarkedLabel::fontOf(const Run& run) const {
     QFont shown = font();
     shown.setBold(run.marked);
     return shown;
+}
+
+// Whole pixels: an advance that is rounded down is no room for the text.
+int MarkedLabel::widthOf(const Run& run) const {
+    return QFontMetrics(fontOf(run)).horizontalAdvance(run.text) + 1;
 }
 
 void MarkedLabel::paintEvent(QPaintEvent*) {
@@ -40,8 +45,12 @@ void MarkedLabel::paintEvent(QPaintEvent*) {
         painter.setFont(shown);
         painter.setPen(run.marked ? warningColour(palette())
                                   : palette().color(QPalette::WindowText));
-        painter.drawText(rest, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, run.text);
-        rest.setLeft(rest.left() + QFontMetrics(shown).horizontalAdvance(run.text));
+        const QFontMetrics metrics(shown);
+        const QString text = metrics.elidedText(run.text, Qt::ElideRight, rest.width());
+        painter.drawText(rest, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+        if (text != run.text)
+            return;
+        rest.setLeft(rest.left() + widthOf(run));
     }
 }
 

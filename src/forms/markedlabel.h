@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A label that shows some of its words in red and bold; its text is plain.
+// A label that shows some of its words in red and bold; its text is plain. What has
+// no room ends in "...".
 #pragma once
 
 #include <QLabel>
@@ -23,13 +24,14 @@ public:
     void setRuns(std::vector<Run> runs);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QFont fontOf(const Run& run) const;
+    int widthOf(const Run& run) const;
 
     std::vector<Run> m_runs;
 };

@@ -35,6 +35,7 @@ ReadTable::ReadTable(QWidget* parent) : QTableWidget(parent) {
     QPalette flat(palette());
     flat.setColor(QPalette::Base, Qt::transparent);
     setPalette(flat);
+    horizontalHeader()->viewport()->setAutoFillBackground(false);
     verticalHeader()->hide();
     // The least height first: it bounds the other.
     verticalHeader()->setMinimumSectionSize(parent->fontMetrics().height());

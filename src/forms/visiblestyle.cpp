@@ -3,6 +3,7 @@
 
 #include "forms/colours.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +17,12 @@ namespace {
 
 constexpr double corner = 2; // pixels of rounding
 constexpr const char* requiredProperty = "required";
+constexpr int flatMargin = 4;
+
+bool isFlat(const QStyleOption* option) {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    return button != nullptr && button->features.testFlag(QStyleOptionButton::Flat);
+}
 
 void drawFrame(QPainter& painter, const QRect& rect, const QColor& colour, int width) {
     painter.save();
@@ -77,10 +84,15 @@ void VisibleStyle::polish(QWidget* widget) {
 void VisibleStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
                                 const QPalette& palette, bool enabled, const QString& text,
                                 QPalette::ColorRole role) const {
+    // Blanks at its end are no text.
+    QString seen = text;
+    while (seen.endsWith(QLatin1Char(' ')))
+        seen.chop(1);
     const bool hasLines = (flags & Qt::TextWordWrap) != 0 || text.contains(QLatin1Char('\n'));
+    const QFontMetrics metrics = painter->fontMetrics();
+    const bool fits = hasLines || metrics.size(flags, seen).width() <= rect.width();
     const QString shown =
-        hasLines ? text
-                 : painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width(), flags);
+        fits ? text : metrics.elidedText(seen, Qt::ElideRight, rect.width(), flags);
     QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, shown, role);
 }
 
@@ -91,13 +103,22 @@ void VisibleStyle::polish(QPalette& palette) {
                                  palette.color(QPalette::HighlightedText), textContrast));
 }
 
+QSize VisibleStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                     const QSize& contents, const QWidget* widget) const {
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type != CT_PushButton || !isFlat(option))
+        return size;
+    return {contents.width() + 2 * flatMargin, size.height()};
+}
+
 void VisibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_IndicatorRadioButton) {
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(frameColour(option->palette), 1));
+        // A dimmed option's ring stays as strong as the others.
+        painter->setPen(QPen(frameColour(QApplication::palette()), 1));
         painter->setBrush(Qt::NoBrush);
         painter->drawEllipse(QRectF(option->rect).adjusted(1.5, 1.5, -1.5, -1.5));
         painter->restore();
@@ -124,7 +145,11 @@ void VisibleStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 void VisibleStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
+    if (element == CE_HeaderSection) // headings are texts over their columns
+        return;
     QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_PushButtonBevel && isFlat(option) && option->state.testFlag(State_HasFocus))
+        drawFrame(*painter, option->rect, accentColour(option->palette), 2);
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (element == CE_ShapedFrame && frame != nullptr && frame->frameShape == QFrame::StyledPanel)
         drawFrame(*painter, option->rect, frameColour(option->palette), 1);

@@ -115,7 +115,7 @@ private:
             controls << control->metaObject()->className() << ' ' << corner.x() << ' '
                      << corner.y();
             for (const char* figure : {"width", "height", "visible", "enabled", "frame",
-                                       "frameShape", "checked", "maximum"})
+                                       "frameShape", "checked", "maximum", "flat"})
                 controls << ' ' << control->property(figure).toInt();
             controls << ' ' << control->objectName().toStdString() << '\n';
         }

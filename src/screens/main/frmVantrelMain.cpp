@@ -2,6 +2,7 @@
 #include "screens/main/frmVantrelMain.h"
 
 #include "base/fixedtext.h"
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/layouts.h"
@@ -18,16 +19,19 @@
 #include <QShortcut>
 #include <QTimer>
 
+#include <functional>
 #include <initializer_list>
 #include <utility>
 
 namespace vantrel {
 
 namespace {
-constexpr double entryEnlargement = 1.5;
-constexpr double statusEnlargement = 1.4;
-constexpr int frequencyColumns = 9;
-constexpr int countColumns = 7;
+constexpr double clockPoints = 12;
+
+QPushButton* flat(QPushButton* button) {
+    button->setFlat(true);
+    return button;
+}
 } // namespace
 
 frmVantrelMain::frmVantrelMain(const FormContext& context)
@@ -44,13 +48,13 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
       m_boxes(this),
       m_hold(this, [this] { platform().serialPort.close(); }) {
     setAttribute(Qt::WA_DeleteOnClose, false);
-    page(this, {statusRow(), m_boxes.exchangeRow(this), whoRow(), m_boxes.hint, frequencyRow(),
-                entryCommands(), Item(contestRow(), 1), pageCommands()});
+    m_countBox = FormBuilder(this).output("Text1");
+    page(this, {statusRow(), m_boxes.exchangeRow(this, m_countBox), m_boxes.hintRow(), whoRow(),
+                commandRow(), Item(contestRow(), 1), pageCommands()});
     connectBoxes();
     m_second = new QTimer(this);
     connectHandler(m_second, &QTimer::timeout, [this] { secondPassed(); });
     m_logWatch = shared().log.watch([this] { runHandler([this] { showLog(); }); });
-    openAtPageSize();
 }
 
 // --- Controls --------------------------------------------------------------------------------
@@ -64,16 +68,18 @@ QHBoxLayout* frmVantrelMain::statusRow() {
     FormBuilder build(this);
     m_whoLabel = build.label("Label28");
     m_fileLabel = build.label("Label12");
-    m_fileLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // cut at the edge
+    m_fileLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // widens nothing
     m_dupeModeLabel = build.label("Label13");
     m_clockLabel = build.label("Label27");
-    for (QLabel* label : {m_whoLabel, m_clockLabel})
-        label->setFont(enlargedFont(this, statusEnlargement));
+    m_clockLabel->setFont(glanceFont(this, clockPoints));
+    for (QLabel* label : {m_fileLabel, m_dupeModeLabel, m_boxes.autoRead})
+        setTextColour(label, dimmedColour);
     QPushButton* autoRead =
-        command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON",
-                &ContactEntry::autoReadToggled);
-    return row({m_whoLabel, Item(m_fileLabel, 1), m_dupeModeLabel, m_boxes.readSign,
-                m_boxes.autoRead, autoRead, m_clockLabel, build.caption("UTC", m_clockLabel)});
+        flat(command("Command17", "&AUTO READ", "TURNS THE READING OF THE RADIO OFF AND ON",
+                     &ContactEntry::autoReadToggled));
+    return row({m_whoLabel, Item::gap(fontMetrics().height()), Item(m_fileLabel, 1),
+                m_dupeModeLabel, m_boxes.readSign, m_boxes.autoRead, autoRead, m_clockLabel,
+                build.caption("UTC", m_clockLabel)});
 }
 
 // Who it may be while he is typed: calls worked on the left, members on the right.
@@ -90,47 +96,41 @@ QHBoxLayout* frmVantrelMain::whoRow() {
     return row({m_boxes.worked, {m_suggestions, 1}});
 }
 
-QHBoxLayout* frmVantrelMain::frequencyRow() {
+QHBoxLayout* frmVantrelMain::commandRow() {
     FormBuilder build(this);
-    m_countBox = build.output("Text1");
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{m_boxes.frequency, m_countBox, m_boxes.band})
-        control->setFont(enlargedFont(this, entryEnlargement));
-    const int character = QFontMetrics(m_countBox->font()).averageCharWidth();
-    m_boxes.frequency->setFixedWidth(character * frequencyColumns);
-    m_countBox->setFixedWidth(character * countColumns);
-    return row(
-        {build.caption("FREQ &MHz", m_boxes.frequency), m_boxes.frequency,
-         command("Command15", "Enter", "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON",
-                 &ContactEntry::frequencyEntered),
-         command("Command13", "&Up", "TOGGELS BAND UP ONE", &ContactEntry::bandUp),
-         command("Command14", "&Down", "TOGGLES BAND DOWN ONE", &ContactEntry::bandDown),
-         m_boxes.band, Item::room(), build.caption("QSOs", m_countBox), m_countBox});
+    m_audioButton = flat(
+        build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ", [this] { audioClicked(); }));
+    QHBoxLayout* commands =
+        row({build.caption("FREQ &MHz", m_boxes.frequency), m_boxes.frequency,
+             flat(command("Command15", "Enter",
+                          "WITH AUTO READ OFF , ENTER FREQ AND CLICK ENTER BUTTON",
+                          &ContactEntry::frequencyEntered)),
+             flat(command("Command13", "&Up", "TOGGELS BAND UP ONE", &ContactEntry::bandUp)),
+             flat(command("Command14", "&Down", "TOGGLES BAND DOWN ONE", &ContactEntry::bandDown)),
+             flat(command("Command5", "&FREQ", "READS FREQ FROM RADIO", &ContactEntry::radioAsked)),
+             m_boxes.band, Item::room(),
+             command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE", &ContactEntry::search),
+             command("Command3", "&LOG", "SAVES THE QSO TO CABRILLO FILE", &ContactEntry::log),
+             command("Command4", "&NO LOG", "DOES NOT SAVE QSO TO FILE", &ContactEntry::dropped),
+             stationChoice(), m_audioButton});
+    commands->setSpacing(3);
+    return commands;
 }
 
-QHBoxLayout* frmVantrelMain::entryCommands() {
-    FormBuilder build(this);
-    QPushButton* search =
-        command("Command2", "&SEARCH", "ENTER A CALL THEN CLICK HERE", &ContactEntry::search);
-    QPushButton* log =
-        command("Command3", "&LOG", "SAVES THE QSO TO CABRILLO FILE", &ContactEntry::log);
-    for (QPushButton* button : {search, log})
-        button->setFont(enlargedFont(this, 1));
-    const auto chooseStation = [this] {
+// The event's station and what the next contact will end in, one above the other.
+QVBoxLayout* frmVantrelMain::stationChoice() {
+    const auto choose = [this] {
         screens().open(Screen::k3yBox);
         showEntry(); // opened, nothing is chosen yet
     };
-    m_stationOption = build.jobOption(
+    m_stationOption = FormBuilder(this).jobOption(
         "Option1", "ADD K3Y/xx", "CLICK TO ADD K3Y/xx  TO FILE - BEFORE LOGGING DX K3Y STATIONS",
-        chooseStation);
+        choose);
     connectHandler(new QShortcut(QKeySequence(QStringLiteral("Alt+K")), this),
-                   &QShortcut::activated, chooseStation);
-    m_audioButton =
-        build.command("Command12", "AUDIO ON", "TOGGLES DUPE AUDIO ", [this] { audioClicked(); });
-    return row({search, log,
-                command("Command4", "&NO LOG", "DOES NOT SAVE QSO TO FILE", &ContactEntry::dropped),
-                command("Command5", "&FREQ", "READS FREQ FROM RADIO", &ContactEntry::radioAsked),
-                m_audioButton, m_stationOption, m_boxes.station, m_boxes.marker, Item::room()});
+                   &QShortcut::activated, choose);
+    QVBoxLayout* choice = column({row({m_stationOption, m_boxes.station}), m_boxes.marker});
+    choice->setSpacing(0);
+    return choice;
 }
 
 // The list keeps its width and the panel follows it.
@@ -142,37 +142,38 @@ QHBoxLayout* frmVantrelMain::contestRow() {
     connectHandler(m_workedList, &WorkedList::removed,
                    [this](int contact) { openOnContact(Screen::deletion, contact, true); });
     connectHandler(m_workedList, &WorkedList::escaped, [this] { toCallBox(); });
-    return row({column({m_workedList->headings(this), {m_workedList, 1}}), m_panel, Item::room()});
+    return row({column({m_workedList->headings(this), {m_workedList, 1}}), {m_panel, 1}});
 }
 
 // In three groups, and EXIT apart.
 QHBoxLayout* frmVantrelMain::pageCommands() {
     FormBuilder build(this);
     const auto leads = [&](const char* name, const char* caption, const char* toolTip,
-                           Screen screen) {
-        return build.command(name, caption, toolTip, [this, screen] { screens().open(screen); });
+                           std::function<void()> action) {
+        return flat(build.command(name, caption, toolTip, std::move(action)));
     };
+    const auto opens = [this](Screen screen) { return [this, screen] { screens().open(screen); }; };
     const Item gap = Item::gap(fontMetrics().averageCharWidth() * 2);
     return row(
-        {build.command("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
-                       [this] { openOnContact(Screen::correct, chosenContact(), true); }),
-         build.command("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
-                       [this] { openOnContact(Screen::deletion, chosenContact(), false); }),
+        {leads("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
+               [this] { openOnContact(Screen::correct, chosenContact(), true); }),
+         leads("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
+               [this] { openOnContact(Screen::deletion, chosenContact(), false); }),
          gap,
-         build.command("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
-                       [this] { screens().openList(ListedFile::log); }),
-         leads("Command9", "F&ILES", "FILE MAINTENANCE PAGE", Screen::files),
-         leads("Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK", Screen::backup), gap,
+         leads("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
+               [this] { screens().openList(ListedFile::log); }),
+         leads("Command9", "F&ILES", "FILE MAINTENANCE PAGE", opens(Screen::files)),
+         leads("Command10", "&BACKUP", "SAVES CABRILLO FILE TO BACKUP DISK", opens(Screen::backup)),
+         gap,
          // In the event month the standings take the place of the score.
-         build.command("Command11", "S&CORE", "CALCULATES CURRENT SCORE ",
-                       [this] {
-                           screens().open(shared().settings.isK3y() ? Screen::standings
-                                                                    : Screen::score);
-                       }),
-         leads("Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD", Screen::bonus),
-         Item::room(), build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM", [this] {
-             screens().quit();
-         })});
+         leads("Command11", "S&CORE", "CALCULATES CURRENT SCORE ",
+               [this] {
+                   screens().open(shared().settings.isK3y() ? Screen::standings : Screen::score);
+               }),
+         leads("Command16", "B&ONUS", "COUNTS BONUS POINTS IN THE NAME FIELD",
+               opens(Screen::bonus)),
+         Item::room(),
+         leads("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM", [this] { screens().quit(); })});
 }
 
 void frmVantrelMain::connectBoxes() {
@@ -257,6 +258,9 @@ void frmVantrelMain::showEntry() {
     const EntryView view = m_entry.view();
     m_boxes.show(view);
     m_stationOption->setChecked(view.station != noStationLabel);
+    const Colour ofEvent = shared().settings.isK3y() ? nullptr : Colour(dimmedColour);
+    setTextColour(m_stationOption, ofEvent);
+    setTextColour(m_boxes.station, ofEvent);
     if (std::exchange(m_bands, view.bands) != view.bands)
         m_panel->showBands(view.bands);
     m_suggestions->setLines(m_entry.members());

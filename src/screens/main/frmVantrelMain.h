@@ -15,6 +15,7 @@ class QLabel;
 class QPushButton;
 class QRadioButton;
 class QTimer;
+class QVBoxLayout;
 
 namespace vantrel {
 
@@ -54,8 +55,8 @@ private:
                          Answer (ContactEntry::*happens)());
     QHBoxLayout* statusRow();
     QHBoxLayout* whoRow();
-    QHBoxLayout* frequencyRow();
-    QHBoxLayout* entryCommands();
+    QHBoxLayout* commandRow();
+    QVBoxLayout* stationChoice();
     QHBoxLayout* contestRow();
     QHBoxLayout* pageCommands();
     void connectBoxes();

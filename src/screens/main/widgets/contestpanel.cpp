@@ -11,8 +11,6 @@
 #include "screens/main/widgets/ratebars.h"
 #include "shared/settings.h"
 
-#include <QFrame>
-#include <QGridLayout>
 #include <QHeaderView>
 
 #include <algorithm>
@@ -21,14 +19,8 @@ namespace vantrel {
 
 namespace {
 
-constexpr double totalEnlargement = 2.2;
-
-QFrame* card(QWidget* panel, QLayout* content) {
-    auto* frame = new QFrame(panel);
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setLayout(content);
-    return frame;
-}
+constexpr double totalPoints = 26;
+constexpr const char* longestSum = "12000 QSOs x 150 S/P/C + 32000";
 
 std::string_view onBandText(CallOnBand onBand) {
     switch (onBand) {
@@ -47,33 +39,31 @@ std::string_view onBandText(CallOnBand onBand) {
 ContestPanel::ContestPanel(QWidget* parent) : QWidget(parent) {
     FormBuilder build(this);
     m_totalLabel = build.label("Label29");
-    m_totalLabel->setFont(enlargedFont(this, totalEnlargement));
+    m_totalLabel->setFont(glanceFont(this, totalPoints, true));
     m_sumLabel = build.label("Label30");
-    auto* score = new QGridLayout;
-    score->addWidget(build.caption("TOTAL SCORE", m_totalLabel), 0, 0);
-    score->addWidget(m_sumLabel, 1, 0);
-    score->addWidget(m_totalLabel, 0, 1, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
-
     m_rateLabel = build.label("Label31");
-    m_rateLabel->setFont(enlargedFont(this, 1));
     m_lastLabel = build.label("Label32");
     m_bars = FormBuilder::named(new RateBars(this), "Picture1");
-    auto* rate = new QGridLayout;
-    rate->addWidget(build.caption("LAST 10 MIN", m_rateLabel), 0, 0);
-    rate->addWidget(m_rateLabel, 0, 1, Qt::AlignRight);
-    rate->addWidget(m_bars, 1, 0, 1, 2);
-    rate->addWidget(build.caption("BY 5 MINUTES"), 2, 0);
-    rate->addWidget(m_lastLabel, 2, 1, Qt::AlignRight);
-
     m_bandTable = build.table("Table1", "BANDS");
-    m_bandTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_bandTable->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_bandTable->horizontalHeader()->setStretchLastSection(true);
     m_bandTable->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* worked = column({m_bandTable});
-    worked->setContentsMargins(0, 0, 0, 0);
-
-    page(this, {card(this, score), card(this, rate), {card(this, worked), 1}})
+    QLabel* fiveMinutes = build.caption("BY 5 MINUTES");
+    for (QLabel* label : {fiveMinutes, m_lastLabel})
+        setTextColour(label, dimmedColour);
+    const Item gap = Item::gap(fontMetrics().height() / 2);
+    page(this, {build.caption("TOTAL SCORE", m_totalLabel),
+                m_totalLabel,
+                m_sumLabel,
+                gap,
+                row({build.caption("LAST 10 MIN", m_rateLabel), Item::room(), m_rateLabel}),
+                m_bars,
+                row({fiveMinutes, Item::room(), m_lastLabel}),
+                gap,
+                {m_bandTable, 1}})
         ->setContentsMargins(0, 0, 0, 0);
-    setFixedWidth(fontMetrics().averageCharWidth() * 40);
+    layout()->setSpacing(2);
+    setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1String(longestSum)));
 }
 
 void ContestPanel::showScore(std::string_view total, std::string_view sum) {

@@ -6,6 +6,7 @@
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
+#include "forms/layouts.h"
 #include "forms/markedlabel.h"
 #include "shared/settings.h"
 
@@ -21,8 +22,10 @@ namespace {
 
 constexpr int numberBoxWidth = 10; // a lookup fills ten
 constexpr int frequencyBoxWidth = 10;
-constexpr double enlargement = 1.5;
-constexpr double hintEnlargement = 1.1;
+constexpr double callPoints = 20;
+constexpr double otherPoints = 12;
+constexpr int frequencyColumns = 5; // as wide as "14.050"
+constexpr int countColumns = 4;     // as wide as five digits
 constexpr const char* reports[] = {usualReport, "589", "579", "569", "559", "549",
                                    "539",       "529", "519", "449", "339"};
 
@@ -59,6 +62,16 @@ int widthOf(const QWidget* box, int columns) {
            metrics.averageCharWidth() * 2 + arrow;
 }
 
+// The colours of the hint's text, of its ground and of the bar before it, by its tone.
+struct ToneColours {
+    Colour text, ground, bar;
+};
+constexpr ToneColours toneColours[] = {
+    {nullptr, tintColour<accentColour>, accentColour},
+    {onTintColour<cautionColour>, tintColour<cautionColour>, cautionColour},
+    {onTintColour<warningColour>, tintColour<warningColour>, warningColour},
+};
+
 } // namespace
 
 bool isTyping(const QKeyEvent& key) {
@@ -85,13 +98,13 @@ EntryBoxes::EntryBoxes(QWidget* form) {
     station = build.label("Label23");
     worked = FormBuilder::named(new MarkedLabel(form), "Label24");
     worked->setTextFormat(Qt::PlainText);
-    worked->setFont(enlargedFont(form, hintEnlargement, false));
     marker = build.label("Label25");
     hint = build.alert("Label26");
-    hint->setFont(enlargedFont(form, hintEnlargement));
-    // A long text is cut at the window's edge; it must not widen it, and the page must not jump.
-    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    hint->setFixedHeight(hint->sizeHint().height());
+    hintBar = new QWidget(form);
+    band->setFont(glanceFont(form, otherPoints));
+    frequency->setFont(glanceFont(form, otherPoints));
+    frequency->setFixedWidth(widthOf(frequency, frequencyColumns));
+    station->setMinimumWidth(1); // what has no room here the marker says, too
     for (QLineEdit* box :
          {call, rstSent->lineEdit(), rstReceived->lineEdit(), name, state, number, frequency})
         keepUpperCase(box);
@@ -112,6 +125,7 @@ void EntryBoxes::show(const EntryView& view) const {
     showHint(view.hint);
     put(station, view.station);
     put(marker, view.nextMarker);
+    marker->setVisible(!view.nextMarker.empty());
     std::vector<MarkedLabel::Run> runs;
     for (const WorkedCall& like : view.worked) {
         const bool joins = runs.empty() || like.text == moreWorked;
@@ -144,7 +158,7 @@ void EntryBoxes::showBoxes(const EntryView& view) const {
 // of the radio, a red cross for a failed one.
 void EntryBoxes::showFrequency(const EntryView& view) const {
     put(band, view.bandText);
-    setTextColour(band, view.onBand ? QColor() : cautionColour(band->window()->palette()));
+    setTextColour(band, view.onBand ? nullptr : cautionColour);
     QFont font = band->font();
     font.setStrikeOut(!view.onBand);
     band->setFont(font);
@@ -154,8 +168,7 @@ void EntryBoxes::showFrequency(const EntryView& view) const {
     readSign->setText(read ? QString(QChar(0x25CF)) : failed ? QString(QChar(0xD7)) : QString());
     readSign->setAccessibleName(read ? QStringLiteral("RADIO READ")
                                      : QStringLiteral("RADIO NOT READ"));
-    const QPalette palette = readSign->window()->palette();
-    setTextColour(readSign, read ? goodColour(palette) : warningColour(palette));
+    setTextColour(readSign, read ? goodColour : warningColour);
 }
 
 // Told again only when it says something else.
@@ -163,10 +176,27 @@ void EntryBoxes::showHint(const Hint& shown) const {
     if (textOf(hint) == shown.text)
         return;
     announce(hint, shown.text, spokenHint(shown));
-    const QPalette palette = hint->window()->palette();
-    setTextColour(hint, shown.tone == HintTone::plain   ? QColor()
-                        : shown.tone == HintTone::alarm ? warningColour(palette)
-                                                        : cautionColour(palette));
+    const ToneColours& tone = toneColours[static_cast<std::size_t>(shown.tone)];
+    const bool says = !shown.text.empty();
+    setTextColour(hint, tone.text);
+    setColour(hint, QPalette::Window, says ? tone.ground : nullptr);
+    setColour(hintBar, QPalette::Window, says ? tone.bar : nullptr);
+}
+
+QHBoxLayout* EntryBoxes::hintRow() const {
+    constexpr int barWidth = 5;
+    constexpr int margin = 4;
+    hint->setFont(glanceFont(hint->parentWidget(), otherPoints));
+    hint->setContentsMargins(2 * margin, margin, 2 * margin, margin);
+    // A long text must not widen the page, nor make it jump.
+    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    hint->setFixedHeight(hint->fontMetrics().size(0, QStringLiteral("X")).height() + 2 * margin);
+    hintBar->setFixedWidth(barWidth);
+    for (QWidget* part : {hintBar, static_cast<QWidget*>(hint)})
+        part->setAutoFillBackground(true);
+    QHBoxLayout* strip = row({hintBar, {hint, 1}});
+    strip->setSpacing(0);
+    return strip;
 }
 
 void EntryBoxes::toFirstEmpty() const {
@@ -177,7 +207,7 @@ void EntryBoxes::toFirstEmpty() const {
         (*empty)->setFocus(Qt::TabFocusReason);
 }
 
-QGridLayout* EntryBoxes::exchangeRow(QWidget* form) const {
+QGridLayout* EntryBoxes::exchangeRow(QWidget* form, QLineEdit* count) const {
     const struct {
         const char* caption;
         QWidget* box;
@@ -187,14 +217,21 @@ QGridLayout* EntryBoxes::exchangeRow(QWidget* form) const {
                  {"STATE", state, stateWidth},  {"SKCC#", number, numberWidth}};
     FormBuilder build(form);
     auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(1);
     int column = 0;
+    call->setFont(glanceFont(form, callPoints, true));
     for (const auto& [caption, box, columns] : boxes) {
-        box->setFont(enlargedFont(form, enlargement));
-        box->setFixedWidth(widthOf(box, columns));
+        if (box != call)
+            box->setFont(glanceFont(form, otherPoints));
+        box->setFixedSize(widthOf(box, columns), call->sizeHint().height());
         grid->addWidget(build.caption(caption, box), 0, column);
         grid->addWidget(box, 1, column++);
     }
-    grid->setColumnStretch(column, 1);
+    count->setFont(glanceFont(form, callPoints, true));
+    count->setFixedWidth(widthOf(count, countColumns));
+    grid->setColumnStretch(column++, 1);
+    grid->addWidget(build.caption("QSOs", count), 0, column, Qt::AlignRight);
+    grid->addWidget(count, 1, column);
     return grid;
 }
 

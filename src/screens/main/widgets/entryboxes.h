@@ -9,6 +9,7 @@
 #include <QLineEdit>
 
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QRadioButton;
 class QKeyEvent;
@@ -30,8 +31,11 @@ struct EntryBoxes {
     void show(const EntryView& view) const;
     // The first box behind the call that is empty has the focus.
     void toFirstEmpty() const;
-    // The boxes of the exchange, each under its name, large enough to be read from the key.
-    QGridLayout* exchangeRow(QWidget* form) const;
+    // The boxes of the exchange, each under its name, large enough to be read from the key, and at
+    // the far end the count.
+    QGridLayout* exchangeRow(QWidget* form, QLineEdit* count) const;
+    // A strip across the page, behind a bar of its tone.
+    QHBoxLayout* hintRow() const;
 
     std::array<QLineEdit*, lookupBoxes.size()> filledByLookup() const {
         return {name, state, number};
@@ -48,6 +52,7 @@ struct EntryBoxes {
     QLabel* autoRead;
     QLabel* readSign; // before that one: how the last read went
     AlertLabel* hint;
+    QWidget* hintBar;
     MarkedLabel* worked; // calls like his
     QLabel* station;
     QLabel* marker; // what the next contact will end in

@@ -35,23 +35,32 @@ SuggestionList::SuggestionList(QWidget* page)
 }
 
 void SuggestionList::setLines(const std::vector<MemberLine>& lines) {
+    m_lines = lines;
+    showLines();
+}
+
+void SuggestionList::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    showLines();
+}
+
+void SuggestionList::showLines() {
     m_model->clear();
     const int gap = fontMetrics().averageCharWidth() * spacingCharacters;
     int used = 0;
-    for (const MemberLine& line : lines) {
-        auto* item = new QStandardItem(toQt(line.text + (line.dupe           ? " DUPE"
-                                                         : line.gain.empty() ? ""
-                                                                             : " " + line.gain)));
-        const int width = fontMetrics().horizontalAdvance(item->text()) + gap;
+    for (const MemberLine& line : m_lines) {
+        const std::string news = line.dupe ? " DUPE" : line.gain.empty() ? "" : ' ' + line.gain;
+        const QString text = toQt(line.text + news);
+        const int width = fontMetrics().horizontalAdvance(text) + gap;
         used += width;
-        if (used > viewport()->width()) {
-            delete item;
+        if (used > viewport()->width())
             return;
-        }
+        auto* item = new QStandardItem(text);
         item->setData(toQt(line.call), callRole);
         item->setSizeHint({width, fontMetrics().height()});
-        if (line.dupe || !line.gain.empty())
-            item->setForeground(line.dupe ? warningColour(palette()) : goodColour(palette()));
+        item->setForeground(line.dupe           ? warningColour(palette())
+                            : line.gain.empty() ? dimmedColour(palette())
+                                                : goodColour(palette()));
         m_model->appendRow(item);
     }
 }

@@ -31,8 +31,12 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void showLines();
+
+    std::vector<MemberLine> m_lines;
     QStandardItemModel* m_model;
 };
 

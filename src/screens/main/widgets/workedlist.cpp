@@ -15,38 +15,45 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+#include <utility>
+
 namespace vantrel {
 
 namespace {
 
-constexpr int tint = 0x30; // of 0xFF: how much of the accent is in the last row's ground
+constexpr int tint = 19; // per cent of the selection's colour in the last row's ground
 
 // The last contact is bold on a tinted row, a duplicate red, one with something missing amber; a
-// K3Y tag has the accent colour.
+// K3Y tag has the accent colour. The bars, and a date that is that of the line above, are faint.
 class WorkedDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
-        QStyledItemDelegate::paint(painter, option, index);
-        const std::string line = fromQt(index.data().toString());
-        const std::string_view marker = markerOf(line);
-        if (marker.empty() || marker == dupeMarker || option.state.testFlag(QStyle::State_Selected))
-            return;
         QStyleOptionViewItem shown(option);
         initStyleOption(&shown, index);
-        const QWidget* list = option.widget;
-        const QRect text = list->style()->subElementRect(QStyle::SE_ItemViewItemText, &shown, list);
-        const int margin =
-            list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
-        const int begin =
-            text.left() + margin +
-            shown.fontMetrics.horizontalAdvance(toQt(left(line, worked::marker.first - 1)));
+        const QString text = std::exchange(shown.text, QString());
+        const QStyle* style = option.widget->style();
+        style->drawControl(QStyle::CE_ItemViewItem, &shown, painter, option.widget);
+
+        const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr) + 1;
+        QRect rest = option.rect.adjusted(margin, 0, 0, 0);
         painter->setFont(shown.font);
-        painter->setPen(accentColour(option.palette));
-        painter->drawText(QRect(begin, text.top(), text.width(), text.height()),
-                          Qt::AlignVCenter | Qt::TextSingleLine, toQt(marker));
+        const std::vector<QColor> colours = coloursOf(index, shown);
+        for (int begin = 0; begin < text.size();) {
+            const QColor colour = colours[static_cast<std::size_t>(begin)];
+            int end = begin + 1;
+            while (end < text.size() && colours[static_cast<std::size_t>(end)] == colour)
+                ++end;
+            rest.setLeft(option.rect.left() + margin +
+                         shown.fontMetrics.horizontalAdvance(text.first(begin)));
+            painter->setPen(colour);
+            painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine,
+                              text.sliced(begin, end - begin));
+            begin = end;
+        }
     }
 
 protected:
@@ -54,15 +61,42 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         if (index.row() + 1 == index.model()->rowCount()) {
             option->font.setBold(true);
-            QColor ground = option->palette.color(QPalette::Highlight);
-            ground.setAlpha(tint);
-            option->backgroundBrush = ground;
+            option->backgroundBrush = mixed(option->palette.color(QPalette::Base),
+                                            option->palette.color(QPalette::Highlight), tint);
         }
         const WorkedKind kind = kindOf(fromQt(index.data().toString()));
         if (kind != WorkedKind::complete)
             option->palette.setColor(QPalette::Text, kind == WorkedKind::dupe
                                                          ? warningColour(option->palette)
                                                          : cautionColour(option->palette));
+    }
+
+private:
+    // Of each character.
+    static std::vector<QColor> coloursOf(const QModelIndex& index,
+                                         const QStyleOptionViewItem& shown) {
+        const std::string line = fromQt(index.data().toString());
+        if (shown.state.testFlag(QStyle::State_Selected))
+            return std::vector<QColor>(line.size(), shown.palette.color(QPalette::HighlightedText));
+        const QColor text = shown.palette.color(QPalette::Text);
+        const bool plain = shown.backgroundBrush.style() == Qt::NoBrush;
+        const QColor ground =
+            plain ? shown.palette.color(QPalette::Base) : shown.backgroundBrush.color();
+        const QColor faint = faintColour(shown.palette, text, ground);
+        std::vector<QColor> colours(line.size(), text);
+        for (std::size_t i = 0; i < line.size(); ++i)
+            if (line[i] == '|')
+                colours[i] = faint;
+        const auto colour = [&](Column column, const QColor& with) {
+            for (int i = column.first; i <= std::min(column.last(), length(line)); ++i)
+                colours[static_cast<std::size_t>(i - 1)] = with;
+        };
+        const std::string above = fromQt(index.siblingAtRow(index.row() - 1).data().toString());
+        if (worked::date.of(above) == worked::date.of(line))
+            colour(worked::date, faint);
+        if (markerOf(line) != dupeMarker)
+            colour(worked::marker, accentColour(shown.palette));
+        return colours;
     }
 };
 
@@ -129,6 +163,7 @@ QLabel* WorkedList::headings(QWidget* page) const {
     FormBuilder build(page);
     QLabel* label = build.caption(line.c_str());
     label->setFont(fixedWidthFont());
+    setTextColour(label, dimmedColour);
     label->setIndent(frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     return label;
 }

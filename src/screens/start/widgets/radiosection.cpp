@@ -29,6 +29,7 @@ RadioSection::RadioSection(QWidget* page, const Files& files, std::function<void
     FormBuilder build(page);
     rig = build.row(m_layout, "RIG:", filled(build.combo("Combo1"), rigList()));
     m_needsLabel = build.alert("Label17");
+    m_needsLabel->setMinimumHeight(2 * page->fontMetrics().lineSpacing()); // nothing jumps
     m_testButton = build.command("Command8", "&TEST", "READS THE FREQUENCY FROM THE RADIO ONCE",
                                  std::move(testClicked));
     m_layout->addRow(row({{wrapped(m_needsLabel), 1}, m_testButton}));

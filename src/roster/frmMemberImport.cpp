@@ -102,7 +102,7 @@ QLayout* frmMemberImport::resultPart() {
     m_changed = build.label(m_page.changedLabel);
     m_skipped = build.label("Label5");
     setTextColour(m_skipped, cautionColour(palette()));
-    return column({m_added, row({m_linesRead, gap, m_changed, gap, m_skipped, gap, Item::room()})});
+    return column({m_added, row({m_linesRead, gap, m_changed, Item::room()}), wrapped(m_skipped)});
 }
 
 void frmMemberImport::load() {

@@ -34,7 +34,8 @@ TEST_F(ImportPages, DataListIsReadAndAMissingOneLeavesNothingOfAnEarlierImport) 
     EXPECT_FALSE(control(dataPage, "ProgressBar1")->isVisible());
     type(dataPage, "Text1", "nosuch.txt");
     clickFor("Run-time error 53: File not found", dataPage, "Command2");
-    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("nosuch.txt"));
+    EXPECT_THAT(messages.shown.back().informative,
+                ::testing::HasSubstr("nosuch.txt\nDOWNLOAD IT FROM https://www.skccgroup.com"));
     EXPECT_EQ(texts(dataPage, "Label1 Label3"), "||");
     click(dataPage, "Command1"); // enabled again
     settle();
@@ -50,6 +51,10 @@ TEST_F(ImportPages, MemberListCountsWhatItFixedAndIsReadFromWhereTheFinderSays) 
     click(listPage, "Command2");
     EXPECT_EQ(texts(listPage, "Label3 Label4 Label5"),
               "DONE...0 Mbrs Added...Click EXIT|1 SKCC#'s Fixed||");
+    folder.write("SKCCLIST.TXT", "12|K1A|JOHN|X|MA||12|291|01 Jan 2006||\r\n");
+    click(listPage, "Command2");
+    EXPECT_EQ(texts(listPage, "Label5"),
+              "1 LINE SKIPPED. THIS IS THE OTHER LIST: TAKE THE FIRST CHOICE|");
     click(listPage, "Command3");
     const std::string selected = shown("frmFileFinder", "Label5");
     click("frmFileFinder", "Command1");

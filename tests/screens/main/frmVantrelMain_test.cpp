@@ -127,6 +127,7 @@ TEST_F(MainPageTest, SilentRadioCostsNoContactButClosingDuringItsReadDoes) {
     messages.expect(radio.noReplyText);
     enter();
     EXPECT_EQ(logged(), joe); // with the frequency in the box
+    EXPECT_THAT(messages.shown.back().informative, HasSubstr("ALT+A STOPS THE READING"));
 
     serialPort.closesOnWait = serialPort.waits + 1;
     type(page, "Text2", "w5new");
@@ -150,7 +151,8 @@ TEST_F(MainPageTest, FullDiskKeepsTheTypingUntilTheContactIsOnTheDiskAndThenClea
     calls.failAt(Call::write, 1, ENOSPC);
     messages.expect("Run-time error 61: Disk full");
     enter();
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr(log));
+    EXPECT_THAT(messages.shown.back().informative,
+                AllOf(HasSubstr(log), HasSubstr("NOT LOGGED. THE BOXES ARE KEPT")));
     EXPECT_EQ(texts(page, "Text2 Text5") + logged(), "K1ABC|0123T     |");
 
     calls.failAt(Call::write, 2, ENOSPC); // the worked-stations file, after the log

@@ -110,6 +110,7 @@ TEST_F(StartPageTest, MainPageKeepsItsLogUntilAnotherIsOpen) {
     click(mainPage, "Command3");
     screens.open(Screen::start);
     startNewFile("sks.cbr");
+    EXPECT_THAT(messages.shown.back().informative, HasSubstr("KEPT BESIDE IT AS sks.cbr.OLD"));
     EXPECT_EQ(shown(mainPage, "Text1"), "00"); // before START, and without it
     EXPECT_EQ(shown(page, "Label14"), "THE OLD LOG IS KEPT AS " + files.path("sks.cbr.OLD"));
     type(page, "Text9", "n");

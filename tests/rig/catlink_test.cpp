@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Every radio family against a scripted radio: what is sent, what is read, what the operator
 // is told when there is no good reply, and how long that takes.
-#include "fakes/civbus.h"
 #include "fakes/fakeserialport.h"
 #include "fakes/radios.h"
 #include "rig/catlink.h"
 #include "rig/radiofamily.h"
 #include "rig/rigs.h"
-
-#include <gmock/gmock.h>
+#include "support/errors.h"
 
 namespace vantrel::test {
 namespace {
 
 using namespace std::string_literals;
-using ::testing::AllOf;
 using ::testing::EndsWith;
-using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 const std::string on = "AUTO READ ON ";
@@ -166,6 +162,11 @@ TEST_F(CatLink, IcomSaysWhatIsMissingAndAddressesOutsideTheListAreLeftOut) {
     }
     EXPECT_THAT(read(radio, {{radio.query, "\xFE\xFC\x01"}}), HasSubstr("Heard: FE FC 01. "));
     EXPECT_EQ(port.sent.size(), 2U) << "once more, and no more";
+    // Lost, since another one sent at the same time: that is still coming in as it is asked again.
+    const std::string dial = straysOf(radio).front();
+    EXPECT_EQ(read(radio, {{radio.query, dial + "\xFC" + dial, 1, 9},
+                           {radio.query, dial + radio.reply(14'025'000), 1, 9}}),
+              on + "14.025");
     port = {};
     settings.civAddress = "None";
     EXPECT_THAT(read(), HasSubstr("No address is chosen for the IC-7800"));
@@ -173,24 +174,6 @@ TEST_F(CatLink, IcomSaysWhatIsMissingAndAddressesOutsideTheListAreLeftOut) {
     EXPECT_EQ(icomCiv.query(settings), "\xFE\xFE\xE0\x03\xFD");
     settings.civAddress = "Hex 04";
     EXPECT_EQ(icomCiv.query(settings), "\xFE\xFE\x04\xE0\x03\xFD");
-}
-
-// The dial is turned, and what two send at once is lost.
-TEST(CivBus, IsReadWheneverItIsAskedWhileTheRadioTellsItsFrequency) {
-    OperatingSettings settings = settingsFor(radioNamed("IcomCiv"));
-    for (const auto& [baud, latency] : {std::pair{9600, 0}, {9600, 16}, {19200, 0}, {19200, 16}}) {
-        settings.baud = std::to_string(baud);
-        int read = 0;
-        int queries = 0;
-        for (int i = 0; i < 40; ++i) {
-            CivBus bus(baud, 600 + i * 3 / 2, latency);
-            read += readFrequency(settings, bus).frequency == "14.025" ? 1 : 0;
-            queries += bus.queries;
-            EXPECT_LT(bus.elapsed(), 500);
-        }
-        EXPECT_EQ(read, 40) << baud << " baud, latency " << latency;
-        EXPECT_GT(queries, 44) << "none was lost";
-    }
 }
 
 TEST_F(CatLink, PortsThatCannotBeOpenedOrAreOthersThanAtStartSayWhy) {

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Asserting a run-time error: its number and what its detail says.
+// Asserting a run-time error, its number and what its detail says; and the matchers of texts.
 #pragma once
 
 #include "base/runtimeerror.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+namespace vantrel::test {
+using ::testing::AllOf, ::testing::ElementsAre, ::testing::HasSubstr;
+} // namespace vantrel::test
 
 // EXPECT_RUNTIME_ERROR(statement, ErrorCode::fileNotFound, HasSubstr("SKSDB1.TXT")): the
 // statement throws RuntimeError with this code, and its detail matches.

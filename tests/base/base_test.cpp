@@ -29,7 +29,7 @@ std::string allOf(std::string_view text) {
     Reader reader(text);
     while (!reader.atEnd())
         result.append(reader.next()) += '|';
-    EXPECT_RUNTIME_ERROR(reader.next(), ErrorCode::inputPastEnd, ::testing::HasSubstr("line"));
+    EXPECT_RUNTIME_ERROR(reader.next(), ErrorCode::inputPastEnd, HasSubstr("line"));
     return result;
 }
 

@@ -40,11 +40,8 @@ protected:
         settle();
     }
     void logAgain() {
-        type(mainPage, "Text2", "GB0SKC");
-        for (const auto& [box, text] :
-             {std::pair{"Text3", "TOM"}, {"Text4", "MA"}, {"Text5", "77T"}})
-            type(mainPage, box, text);
-        pressButton(mainPage, "Command3");
+        work(mainPage, "Text2=GB0SKC Text3=TOM Text4=MA Text5=77T Command3");
+        settle();
         EXPECT_TRUE(form(dupeBox)->isModal());
     }
     std::string boxes() const { return texts(mainPage, "Text2 Text3 Text4 Text5"); }
@@ -66,9 +63,8 @@ TEST_F(K3yEvent, ADupeIsLoggedOrDroppedAtTheOperatorsWord) {
     const std::string worked = "GB0SKC 14060 77T K3Y/EU";
     openMainPage(worked);
     folder.write("SKSDB5.TXT", "GB0SKC    77T       TOM       MA \r\n");
-    type(mainPage, "Text2", "GB0SKC");
     messages.expect(" <<<<<< THIS IS A DUPLICATE QSO >>>>>> ");
-    press(mainPage, "Text2", Qt::Key_Return);
+    work(mainPage, "Text2=GB0SKC!");
     sound.alarms = 0;
     module.marker = "K3Y/EU";
     const std::function<void()> ways[] = {[&] { click(dupeBox, "Command1"); },
@@ -125,8 +121,7 @@ TEST_F(K3yEvent, AKeyChoosesATagAndIsOkAndEnterAloneIsOkOnly) {
 TEST_F(K3yEvent, ACallAreaGivesTheLogsNameUntilItIsAborted) {
     clock.time = {2010, 1, 5, 20, 0, 0};
     screens.open(Screen::start);
-    type(startPage, "Text2", "kh6/w1a/4");
-    type(startPage, "Text9", "MINE.CBR");
+    work(startPage, "Text2=kh6/w1a/4 Text9=MINE.CBR");
     choose(startPage, "Combo5", "5"); // not saved yet: 01:00 UTC the next day
     click(startPage, "Option4");
     auto* list = control<QAbstractItemView>(areaPage, "List1");
@@ -175,7 +170,7 @@ TEST_F(K3yEvent, StandingsOfTheAreasFillACellOnEachBand) {
     folder.write("K3Y.CBR", eventLog("K3Y/2 1820 1T; K3Y/2 3550 1T"));
     pressButton(mainPage, "Command11");
     EXPECT_FALSE(isOpen(regions));
-    EXPECT_THAT(filled(areas), ::testing::HasSubstr("K3Y/0 Text10=1T    ; Text11=1T    ; TOTAL"));
+    EXPECT_THAT(filled(areas), HasSubstr("K3Y/0 Text10=1T    ; Text11=1T    ; TOTAL"));
     EXPECT_EQ(texts(areas, "Label102 Label201 Label203"), "2|1|-|");
     pressButton(areas, "Command1");
     EXPECT_EQ(QApplication::focusWidget(), control(mainPage, "Text2"));

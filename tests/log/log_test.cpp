@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "fakes/failingcalls.h"
 #include "log/log.h"
 #include "log/logfile.h"
-#include "platform/files.h"
-#include "platform/platform.h"
 #include "support/contacts.h"
 #include "support/errors.h"
-#include "support/tempfolder.h"
+#include "support/fakemachine.h"
 
 #include <cerrno>
 
@@ -14,9 +11,7 @@ namespace vantrel::test {
 namespace {
 
 using namespace std::string_literals;
-using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
-using ::testing::HasSubstr;
 
 TEST(OutputFiles, AreNamedAfterTheLogWhateverDotsItsFolderHas) {
     EXPECT_EQ(scorePdfName("/A.B/LOG") + logPdfName("A.B\\LOG"),
@@ -33,7 +28,7 @@ std::string contactNumber(int number) {
     return contactLine({.hisCall = "K" + std::to_string(number)});
 }
 
-class OpenLog : public ::testing::Test {
+class OpenLog : public ::testing::Test, protected FakeMachine {
 protected:
     void open(int contacts) {
         std::string bytes = logHeaderLines;
@@ -51,9 +46,6 @@ protected:
         EXPECT_EQ(folder.read("StnsWorked.TXT"), joinLines(log.worked()));
     }
 
-    TempFolder folder;
-    FailingCalls calls;
-    Files files{folder.string(), calls};
     Log log{files};
 };
 

@@ -14,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
-using ::testing::HasSubstr;
 
 // A whole folder: names, hidden ones too, and what the files hold.
 using Snapshot = std::map<std::string, std::string>;

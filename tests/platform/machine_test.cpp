@@ -19,9 +19,6 @@ namespace vantrel::test {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 
 // A machine made of a few files.
 struct Machine : ::testing::Test {

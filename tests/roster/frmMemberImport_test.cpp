@@ -35,7 +35,7 @@ TEST_F(ImportPages, DataListIsReadAndAMissingOneLeavesNothingOfAnEarlierImport) 
     type(dataPage, "Text1", "nosuch.txt");
     clickFor("Run-time error 53: File not found", dataPage, "Command2");
     EXPECT_THAT(messages.shown.back().informative,
-                ::testing::HasSubstr("nosuch.txt\nDOWNLOAD IT FROM https://www.skccgroup.com"));
+                HasSubstr("nosuch.txt\nDOWNLOAD IT FROM https://www.skccgroup.com"));
     EXPECT_EQ(texts(dataPage, "Label1 Label3"), "||");
     click(dataPage, "Command1"); // enabled again
     settle();
@@ -62,11 +62,11 @@ TEST_F(ImportPages, MemberListCountsWhatItFixedAndIsReadFromWhereTheFinderSays) 
     EXPECT_EQ(shown(listPage, "Text1"), selected);
     folder.write("rostfetch.exe", "");
     click(choice, "Option3");
-    EXPECT_THAT(launcher.started, ::testing::ElementsAre(files.path("rostfetch.exe")));
+    EXPECT_THAT(launcher.started, ElementsAre(files.path("rostfetch.exe")));
     launcher.missing = true;
     clickFor("Run-time error 53: File not found", choice, "Option3");
     EXPECT_THAT(messages.shown.back().informative,
-                ::testing::HasSubstr(folder.string() + " AND TAKE THE FIRST CHOICE"));
+                HasSubstr(folder.string() + " AND TAKE THE FIRST CHOICE"));
 }
 
 TEST_F(ImportPages, OneWaitsForTheOtherSoThatBothAddTheirMembers) {

@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The five roster files: brought up to date from the club's lists, sorted, and looked up in.
 #include "base/fixedtext.h"
-#include "platform/files.h"
-#include "platform/systemcalls.h"
 #include "roster/rosterfiles.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterlookup.h"
 #include "support/errors.h"
-#include "support/tempfolder.h"
+#include "support/fakemachine.h"
 
 namespace vantrel::test {
 namespace {
 
-using ::testing::AllOf;
-using ::testing::HasSubstr;
 using Counts = std::array<int, 3>; // members added and fixed, lines skipped
 
-class RosterFiles : public ::testing::Test {
+class RosterFiles : public ::testing::Test, protected FakeMachine {
 protected:
     Counts import(MemberList list, const std::string& bytes) {
         folder.write("list.txt", bytes);
@@ -24,10 +20,6 @@ protected:
             importMembers(files, list, "list.txt", [](const ImportStep&) { return true; });
         return {result.added, result.fixed, result.skipped};
     }
-
-    TempFolder folder;
-    SystemCalls calls;
-    Files files{folder.string(), calls};
 };
 
 std::string record(const std::string& call, const std::string& number) {

@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "base/fixedtext.h"
-#include "platform/files.h"
-#include "platform/systemcalls.h"
-#include "shared/settings.h"
 #include "shared/utctime.h"
 #include "support/errors.h"
-#include "support/tempfolder.h"
+#include "support/fakemachine.h"
 
 namespace vantrel::test {
 namespace {
 
-TEST(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
-    const TempFolder folder;
-    SystemCalls calls;
-    Files files(folder.string(), calls);
+struct Settings : ::testing::Test, FakeMachine {};
+
+TEST_F(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
     saveSettings(files, loadSettings(files)); // there is no file yet
     EXPECT_EQ(folder.read("Vantrel.CFG"), "\r\nSKS\r\n0\r\nNone\r\n\r\n\r\n\r\nNone\r\nNone\r\n"
                                           "None\r\nSKS\r\n\r\n\r\nNO\r\n");
@@ -40,8 +36,7 @@ TEST(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
     for (const auto& [field, value, said] : rows) {
         OperatingSettings wide;
         wide.*field = value;
-        EXPECT_RUNTIME_ERROR(storedSettings(wide), ErrorCode::invalidCall,
-                             ::testing::HasSubstr(said));
+        EXPECT_RUNTIME_ERROR(storedSettings(wide), ErrorCode::invalidCall, HasSubstr(said));
         wide.*field = value.substr(1);
         EXPECT_EQ(storedSettings(wide).*field, value.substr(1));
     }

@@ -5,9 +5,7 @@
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 #include "platform/platform.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/errors.h"
 
 namespace vantrel::test {
 namespace {
@@ -34,11 +32,10 @@ TEST(Adif, EveryContactIsALineWithTheQuirksThatReadersRelyOn) {
     EXPECT_EQ(customary({&Fields::hisNumber, &Fields::rstReceived, &Fields::marker},
                         "1234T 579; 1234T 579 DUPE"),
               "<EOH>\r\n" + record + record + "<EOF>\r\n");
-    EXPECT_THAT(
-        customary({}, "QSO:  7045 CW 2011-0"),
-        ::testing::HasSubstr("<FREQ:5>7.045<BAND:3>40M<MODE:2>CW<QSO_DATE:8>20110<TIME_ON:4>"
-                             "<RST_SENT:3><CALL:0><RST_RCVD:3><NAME:0><STATE:0>"
-                             "<SKCC_NR:0><COMMENT:9>SKCC NR: <EOR>\r\n"));
+    EXPECT_THAT(customary({}, "QSO:  7045 CW 2011-0"),
+                HasSubstr("<FREQ:5>7.045<BAND:3>40M<MODE:2>CW<QSO_DATE:8>20110<TIME_ON:4>"
+                          "<RST_SENT:3><CALL:0><RST_RCVD:3><NAME:0><STATE:0>"
+                          "<SKCC_NR:0><COMMENT:9>SKCC NR: <EOR>\r\n"));
     // What is no frequency, and what is outside the bands, leaves that of the contact before.
     const std::string tuned = customary({&Fields::frequency}, "-; 50125; 1825; 472; 50125");
     EXPECT_EQ(inEach("<FREQ:", tuned), "0>|6>50.125|5>1.825|5>1.825|6>50.125|");

@@ -14,8 +14,6 @@
 namespace vantrel::test {
 namespace {
 
-using ::testing::ElementsAre;
-
 constexpr const char* page = "frmVantrelFiles";
 constexpr const char* viewer = "frmVantrelShowDB";
 constexpr const char* list = "frmVantrelList";
@@ -87,7 +85,7 @@ TEST_F(FilesPage, PrintsEveryItemOfTheLog) {
               "Count: 66 to HisCall\r\n" +
                   contacts);
     EXPECT_EQ(folder.read("SKS-LOG.PDF"), "a PDF");
-    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("/SKS-LOG.PDF"));
+    EXPECT_THAT(messages.shown.back().informative, HasSubstr("/SKS-LOG.PDF"));
     folder.write("SKS.CBR", std::string(12000, '\n'));
     clickFor(sent, page, "Option12");
     folder.write("SKS.CBR", std::string(12001, '\n'));

@@ -13,8 +13,6 @@
 namespace vantrel::test {
 namespace {
 
-using ::testing::HasSubstr;
-
 constexpr const char* page = "frmVantrelScore";
 const FieldList scored{&Fields::hisCall, &Fields::hisNumber, &Fields::hisState, &Fields::frequency,
                        &Fields::marker};
@@ -153,7 +151,7 @@ TEST_F(ScorePage, PrintsWhatItShows) {
                              "        Total Bonus Points: 98\r\n\r\n"
                              "               TOTAL SCORE: 109\r\n");
     EXPECT_EQ(folder.read("SKS-SCORE.PDF"), "a PDF");
-    EXPECT_THAT(messages.shown.back().informative, ::testing::HasSubstr("/SKS-SCORE.PDF"));
+    EXPECT_THAT(messages.shown.back().informative, HasSubstr("/SKS-SCORE.PDF"));
 }
 
 TEST_F(ScorePage, TheBonusPageCountsAStationOnceWithTheNumberAfterItsFirstSlash) {

@@ -6,6 +6,7 @@
 #include "platform/qt/qtdevices.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
+#include "support/errors.h"
 #include "support/tempfolder.h"
 
 #include <QCoreApplication>
@@ -13,7 +14,6 @@
 #include <QTimer>
 
 #include <cstdarg>
-#include <gmock/gmock.h>
 #include <map>
 #include <sys/ioctl.h>
 #include <sys/syscall.h>
@@ -40,8 +40,6 @@ extern "C" int ioctl(int file, unsigned long request, ...) noexcept {
 
 namespace vantrel::test {
 namespace {
-
-using ::testing::HasSubstr;
 
 // A program folder whose "com1" is the radio's terminal.
 struct RealPort : ::testing::TestWithParam<Radio> {

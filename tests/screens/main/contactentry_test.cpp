@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Games of random events on the contact being entered, played beside a plain model of it: after
 // each event both show the same, and have logged the same. VANTREL_SEED=n plays that one game.
-#include "fakes/failingcalls.h"
-#include "fakes/fakeclock.h"
-#include "fakes/fakedevices.h"
-#include "fakes/fakeserialport.h"
 #include "output/score/score.h"
-#include "platform/files.h"
-#include "platform/platform.h"
 #include "rig/rigs.h"
 #include "screens/main/contactentry.h"
-#include "shared/module1.h"
 #include "shared/utctime.h"
 #include "support/contacts.h"
-#include "support/tempfolder.h"
+#include "support/fakemachine.h"
 
 #include <map>
 #include <random>
@@ -31,7 +24,7 @@ const std::map<std::string, std::string> owners{{"123", "K1ABC"}, {"5000", "K9SK
 const Lines typedCalls{"K1ABC", "K1AB", "K1ABCD", "K1NEW", "K9SKC", "KA1NN", "W5NEW", "W5NEW",
                        "w1aw ", "31",   "123",    "5000",  "/A",    "K1",    ""};
 
-class Game {
+class Game : FakeMachine {
 public:
     explicit Game(unsigned seed) : m_random(seed) {
         std::string records;
@@ -460,18 +453,6 @@ private:
     }
 
     std::mt19937 m_random;
-    TempFolder folder;
-    FailingCalls calls;
-    Files files{folder.string(), calls};
-    FakeClock clock;
-    FakeMessages messages;
-    FakeEventLoop eventLoop;
-    FakeSerialPort serialPort;
-    FakeSound sound;
-    FakePrinter printer;
-    FakeLauncher launcher;
-    Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
-    Module1 module{files};
     OperatingSettings& settings = module.settings;
     Lines failures; // of the radio, told at once
     ContactEntry entry{module,

@@ -10,10 +10,6 @@
 namespace vantrel::test {
 namespace {
 
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-
 constexpr const char* page = "frmVantrelMain";
 constexpr const char* dupeScreen = "frmVantrelDupe";
 const std::string log = "SKS061611.CBR";
@@ -32,18 +28,7 @@ protected:
         screens.open(Screen::main);
     }
 
-    void enter() { press(page, "Text2", Qt::Key_Return); }
-
-    void enterCall(std::string_view call) {
-        type(page, "Text2", call);
-        enter();
-    }
-
-    // The last box of who is in no roster.
-    void enterNumber() {
-        type(page, "Text5", "none");
-        press(page, "Text5", Qt::Key_Return);
-    }
+    void enter() { work(page, "Text2!"); }
 
     void typeOn(const char* box, const char* keys) {
         QTest::keyClicks(control(page, box), QString::fromLatin1(keys));
@@ -67,36 +52,21 @@ protected:
                                 "W5NEW      599                NONE        \r\n";
 };
 
-TEST_F(MainPageTest, NumberYieldsACallACallItsMemberAndEnterLogsHim) {
+TEST_F(MainPageTest, EnterLeadsOnAndLogsWhatTheBoxesHold) {
     openPage();
-    enterCall("123");
-    EXPECT_EQ(boxes(), "K1ABC     ||||");
-    enter();
-    EXPECT_EQ(boxes(), "K1ABC|JOE       |CT |0123T     |");
-    typeOn("Text2", "D"); // belongs to the call it was looked up for
-    EXPECT_EQ(boxes(), "K1ABCD||||");
-    enterCall(",k1abc");
+    work(page, "Text2=,k1abc!");
     EXPECT_EQ(focus(), "Text2");
     press(page, "Combo2", Qt::Key_Return); // selects the name
     typeOn("Text3", "bill");
     EXPECT_EQ(shown(page, "Text3"), "BILL");
-    EXPECT_EQ(logged(), "");
-    enterCall("k1abc");
-    enter();
+    work(page, "Text2=k1abc! Text2!");
     EXPECT_EQ(logged(), joe);
     EXPECT_EQ(boxes() + focus(), "||||Text2");
-    // The exchange of who is in no roster, typed with Enter from box to box.
-    type(page, "Text7", "7040");
-    press(page, "Text7", Qt::Key_Return);
+    work(page, "Text7=7040!");
     EXPECT_EQ(texts(page, "Text7 Label10"), "7.040|40 Meters |");
-    enterCall("w5new");
-    for (const auto& [box, text] :
-         {std::pair{"Combo1", "559"}, {"Combo2", "448"}, {"Text3", "bob"}, {"Text4", "tx"}}) {
-        type(page, box, text);
-        press(page, box, Qt::Key_Return);
-    }
+    work(page, "Text2=w5new! Combo1=559! Combo2=448! Text3=bob! Text4=tx!");
     EXPECT_EQ(focus(), "Text5");
-    enterNumber();
+    work(page, "Text5=none!");
     EXPECT_EQ(logged(), joe + "QSO:  7040 CW 2011-06-16 0012 W1ABC      559 JOHN       MA 1234T "
                               "W5NEW      448 BOB        TX  NONE        \r\n");
     EXPECT_EQ(texts(page, "Combo1 Combo2"), "599|599|");
@@ -104,41 +74,19 @@ TEST_F(MainPageTest, NumberYieldsACallACallItsMemberAndEnterLogsHim) {
 
 TEST_F(MainPageTest, RefusedDupeLeavesNothingBehindAndItsScreenTakesNoFocus) {
     openPage(joe);
-    type(page, "Text3", "JIM");
-    enterCall("k1ab"); // a prefix is enough
-    EXPECT_EQ(boxes(), "||||");
-    click(page, "Command12");
-    EXPECT_EQ(shown(page, "Command12"), "AUDIO OFF");
-    enterCall("k1abc");
+    work(page, "Text3=JIM Text2=k1ab! Command12"); // a prefix is enough
+    EXPECT_EQ(boxes() + shown(page, "Command12"), "||||AUDIO OFF");
+    work(page, "Text2=k1abc! Text3=BI");
     EXPECT_EQ(sound.alarms, 1); // of the first
-    type(page, "Text3", "BI");
     form(dupeScreen)->findChild<QTimer*>(QStringLiteral("Timer1"))->setInterval(0);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(dupeScreen); }, 3000));
     EXPECT_EQ(focus(), "Text3");
 }
 
-TEST_F(MainPageTest, SilentRadioCostsNoContactButClosingDuringItsReadDoes) {
-    const Radio& radio = radioNamed("Kenwood");
-    module.settings.rig = radio.rig;
-    module.settings.comPort = "com1";
-    openPage();
-    messages.expect(radio.noReplyText);
-    enterCall("k1abc");
-    messages.expect(radio.noReplyText);
-    enter();
-    EXPECT_EQ(logged(), joe); // with the frequency in the box
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr("ALT+A STOPS THE READING"));
-
-    serialPort.closesOnWait = serialPort.waits + 1;
-    type(page, "Text2", "w5new");
-    enterNumber();
-    EXPECT_EQ(logged(), joe);
-}
-
 TEST_F(MainPageTest, SettingTooWideIsSaidAndNothingIsLogged) {
     openPage();
     module.settings.myName = "BARTHOLOMEW";
-    enterCall("k1abc");
+    work(page, "Text2=k1abc!");
     messages.expect(std::string(invalidEntryText));
     enter();
     EXPECT_THAT(messages.shown.back().informative, HasSubstr("my name"));
@@ -147,7 +95,7 @@ TEST_F(MainPageTest, SettingTooWideIsSaidAndNothingIsLogged) {
 
 TEST_F(MainPageTest, FullDiskKeepsTheTypingUntilTheContactIsOnTheDiskAndThenClearsIt) {
     openPage();
-    enterCall("k1abc");
+    work(page, "Text2=k1abc!");
     calls.failAt(Call::write, 1, ENOSPC);
     messages.expect("Run-time error 61: Disk full");
     enter();
@@ -164,10 +112,10 @@ TEST_F(MainPageTest, FullDiskKeepsTheTypingUntilTheContactIsOnTheDiskAndThenClea
     EXPECT_EQ(logged() + shown(page, "Text1"), joe + "01");
 
     std::filesystem::remove(folder.path() / log); // it starts again with the contact
-    enterCall("w5new");
+    work(page, "Text2=w5new!");
     messages.whileShown = nullptr;
     messages.expect(std::string(logStartedAgainText));
-    enterNumber();
+    work(page, "Text5=none!");
     EXPECT_THAT(messages.shown.back().informative, HasSubstr(log));
     EXPECT_EQ(folder.read(log) + shown(page, "Text1"), unknown + "01");
     EXPECT_THAT(lines(page, "List1"), ElementsAre(HasSubstr("W5NEW")));
@@ -187,8 +135,7 @@ TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     EXPECT_THAT(lines(page, "List2"), ElementsAre("K1ABC JOE CT 0123T NEW S/P/C +10"));
     EXPECT_EQ(shown(page, "Label24"), "");
     press(page, "Text2", Qt::Key_Down);
-    press(page, "List2", Qt::Key_Return);
-    enter();
+    work(page, "List2! Text2!");
     EXPECT_EQ(texts(page, "Text3 Label26"), "JOE       |ENTER LOGS   NEW S/P/C  +10 TRIBUNE|");
     EXPECT_TRUE(control(page, "Text3")->font().italic());
     type(page, "Text3", "bill");
@@ -203,29 +150,28 @@ TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     screens.mainPage()->showStation("-- K3Y/EU --");
     EXPECT_EQ(texts(page, "Label25 Label23"), "NEXT QSO: K3Y/EU|-- K3Y/EU --|");
     EXPECT_TRUE(control<QRadioButton>(page, "Option1")->isChecked());
-    enterCall("w5new");
+    work(page, "Text2=w5new!");
     EXPECT_EQ(module.marker + texts(page, "Label26 Label25 Label23"),
               "      NOT IN THE ROSTER: NAME, STATE, SKCC#   K3Y/EU TAKEN BACK BY SEARCH||   "
               "None     |");
     EXPECT_FALSE(control<QRadioButton>(page, "Option1")->isChecked());
     press(page, "Text2", Qt::Key_Space);
     EXPECT_EQ(focus(), "Text3");
-    typeOn("Text3", "BOB");
+    work(page, "Text3=BOB");
     press(page, "Text2", Qt::Key_Space);
     EXPECT_EQ(focus(), "Text4");
-    enterNumber();
+    work(page, "Text5=none!");
     EXPECT_EQ(shown(page, "Label26"), "LOGGED W5NEW 14050 0012  NO STATE");
     press(page, "Text7", Qt::Key_U, Qt::AltModifier);
-    enterCall("w5new");
+    work(page, "Text2=w5new!");
     press(page, "Text2", Qt::Key_Space);
     EXPECT_EQ(boxes(), "W5NEW|BOB||NONE|");
     enter();
     EXPECT_EQ(shown(page, "Label26"), "LOGGED W5NEW 21050 0012  NO STATE");
     press(page, "Text2", Qt::Key_Up);
-    press(page, "List1", Qt::Key_Return);
+    work(page, "List1!");
     EXPECT_EQ(shown("frmVantrelCorrect", "Text1"), "W5NEW");
-    type("frmVantrelCorrect", "Text3", "sue");
-    click("frmVantrelCorrect", "Command2");
+    work("frmVantrelCorrect", "Text3=sue Command2");
     EXPECT_EQ(shown(page, "Label26"), "CORRECTED W5NEW 21050 0012");
     click("frmVantrelCorrect", "Command5");
     EXPECT_EQ(shown(page, "Label26"), "") << "undone";
@@ -249,14 +195,14 @@ TEST_F(MainPageTest, AutoReadStaysOffUntilItIsTurnedOn) {
     click(page, "Command17");
     screens.mainPage()->loadAfresh();
     settle();
-    enterCall("k1abc");
+    work(page, "Text2=k1abc!");
     EXPECT_EQ(texts(page, "Text7 Label11"), "14.050|AUTO READ OFF|");
     EXPECT_EQ(serialPort.sent.size(), 1U);
 }
 
 TEST_F(MainPageTest, NothingDoneByAccidentChangesAContact) {
     openPage();
-    enterCall("k1abc");
+    work(page, "Text2=k1abc!");
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
     QApplication::sendEvent(control(page, "Text2"), &held);
     EXPECT_EQ(logged(), "") << "a held Enter";

@@ -85,6 +85,23 @@ void Hands::click(const char* formName, const char* name) {
     QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(10, button->height() / 2));
 }
 
+void Hands::work(const char* formName, const std::string& steps) {
+    std::istringstream all(steps);
+    for (std::string step; all >> step;) {
+        const bool enters = step.back() == '!';
+        const std::size_t end = step.size() - (enters ? 1 : 0), equals = step.find('=');
+        const std::string name = step.substr(0, std::min(equals, end));
+        std::string text = equals < end ? step.substr(equals + 1, end - equals - 1) : "";
+        std::replace(text.begin(), text.end(), '_', ' ');
+        if (equals < end)
+            type(formName, name.c_str(), text);
+        if (enters)
+            press(formName, name.c_str(), Qt::Key_Return);
+        else if (equals >= end)
+            click(formName, name.c_str());
+    }
+}
+
 void Hands::press(const char* formName, const char* name, Qt::Key key,
                   Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(keyTarget(control(formName, name)), key, modifiers);

@@ -38,6 +38,9 @@ public:
     // Chooses the combo's entry that shows this text.
     void choose(const char* formName, const char* name, std::string_view entry);
     void click(const char* formName, const char* name);
+    // One after the other: "Text2=k1abc" types, "Text2!" presses Enter there, "Text2=k1abc!" does
+    // both, "Command3" clicks. What is typed so holds no blank; "_" stands for one.
+    void work(const char* formName, const std::string& steps);
     // Presses a key in the control.
     void press(const char* formName, const char* name, Qt::Key key,
                Qt::KeyboardModifiers modifiers = Qt::NoModifier);

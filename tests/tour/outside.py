@@ -5,8 +5,7 @@ usage: outside.py PROGRAM
 
 The program is copied alone into an empty folder and started in a window of a small virtual screen
 (Xvfb, openbox); xdotool presses the keys. The log is compared byte for byte with what is
-expected, and pages must lie over the page that opened them. Exits with 77 (skipped) where the
-virtual screen cannot be had.
+expected. Exits with 77 (skipped) where the virtual screen cannot be had.
 """
 import contextlib
 import os
@@ -19,7 +18,7 @@ import tempfile
 import time
 
 PATIENCE = 20.0  # seconds; a program built with sanitizers on a busy machine is slow
-NEEDED = ("Xvfb", "openbox", "xdotool", "xprop")
+NEEDED = ("Xvfb", "openbox", "xdotool")
 START, MAIN = "Vantrel - Start", "W1ABC SKS MYLOG.CBR - Vantrel"
 
 
@@ -145,27 +144,6 @@ def type_blindly(folder):
                                             for call, when in zip(calls, whens)]))
 
 
-def geometry(window):
-    shown = dict(re.findall(r"(\w+)=(-?\d+)", xdotool("getwindowgeometry", "--shell", window)))
-    return [int(shown[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")]
-
-
-def see_placement(width, height):
-    """Each page lies wholly on the screen and is tied to the main page."""
-    page = xdotool("getactivewindow")
-    for key in ("alt+r", "alt+e", "alt+c", "alt+o", "alt+i", "alt+b", "alt+t"):
-        keys(key)
-        wait_for("a page for " + key, lambda: xdotool("getactivewindow") not in ("", page))
-        opened = xdotool("getactivewindow")
-        x, y, w, h = geometry(opened)
-        tied = subprocess.run(["xprop", "-id", opened, "WM_TRANSIENT_FOR"], capture_output=True,
-                              text=True, check=False).stdout
-        if f"{int(page):#x}" not in tied or x < 0 or y < 0 or x + w > width or y + h > height:
-            raise SystemExit(f"outside: {key}: {(x, y, w, h)} {tied}")
-        keys("Escape")
-        wait_for("the main page", lambda: xdotool("getactivewindow") == page)
-
-
 def main():
     missing = [tool for tool in NEEDED if shutil.which(tool) is None]
     if missing:
@@ -177,11 +155,6 @@ def main():
             keys("alt+x")
             if program.wait(PATIENCE) != 0:
                 raise SystemExit(f"outside: exit code {program.returncode}")
-        with running(sys.argv[1], pathlib.Path(name)):  # knows what was saved
-            wait_for_window(START)
-            keys("alt+s")
-            wait_for_window(MAIN)
-            see_placement(1024, 600)
     print("outside: the log is as expected")
     return 0
 

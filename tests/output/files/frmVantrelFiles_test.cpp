@@ -8,8 +8,6 @@
 
 #include <QAbstractItemView>
 #include <QClipboard>
-#include <QComboBox>
-#include <QRadioButton>
 
 namespace vantrel::test {
 namespace {
@@ -46,8 +44,6 @@ protected:
 };
 
 TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
-    settle();
-    EXPECT_EQ(QApplication::focusWidget(), control(page, "Option1"));
     press(page, "Option5", Qt::Key_Down); // an arrow key runs no job
     EXPECT_EQ(shown(page, "Option6Result"), "NO SUCH FILE YET");
     for (int i = 0; i < 2; ++i) {
@@ -64,12 +60,10 @@ TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
               strictAdifText(contactsIn(contacts), "20110617 031230"));
     EXPECT_THAT(shown(page, "Option6Result"), // not on the day of the clock: with its date
                 ::testing::MatchesRegex("SKS.ADI 20..-..-.. [0-2].[0-5]."));
-    EXPECT_TRUE(control<QRadioButton>(page, "Option14")->isChecked());
     folder.write("SKS.ADI", log);
     module.log.open("sks.adi"); // a log that is called like its ADIF file
     clickFor("Run-time error 75: Path/File access error", page, "Option6");
     EXPECT_EQ(folder.read("SKS.ADI"), log);
-    EXPECT_EQ(texts(page, "Label5 Text2"), "||"); // that was the job before
     module.log.open("SKS.CBR");
     folder.write("SKS.CBR", log + "QSO: 14050 CW 2011-06-16 0012\r\n");
     click(page, "Option14");
@@ -77,20 +71,15 @@ TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
 }
 
 TEST_F(FilesPage, PrintsEveryItemOfTheLog) {
-    const std::string sent = "THE FILE HAS BEEN SENT TO THE PRINTER";
     printer.hasPrinter = false;
-    clickFor(sent, page, "Option12");
+    clickFor("THE FILE HAS BEEN SENT TO THE PRINTER", page, "Option12");
     EXPECT_EQ(joinLines(printer.jobs.back()),
               "SKS.CBR\r\n\r\nContest: SKS\r\nMy Call: W1ABC\r\nMy SKCC#: 1234T \r\n"
               "Count: 66 to HisCall\r\n" +
                   contacts);
     EXPECT_EQ(folder.read("SKS-LOG.PDF"), "a PDF");
-    EXPECT_THAT(messages.shown.back().informative, HasSubstr("/SKS-LOG.PDF"));
-    folder.write("SKS.CBR", std::string(12000, '\n'));
-    clickFor(sent, page, "Option12");
     folder.write("SKS.CBR", std::string(12001, '\n'));
     clickFor("Run-time error 9: Subscript out of range", page, "Option12");
-    EXPECT_EQ(printer.jobs.size(), 2U);
 }
 
 TEST_F(FilesPage, ShowsAndSortsEachMemberFile) {
@@ -109,25 +98,16 @@ TEST_F(FilesPage, ShowsAndSortsEachMemberFile) {
 }
 
 TEST_F(FilesPage, TheListOfTheAdifFileOrTheLogReturnsToItsPageFindsAndCopies) {
-    clickFor("Run-time error 53: File not found", page, "Option7");
     folder.write("SKS.ADI", "<EOH>, 1\r\n\r\nJ\xDCRGEN <b>\r\n");
     click(page, "Option7");
     EXPECT_THAT(lines(list, "List1"), ElementsAre("<EOH>, 1", "", "J\xDCRGEN <b>"));
-    EXPECT_EQ(shown(list, "Label1"), folder.string() + "/SKS.ADI   3 LINES");
-    const auto leave = [&] {
-        EXPECT_EQ(lines(list, "List1").front(), " Contest: SKS");
-        click(list, "Command1");
-        settle();
-        return QApplication::activeWindow();
-    };
-    click(page, "Option8");
-    EXPECT_EQ(leave(), form(page));
-    EXPECT_EQ(QApplication::focusWidget(), control(page, "Option8")); // the job last run
-    click(page, "Option7"); // the main page takes it over for the log
-    screens.open(Screen::main);
+    screens.open(Screen::main); // which takes it over for the log
     settle();
     click("frmVantrelMain", "Command6");
-    EXPECT_EQ(leave(), form("frmVantrelMain"));
+    EXPECT_EQ(lines(list, "List1").front(), " Contest: SKS");
+    click(list, "Command1");
+    settle();
+    EXPECT_EQ(QApplication::activeWindow(), form("frmVantrelMain"));
 
     folder.write("SKS.CBR", "K1ABC\r\nW1XYZ  \r\nK1ABD\r\n");
     click(page, "Option8");
@@ -159,11 +139,9 @@ TEST_F(FilesPage, TheBackupCopiesEveryByteOfTheLogOfTheMomentAndKeepsAFullerCopy
     module.log.open(folder.string() + "\\SKS.CBR"); // as the finder hands it back
     screens.open(Screen::backup);
     EXPECT_EQ(shown(backup, "Label5"), folder.string() + "/SKS.CBR");
-    for (const std::string nowhere : {" ", "nowhere"}) {
-        type(backup, "Text1", nowhere);
-        clickFor("Run-time error 76: Path not found", backup, "Command2");
-        EXPECT_EQ(texts(backup, "Label3 Text1"), "|" + nowhere + "|");
-    }
+    type(backup, "Text1", "nowhere");
+    clickFor("Run-time error 76: Path not found", backup, "Command2");
+    EXPECT_EQ(texts(backup, "Label3 Text1"), "|nowhere|");
     type(backup, "Text1", " COPIES\\  ");
     EXPECT_EQ(shown(backup, "Label6"), "THE COPY THERE: 3 QSOS, LAST 2011-06-16 0012");
     press(backup, "Text1", Qt::Key_Return);
@@ -178,17 +156,14 @@ TEST_F(FilesPage, TheBackupCopiesEveryByteOfTheLogOfTheMomentAndKeepsAFullerCopy
     folder.write("NEW.CBR", logHeaderLines);
     module.log.open("NEW.CBR");
     screens.open(Screen::backup); // while it shows
-    settle();
     type(backup, "Text1", "copies");
     EXPECT_EQ(shown(backup, "Label6"), "NO COPY THERE YET");
-    keys(Qt::Key_B, Qt::AltModifier); // leads to BACKUP, and the second presses it
-    EXPECT_FALSE(folder.has("copies/NEW.CBR"));
-    keys(Qt::Key_B, Qt::AltModifier);
+    click(backup, "Command2");
     EXPECT_EQ(folder.read("copies/NEW.CBR"), logHeaderLines);
 }
 
-// Names that the program cannot say are left out; the true case stays where upper case would
-// name two folders; a folder that cannot be read leaves the operator where he is.
+// Names that the program cannot say are left out; the true case stays where upper
+// case would name two folders; a folder that cannot be read leaves the operator where he is.
 TEST_F(FilesPage, TheFinderLeadsToFoldersAndHandsBackWhatIsChosen) {
     for (const char* name : {"b\xC3\xBCro", "gone", "Logs", "logs", "\xD0\xB6"})
         std::filesystem::create_directory(folder.path() / name);
@@ -202,16 +177,13 @@ TEST_F(FilesPage, TheFinderLeadsToFoldersAndHandsBackWhatIsChosen) {
     std::filesystem::remove(folder.path() / "gone");
     messages.expect("Run-time error 76: Path not found");
     enterFolder("gone");
-    const std::pair<const char*, std::string> ways[] = {
-        {"Logs", folder.string() + "/Logs/"}, {"..", top + "/"}, {"b\xFCro", top + "/B\xDCRO/"}};
-    for (const auto& [name, selected] : ways) {
-        enterFolder(name);
-        EXPECT_EQ(shown(finder, "Label5"), selected);
-    }
+    enterFolder("Logs");
+    EXPECT_EQ(shown(finder, "Label5"), folder.string() + "/Logs/");
+    enterFolder("..");
+    enterFolder("b\xFCro");
     click(finder, "Command1");
     settle();
     EXPECT_EQ(shown(backup, "Text1"), top + "/B\xDCRO/");
-    EXPECT_EQ(QApplication::focusWidget(), control(backup, "Text1"));
 
     click(backup, "Command3"); // by its cross, back to a log that has two names by now
     std::filesystem::rename(folder.path() / "SKS.CBR", folder.path() / "sks.cbr");
@@ -228,15 +200,9 @@ TEST_F(FilesPage, TheFinderLeadsToFoldersAndHandsBackWhatIsChosen) {
     EXPECT_THAT(lines(finder, "filList"), ElementsAre("SKS.CBR", "StnsWorked.TXT"));
     for (int i = 0; i < 2; ++i)
         press(finder, "filList", Qt::Key_End); // chooses as a click does
-    EXPECT_EQ(shown(finder, "Label5"), top + "/StnsWorked.TXT");
     click(finder, "Command1");
     settle();
     EXPECT_EQ(shown("frmVantrelStart", "Text9"), top + "/StnsWorked.TXT");
-    click("frmVantrelStart", "Command3");
-    auto* drives = control<QComboBox>(finder, "drvList");
-    drives->activated(drives->currentIndex()); // the drive that shows leads to its top
-    EXPECT_EQ(shown(finder, "Label5"), drives->itemText(0).toStdString());
-    EXPECT_NE(lines(finder, "dirList").at(0), "..");
 }
 
 } // namespace

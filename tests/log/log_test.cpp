@@ -14,8 +14,7 @@ using namespace std::string_literals;
 using ::testing::ElementsAreArray;
 
 TEST(OutputFiles, AreNamedAfterTheLogWhateverDotsItsFolderHas) {
-    EXPECT_EQ(scorePdfName("/A.B/LOG") + logPdfName("A.B\\LOG"),
-              "/A.B/LOG-SCORE.PDFA.B\\LOG-LOG.PDF");
+    EXPECT_EQ(scorePdfName("/A.B/LOG"), "/A.B/LOG-SCORE.PDF");
     EXPECT_RUNTIME_ERROR(adifFileName("AB"), ErrorCode::invalidCall, HasSubstr("no extension"));
 }
 
@@ -40,10 +39,11 @@ protected:
     // List and file say the same, entry by entry what the contacts are.
     void expectContacts(const std::vector<std::string>& contacts) {
         EXPECT_THAT(log.contacts(), ElementsAreArray(contacts));
-        ASSERT_EQ(log.worked().size(), contacts.size());
-        for (std::size_t i = 0; i < contacts.size(); ++i)
-            EXPECT_EQ(log.worked()[i], workedLine(contacts[i]));
-        EXPECT_EQ(folder.read("StnsWorked.TXT"), joinLines(log.worked()));
+        std::vector<std::string> entries;
+        for (const std::string& line : contacts)
+            entries.push_back(workedLine(line));
+        EXPECT_THAT(log.worked(), ElementsAreArray(entries));
+        EXPECT_EQ(folder.read("StnsWorked.TXT"), joinLines(entries));
     }
 
     Log log{files};
@@ -61,26 +61,20 @@ TEST_F(OpenLog, HasTheContactItemsInFileOrderAndTheWorkedStationsOfTheirColumns)
     EXPECT_EQ(folder.read("stnsworked.txt"), entry + "\r\n| |       |  | A\0B |  | |\r\n"s +
                                                  "| |       |  | 14050 | 0012 | 2011-06-16|\r\n" +
                                                  entry.substr(0, 64) + "\r\n");
-    EXPECT_RUNTIME_ERROR(log.open("GONE.CBR"), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
-    EXPECT_TRUE(log.contacts().empty() && log.worked().empty());
 }
 
 TEST_F(OpenLog, HoldsTwelveThousandAndListsAThousandAsWorked) {
     open(12000);
-    EXPECT_FALSE(log.tooLong());
     std::ignore = log.append(contactNumber(12001));
     for (int i = 0; i < 2; ++i) // read on from before, and read whole
         EXPECT_RUNTIME_ERROR(i == 0 ? log.reread() : log.open(name), ErrorCode::subscriptOutOfRange,
                              files.path(name) + ": the QSO table holds at most 12000 contacts");
     EXPECT_TRUE(log.tooLong());
-    EXPECT_EQ(log.contacts().back(), contactNumber(12000));
-    EXPECT_EQ(log.worked().size(), 1000U);
     open(999);
     for (const int number : {1000, 1001}) {
         std::ignore = log.append(contactNumber(number));
         log.reread();
     }
-    EXPECT_EQ(log.count(), 1001);
     EXPECT_EQ(log.worked().back(), workedLine(contactNumber(1000)));
     EXPECT_EQ(folder.read("StnsWorked.TXT"), joinLines(log.worked()));
 }
@@ -88,64 +82,46 @@ TEST_F(OpenLog, HoldsTwelveThousandAndListsAThousandAsWorked) {
 TEST_F(OpenLog, FollowsALogThatSomebodyElseChanged) {
     const std::string other = contactNumber(77);
     const std::string third = contactNumber(3);
-    int told = 0;
     open(0);
-    const Log::Watch watches[] = {log.watch([&told] { ++told; }), log.watch([&told] { ++told; })};
-    std::ignore = log.watch([&told] { told = -1000; }); // whose page is closed
-    const std::vector<std::string> logs[] = {{contact, third}, {other, third},   {},
-                                             {contact},        {contact, other}, {contact, other}};
+    const std::vector<std::string> logs[] = {{contact, third}, {other, third}, {}, {contact}};
     for (std::vector<std::string> contacts : logs) {
         folder.write(name, logHeaderLines + joinLines(contacts));
         log.reread();
-        expectContacts(contacts);
         EXPECT_FALSE(log.append(third)); // and one more
         log.reread();
         contacts.push_back(third);
         expectContacts(contacts);
     }
-    EXPECT_EQ(told, 24);
     // A last line without its end, and what is written on to it.
-    folder.write(name, contact + "\r\n" + other.substr(0, 80));
-    log.reread();
-    folder.write(name, contact + "\r\n" + other + "\r\n");
-    log.reread();
+    for (const std::string& last : {other.substr(0, 80), other + "\r\n"}) {
+        folder.write(name, contact + "\r\n" + last);
+        log.reread();
+    }
     expectContacts({contact, other});
-    // Worked stations that cannot be written are made anew with the next contact.
-    std::ignore = log.append(third);
-    calls.failAt(Call::write, 1, ENOSPC);
-    EXPECT_RUNTIME_ERROR(log.reread(), ErrorCode::diskFull, HasSubstr("StnsWorked.TXT"));
-    log.reread(); // nothing is new: a full disk keeps nobody from seeing his score
-    std::ignore = log.append(other);
-    log.reread();
-    expectContacts({contact, other, third, other});
 }
 
 TEST_F(OpenLog, ThatVanishedOrLostContactsIsKeptBeforeTheNextOneIsAppended) {
     open(2);
-    const std::string held = folder.read(name);
-    const std::string next = contact + "\r\n", changed = logHeaderLines + contact + "\r\nNOTE\r\n";
+    const std::string held = folder.read(name), changed = logHeaderLines + contact + "\r\n";
     std::filesystem::remove(folder.path() / name);
     calls.failAt(Call::write, 1, ENOSPC); // nothing is logged unless it is kept
     EXPECT_RUNTIME_ERROR(std::ignore = log.append(contact), ErrorCode::diskFull, HasSubstr(".OLD"));
-    EXPECT_FALSE(folder.has(name));
     for (const std::string copy : {".OLD", ".OLD2"}) {
         const auto loss = log.append(contact);
         ASSERT_TRUE(loss);
         EXPECT_EQ(loss->vanished, copy == ".OLD");
         EXPECT_EQ(loss->kept, files.path(name) + copy);
         EXPECT_EQ(folder.read(name + copy), held);
-        EXPECT_EQ(folder.read(name), (copy == ".OLD" ? "" : changed) + next);
+        EXPECT_EQ(folder.read(name), (copy == ".OLD" ? "" : changed) + contact + "\r\n");
         folder.write(name, changed);
     }
-    log.reread();
-    folder.write(name, changed + next); // as many contacts as were read, or more, are no loss
-    EXPECT_FALSE(log.append(contact));
 }
 
 // A page that fails keeps neither the others from being told nor the log's own failure.
 TEST_F(OpenLog, TellsEveryWatcherAndThenItsOwnFailureOrTheFirstOfTheirs) {
     open(1);
     int told = 0;
+    std::ignore = log.watch([&told] { told = -1000; }); // whose page is closed
     const auto failing = log.watch([&] {
         ++told;
         throw RuntimeError(ErrorCode::overflow, "a page");
@@ -154,26 +130,18 @@ TEST_F(OpenLog, TellsEveryWatcherAndThenItsOwnFailureOrTheFirstOfTheirs) {
     EXPECT_RUNTIME_ERROR(log.reread(), ErrorCode::overflow, "a page");
     EXPECT_RUNTIME_ERROR(log.open("GONE.CBR"), ErrorCode::fileNotFound, HasSubstr("GONE.CBR"));
     EXPECT_EQ(told, 4);
+    EXPECT_TRUE(log.contacts().empty() && log.worked().empty());
 }
 
 TEST_F(OpenLog, StartingANewOneKeepsWhateverCountsAsAContact) {
     const std::string header = logHeader("SKS", "W1ABC", "1234T");
-    EXPECT_EQ(startNewLog(files, name, header), "");
-    EXPECT_EQ(folder.read(name), logHeaderLines);
-    EXPECT_EQ(startNewLog(files, name, header), ""); // it holds no contact
-    const std::pair<std::string, std::string> logs[] = {{contact, name + ".OLD"s},
-                                                        {"note,QSO: 14050\r\n", name + ".OLD2"s}};
-    for (const auto& [before, copy] : logs) {
-        folder.write(name, before);
-        EXPECT_EQ(startNewLog(files, name, header), folder.string() + "/" + copy);
-        EXPECT_EQ(folder.read(copy), before);
+    for (int i = 0; i < 2; ++i) { // where no file is, and where it holds no contact
+        EXPECT_EQ(startNewLog(files, name, header), "");
+        EXPECT_EQ(folder.read(name), logHeaderLines);
     }
-    EXPECT_THAT(folder.names(), ElementsAre(name, logs[0].second, logs[1].second));
-    EXPECT_RUNTIME_ERROR(logHeader("SKS", "W1ABC", "1234567"), ErrorCode::invalidCall,
-                         HasSubstr("the SKCC number"));
-    EXPECT_RUNTIME_ERROR(startNewLog(files, "   ", header), ErrorCode::pathFileAccess,
-                         "the new file needs a name: type one into the file name box");
-    EXPECT_EQ(defaultLogName("SKSE", {2009, 6, 1, 0, 0, 0}), "SKSE060109.CBR");
+    folder.write(name, "note,QSO: 14050\r\n");
+    EXPECT_EQ(startNewLog(files, name, header), folder.string() + "/" + name + ".OLD");
+    EXPECT_EQ(folder.read(name + ".OLD"s), "note,QSO: 14050\r\n");
 }
 
 } // namespace

@@ -13,7 +13,6 @@ TEST(Controls, TakeTheOperatorsKeysAndClicks) {
     FormBuilder build(&form);
     QLineEdit* box = build.text("Text1", 6);
     QRadioButton* option = build.option("Option1", "SKS");
-    QPushButton* log = build.command("Command1", "&LOG");
     option->setGeometry(0, 40, 400, 20);
     form.show();
     form.activateWindow();
@@ -35,17 +34,6 @@ TEST(Controls, TakeTheOperatorsKeysAndClicks) {
     // Behind its text, too.
     QTest::mouseClick(option, Qt::LeftButton, Qt::NoModifier, QPoint(350, 10));
     EXPECT_TRUE(option->isChecked());
-
-    // An Alt key clicks before the next key arrives.
-    QString logged;
-    QObject::connect(log, &QPushButton::clicked, &form, [&] { logged += box->text(); });
-    QTest::keyClick(box, Qt::Key_L, Qt::AltModifier);
-    box->clear();
-    QTest::keyClicks(box, QStringLiteral("K1"));
-    EXPECT_EQ(box->text().toStdString(), "K1");
-    log->setEnabled(false);
-    QTest::keyClick(box, Qt::Key_L, Qt::AltModifier);
-    EXPECT_EQ(logged.toStdString(), "K1ABCD");
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is typed and clicked while a handler waits arrives afterwards, whole and in order,
-// whether it comes from the system or straight to a control.
+// What is typed and clicked while a handler waits arrives afterwards, whole and in order.
 #include "forms/inputhold.h"
 #include "forms/keyguard.h"
 #include "platform/qt/latin1.h"
@@ -68,13 +67,10 @@ struct Page : QWidget {
     std::string& story;
 };
 
-// Keys come from the system to the window, or a test hands them to a control.
-struct Holding : ::testing::TestWithParam<bool> {
+// Keys come from the system to the window.
+struct Holding : ::testing::Test {
     static void key(QWidget* window, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        if (GetParam())
-            QTest::keyClick(window->windowHandle(), key, modifiers);
-        else
-            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        QTest::keyClick(window->windowHandle(), key, modifiers);
     }
     // Small letters, and "\t", "\n" and "!" for Tab, Enter and Alt+G.
     void type(std::string_view keys) const {
@@ -91,7 +87,7 @@ struct Holding : ::testing::TestWithParam<bool> {
     const std::unique_ptr<Page> page = std::make_unique<Page>(story);
 };
 
-TEST_P(Holding, KeysShortcutsAndClicksComeAfterTheHandlerInOrderAndFollowTheFocus) {
+TEST_F(Holding, KeysShortcutsAndClicksComeAfterTheHandlerInOrderAndFollowTheFocus) {
     page->whileWaiting = [this] {
         type("b\nc!d\te");
         QTest::mouseClick(page->go, Qt::LeftButton);
@@ -109,7 +105,7 @@ TEST_P(Holding, KeysShortcutsAndClicksComeAfterTheHandlerInOrderAndFollowTheFocu
     EXPECT_EQ(page->shown(), "abcd|efg");
 }
 
-TEST_P(Holding, KeptKeysDoNotAnswerMessageBoxesAndTheirOwnKeysDo) {
+TEST_F(Holding, KeptKeysDoNotAnswerMessageBoxesAndTheirOwnKeysDo) {
     for (Step Page::*moment : {&Page::afterWait, &Page::afterHandler}) {
         page->first->clear();
         story.clear();
@@ -162,8 +158,6 @@ TEST(KeyGuard, TakesTheRepeatsOfAHeldEnterAndNoneThatIsTyped) {
         EXPECT_EQ(entered, times) << moments.front();
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(KeysOfTheSystem, Holding, ::testing::Bool());
 
 } // namespace
 } // namespace vantrel::test

@@ -5,7 +5,6 @@
 #include "fakes/radios.h"
 #include "rig/catlink.h"
 #include "rig/radiofamily.h"
-#include "rig/rigs.h"
 #include "support/errors.h"
 
 namespace vantrel::test {
@@ -60,17 +59,9 @@ TEST_P(CatLink, WithoutAFrequencyItIsGivenUpWithItsMessage) {
     EXPECT_GE(port.waited(), 1400) << "slow radios need their time";
     EXPECT_THAT(read(radio, {{radio.query, radio.reply(999)}}),
                 AllOf(StartsWith(text), HasSubstr("sent no frequency at ")));
-    if (radio.name != "TenTecAscii" && radio.name != "YaesuAscii") { // eight digits end below
-        EXPECT_THAT(read(radio, {{radio.query, radio.reply(145'000'000)}}),
-                    AllOf(StartsWith(text), EndsWith("145.000 MHz IS ABOVE WHAT THE LOG HOLDS")));
-    }
     EXPECT_THAT(read(radio, {{radio.query, "\xFE", 1, 1, true}}),
                 AllOf(StartsWith(radio.name == "IcomCiv" ? " AN ERROR HAS OCCURED \n" : text),
                       EndsWith("com1 has been unplugged.")));
-    port = {};
-    port.closesOnWait = 3; // the program
-    EXPECT_EQ(read(), on);
-    EXPECT_EQ(port.waits, 3);
 }
 
 TEST_P(CatLink, IsReadPastWhatStandsInFrontOfItsAnswerAndNotAskedAgain) {
@@ -93,24 +84,15 @@ TEST(Reply, OfTheRightFormIsAFrequencyAndNoOtherIs) {
     const std::string civ = "\xFE\xFE\x6A\xE0\x03\xFD\xFE\xFE\xE0\x6A\x03";
     const std::tuple<const char*, const RadioFamily&, std::string, const char*> rows[] = {
         {"letter among the digits", kenwood, "FA0001402500x;", "none"},
-        {"too many digits", yaesuAscii, "FA014025000;", "none"},
         {"K2 cut short", elecraftK2, "FT0;FA00014025000", "waits"},
         {"K2 without VFO", elecraftK2, "FT2;FA00014025000;FB00021050000;MD3;", "none"},
         {"K2 on VFO B", elecraftK2, "FT1;FA00014025000;FB00007025000;MD3;", "7025"},
         {"Omni of another letter", tenTecBinary, "B\x01\x02\x03\x04\r", "waits"},
-        {"Omni without end", tenTecBinary, "A\x01\x02\x03\x04\x05", "none"},
         // 7,015,693 Hz is 00 6B 0D 0D: ends that are data.
         {"Omni with CRs", tenTecBinary, "A\x00\x6B\x0D\x0D\r"s, "7015"},
-        {"CI-V of another radio", icomCiv,
-         "\xFE\xFE\x6A\xE0\x03\xFD\xFE\xFE\xE0\x58\x03\x00\x50\x02\x14\xFD"s, "waits"},
         {"hex in CI-V digits", icomCiv, civ + "\x00\x5A\x02\x14\xFD"s, "none"},
         // The oldest radios of the list send four pairs only.
         {"CI-V of four pairs", icomCiv, civ + "\x00\x50\x02\x14\xFD"s, "14025"},
-        {"another radio of the bus", icomCiv,
-         civ.substr(0, 6) + "\xFE\xFE\xE0\x58\x03\x00\x00\x02\x14\x00\xFD"s + civ.substr(6) +
-             "\x00\x50\x02\x14\x00"s,
-         "14025"},
-        {"CI-V cut in the pairs", icomCiv, civ + "\xFF\xFD", "none"},
         {"an answer cut off, then a whole one", kenwood, "FA0001FA00014025000;", "14025"},
         {"a bad answer first", kenwood, "FA14025000;FA00014025000;", "none"},
     };
@@ -129,12 +111,10 @@ TEST_F(CatLink, ASilentRadioSaysWhatToLookFor) {
               "ERROR READING FREQUENCY FROM THE CAT PORT\n"
               "                       AN ERROR HAS OCCURED: Invalid procedure call or argument\n"
               "The TS-2000 on com1 did not answer at 57600 baud. Is it on, and at this rate?");
-    EXPECT_THAT(read(radioNamed("IcomCiv")),
-                EndsWith("at 1200 baud and address 6A. Is it on, and set to these?"));
     const Radio& fixed = radioNamed("ElecraftK3");
-    EXPECT_THAT(read(fixed, {{fixed.query, fixed.reply(999)}}),
-                EndsWith("sent no frequency at 38400 baud, its fixed rate. Is it the right rig and "
-                         "rate? BAUD RATE is not used for this rig."));
+    EXPECT_THAT(read(fixed), EndsWith("BAUD RATE is not used for this rig."));
+    EXPECT_THAT(read(fixed, {{fixed.query, fixed.reply(145'000'000)}}),
+                EndsWith("145.000 MHz IS ABOVE WHAT THE LOG HOLDS"));
 }
 
 TEST_F(CatLink, OrionIsAskedAgainUntilItAnswersUnlessItTalksNonsense) {
@@ -174,18 +154,13 @@ TEST_F(CatLink, IcomSaysWhatIsMissingAndAddressesOutsideTheListAreLeftOut) {
     EXPECT_THAT(read(), HasSubstr("No address is chosen for the IC-7800"));
     settings.civAddress = "Hex 6a";
     EXPECT_EQ(icomCiv.query(settings), "\xFE\xFE\xE0\x03\xFD");
-    settings.civAddress = "Hex 04";
-    EXPECT_EQ(icomCiv.query(settings), "\xFE\xFE\x04\xE0\x03\xFD");
 }
 
 TEST_F(CatLink, PortsThatCannotBeOpenedOrAreOthersThanAtStartSayWhy) {
-    for (const auto& [radio, notThere, text] :
-         {std::tuple{"ElecraftK3", true, " Com Port Not Read \nwhy"},
-          {"IcomCiv", true, " Incorrect COM Port \nwhy"},
-          {"IcomCiv", false, " AN ERROR HAS OCCURED \nwhy"}}) {
-        settings = settingsFor(radioNamed(radio));
+    settings = settingsFor(radioNamed("IcomCiv"));
+    for (const bool notThere : {false, true}) {
         port.refusal = SerialPortError("why", notThere);
-        EXPECT_EQ(read(), text);
+        EXPECT_EQ(read(), notThere ? " Incorrect COM Port \nwhy" : " AN ERROR HAS OCCURED \nwhy");
     }
     settings.portDevice = "/dev/ttyUSB0";
     port.isDevice = "/dev/ttyUSB1";
@@ -198,11 +173,6 @@ TEST_F(CatLink, PortsThatCannotBeOpenedOrAreOthersThanAtStartSayWhy) {
     EXPECT_EQ(read(), "AUTO READ OFF");
     EXPECT_EQ(withFrequencyUsed({"text", BoxIcon::critical, "why"}, "14.033").informative,
               "why\n14.033 MHz, AS IN THE BOX, IS USED");
-}
-
-TEST(Rigs, AreReadByTheirNameAndSayWhatTheyNeed) {
-    EXPECT_EQ(familyOf("IC-7850"), &icomCiv) << "taken for an Icom, though not listed";
-    EXPECT_EQ(rigNeeds("FT-1000MP") + rigNeeds("None"), "4800 BAUD, VFO IN USE");
 }
 
 } // namespace

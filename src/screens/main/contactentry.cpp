@@ -186,7 +186,8 @@ ContactEntry::Step ContactEntry::readRadio(ReadCause cause, Answer& answer) {
     if (result.outcome == ReadOutcome::read)
         return tune(result.frequency, answer);
     if (result.outcome == ReadOutcome::noReader && cause == ReadCause::manual)
-        m_draft.happened = {{rigNeeds(m_shared.settings.rig), HintTone::caution}};
+        m_draft.happened =
+            Draft::Happened{Hint{rigNeeds(m_shared.settings.rig), HintTone::caution}};
     if (result.outcome != ReadOutcome::failed)
         return Step::on;
     Message message = cause == ReadCause::log

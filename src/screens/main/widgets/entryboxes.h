@@ -26,6 +26,9 @@ bool isTyping(const QKeyEvent& key);
 struct EntryBoxes {
     explicit EntryBoxes(QWidget* form);
 
+    EntryBoxes(const EntryBoxes&) = delete;
+    EntryBoxes& operator=(const EntryBoxes&) = delete;
+
     Entry entry() const;
     // The one place that shows it: what differs; the cursor stays in what does not.
     void show(const EntryView& view) const;

@@ -82,7 +82,7 @@ protected:
     // none.
     template <typename Sender, typename Signal, typename Handler>
     void connectHandler(Sender* sender, Signal signal, Handler handler) {
-        connect(sender, signal, this, [this, handler](const auto&... args) {
+        connect(sender, signal, this, [this, handler](const auto&... args) -> void {
             runHandler([&] {
                 if constexpr (std::is_invocable_v<const Handler&, decltype(args)...>)
                     handler(args...);

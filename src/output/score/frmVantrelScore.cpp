@@ -140,6 +140,7 @@ void frmVantrelScore::showBands() {
     m_bands->setVisible(!worked.empty());
     m_bands->setHeadings({{"BAND"}, {"QSOs"}, {m_score.european ? "NEW DXCC" : "NEW S/P/C"}});
     std::vector<std::vector<ReadTable::Cell>> rows;
+    rows.reserve(worked.size());
     for (const BandScore& band : worked)
         rows.push_back({{std::string(band.band)},
                         {std::to_string(band.qsos)},

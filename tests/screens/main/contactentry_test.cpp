@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Games of random events on the contact being entered, played beside a plain model of it: after
-// each event both show the same, and have logged the same. VANTREL_SEED=n plays that one game.
+// each event both show the same, and have logged the same. VANTREL_GAME=n plays that one alone.
 #include "output/score/score.h"
 #include "rig/rigs.h"
 #include "screens/main/contactentry.h"
@@ -26,7 +26,7 @@ const Lines typedCalls{"K1ABC", "K1AB", "K1ABCD", "K1NEW", "K9SKC", "KA1NN", "W5
 
 class Game : FakeMachine {
 public:
-    explicit Game(unsigned seed) : m_random(seed) {
+    explicit Game(unsigned number) : m_random(number) {
         std::string records;
         for (const auto& [call, fills] : members)
             records += padded(call, 10) + padded(fills[2], 10) + padded(fills[0], 10) +
@@ -475,15 +475,15 @@ private:
 };
 
 TEST(ContactEntry, ShowsAndLogsWhatAPlainModelOfItDoes) {
-    const char* chosen = std::getenv("VANTREL_SEED");
+    const char* chosen = std::getenv("VANTREL_GAME");
     const bool isLong = std::getenv("VANTREL_LONG") != nullptr;
     const unsigned first = chosen != nullptr ? static_cast<unsigned>(std::stoul(chosen))
                            : isLong          ? std::random_device()()
                                              : 1;
     const unsigned games = chosen != nullptr ? 1 : isLong ? 2000 : 60;
-    for (unsigned seed = first; seed != first + games && !HasFailure(); ++seed) {
-        SCOPED_TRACE("VANTREL_SEED=" + std::to_string(seed));
-        Game(seed).play(80);
+    for (unsigned game = first; game != first + games && !HasFailure(); ++game) {
+        SCOPED_TRACE("VANTREL_GAME=" + std::to_string(game));
+        Game(game).play(80);
     }
 }
 

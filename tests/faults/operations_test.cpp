@@ -3,11 +3,13 @@
 // the program stops before each change. Nothing that was told as done is lost, every file is the
 // old or the new one, what failed says so, and the next try or the next start goes on.
 #include "fakes/failingcalls.h"
+#include "fakes/fakeclock.h"
 #include "log/log.h"
 #include "log/logfile.h"
 #include "log/qsoline.h"
 #include "logedit/logedit.h"
 #include "output/adif/adif.h"
+#include "output/adif/strictadif.h"
 #include "output/files/backup.h"
 #include "platform/files.h"
 #include "roster/rosterfiles.h"
@@ -31,11 +33,12 @@ const std::string logName = "SKS061611.CBR";
 
 // The program as it stands when an operation begins: started, with the log open.
 struct World {
-    World(const TempFolder& folder, SystemCalls& calls, bool withChange = false)
+    World(const TempFolder& folder, SystemCalls& calls, bool withChange = false,
+          const std::string& name = logName)
         : files(folder.string(), calls) {
         files.recover();
         settings = loadSettings(files);
-        log.open(logName);
+        log.open(name);
         if (withChange)
             correct();
         log.reread();
@@ -74,12 +77,13 @@ const struct Operation {
     {"begin a log", [](World& world) { world.files.appendLine("BEGUN.CBR", "QSO"); }},
     {"correct", [](World& world) { world.correct(); }},
     {"undo", [](World& world) { world.edit.undo(); }},
-    {"start a new log", [](World& world) { startNewLog(world.files, logName, logHeaderLines); }},
+    {"start a new log",
+     [](World& world) { startNewLog(world.files, world.log.name(), logHeaderLines); }},
     {"save the settings", [](World& world) { world.saveBonusStation(); }},
     {"import", [](World& world) { world.import(); }},
     {"sort", [](World& world) { sortRosterFiles(world.files); }},
     {"ADIF", [](World& world) { exportAdif(world.files, world.log); }},
-    {"back up", [](World& world) { backUpLog(world.files, logName, "BACKUP"); }},
+    {"back up", [](World& world) { backUpLog(world.files, world.log.name(), "BACKUP"); }},
 };
 
 // The worked stations follow whatever was done.
@@ -230,8 +234,11 @@ public:
         const TempFolder folder;
         fill(folder);
         const Snapshot before = snapshotOf(folder);
+        folder.write("PRECIOUS", "not ours");
+        folder.write(logName + ".BAK", "of another");
         fs::rename(folder.path() / logName, folder.path() / "REAL");
         fs::create_symlink("REAL", folder.path() / logName);
+        fs::create_symlink("PRECIOUS", folder.path() / "SKSDB1.TXT.BAK");
         SystemCalls calls;
         for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
             if (!entry.is_directory())
@@ -239,6 +246,7 @@ public:
             EXPECT_EQ(::chown(entry.path().c_str(), entry.is_directory() ? nobody : owner, 0), 0);
         }
         EXPECT_EQ(::chown(folder.string().c_str(), nobody, 0), 0);
+        fs::permissions(folder.path() / (logName + ".BAK"), fs::perms(0444));
         const std::shared_ptr<void> afterwards(nullptr,
                                                [](void*) { EXPECT_EQ(::setresuid(0, 0, 0), 0); });
         EXPECT_EQ(::setresuid(nobody, nobody, 0), 0);
@@ -251,6 +259,7 @@ public:
             EXPECT_TRUE(kept == permissions || before.count(original) == 0) << name;
         }
         EXPECT_TRUE(fs::is_symlink(folder.path() / logName));
+        EXPECT_EQ(folder.read("PRECIOUS"), "not ours"); // a link where a copy goes is replaced
     }
 
 private:
@@ -321,6 +330,24 @@ TEST(Operation, StoppedBeforeAnyChangeAndBeforeOneOfTheNextStart) {
         while (trial.stops(n) && !HasFailure())
             ++n;
         EXPECT_GT(n, 2);
+    }
+}
+
+// A name that START takes is one with which everything works.
+TEST(Operation, WithTheLongestNameThatALogMayHave) {
+    const std::string name = std::string(231, 'L') + ".CBR";
+    for (const Operation& operation : operations) {
+        SCOPED_TRACE(operation.name);
+        const TempFolder folder;
+        FailingCalls calls;
+        fill(folder);
+        fs::rename(folder.path() / logName, folder.path() / name);
+        World world(folder, calls, operation.name == "undo", name);
+        EXPECT_NO_THROW(carryOut(operation, world));
+        exportStrictAdif(world.files, FakeClock(), "0", world.log);
+        requireRoomForNames(world.files, name);
+        EXPECT_RUNTIME_ERROR(requireRoomForNames(world.files, 'L' + name),
+                             ErrorCode::pathFileAccess, HasSubstr("too long by 1"));
     }
 }
 

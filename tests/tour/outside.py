@@ -144,10 +144,15 @@ def type_blindly(folder):
                                             for call, when in zip(calls, whens)]))
 
 
-def main():
+def can_run():
     missing = [tool for tool in NEEDED if shutil.which(tool) is None]
     if missing:
-        print("outside: skipped, not installed:", ", ".join(missing))
+        print("skipped, not installed:", ", ".join(missing))
+    return not missing
+
+
+def main():
+    if not can_run():
         return 77
     with Screen("1024x600"), tempfile.TemporaryDirectory(prefix="vantrel-outside-") as name:
         with running(sys.argv[1], pathlib.Path(name)) as program:

@@ -43,6 +43,14 @@ QColor weaker(const QPalette& palette, int percentOfGround) {
                                    : mixed(text, palette.color(QPalette::Window), percentOfGround);
 }
 
+QColor alarmColour(const QPalette& palette) {
+    return isHighContrast(palette) ? palette.color(QPalette::Highlight) : QColor(0xC0, 0, 0);
+}
+
+QColor alarmTextColour(const QPalette& palette) {
+    return isHighContrast(palette) ? palette.color(QPalette::HighlightedText) : QColor(Qt::white);
+}
+
 // Keeps a control's own colours as its palette changes.
 class ColourKeeper : public QObject {
 public:
@@ -60,7 +68,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::ApplicationPaletteChange)
+        if (event->type() == QEvent::PaletteChange)
             apply();
         return QObject::eventFilter(watched, event);
     }
@@ -152,13 +160,8 @@ QColor lookedUpColour(const QPalette& palette) {
     return mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), tint);
 }
 
-QPalette alarmPalette(QPalette palette) {
-    const bool own = isHighContrast(palette);
-    palette.setColor(QPalette::WindowText,
-                     own ? palette.color(QPalette::HighlightedText) : QColor(Qt::white));
-    palette.setColor(QPalette::Window,
-                     own ? palette.color(QPalette::Highlight) : QColor(0xC0, 0, 0));
-    return palette;
+QColor noColour(const QPalette&) {
+    return Qt::transparent;
 }
 
 void setColour(QWidget* control, QPalette::ColorRole role, Colour colour) {
@@ -169,11 +172,9 @@ void setColour(QWidget* control, QPalette::ColorRole role, Colour colour) {
     keeper->set(role, colour);
 }
 
-void setTextColour(QWidget* label, const QColor& colour) {
-    QPalette palette;
-    if (colour.isValid())
-        palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
+void setAlarmColours(QWidget* panel) {
+    setColour(panel, QPalette::WindowText, alarmTextColour);
+    setColour(panel, QPalette::Window, alarmColour);
 }
 
 void setLookedUp(QWidget* box, bool lookedUp) {

@@ -33,8 +33,8 @@ QColor frameColour(const QPalette& palette);
 QColor faintColour(const QPalette& palette, const QColor& text, const QColor& ground);
 // The ground of a box whose text was looked up.
 QColor lookedUpColour(const QPalette& palette);
-// For a panel across which one word of alarm is written: ground and text.
-QPalette alarmPalette(QPalette palette);
+// No ground of its own: that of what it lies on.
+QColor noColour(const QPalette& palette);
 
 // A colour in the palette of the moment: one of those above.
 using Colour = QColor (*)(const QPalette&);
@@ -43,7 +43,8 @@ void setColour(QWidget* control, QPalette::ColorRole role, Colour colour);
 inline void setTextColour(QWidget* label, Colour colour) {
     setColour(label, QPalette::WindowText, colour);
 }
-void setTextColour(QWidget* label, const QColor& colour);
+// The control is a panel across which one word of alarm is written.
+void setAlarmColours(QWidget* panel);
 // A strip of the window in that tone, and a text on it.
 QColor tinted(const QPalette& palette, const QColor& tone);
 template <Colour tone>

@@ -124,9 +124,7 @@ QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
     box->setFocusPolicy(Qt::NoFocus);
     box->setFrame(false);
     box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QPalette flat(box->palette());
-    flat.setColor(QPalette::Base, Qt::transparent);
-    box->setPalette(flat);
+    setColour(box, QPalette::Base, noColour);
     return box;
 }
 

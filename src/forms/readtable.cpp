@@ -9,13 +9,26 @@ namespace vantrel {
 
 namespace {
 
+// Its colour is asked for when it is painted: the palette may have changed by then.
+class ColouredItem : public QTableWidgetItem {
+public:
+    ColouredItem(const QString& text, Colour colour) : QTableWidgetItem(text), m_colour(colour) {}
+
+    QVariant data(int role) const override {
+        if (role == Qt::ForegroundRole && m_colour != nullptr)
+            return QBrush(m_colour(tableWidget()->palette()));
+        return QTableWidgetItem::data(role);
+    }
+
+private:
+    Colour m_colour;
+};
+
 QTableWidgetItem* itemOf(const ReadTable::Cell& cell) {
-    auto* item = new QTableWidgetItem(toQt(cell.text));
+    auto* item = new ColouredItem(toQt(cell.text), cell.colour);
     item->setTextAlignment(cell.alignment | Qt::AlignVCenter);
     if (!cell.words.empty())
         item->setData(Qt::AccessibleTextRole, toQt(cell.words));
-    if (cell.colour.isValid())
-        item->setForeground(cell.colour);
     if (cell.bold) {
         QFont font = item->font();
         font.setBold(true);
@@ -32,9 +45,7 @@ ReadTable::ReadTable(QWidget* parent) : QTableWidget(parent) {
     setFocusPolicy(Qt::NoFocus);
     setShowGrid(false);
     setFrameShape(QFrame::NoFrame);
-    QPalette flat(palette());
-    flat.setColor(QPalette::Base, Qt::transparent);
-    setPalette(flat);
+    setColour(this, QPalette::Base, noColour);
     horizontalHeader()->viewport()->setAutoFillBackground(false);
     verticalHeader()->hide();
     // The least height first: it bounds the other.

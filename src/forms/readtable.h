@@ -2,6 +2,8 @@
 // A table that is read and never edited: flat on its ground, without frames or row numbers.
 #pragma once
 
+#include "forms/colours.h"
+
 #include <QTableWidget>
 
 #include <string>
@@ -16,7 +18,7 @@ public:
         std::string words{}; // for a screen reader, where it should not read the text
         Qt::Alignment alignment = Qt::AlignRight;
         bool bold = false;
-        QColor colour{}; // invalid: the palette's
+        Colour colour = nullptr; // of the text; nullptr: the palette's
     };
 
     explicit ReadTable(QWidget* parent);

@@ -20,7 +20,7 @@ frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     setWindowModality(Qt::ApplicationModal);
     FormBuilder build(this);
     QLabel* verdict = build.heading("Label1", "DUPE", dupeEnlargement);
-    verdict->setPalette(alarmPalette(palette()));
+    setAlarmColours(verdict);
     verdict->setAutoFillBackground(true);
     QLabel* reason =
         build.label("Label2", "THIS SAME CALL AND SKCC# IS ALREADY IN THE LOG ON THIS BAND");

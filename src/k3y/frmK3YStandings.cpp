@@ -29,6 +29,7 @@ constexpr int cellColumns = 5;
 QLineEdit* makeCell(FormBuilder& build, const std::string& name) {
     QLineEdit* box = build.text(name.c_str());
     box->setReadOnly(true);
+    box->setFrame(false);
     box->setFocusPolicy(Qt::NoFocus);
     box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return box;
@@ -47,7 +48,10 @@ void showCell(QLineEdit* box, const StandingsCell& cell, std::string_view row,
     const std::string who = cell.filled() ? std::string(trim(cell.text)) : "not worked";
     box->setAccessibleName(toQt(std::string(row) + ' ' + std::string(column) + ' ' + who));
     box->setCursorPosition(0);
-    setColumns(box, std::max(cellColumns, length(trimRight(cell.text))));
+    const QFontMetrics metrics(box->font());
+    box->setMinimumWidth(std::max(widthOfColumns(metrics, cellColumns),
+                                  metrics.horizontalAdvance(toQt(trimRight(cell.text)))) +
+                         widthOfColumns(metrics, 2)); // for its margins
 }
 
 void showCount(QLabel* label, Integer16 count) {

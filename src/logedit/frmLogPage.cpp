@@ -277,7 +277,7 @@ void frmLogPage::setNotes(std::vector<std::string> notes) {
     for (const std::string& note : notes)
         text += (text.empty() ? "" : "\n") + note;
     announce(m_noteLabel, text);
-    setTextColour(m_noteLabel, cautionColour(palette()));
+    setTextColour(m_noteLabel, cautionColour);
 }
 
 std::string frmLogPage::placeText(int place, int count) const {

@@ -101,7 +101,7 @@ QLayout* frmMemberImport::resultPart() {
     m_linesRead = build.label("Label7");
     m_changed = build.label(m_page.changedLabel);
     m_skipped = build.label("Label5");
-    setTextColour(m_skipped, cautionColour(palette()));
+    setTextColour(m_skipped, cautionColour);
     return column({m_added, row({m_linesRead, gap, m_changed, Item::room()}), wrapped(m_skipped)});
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Nothing is cut: every page as small as it lets itself be made, in the fonts that desktops have
 // and with the longest texts it can hold, and every message box.
+#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/form.h"
 #include "forms/visiblestyle.h"
@@ -53,9 +54,10 @@ bool isWhole(QLabel* label) {
 }
 
 bool isWhole(const QLineEdit* box) {
-    if (box->maxLength() > 32) // of any length: it is scrolled
-        return true;
-    const QString longest(box->maxLength(), QLatin1Char('N'));
+    if (box->maxLength() > 32 && (!box->isReadOnly() || !box->toolTip().isEmpty()))
+        return true; // of any length: it is scrolled
+    const QString longest =
+        box->isReadOnly() ? box->text() : QString(box->maxLength(), QLatin1Char('N'));
     return box->fontMetrics().horizontalAdvance(longest) <= box->width() - 4;
 }
 
@@ -115,7 +117,7 @@ void Looks::openAll() {
     for (const Screen screen :
          {Screen::correct, Screen::deletion, Screen::editor, Screen::score, Screen::bonus,
           Screen::files, Screen::backup, Screen::updateList, Screen::readData, Screen::memberUpdate,
-          Screen::callArea, Screen::standings, Screen::k3yBox}) {
+          Screen::callArea, Screen::standings, Screen::standings2, Screen::k3yBox, Screen::dupe}) {
         form("frmVantrelMain")->activateWindow();
         screens.open(screen);
     }
@@ -162,7 +164,7 @@ const struct {
     {"frmVantrelScore", "Label1", longPath},
     {"frmVantrelScore", "Label20", "12000 x 150 + 32000"},
     {"frmVantrelList", "Label1", longPath + "   12000 LINES"},
-    {"frmVantrelFiles", "Option6Result", "LONG-NAMED-LOG-OF-THE-YEAR-2026.ADI 2026-11-22 2359"},
+    {"frmVantrelFiles", "Option6Result", "2026-11-22 2359 LONG-NAMED-LOG-OF-THE-YEAR-2026.ADI"},
     {"frmReadSKCCDATA", "Label3", "DONE. . . . 32000 MBRS ADDED. Click EXIT"},
 };
 
@@ -193,6 +195,22 @@ TEST_P(Looks, CutNothingOnAnyPageAsSmallAsItGets) {
         RecordProperty(name,
                        std::to_string(page->width()) + " x " + std::to_string(page->height()));
     }
+}
+
+// All that is read, in whatever colour it was when its page was opened.
+TEST_P(Looks, FollowAPaletteThatChanges) {
+    openAll();
+    work("frmVantrelDelete", "Text1=ww0www! Command2");
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
+    settle();
+    for (QWidget* page : QApplication::topLevelWidgets())
+        for (const QLabel* label : page->findChildren<QLabel*>())
+            EXPECT_GE(contrastOf(label->palette().color(QPalette::Active, QPalette::WindowText),
+                                 label->palette().color(QPalette::Active, QPalette::Window)),
+                      4.5)
+                << fromQt(page->objectName()) << ' ' << fromQt(label->objectName());
+    QApplication::setPalette(light);
 }
 
 TEST_P(Looks, CutNothingInAMessageBoxAndBreakAPathAtItsSlashesAlone) {

@@ -30,8 +30,9 @@ std::string writtenText(const Files& files, std::string_view name, std::string_v
         return std::string(noSuchFileYet);
     const auto day = chrono::floor<chrono::days>(*written);
     const std::string date = dateText(day);
-    return std::string(lastPart(name)) + ' ' + (date == utcToday ? "" : date + ' ') +
-           timeText(chrono::floor<chrono::minutes>(*written - day));
+    return (date == utcToday ? "TODAY" : date) + ' ' +
+           timeText(chrono::floor<chrono::minutes>(*written - day)) + ' ' +
+           std::string(lastPart(name));
 }
 
 std::string logText(std::string_view name, int contacts) {

@@ -17,8 +17,8 @@ class Files;
 // Files::read.
 std::string membersText(const Files& files, std::size_t number);
 std::string allMembersText(const Files& files);
-// "SKS112126.ADI 1423": the last part of the name, and when the file was written, UTC; with the
-// date when that was on another day than `utcToday` (YYYY-MM-DD). Or that there is none.
+// "TODAY 1423 SKS112126.ADI": when the file was written, UTC, and the last part of its name; with
+// the date when that was on another day than `utcToday` (YYYY-MM-DD). Or that there is none.
 std::string writtenText(const Files& files, std::string_view name, std::string_view utcToday);
 // "SKS112126.CBR 28 QSOS".
 std::string logText(std::string_view name, int contacts);

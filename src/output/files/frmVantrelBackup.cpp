@@ -23,7 +23,7 @@ frmVantrelBackup::frmVantrelBackup(const FormContext& context)
     FormBuilder build(this);
     const auto caption = [&](const char* name, const char* text) {
         QLabel* label = build.label(name, text);
-        setTextColour(label, dimmedColour(palette()));
+        setTextColour(label, dimmedColour);
         return label;
     };
     m_folderBox = build.text("Text1");

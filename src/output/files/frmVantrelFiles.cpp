@@ -16,12 +16,12 @@
 #include "shared/utctime.h"
 
 #include <QGridLayout>
-#include <QScreen>
 
 namespace vantrel {
 
 namespace {
 constexpr int widthInCharacters = 135; // of the page, with each result beside its job
+constexpr int resultCharacters = 20;   // of a result, at least
 } // namespace
 
 frmVantrelFiles::frmVantrelFiles(const FormContext& context)
@@ -42,6 +42,7 @@ frmVantrelFiles::frmVantrelFiles(const FormContext& context)
           m_adifContacts = build.alert("Label6"),
           {build.command("Command1", "&MAIN PAGE", "BACK TO THE MAIN PAGE", [this] { close(); }), 0,
            Qt::AlignRight}});
+    resize(fontMetrics().averageCharWidth() * widthInCharacters, sizeHint().height());
 }
 
 // All jobs, in the order in which they stand on the screen and Tab passes them.
@@ -107,15 +108,11 @@ void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
     if (!job.result)
         return;
     QLabel* result = build.label((job.name + std::string("Result")).c_str());
-    setTextColour(result, dimmedColour(palette()));
-    const bool isWide = fontMetrics().averageCharWidth() * widthInCharacters <=
-                        screen()->availableGeometry().width();
-    if (isWide) {
-        column->addWidget(result, row, 1);
-    } else { // a large font on a small screen: below its job
-        column->addWidget(result, row + 1, 0, Qt::AlignRight);
-        column->setVerticalSpacing(0);
-    }
+    setTextColour(result, dimmedColour);
+    // As wide as the page lets it be, whatever its text: the page does not change while it is used.
+    result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    result->setMinimumWidth(fontMetrics().averageCharWidth() * resultCharacters);
+    column->addWidget(result, row, 1);
     m_results.push_back({result, job.result});
 }
 
@@ -171,7 +168,7 @@ void frmVantrelFiles::exportLogStrictly() {
                                                  shared().settings.gmtOffset, shared().log);
     showAdifFile(file.path);
     announce(m_adifContacts, contactsWritten(file));
-    setTextColour(m_adifContacts, file.leftOut == 0 ? QColor() : cautionColour(palette()));
+    setTextColour(m_adifContacts, file.leftOut == 0 ? nullptr : cautionColour);
 }
 
 // path: empty when no file was made.

@@ -64,7 +64,7 @@ QFormLayout* frmVantrelScore::figures() {
         QLineEdit* box = build.output(name);
         keepNarrow(box);
         FormBuilder::tie(caption, box);
-        setTextColour(caption, dimmedColour(palette()));
+        setTextColour(caption, dimmedColour);
         form->addRow(caption, box);
         m_figures.emplace_back(box, figure);
     };

@@ -21,7 +21,7 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     // A tool tip is the one kind of window that takes no keyboard on every platform.
     setWindowFlags(Qt::ToolTip);
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setPalette(alarmPalette(palette()));
+    setAlarmColours(this);
 
     FormBuilder build(this);
     m_label = build.alert("Label1");

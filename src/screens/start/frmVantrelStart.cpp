@@ -40,7 +40,7 @@ constexpr std::array<Contest, 4> contests{{
 void showNote(QLabel* label, const StatusNote& note) {
     put(label, note.text);
     label->setToolTip(toQt(note.tip));
-    setTextColour(label, note.caution ? cautionColour(label->parentWidget()->palette()) : QColor());
+    setTextColour(label, note.caution ? cautionColour : nullptr);
 }
 
 // As wide as what it takes, in capitals.

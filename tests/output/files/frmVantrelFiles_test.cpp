@@ -59,7 +59,7 @@ TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
     EXPECT_EQ(folder.read("SKS-STRICT.ADI"),
               strictAdifText(contactsIn(contacts), "20110617 031230"));
     EXPECT_THAT(shown(page, "Option6Result"), // not on the day of the clock: with its date
-                ::testing::MatchesRegex("SKS.ADI 20..-..-.. [0-2].[0-5]."));
+                ::testing::MatchesRegex("20..-..-.. [0-2].[0-5]. SKS.ADI"));
     folder.write("SKS.ADI", log);
     module.log.open("sks.adi"); // a log that is called like its ADIF file
     clickFor("Run-time error 75: Path/File access error", page, "Option6");

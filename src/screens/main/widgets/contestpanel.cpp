@@ -101,7 +101,7 @@ void ContestPanel::showBands(const BandTable& table) {
     for (const BandRow& band : table.rows) {
         const std::string count = std::to_string(band.contacts);
         const std::string text(onBandText(band.onBand));
-        const QColor colour = band.onBand == CallOnBand::dupe ? warningColour(palette()) : QColor();
+        const Colour colour = band.onBand == CallOnBand::dupe ? warningColour : nullptr;
         rows.push_back({{band.name, band.name, Qt::AlignLeft, band.present},
                         {band.contacts == 0 ? "-" : count, band.name + ' ' + count + " QSOs",
                          Qt::AlignRight, band.present},

@@ -5,7 +5,7 @@
 #include "fakes/qt/ptyradio.h"
 #include "fakes/radios.h"
 #include "platform/files.h"
-#include "platform/qt/qtdevices.h"
+#include "platform/qt/posix/qtserialport.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
 #include "support/ratiotable.h"

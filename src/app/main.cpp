@@ -6,6 +6,7 @@
 #include "forms/visiblestyle.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
+#include "platform/machine.h"
 #include "platform/platform.h"
 #include "platform/programfolder.h"
 #include "platform/qt/qtdevices.h"
@@ -42,11 +43,11 @@ int runProgram(QtMessages& messages) {
 
     const SystemClock clock;
     QtEventLoop eventLoop;
-    QtSerialPort serialPort(files);
-    QtSound sound;
+    const std::unique_ptr<SerialPort> serialPort = makeSerialPort(files);
+    const std::unique_ptr<Sound> sound = makeSound();
     QtPrinter printer;
     QtLauncher launcher;
-    Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
+    Platform platform{files, clock, messages, eventLoop, *serialPort, *sound, printer, launcher};
 
     Module1 shared(files);
     shared.settings = loadSettings(files);

@@ -3,14 +3,13 @@
 
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
-#include "platform/systemcalls.h"
+#include "platform/machine.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <filesystem>
-#include <sys/stat.h>
+#include <optional>
 #include <system_error>
-#include <unistd.h>
 #include <utility>
 
 namespace vantrel {
@@ -19,7 +18,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int closed = -1;
 constexpr std::size_t smallestRead = 4096;
 
 std::string scratchPath(const std::string& target, std::string_view suffix) {
@@ -29,15 +27,14 @@ std::string scratchPath(const std::string& target, std::string_view suffix) {
 
 ErrorCode codeFor(int error, const std::string& path) {
     std::error_code ignored;
+    if (isDiskFull(error))
+        return ErrorCode::diskFull;
     switch (error) {
     case ENOENT:
         return fs::exists(folderOf(path), ignored) ? ErrorCode::fileNotFound
                                                    : ErrorCode::pathNotFound;
     case ENOTDIR:
         return ErrorCode::pathNotFound;
-    case ENOSPC:
-    case EDQUOT:
-        return ErrorCode::diskFull;
     case EACCES:
     case EPERM:
         return ErrorCode::permissionDenied;
@@ -46,41 +43,25 @@ ErrorCode codeFor(int error, const std::string& path) {
     }
 }
 
-bool belongsToAnother(const std::string& path) {
-    struct stat status {};
-    return ::stat(path.c_str(), &status) == 0 && status.st_uid != ::getuid();
-}
-
 // Nobody else reads a file that stands in for another before it has that one's group.
 unsigned modeAtFirst(const std::string& like) {
     constexpr unsigned ownerOnly = 0600;
     return exists(like) ? ownerOnly : DiskFile::newMode;
 }
 
-// Not every system and file system lets it. Without the group, its members may do no more than
-// everybody.
-void takeOwnerAndPermissions(int file, const std::string& like) {
-    struct stat status {};
-    if (::stat(like.c_str(), &status) != 0)
-        return;
-    const bool grouped = ::fchown(file, status.st_uid, status.st_gid) == 0 ||
-                         ::fchown(file, static_cast<uid_t>(-1), status.st_gid) == 0;
-    const unsigned mode = status.st_mode & 0777;
-    ::fchmod(file, grouped ? mode : (mode & 0707) | ((mode & 07) << 3));
-}
-
 // Throws unless `path` is a regular file or nothing at all.
 void requireRegular(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
+    if (fs::exists(status) && !fs::is_regular_file(status))
         throw RuntimeError(ErrorCode::pathFileAccess, shownText(path) + " is not a file");
 }
 
 } // namespace
 
-DiskFile::DiskFile(SystemCalls& calls, const std::string& path, int flags, std::string named,
+DiskFile::DiskFile(SystemCalls& calls, const std::string& path, OpenFor purpose, std::string named,
                    unsigned mode)
-    : m_calls(calls), m_file(calls.open(path, flags | O_CLOEXEC, mode)), m_named(std::move(named)) {
+    : m_calls(calls), m_file(calls.open(path, purpose, mode)), m_named(std::move(named)) {
     if (m_file < 0)
         throwSystemError(errno, m_named);
 }
@@ -90,11 +71,11 @@ DiskFile::DiskFile(SystemCalls& calls, int file, std::string named)
 
 DiskFile::DiskFile(DiskFile&& other) noexcept
     : m_calls(other.m_calls),
-      m_file(std::exchange(other.m_file, closed)),
+      m_file(std::exchange(other.m_file, -1)),
       m_named(std::move(other.m_named)) {}
 
 DiskFile::~DiskFile() {
-    if (m_file != closed)
+    if (m_file >= 0)
         m_calls.close(m_file);
 }
 
@@ -134,17 +115,9 @@ bool DiskFile::lock() const {
 
 void throwSystemError(int error, const std::string& path) {
     const bool forbidden = error == EACCES || error == EPERM;
-    const bool ownFolder = ::access(folderOf(path).c_str(), W_OK) == 0;
-    throw RuntimeError(codeFor(error, path), shownText(path) + ": " +
-                                                 shownText(std::generic_category().message(error)) +
+    const bool ownFolder = mayWrite(folderOf(path));
+    throw RuntimeError(codeFor(error, path), shownText(path) + ": " + shownText(errorText(error)) +
                                                  (forbidden && ownFolder ? chownHint(path) : ""));
-}
-
-std::string chownHint(const std::string& path) {
-    if (!belongsToAnother(path))
-        return {};
-    return ". It belongs to another user; this command makes it yours: sudo chown -R \"$USER\" '" +
-           shownText(path) + "'";
 }
 
 bool exists(const std::string& path) {
@@ -171,17 +144,12 @@ std::string replaceablePath(const std::string& folder, std::string_view name) {
     return path;
 }
 
-bool mayWrite(const std::string& path) {
-    return !exists(path) || ::access(path.c_str(), W_OK) == 0;
-}
-
 void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
     requireRegular(path);
-    const DiskFile file(calls, path, O_RDONLY, path);
-    struct stat status {};
-    const bool known = ::fstat(file, &status) == 0 && status.st_size > 0;
+    const DiskFile file(calls, path, OpenFor::reading, path);
     // One more than its size, so that the end shows without another round.
-    bytes.resize(known ? static_cast<std::size_t>(status.st_size) + 1 : smallestRead);
+    const std::optional<FileFacts> facts = factsOf(path);
+    bytes.resize(std::max<std::size_t>(facts ? facts->size + 1 : 0, smallestRead));
     std::size_t filled = 0;
     for (;;) {
         if (filled == bytes.size())
@@ -200,7 +168,7 @@ void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
 
 DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& like,
                     const std::string& named, std::string_view bytes) {
-    DiskFile file(calls, path, O_WRONLY | O_CREAT | O_EXCL, named, modeAtFirst(like));
+    DiskFile file(calls, path, OpenFor::creating, named, modeAtFirst(like));
     try {
         takeOwnerAndPermissions(file, like);
         file.write(bytes);
@@ -217,8 +185,7 @@ DiskFile createBeside(SystemCalls& calls, const std::string& target, std::string
 }
 
 void writeBeside(SystemCalls& calls, const std::string& target, std::string_view bytes) {
-    const int unnamed =
-        calls.open(folderOf(target), O_TMPFILE | O_WRONLY | O_CLOEXEC, modeAtFirst(target));
+    const int unnamed = calls.open(folderOf(target), OpenFor::unnamed, modeAtFirst(target));
     if (unnamed >= 0) {
         const DiskFile file(calls, unnamed, target);
         takeOwnerAndPermissions(file, target);
@@ -227,7 +194,7 @@ void writeBeside(SystemCalls& calls, const std::string& target, std::string_view
         calls.remove(newPath(target));
         if (calls.name(file, newPath(target)) == 0)
             return;
-        if (errno == ENOSPC || errno == EDQUOT)
+        if (isDiskFull(errno))
             throwSystemError(errno, target);
     }
     createBeside(calls, target, bytes).sync();
@@ -239,7 +206,7 @@ void moveInPlace(SystemCalls& calls, const std::string& target) {
 }
 
 DiskFile openFolderOf(SystemCalls& calls, const std::string& path) {
-    return {calls, folderOf(path), O_RDONLY | O_DIRECTORY, path};
+    return {calls, folderOf(path), OpenFor::folder, path};
 }
 
 std::string newPath(const std::string& target) {

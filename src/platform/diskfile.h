@@ -4,12 +4,12 @@
 // with the path of the file that he knows.
 #pragma once
 
+#include "platform/systemcalls.h"
+
 #include <string>
 #include <string_view>
 
 namespace vantrel {
-
-class SystemCalls;
 
 // What the new content and the old file are called while a file is being replaced.
 inline constexpr std::string_view newSuffix = ".vantrel-new";
@@ -20,9 +20,9 @@ public:
     static constexpr unsigned newMode = 0666; // less the operator's umask
 
     // named: the file that the operator knows, for the error.
-    DiskFile(SystemCalls& calls, const std::string& path, int flags, std::string named,
+    DiskFile(SystemCalls& calls, const std::string& path, OpenFor purpose, std::string named,
              unsigned mode = newMode);
-    // One that is open already.
+    // One that is open already; closed when below 0.
     DiskFile(SystemCalls& calls, int file, std::string named);
     DiskFile(DiskFile&& other) noexcept;
     ~DiskFile();
@@ -42,10 +42,7 @@ private:
     std::string m_named;
 };
 
-// What somebody else made in a folder of the operator's, as a start with sudo does, comes with the
-// command that makes it his.
 [[noreturn]] void throwSystemError(int error, const std::string& path);
-std::string chownHint(const std::string& path);
 
 // True for any entry of that path, a link that leads nowhere too.
 bool exists(const std::string& path);
@@ -55,8 +52,6 @@ std::string targetPath(const std::string& folder, std::string_view name);
 // The same, checked to be no file that the operator has made read-only: a rename would not ask.
 // Somebody else's may be replaced, as the system has it, by whoever may write the folder.
 std::string replaceablePath(const std::string& folder, std::string_view name);
-// False for a file that is there and may not be written in place.
-bool mayWrite(const std::string& path);
 
 void readFile(SystemCalls& calls, const std::string& path, std::string& bytes);
 

@@ -3,6 +3,7 @@
 
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
+#include "platform/machine.h"
 
 #include <algorithm>
 
@@ -100,8 +101,9 @@ std::string shownText(std::string_view native) {
 }
 
 std::string resolveName(const std::string& folder, std::string_view name) {
-    fs::path current = !name.empty() && name.front() == '/' ? fs::path("/") : fs::path(folder);
-    for (const std::string_view part : partsOf(name))
+    const fs::path root = rootOf(name);
+    fs::path current = root.empty() ? fs::path(folder) : root;
+    for (const std::string_view part : partsOf(name.substr(root.native().size())))
         current = matchPart(current, part);
     return current.string();
 }

@@ -4,20 +4,17 @@
 #include "base/runtimeerror.h"
 #include "platform/diskfile.h"
 #include "platform/filenames.h"
-#include "platform/systemcalls.h"
+#include "platform/machine.h"
 
 #include <cerrno>
-#include <cmath>
-#include <ctime>
-#include <fcntl.h>
 #include <filesystem>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
 namespace vantrel {
 
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -27,7 +24,7 @@ long long sizeOf(int file) {
 
 char lastByte(int file, long long size, const std::string& path) {
     char last = '\n';
-    if (size > 0 && ::pread(file, &last, 1, size - 1) != 1)
+    if (size > 0 && (::lseek(file, -1, SEEK_END) < 0 || ::read(file, &last, 1) != 1))
         throwSystemError(errno, path);
     return last;
 }
@@ -66,26 +63,19 @@ std::string Files::read(std::string_view name) const {
 }
 
 std::string Files::stamp(std::string_view name) const {
-    struct stat status {};
-    if (::stat(nativePath(name).c_str(), &status) != 0)
-        return {};
+    const std::optional<FileFacts> facts = factsOf(nativePath(name));
     // File systems keep times coarsely: a second change right after the first may not show.
-    if (std::abs(std::difftime(std::time(nullptr), status.st_mtim.tv_sec)) < 2)
+    if (!facts || std::chrono::abs(std::chrono::system_clock::now() - facts->written) < 2s)
         return {};
-    std::string stamp;
-    for (const auto part :
-         {static_cast<long long>(status.st_dev), static_cast<long long>(status.st_ino),
-          static_cast<long long>(status.st_size), static_cast<long long>(status.st_mtim.tv_sec),
-          static_cast<long long>(status.st_mtim.tv_nsec)})
-        stamp += std::to_string(part) + ' ';
-    return stamp;
+    return facts->identity + ' ' + std::to_string(facts->size) + ' ' +
+           std::to_string(facts->written.time_since_epoch().count());
 }
 
 std::optional<std::chrono::sys_seconds> Files::writtenAt(std::string_view name) const {
-    struct stat status {};
-    if (::stat(nativePath(name).c_str(), &status) != 0)
+    const std::optional<FileFacts> facts = factsOf(nativePath(name));
+    if (!facts)
         return {};
-    return std::chrono::sys_seconds(std::chrono::seconds(status.st_mtim.tv_sec));
+    return std::chrono::floor<std::chrono::seconds>(facts->written);
 }
 
 std::string Files::readOrEmpty(std::string_view name) const {
@@ -99,7 +89,7 @@ void Files::appendLine(std::string_view name, std::string_view line) {
         return rewrite(name, before + asNewLine(before.empty() ? '\n' : before.back(), line));
     }
     const bool existed = exists(path);
-    const DiskFile file(m_calls, path, O_RDWR | O_CREAT | O_APPEND, path);
+    const DiskFile file(m_calls, path, OpenFor::appending, path);
     const long long size = sizeOf(file);
     try {
         file.write(asNewLine(lastByte(file, size, path), line));
@@ -151,12 +141,11 @@ std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
 void Files::requireNameFits(std::string_view name) const {
     const std::string path = nativePath(name);
     const std::size_t size = fs::path(newPath(path)).filename().string().size();
-    const long longest = ::pathconf(folderOf(path).c_str(), _PC_NAME_MAX);
-    if (longest > 0 && size > static_cast<std::size_t>(longest))
+    const std::size_t longest = longestName(folderOf(path));
+    if (size > longest)
         throw RuntimeError(ErrorCode::pathFileAccess,
                            shownText(path) + ": the name is too long by " +
-                               std::to_string(size - static_cast<std::size_t>(longest)) +
-                               " characters");
+                               std::to_string(size - longest) + " characters");
 }
 
 } // namespace vantrel

@@ -4,11 +4,10 @@
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
+#include "platform/machine.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
-#include <mntent.h>
 #include <system_error>
 #include <utility>
 
@@ -17,13 +16,6 @@ namespace vantrel {
 namespace fs = std::filesystem;
 
 namespace {
-
-// A disk, a stick or a share; not what the system keeps for itself (its own file systems, the
-// images that installed packages are mounted from).
-bool isVolume(const std::string& device) {
-    const bool share = device.find(":/") != std::string::npos;
-    return share || (device.starts_with('/') && !device.starts_with("/dev/loop"));
-}
 
 void sortRegardlessOfCase(std::vector<std::string>& names) {
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
@@ -45,21 +37,10 @@ void sortRegardlessOfCase(std::vector<std::string>& names) {
 SystemFolders::SystemFolders(std::string mountTable) : m_mountTable(std::move(mountTable)) {}
 
 std::vector<std::string> SystemFolders::drives() const {
-    const std::string root = "/";
-    std::vector<std::string> mounted;
-    if (std::FILE* const table = ::setmntent(m_mountTable.c_str(), "r")) {
-        while (const mntent* const mount = ::getmntent(table)) {
-            const std::string place = mount->mnt_dir;
-            std::error_code ignored;
-            if (isVolume(mount->mnt_fsname) && place != root && fs::is_directory(place, ignored))
-                mounted.push_back(place);
-        }
-        ::endmntent(table);
-    }
-    sortRegardlessOfCase(mounted);
-    mounted.erase(std::unique(mounted.begin(), mounted.end()), mounted.end());
-    mounted.insert(mounted.begin(), root);
-    return mounted;
+    std::vector<std::string> drives = mountedVolumes(m_mountTable);
+    sortRegardlessOfCase(drives);
+    drives.erase(std::unique(drives.begin(), drives.end()), drives.end());
+    return drives;
 }
 
 FolderContent SystemFolders::content(const std::string& folder) const {
@@ -68,7 +49,7 @@ FolderContent SystemFolders::content(const std::string& folder) const {
     for (const fs::directory_entry& entry : entriesOf(folder, error)) {
         const std::string name = entry.path().filename().string();
         std::error_code unreadable; // an entry that cannot be looked at is neither
-        if (name.starts_with('.'))
+        if (isHidden(entry))
             continue;
         if (entry.is_directory(unreadable))
             result.folders.push_back(name);

@@ -9,16 +9,14 @@ namespace vantrel {
 
 LocalTime SystemClock::now() const {
     const std::time_t seconds = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&seconds, &local);
+    const std::tm local = *std::localtime(&seconds);
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
             local.tm_hour,        local.tm_min,     local.tm_sec};
 }
 
 TimeOfDay SystemClock::utc() const {
     const std::time_t seconds = std::time(nullptr);
-    std::tm utc{};
-    gmtime_r(&seconds, &utc);
+    const std::tm utc = *std::gmtime(&seconds);
     return {utc.tm_hour, utc.tm_min};
 }
 

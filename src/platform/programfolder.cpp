@@ -4,12 +4,11 @@
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
+#include "platform/machine.h"
 
 #include <cerrno>
-#include <fcntl.h>
 #include <filesystem>
 #include <system_error>
-#include <unistd.h>
 
 namespace vantrel {
 
@@ -43,9 +42,9 @@ bool keepsFilesBeside(const std::string& executableFolder) {
     // programs, and his files there would stop everybody else's start.
     if (installedForAll(executableFolder))
         return false;
-    if (::access(executableFolder.c_str(), W_OK) == 0)
+    if (mayWrite(executableFolder))
         return true;
-    const std::string reason = std::generic_category().message(errno);
+    const std::string reason = errorText(errno);
     if (holdsData(executableFolder))
         throw RuntimeError(ErrorCode::permissionDenied, "the program's folder cannot be written: " +
                                                             shownText(executableFolder) + ": " +
@@ -61,22 +60,17 @@ void requireKnownName(const std::string& folder) {
                            "the folder's name is not UTF-8: rename " + shownText(folder));
 }
 
+// Closed where another program holds it by having it open.
 DiskFile openedLock(SystemCalls& calls, const std::string& path) {
-    try {
-        return {calls, path, O_RDWR | O_CREAT, path};
-    } catch (const RuntimeError&) {
-        if (!exists(path))
-            throw;
-        return {calls, path, O_RDONLY, path}; // another user's
-    }
+    int file = calls.open(path, OpenFor::locking, DiskFile::newMode);
+    if (file < 0 && errno != EWOULDBLOCK && exists(path))
+        file = calls.open(path, OpenFor::reading, 0); // another user's
+    if (file < 0 && errno != EWOULDBLOCK)
+        throwSystemError(errno, path);
+    return {calls, file, path};
 }
 
 } // namespace
-
-std::string executableFolder() {
-    std::error_code ignored; // without it the files are kept in the user's folder
-    return fs::read_symlink("/proc/self/exe", ignored).parent_path().string();
-}
 
 std::string chooseProgramFolder(const std::string& executableFolder,
                                 const std::string& userFolder) {
@@ -95,6 +89,7 @@ std::string chooseProgramFolder(const std::string& executableFolder,
 }
 
 FolderLock::FolderLock(SystemCalls& calls, const std::string& folder)
-    : m_file(openedLock(calls, (fs::path(folder) / lockName).string())), m_held(m_file.lock()) {}
+    : m_file(openedLock(calls, (fs::path(folder) / lockName).string())),
+      m_held(m_file >= 0 && m_file.lock()) {}
 
 } // namespace vantrel

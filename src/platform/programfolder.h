@@ -16,9 +16,6 @@ inline constexpr std::string_view configurationFile = "Vantrel.CFG";
 // The name by which a desktop knows the program.
 inline constexpr const char* desktopEntry = "org.vantrel.Vantrel";
 
-// Where this program's file lies, to the last byte: text would not hold a name that is no UTF-8.
-std::string executableFolder();
-
 // The executable's folder when the user can write there; when he cannot and it holds no
 // configuration and no log, or when the program is installed for all users, `userFolder`
 // (created when missing). Both are real paths. Throws RuntimeError 70 when a folder with data

@@ -6,7 +6,7 @@
 #include "base/runtimeerror.h"
 #include "platform/diskfile.h"
 #include "platform/filenames.h"
-#include "platform/systemcalls.h"
+#include "platform/machine.h"
 
 #include <cerrno>
 #include <chrono>
@@ -130,7 +130,7 @@ void Replacement::linkOrCopy(const std::string& file, const std::string& second)
     m_calls.remove(second);
     if (m_calls.link(file, second) == 0)
         return;
-    if (errno == ENOSPC || errno == EDQUOT)
+    if (isDiskFull(errno))
         throwSystemError(errno, file);
     std::string bytes;
     readFile(m_calls, file, bytes);

@@ -2,115 +2,18 @@
 #include "platform/serialnames.h"
 
 #include "base/fixedtext.h"
-#include "platform/filenames.h"
-#include "platform/files.h"
-
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <vector>
 
 namespace vantrel {
-
-namespace fs = std::filesystem;
-
-namespace {
-
-constexpr int mostLinks = 40; // as many as the system follows
-
-// 1 to 10; 0 for any other text.
-int portNumber(std::string_view port) {
-    for (int number = 1; number <= portCount; ++number)
-        if (upper(port) == upper(portName(number)))
-            return number;
-    return 0;
-}
-
-std::vector<fs::path> sortedEntries(const std::string& folder) {
-    std::error_code error;
-    const std::vector<fs::directory_entry> entries = entriesOf(folder, error);
-    std::vector<fs::path> paths(entries.begin(), entries.end());
-    std::sort(paths.begin(), paths.end());
-    return paths;
-}
-
-// Consoles and pseudo-terminals have no device; the places the system keeps free for built-in
-// ports have one, but of type 0, unknown.
-bool hasHardware(const fs::path& tty) {
-    std::error_code error;
-    if (!fs::exists(tty / "device", error))
-        return false;
-    std::string type;
-    std::ifstream(tty / "type") >> type;
-    return type != "0";
-}
-
-fs::path target(const fs::path& device) {
-    std::error_code error;
-    const fs::path found = fs::canonical(device, error);
-    return error ? fs::path() : found;
-}
-
-// Goes on from link to link until there is none, or one lies in `folder`.
-fs::path endOfLinks(fs::path path, const fs::path& folder) {
-    std::error_code error;
-    for (int link = 0; link < mostLinks && fs::is_symlink(path, error); ++link) {
-        if (path.parent_path() == folder)
-            break;
-        path = (path.parent_path() / fs::read_symlink(path, error)).lexically_normal();
-    }
-    return path;
-}
-
-std::vector<fs::path> allPorts(const SerialRoots& roots) {
-    std::vector<fs::path> ports = sortedEntries(roots.byId);
-    std::vector<fs::path> listed;
-    std::transform(ports.begin(), ports.end(), std::back_inserter(listed), target);
-    for (const fs::path& tty : sortedEntries(roots.classTty)) {
-        const fs::path device = fs::path(roots.devices) / tty.filename();
-        if (hasHardware(tty) &&
-            std::find(listed.begin(), listed.end(), target(device)) == listed.end())
-            ports.push_back(device);
-    }
-    return ports;
-}
-
-} // namespace
 
 std::string portName(int number) {
     return "com" + std::to_string(number);
 }
 
-std::string serialDevice(const std::string& programFolder, std::string_view port,
-                         const SerialRoots& roots) {
-    const int number = portNumber(port);
-    if (number == 0)
-        return {};
-    const fs::path own = resolveName(programFolder, port);
-    std::error_code error;
-    if (fs::exists(fs::symlink_status(own, error)))
-        return own.string();
-    const std::vector<fs::path> ports = allPorts(roots);
-    const auto index = static_cast<std::size_t>(number - 1);
-    return index < ports.size() ? ports[index].string() : std::string();
-}
-
-std::string endOfLinks(const std::string& device) {
-    return endOfLinks(device, {}).string();
-}
-
-std::string serialIdentity(const Files& files, std::string_view port, const SerialRoots& roots) {
-    const fs::path device = serialDevice(files.programFolder(), port, roots);
-    const fs::path end = target(device);
-    const fs::path adapter = endOfLinks(device, roots.byId);
-    return end.empty() || adapter.parent_path() != roots.byId ? end.string() : adapter.string();
-}
-
-std::string serialDeviceShown(const Files& files, std::string_view port, const SerialRoots& roots) {
-    if (portNumber(port) == 0)
-        return {};
-    const fs::path device = target(serialDevice(files.programFolder(), port, roots));
-    return device.empty() ? "no such port" : shownText(device.string());
+int portNumber(std::string_view port) {
+    for (int number = 1; number <= portCount; ++number)
+        if (upper(port) == upper(portName(number)))
+            return number;
+    return 0;
 }
 
 } // namespace vantrel

@@ -7,7 +7,6 @@
 
 #include <atomic>
 #include <cerrno>
-#include <fcntl.h>
 #include <string>
 
 namespace vantrel::test {
@@ -29,9 +28,11 @@ public:
     void crashAt(int n) { m_untilCrash = n; }
     void heal() { *this = FailingCalls(); }
 
-    int open(const std::string& path, int flags, unsigned mode) override {
-        const bool fails = (flags & O_CREAT) != 0 ? changeFails(Call::open) : callFails(Call::open);
-        return fails ? -1 : SystemCalls::open(path, flags, mode);
+    int open(const std::string& path, OpenFor purpose, unsigned mode) override {
+        const bool creates = purpose == OpenFor::appending || purpose == OpenFor::creating ||
+                             purpose == OpenFor::locking;
+        const bool fails = creates ? changeFails(Call::open) : callFails(Call::open);
+        return fails ? -1 : SystemCalls::open(path, purpose, mode);
     }
     // A full disk takes what still fits before it refuses, and a crash leaves a part as well.
     long write(int file, const char* bytes, std::size_t count) override {

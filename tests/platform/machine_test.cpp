@@ -6,8 +6,8 @@
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
+#include "platform/posix/seriallinks.h"
 #include "platform/programfolder.h"
-#include "platform/serialnames.h"
 #include "support/errors.h"
 #include "support/tempfolder.h"
 
@@ -158,12 +158,12 @@ TEST_F(ProgramFolder, IsLockedForOneProgramWhereFilesCanBeLocked) {
 struct SerialNames : Machine {
     // The device's name, behind its links.
     std::string shown(std::string_view port) const {
-        return fs::path(serialDeviceShown(files, port, {at("by-id"), at("tty"), at("dev")}))
-            .filename();
+        return fs::path(deviceShownIn(roots, files, port)).filename();
     }
 
     SystemCalls calls;
     Files files{at("program"), calls};
+    SerialRoots roots{at("by-id"), at("tty"), at("dev")};
 };
 
 TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
@@ -176,14 +176,13 @@ TEST_F(SerialNames, AdaptersComeFirstAndOnceThenBuiltInPortsWithHardware) {
     for (const char* port : {"com1", "com2", "com3", "com10", "None", "com0", "com11", "com1x"})
         all += shown(port) + '|';
     EXPECT_EQ(all, "ttyUSB0|ttyACM0|ttyS1|no such port|||||");
-    const SerialRoots roots{at("by-id"), at("tty"), at("dev")};
-    EXPECT_EQ(serialIdentity(files, "com1", roots), at("by-id/usb-A"));
-    EXPECT_EQ(serialIdentity(files, "com3", roots), at("dev/ttyS1"));
+    EXPECT_EQ(identityIn(roots, files, "com1"), at("by-id/usb-A"));
+    EXPECT_EQ(identityIn(roots, files, "com3"), at("dev/ttyS1"));
     // A link in the program's folder goes first.
     make({"program/COM1->../dev/ttyS1", "program/com2->../dev/gone", "program/com3->my",
           "program/my->../by-id/usb-Z"});
     EXPECT_EQ(shown("com1"), "ttyS1");
-    EXPECT_EQ(serialIdentity(files, "com3", roots), at("by-id/usb-Z"));
+    EXPECT_EQ(identityIn(roots, files, "com3"), at("by-id/usb-Z"));
     EXPECT_EQ(shown("com2"), "no such port");
     make({"program/Com1"});
     EXPECT_RUNTIME_ERROR(shown("com1"), ErrorCode::pathFileAccess, HasSubstr("COM1"));

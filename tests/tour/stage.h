@@ -96,11 +96,11 @@ public:
     Files files{folder.string(), calls};
     QtMessages messages;
     QtEventLoop eventLoop;
-    QtSerialPort serialPort{files};
-    QtSound sound;
+    std::unique_ptr<SerialPort> serialPort = makeSerialPort(files);
+    std::unique_ptr<Sound> sound = makeSound();
     QtPrinter printer;
     QtLauncher launcher;
-    Platform platform{files, clock, messages, eventLoop, serialPort, sound, printer, launcher};
+    Platform platform{files, clock, messages, eventLoop, *serialPort, *sound, printer, launcher};
     Module1 module{files};
     AppScreens screens{module, platform};
 

@@ -3,7 +3,7 @@
 // and an end at once when the radio or the program goes.
 #include "fakes/qt/ptyradio.h"
 #include "platform/files.h"
-#include "platform/qt/qtdevices.h"
+#include "platform/qt/posix/qtserialport.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
 #include "support/errors.h"

@@ -9,8 +9,20 @@
 
 namespace vantrel {
 
-int SystemCalls::open(const std::string& path, int flags, unsigned mode) {
-    return ::open(path.c_str(), flags, mode);
+namespace {
+
+// In the order of OpenFor.
+constexpr int flagsFor[] = {O_RDONLY,
+                            O_RDWR | O_CREAT | O_APPEND,
+                            O_WRONLY | O_CREAT | O_EXCL,
+                            O_WRONLY | O_TMPFILE,
+                            O_RDWR | O_CREAT,
+                            O_RDONLY | O_DIRECTORY};
+
+} // namespace
+
+int SystemCalls::open(const std::string& path, OpenFor purpose, unsigned mode) {
+    return ::open(path.c_str(), flagsFor[static_cast<int>(purpose)] | O_CLOEXEC, mode);
 }
 
 long SystemCalls::write(int file, const char* bytes, std::size_t count) {

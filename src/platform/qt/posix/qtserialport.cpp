@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "platform/qt/posix/qtserialport.h"
+
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
+#include "platform/posix/seriallinks.h"
 #include "platform/qt/qtdevices.h"
 #include "platform/serialnames.h"
 
@@ -215,6 +218,10 @@ void QtSerialPort::checkThere() const {
 
 int QtSerialPort::elapsed() const {
     return static_cast<int>(m_sinceOpen.elapsed());
+}
+
+std::unique_ptr<SerialPort> makeSerialPort(const Files& files) {
+    return std::make_unique<QtSerialPort>(files);
 }
 
 } // namespace vantrel

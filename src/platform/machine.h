@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// What one kind of machine answers in another way than the other: posix/ and windows/ each hold the
+// answers. All paths are real ones of the machine.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrel {
+
+struct FileFacts {
+    std::string identity; // which file of this machine it is, under whatever name
+    std::uintmax_t size;  // bytes
+    std::chrono::sys_time<std::chrono::nanoseconds> written;
+};
+// Of what the path leads to; nothing when that is not there.
+std::optional<FileFacts> factsOf(const std::string& path);
+
+// False for a file that is there and may not be written in place, or a folder in which no file may
+// be made; errno tells why.
+bool mayWrite(const std::string& path);
+// By the rules of a file system with owners; never elsewhere.
+bool belongsToAnother(const std::string& path);
+// What somebody else made in a folder of the operator's, as a start with sudo does, comes with the
+// command that makes it his.
+std::string chownHint(const std::string& path);
+// Gives the open file those of `like`, where that exists, as far as the system lets it.
+void takeOwnerAndPermissions(int file, const std::string& like);
+
+// What a call's errno says, in words; and whether it says that there is no room on the disk.
+std::string errorText(int error);
+bool isDiskFull(int error);
+
+// What an absolute name begins with ("/"); empty for one that goes on from the program folder.
+std::filesystem::path rootOf(std::string_view name);
+// The most bytes that a name in this folder can have.
+std::size_t longestName(const std::string& folder);
+
+bool isHidden(const std::filesystem::directory_entry& entry);
+// Where volumes are mounted, in no order. mountTable: where the system lists them.
+std::vector<std::string> mountedVolumes(const std::string& mountTable);
+
+// Where this program's file lies, to the last byte: text would not hold a name that is no UTF-8.
+std::string executableFolder();
+
+} // namespace vantrel

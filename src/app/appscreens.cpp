@@ -110,8 +110,8 @@ void AppScreens::openFor(QWidget* opener, Screen screen) {
     form->open(opener);
 }
 
-void AppScreens::openContact(Screen page, int contact, bool shown) {
-    formOf<frmLogPage>(page).startAt(contact, shown);
+void AppScreens::openContact(Screen page, int contact, OpenAt at) {
+    formOf<frmLogPage>(page).startAt(contact, at);
     open(page);
 }
 

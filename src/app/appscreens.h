@@ -21,7 +21,7 @@ public:
 
     void open(Screen screen) override;
     void replace(Screen current, Screen next) override;
-    void openContact(Screen page, int contact, bool shown) override;
+    void openContact(Screen page, int contact, OpenAt at) override;
     void openList(ListedFile file) override;
     void openRoster(std::string path, std::vector<std::string> lines) override;
     void openFinder(Screen receiver) override;

@@ -123,6 +123,15 @@ void Form::afterPaint(std::function<void()> work) {
     update();
 }
 
+void Form::eachSecond(std::function<void()> tick) {
+    auto* second = new QTimer(this);
+    connectHandler(second, &QTimer::timeout, [this, tick = std::move(tick)] {
+        if (isVisible() && !isMinimized())
+            tick();
+    });
+    second->start(1000);
+}
+
 void Form::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
     if (m_afterPaint)

@@ -72,6 +72,8 @@ protected:
     // What takes too long to do before the page shows: runs inside the guard once the page has been
     // drawn again. Takes the place of what has not run yet; nullptr: nothing runs.
     void afterPaint(std::function<void()> work);
+    // Runs inside the guard, each second while the page shows.
+    void eachSecond(std::function<void()> tick);
 
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

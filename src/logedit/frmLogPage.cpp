@@ -32,8 +32,8 @@ std::string searchedNote() {
 frmLogPage::frmLogPage(const FormContext& context, const char* name, const char* caption)
     : Form(context, name, caption), m_log(context.platform.files, context.shared.log) {}
 
-void frmLogPage::startAt(int contact, bool shown) {
-    m_start = Start{placeOf(shared().log.contacts(), contact), shown};
+void frmLogPage::startAt(int contact, OpenAt at) {
+    m_start = Start{placeOf(shared().log.contacts(), contact), at};
 }
 
 void frmLogPage::load() {
@@ -48,7 +48,7 @@ void frmLogPage::load() {
     put(m_callBox, trim(qso::hisCall.of(start.place.text)));
     clearBoxes();
     refreshControls();
-    if (!start.shown)
+    if (start.at == OpenAt::callOnly)
         return;
     if (m_log.find(start.place) == SearchResult::found)
         showWithItsCall();
@@ -223,9 +223,9 @@ void frmLogPage::changeFound() {
     change();
     MainPage* main = screens().mainPage();
     if (main != nullptr && !m_log.found())
-        main->contactDeleted(before);
+        main->contactChanged(ContactChange::deleted, before);
     else if (main != nullptr && m_log.line() != before)
-        main->contactCorrected(m_log.line());
+        main->contactChanged(ContactChange::corrected, m_log.line());
 }
 
 void frmLogPage::undo() {

@@ -26,7 +26,7 @@ class frmLogPage : public Form {
 
 public:
     // The contact, 1 to the log's count, that the page opens on; see Screens::openContact.
-    void startAt(int contact, bool shown);
+    void startAt(int contact, OpenAt at);
     bool loadsAgain() const override { return m_start.has_value(); }
 
 protected:
@@ -83,7 +83,7 @@ private:
     // Where the page opens.
     struct Start {
         ContactPlace place;
-        bool shown;
+        OpenAt at;
     };
 
     void search();

@@ -43,6 +43,8 @@ public:
     virtual std::string gmtOffset() const = 0; // as chosen on the page
 };
 
+enum class ContactChange { corrected, deleted };
+
 // What other screens do to the main page.
 class MainPage {
 public:
@@ -52,8 +54,7 @@ public:
     // Loads the page as if it had just been opened (START pressed again).
     virtual void loadAfresh() = 0;
     // Another page made this line of a contact of the log, or took that line out of it.
-    virtual void contactCorrected(const std::string& line) = 0;
-    virtual void contactDeleted(const std::string& line) = 0;
+    virtual void contactChanged(ContactChange change, const std::string& line) = 0;
 };
 
 // A screen that opens the file finder and takes the path chosen there.
@@ -73,6 +74,10 @@ struct DupeQuestion {
     std::function<void()> drop;
 };
 
+// What a page of log maintenance opens with: the contact in its boxes as if searched for, or
+// nothing but the contact's call.
+enum class OpenAt { found, callOnly };
+
 class Screens {
 public:
     virtual ~Screens() = default;
@@ -81,9 +86,8 @@ public:
     // Closes `current` and opens `next` in its place: closing that one leads to where closing
     // `current` would have led.
     virtual void replace(Screen current, Screen next) = 0;
-    // A page of log maintenance for contact 1 to log.count(). shown: the contact is in the boxes as
-    // if searched for; otherwise only its call is.
-    virtual void openContact(Screen page, int contact, bool shown) = 0;
+    // A page of log maintenance for contact 1 to log.count().
+    virtual void openContact(Screen page, int contact, OpenAt at) = 0;
     // The lines of the log or of its ADIF file.
     virtual void openList(ListedFile file) = 0;
     // The lines of a roster file; path: as text to show.

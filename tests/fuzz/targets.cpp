@@ -190,26 +190,27 @@ void contact(std::string input) {
     if (errorOf([&] { settings = storedSettings(settings); }) || !canBeLogged(entry))
         return;
     const UtcTime utc = utcTime(clock.now(), settings.gmtOffset);
-    ContactFields fields = contactFields(entry, settings, utc);
-    fields.marker = marker;
-    std::string mhz = frequencyAsEntered(entry.frequency);
+    const std::string mhz = frequencyAsEntered(entry.frequency);
     assert(frequencyAsEntered(mhz) == mhz);
-    if (enterFrequency(fields, mhz, settings) != FrequencyCheck::good)
+    entry.frequency = completedFrequency(mhz);
+    if (checkFrequency(entry.frequency, settings) != FrequencyCheck::good)
         return;
+    const std::string line = vantrel::contactLine(entry, settings, marker, utc);
     for (std::string* box :
          {&entry.name, &entry.state, &entry.number, &entry.rstSent, &entry.rstReceived})
         *box = withoutSeparators(*box);
-    const std::string line = assembleLine(fields);
-    assert(line == contactLine({fields.frequency, utc.date, utc.time, settings.myCall,
-                                entry.rstSent, settings.myName, settings.myState, settings.myNumber,
-                                upper(callAsEntered(entry.call)), entry.rstReceived, entry.name,
-                                entry.state, entry.number, marker}));
+    const std::string khz(qso::frequency.of(line));
+    assert(line ==
+           contactLine({khz, utc.date, utc.time, settings.myCall, entry.rstSent, settings.myName,
+                        settings.myState, settings.myNumber, upper(callAsEntered(entry.call)),
+                        entry.rstReceived, entry.name, entry.state, entry.number, marker}));
 
     const std::string bytes = logHeader(settings.contestText, settings.myCall, settings.myNumber) +
                               line + "\r\n" + line + "\r\n";
     assert(contactsIn(bytes) == Contacts({line, line})); // and its header is none
     log(bytes);
-    assert(isK3yDupe(contactsIn(bytes), line));
+    assert(isK3yDupe(contactsIn(bytes), qso::hisCall.of(line), qso::hisNumber.of(line),
+                     qso::bandTag.of(line)));
 }
 
 // A box left alone is an empty text; a cleared one is a blank.

@@ -89,9 +89,9 @@ TEST_F(LogPages, WhatWasTypedIsWrittenThoughTheLogGrewAndWhatLooksWrongIsTold) {
     typeIntoBoxes(7, {"14.1", "2359", "07-01-2011"});
     click(page, "Command2"); // the other one repeats it now
     EXPECT_EQ(told("Label12"), "K1ABD 20M 0012 IS NOW A DUPLICATE OF 2359 WITHOUT THE MARK|");
-    screens.openContact(Screen::correct, 2, true);
+    screens.openContact(Screen::correct, 2, OpenAt::found);
     work(page, "Option1 Command2");
-    screens.openContact(Screen::deletion, 1, true);
+    screens.openContact(Screen::deletion, 1, OpenAt::found);
     click(deletePage, "Command2");
     EXPECT_EQ(shown(deletePage, "Label5"),
               "K1ABD 20M 0012 IS NO LONGER A DUPLICATE BUT MARKED DUPE");
@@ -100,17 +100,17 @@ TEST_F(LogPages, WhatWasTypedIsWrittenThoughTheLogGrewAndWhatLooksWrongIsTold) {
 TEST_F(LogPages, OpensOnTheVeryContactAndGoesToTheOthersWithItsCall) {
     const std::string again = contactLine({.frequency = " 7050", .hisCall = "K1ABC"});
     open(Screen::deletion, deletePage, logWith({joe, ann, again, ann}));
-    screens.openContact(Screen::deletion, 3, true); // in front all the time
+    screens.openContact(Screen::deletion, 3, OpenAt::found); // in front all the time
     EXPECT_EQ(told("Label6 Label4"), "2 OF 2|ENTER A CALLSIGN |");
     EXPECT_EQ(lines(page, "List1"), (std::vector<std::string>{"  K1ABC      2011-06-16 0012 20M",
                                                               "> K1ABC      2011-06-16 0012 40M"}));
     press(page, "List1", Qt::Key_Up);
     work(page, "List1!");
     EXPECT_EQ(told("Label6"), "1 OF 2|");
-    screens.openContact(Screen::deletion, 4, true); // the second of two that read alike
+    screens.openContact(Screen::deletion, 4, OpenAt::found); // the second of two that read alike
     EXPECT_EQ(told("Label6"), "2 OF 2|");
     folder.write(logName, logWith({ann, again})); // by another program
-    screens.openContact(Screen::deletion, 1, true);
+    screens.openContact(Screen::deletion, 1, OpenAt::found);
     EXPECT_EQ(told("Label2 Label5"), "|THIS CONTACT IS NO LONGER IN THE LOG|");
 }
 

@@ -16,17 +16,7 @@
 namespace vantrel {
 
 namespace {
-
 constexpr std::string_view startFrequency = "14.050";
-
-bool isBlank(const Entry& boxes) {
-    return trim(boxes.call + boxes.name + boxes.state + boxes.number).empty();
-}
-
-UtcTime nowOf(const Platform& platform, const Module1& shared) {
-    return utcTime(platform.clock.now(), shared.settings.gmtOffset);
-}
-
 } // namespace
 
 ContactEntry::ContactEntry(Module1& shared, Platform& platform, Radio radio)
@@ -36,15 +26,19 @@ ContactEntry::ContactEntry(Module1& shared, Platform& platform, Radio radio)
       m_roster(platform.files),
       m_score(shared.log, shared.settings) {}
 
+ViewContext ContactEntry::context() const {
+    return {m_shared, m_score, utcTime(m_platform.clock.now(), m_shared.settings.gmtOffset)};
+}
+
 EntryView ContactEntry::view() const {
-    return viewOf(m_draft, m_shared, m_score, nowOf(m_platform, m_shared));
+    return viewOf(m_draft, context());
 }
 
 std::vector<MemberLine> ContactEntry::members() {
-    const UtcTime utc = nowOf(m_platform, m_shared);
-    return membersLike(
-        m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call), m_draft.bandTag(),
-        [&](const Member& member) { return gainOf(member, m_draft, m_shared, m_score, utc); });
+    const ViewContext now = context();
+    return membersLike(m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call),
+                       m_draft.bandTag(),
+                       [&](const Member& member) { return gainOf(member, m_draft, now); });
 }
 
 bool ContactEntry::spaceFillsIn() const {
@@ -55,8 +49,7 @@ void ContactEntry::opened() {
     const bool autoReads = m_draft.autoReads;
     m_draft = Draft();
     m_draft.autoReads = autoReads;
-    m_draft.boxes.frequency = m_draft.mhz = startFrequency;
-    m_draft.bandText = bandTextOf(m_draft.mhz, "");
+    setFrequency(std::string(startFrequency));
     m_shared.marker = noMarker;
     clear(ClearTo::nothing);
     m_cleared.reset();
@@ -73,8 +66,8 @@ void ContactEntry::edited(const Entry& boxes) {
             m_draft.takenBack.clear();
     }
     m_draft.boxes.frequency = boxes.frequency;
-    for (std::size_t i = 0; i < lookupBoxes.size(); ++i)
-        if (boxes.*lookupBoxes[i] != before.*lookupBoxes[i])
+    for (std::size_t i = 0; i < lookupFields.size(); ++i)
+        if (boxes.*lookupFields[i].box != before.*lookupFields[i].box)
             m_draft.lookedUp[i] = false;
     if (boxes.call != before.call)
         callChosen(boxes.call);
@@ -91,9 +84,9 @@ void ContactEntry::callChosen(std::string_view call) {
 
 // Whoever is logged must not get somebody else's name.
 void ContactEntry::forgetLookup() {
-    for (std::size_t i = 0; i < lookupBoxes.size(); ++i)
+    for (std::size_t i = 0; i < lookupFields.size(); ++i)
         if (std::exchange(m_draft.lookedUp[i], false))
-            (m_draft.boxes.*lookupBoxes[i]).clear();
+            (m_draft.boxes.*lookupFields[i].box).clear();
 }
 
 // --- Frequency and band ----------------------------------------------------------------------
@@ -102,10 +95,14 @@ ContactEntry::Step ContactEntry::enterFrequencyBox(Answer& answer) {
     return tune(frequencyAsEntered(m_draft.boxes.frequency), answer);
 }
 
-// What SEARCH found holds for one band: on another one the test is made again.
-ContactEntry::Step ContactEntry::tune(const std::string& mhz, Answer& answer) {
+void ContactEntry::setFrequency(const std::string& mhz) {
     m_draft.boxes.frequency = m_draft.mhz = mhz;
     m_draft.bandText = bandTextOf(mhz, m_draft.bandText);
+}
+
+// What SEARCH found holds for one band: on another one the test is made again.
+ContactEntry::Step ContactEntry::tune(const std::string& mhz, Answer& answer) {
+    setFrequency(mhz);
     if (!m_draft.searched || m_draft.searched->bandTag == m_draft.bandTag())
         return Step::on;
     return testForDupe(answer);
@@ -230,8 +227,7 @@ void ContactEntry::searchEntered(Answer& answer) {
         forgetLookup();
         return;
     }
-    if (tune(completedFrequency(m_draft.mhz), answer) == Step::ended)
-        return;
+    setFrequency(completedFrequency(m_draft.mhz));
     m_draft.takenBack = trim(std::exchange(m_shared.marker, noMarker));
     m_draft.station = noStationLabel;
     m_draft.searched = found;
@@ -255,9 +251,9 @@ ContactEntry::Step ContactEntry::lookUpCall(Draft::Searched& found) {
 
 Answer ContactEntry::filledFromLog() {
     const std::string_view contact = lastContact(m_draft, m_shared.log.contacts());
-    for (std::size_t i = 0; i < lookupBoxes.size(); ++i) {
-        const std::string_view text = trim(lookupColumns[i].of(contact));
-        std::string& box = m_draft.boxes.*lookupBoxes[i];
+    for (std::size_t i = 0; i < lookupFields.size(); ++i) {
+        const std::string_view text = trim(lookupFields[i].column.of(contact));
+        std::string& box = m_draft.boxes.*lookupFields[i].box;
         if (text.empty() || !trim(box).empty())
             continue;
         box = text;
@@ -279,19 +275,15 @@ Answer ContactEntry::log() {
 void ContactEntry::logEntered(Answer& answer) {
     if (!canBeLogged(m_draft.boxes))
         return;
-    std::optional<std::string> line;
-    try {
-        line = assembledLine(answer);
-    } catch (const RuntimeError& error) {
-        if (error.code() != ErrorCode::invalidCall)
-            throw;
-        answer.messages.push_back(
-            {std::string(invalidEntryText), BoxIcon::exclamation, error.detail()});
-        clear(ClearTo::nothing);
-    }
+    const UtcTime utc = context().utc; // before the radio is waited for
+    if (readRadio(ReadCause::log, answer) == Step::ended ||
+        completeFrequency(answer) == Step::ended)
+        return;
+    const std::optional<std::string> line = assembledLine(utc, answer);
     if (!line)
         return;
-    if (m_shared.settings.isK3y() && isK3yDupe(m_shared.log.contacts(), *line)) {
+    if (m_shared.settings.isK3y() && isK3yDupe(m_shared.log.contacts(), qso::hisCall.of(*line),
+                                               qso::hisNumber.of(*line), qso::bandTag.of(*line))) {
         m_asked = asDupe(*line);
         answer.asksAboutDupe = true;
         answer.toCallBox = false;
@@ -301,31 +293,38 @@ void ContactEntry::logEntered(Answer& answer) {
     m_draft.station = noStationLabel;
 }
 
-// The contact line; nothing, and the answer says why, when it cannot be logged.
-std::optional<std::string> ContactEntry::assembledLine(Answer& answer) {
-    const OperatingSettings& settings = m_shared.settings;
-    ContactFields contact = contactFields(m_draft.boxes, settings, nowOf(m_platform, m_shared));
-    if (readRadio(ReadCause::log, answer) == Step::ended)
-        return std::nullopt;
+// Completes the frequency, which stays on its band.
+ContactEntry::Step ContactEntry::completeFrequency(Answer& answer) {
     const std::string typed = m_draft.mhz;
-    std::string mhz = typed;
-    const FrequencyCheck check = enterFrequency(contact, mhz, settings);
-    if (tune(mhz, answer) == Step::ended)
-        return std::nullopt; // a duplicate on the band that the radio is on by now
-    contact.marker = markerOf(m_draft, m_shared);
-    switch (check) {
+    setFrequency(completedFrequency(typed));
+    const std::string& mhz = m_draft.mhz;
+    switch (checkFrequency(mhz, m_shared.settings)) {
     case FrequencyCheck::outsideSprintBands:
         answer.messages.push_back({mhz + std::string(wrongBandText), BoxIcon::critical});
         clear(ClearTo::nothing);
-        return std::nullopt;
+        return Step::ended;
     case FrequencyCheck::unloggable:
         answer.messages.push_back({std::string(frequencyMissingText), BoxIcon::exclamation,
-                                   khzFault(contact.frequency, typed)});
-        return std::nullopt;
+                                   khzFault(khzField(mhz), typed)});
+        return Step::ended;
     case FrequencyCheck::good:
         break;
     }
-    return assembleLine(contact);
+    return Step::on;
+}
+
+// Nothing, and the answer says why, when a setting does not fit the line.
+std::optional<std::string> ContactEntry::assembledLine(const UtcTime& utc, Answer& answer) {
+    try {
+        return contactLine(m_draft.boxes, m_shared.settings, markerOf(m_draft, m_shared), utc);
+    } catch (const RuntimeError& error) {
+        if (error.code() != ErrorCode::invalidCall)
+            throw;
+        answer.messages.push_back(
+            {std::string(invalidEntryText), BoxIcon::exclamation, error.detail()});
+        clear(ClearTo::nothing);
+        return std::nullopt;
+    }
 }
 
 // The contact is in the log once its line is on the disk: whatever fails from then on is told,
@@ -426,18 +425,12 @@ void ContactEntry::logChanged() {
         m_draft.happened.reset();
 }
 
-void ContactEntry::contactCorrected(std::string_view contact) {
-    changedElsewhere(correctedHint(contact), contact, true);
-}
-
-void ContactEntry::contactDeleted(std::string_view contact) {
-    changedElsewhere(deletedHint(contact), contact, false);
-}
-
 // A contact that is being entered has the hint line for itself.
-void ContactEntry::changedElsewhere(const Hint& hint, std::string_view contact, bool inLog) {
-    if (isBlank(m_draft.boxes))
-        m_draft.happened = {hint, std::string(contact), inLog};
+void ContactEntry::contactChanged(ContactChange change, std::string_view contact) {
+    const Entry& boxes = m_draft.boxes;
+    if (trim(boxes.call + boxes.name + boxes.state + boxes.number).empty())
+        m_draft.happened = {changedHint(change, contact), std::string(contact),
+                            change == ContactChange::corrected};
 }
 
 } // namespace vantrel

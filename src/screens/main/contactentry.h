@@ -40,6 +40,7 @@ public:
     ContactEntry(Module1& shared, Platform& platform, Radio radio);
 
     EntryView view() const;
+    const LogTally& score() const { return m_score; }
     // Members like the call. Throws as Roster::partialMatches.
     std::vector<MemberLine> members();
     bool autoReads() const { return m_draft.autoReads; }
@@ -79,8 +80,7 @@ public:
     // The log was read again, whoever changed it.
     void logChanged();
     // On another page, the log being read already. contact: its line as it is now, or was.
-    void contactCorrected(std::string_view contact);
-    void contactDeleted(std::string_view contact);
+    void contactChanged(ContactChange change, std::string_view contact);
 
 private:
     enum class Step { on, ended };
@@ -89,7 +89,7 @@ private:
     enum class ClearTo { nothing, oneBlank };
     struct Cleared {
         Entry boxes;
-        LookupBoxes lookedUp;
+        LookedUp lookedUp;
     };
 
     // Ended: by a refusal, or because the program is being closed.
@@ -98,14 +98,16 @@ private:
     [[nodiscard]] Step testForDupe(Answer& answer);
     [[nodiscard]] Step readRadio(ReadCause cause, Answer& answer);
     [[nodiscard]] Step lookUpCall(Draft::Searched& found);
+    ViewContext context() const;
+    void setFrequency(const std::string& mhz);
     Answer stepTo(const Band& (*next)(std::string_view bandText));
     void searchEntered(Answer& answer);
     void logEntered(Answer& answer);
-    std::optional<std::string> assembledLine(Answer& answer);
+    [[nodiscard]] Step completeFrequency(Answer& answer);
+    std::optional<std::string> assembledLine(const UtcTime& utc, Answer& answer);
     void append(const std::string& line, Answer& answer);
     void forgetLookup();
     void clear(ClearTo left);
-    void changedElsewhere(const Hint& hint, std::string_view contact, bool inLog);
     bool isInLog(std::string_view contact) const;
 
     Module1& m_shared;

@@ -19,46 +19,55 @@ std::string spokenBoxes(const Draft& draft) {
     if (draft.searched->outcome == LookupOutcome::callOfNumber)
         return std::string(trim(draft.boxes.call));
     std::string words;
-    for (std::size_t i = 0; i < lookupBoxes.size(); ++i)
-        if (const auto text = trim(draft.boxes.*lookupBoxes[i]); draft.lookedUp[i] && !text.empty())
+    for (std::size_t i = 0; i < lookupFields.size(); ++i)
+        if (const auto text = trim(draft.boxes.*lookupFields[i].box);
+            draft.lookedUp[i] && !text.empty())
             words += (words.empty() ? "" : ", ") + std::string(text);
     return words;
 }
 
-// Of the line as it would be logged; the event has no score.
-std::string gainOf(const std::string& line, const Module1& shared, const LogTally& score,
-                   GainText text) {
-    return shared.settings.isK3y() ? "" : scoreGain(score.tally(), line, text);
+// What LOG would add to the score by these boxes; nothing where it would not take them. The event
+// has no score.
+std::optional<std::string> gainIfLogged(Entry entry, std::string_view marker, const Draft& draft,
+                                        const ViewContext& context, GainText text) {
+    const OperatingSettings& settings = context.shared.settings;
+    entry.frequency = completedFrequency(draft.mhz);
+    if (!canBeLogged(entry) || checkFrequency(entry.frequency, settings) != FrequencyCheck::good)
+        return std::nullopt;
+    try {
+        const std::string line = contactLine(entry, settings, marker, context.utc);
+        return settings.isK3y() ? "" : scoreGain(context.score.tally(), line, text);
+    } catch (const RuntimeError& error) {
+        if (error.code() != ErrorCode::invalidCall)
+            throw;
+        return std::nullopt; // a setting is too wide: LOG says which
+    }
 }
 
 // What the next Enter does with the contact searched for, or why LOG will refuse it.
-Hint nextStep(const Draft& draft, const Module1& shared, const LogTally& score,
-              const UtcTime& utc) {
-    ContactFields contact;
-    std::string mhz = draft.mhz;
-    switch (enterFrequency(contact, mhz, shared.settings)) {
+Hint nextStep(const Draft& draft, const ViewContext& context) {
+    const std::string mhz = completedFrequency(draft.mhz);
+    switch (checkFrequency(mhz, context.shared.settings)) {
     case FrequencyCheck::outsideSprintBands:
         return {mhz + " IS NO SPRINT BAND: LOG REFUSES IT", HintTone::caution};
     case FrequencyCheck::unloggable:
-        return {khzFault(contact.frequency, draft.mhz), HintTone::caution};
+        return {khzFault(khzField(mhz), draft.mhz), HintTone::caution};
     case FrequencyCheck::good:
         break;
     }
     if (!isComplete(draft.boxes))
         return {"ENTER LOOKS HIM UP", HintTone::plain, spokenBoxes(draft)};
-    Entry entry = draft.boxes;
-    entry.frequency = mhz;
-    const auto line = contactLine(entry, shared.settings, markerOf(draft, shared), utc);
-    if (!line)
+    const auto gain =
+        gainIfLogged(draft.boxes, markerOf(draft, context.shared), draft, context, GainText::full);
+    if (!gain)
         return {};
-    const std::string gain = gainOf(*line, shared, score, GainText::full);
-    return {"ENTER LOGS" + (gain.empty() ? "" : "   " + gain), HintTone::plain, spokenBoxes(draft)};
+    return {"ENTER LOGS" + (gain->empty() ? "" : "   " + *gain), HintTone::plain,
+            spokenBoxes(draft)};
 }
 
-Hint searchedHint(const Draft& draft, const Module1& shared, const LogTally& score,
-                  const UtcTime& utc) {
-    const Hint next = nextStep(draft, shared, score, utc);
-    const std::string_view known = lastContact(draft, shared.log.contacts());
+Hint searchedHint(const Draft& draft, const ViewContext& context) {
+    const Hint next = nextStep(draft, context);
+    const std::string_view known = lastContact(draft, context.shared.log.contacts());
     const std::string missing =
         known.empty() ? missingText(draft.boxes, draft.searched->hasRoster) : inLogText(known);
     if (draft.searched->outcome != LookupOutcome::notFound || missing.empty())
@@ -66,8 +75,8 @@ Hint searchedHint(const Draft& draft, const Module1& shared, const LogTally& sco
     return joined({missing, HintTone::caution}, next.tone == HintTone::plain ? Hint() : next);
 }
 
-Hint hintOf(const Draft& draft, const Module1& shared, const LogTally& score, const UtcTime& utc) {
-    const Hint found = draft.searched ? searchedHint(draft, shared, score, utc) : Hint();
+Hint hintOf(const Draft& draft, const ViewContext& context) {
+    const Hint found = draft.searched ? searchedHint(draft, context) : Hint();
     const Hint happened = draft.happened ? draft.happened->hint : Hint();
     return joined(joined(found, happened), takenBackHint(draft.takenBack));
 }
@@ -85,18 +94,21 @@ std::string_view lastContact(const Draft& draft, const Contacts& contacts) {
     const auto last = std::find_if(contacts.rbegin(), contacts.rend(), [&](std::string_view line) {
         return trim(qso::hisCall.of(line)) == call;
     });
-    for (std::size_t i = 0; last != contacts.rend() && i < lookupBoxes.size(); ++i)
-        if (trim(draft.boxes.*lookupBoxes[i]).empty() && !trim(lookupColumns[i].of(*last)).empty())
-            return *last;
-    return {};
+    if (last == contacts.rend())
+        return {};
+    const bool saysMore =
+        std::any_of(lookupFields.begin(), lookupFields.end(), [&](const LookupField& field) {
+            return trim(draft.boxes.*field.box).empty() && !trim(field.column.of(*last)).empty();
+        });
+    return saysMore ? *last : std::string_view();
 }
 
 std::string markerOf(const Draft& draft, const Module1& shared) {
     return draft.searched && draft.searched->marked ? std::string(dupeMarker) : shared.marker;
 }
 
-EntryView viewOf(const Draft& draft, const Module1& shared, const LogTally& score,
-                 const UtcTime& utc) {
+EntryView viewOf(const Draft& draft, const ViewContext& context) {
+    const Module1& shared = context.shared;
     const Contacts& contacts = shared.log.contacts();
     const std::string_view call = trim(draft.boxes.call);
     const std::string bandTag = draft.bandTag();
@@ -107,19 +119,16 @@ EntryView viewOf(const Draft& draft, const Module1& shared, const LogTally& scor
             .onBand = !bandTextOf(draft.mhz, "").empty(),
             .station = draft.station,
             .nextMarker = nextMarkerText(markerOf(draft, shared)),
-            .hint = hintOf(draft, shared, score, utc),
+            .hint = hintOf(draft, context),
             .worked = workedBefore(contacts, call, bandTag, workedColumns),
             .bands = bandTable(contacts, call, bandTag, shared.settings.isK3y()),
             .autoRead = autoReadText(hasRadio ? ReadOutcome::read : ReadOutcome::noRadio),
             .lastRead = draft.lastRead};
 }
 
-std::string gainOf(const Member& member, const Draft& draft, const Module1& shared,
-                   const LogTally& score, const UtcTime& utc) {
-    Entry entry{member.call, member.name, member.state, member.number};
-    entry.frequency = draft.mhz;
-    const auto line = contactLine(entry, shared.settings, noMarker, utc);
-    return line ? gainOf(*line, shared, score, GainText::brief) : "";
+std::string gainOf(const Member& member, const Draft& draft, const ViewContext& context) {
+    const Entry entry{member.call, member.name, member.state, member.number};
+    return gainIfLogged(entry, noMarker, draft, context, GainText::brief).value_or("");
 }
 
 } // namespace vantrel

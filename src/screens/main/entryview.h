@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The contact being entered as it stands, and all that the page shows of it: computed from that,
-// the log and the settings, and from nothing else.
+// the log, the settings and the clock, and from nothing else.
 #pragma once
 
 #include "k3y/k3ystation.h"
@@ -8,6 +8,7 @@
 #include "screens/main/hints.h"
 #include "screens/main/qsoentry.h"
 #include "screens/main/workedcalls.h"
+#include "shared/utctime.h"
 
 #include <array>
 #include <optional>
@@ -19,13 +20,9 @@ namespace vantrel {
 class LogTally;
 struct Member;
 struct Module1;
-struct UtcTime;
 
-// The boxes that a lookup fills.
-inline constexpr std::array lookupBoxes{&Entry::name, &Entry::state, &Entry::number};
-using LookupBoxes = std::array<bool, lookupBoxes.size()>;
-// The same in a contact line.
-inline constexpr std::array lookupColumns{qso::hisName, qso::hisState, qso::hisNumber};
+// Which of the lookup fields' boxes hold what the lookup of this call put there.
+using LookedUp = std::array<bool, lookupFields.size()>;
 
 struct Draft {
     // What SEARCH found of the call and, on this band, in the log.
@@ -44,10 +41,10 @@ struct Draft {
     };
 
     Entry boxes{};
-    std::string mhz{};        // last entered, read or stepped to: band and lists follow it
-    std::string bandText{};   // of the sprint band that it was on last
-    LookupBoxes lookedUp{};   // which of the boxes hold what the lookup of this call put there
-    bool broughtBack = false; // was cleared before: SEARCH comes before LOG again
+    std::string mhz{};      // last entered, read or stepped to: band and lists follow it
+    std::string bandText{}; // of the sprint band that it was on last
+    LookedUp lookedUp{};
+    bool broughtBack = false;           // was cleared before: SEARCH comes before LOG again
     std::optional<Searched> searched{}; // until the call is edited
     std::optional<Happened> happened{}; // until the next key
     std::string takenBack{};            // the K3Y tag that SEARCH took back
@@ -67,7 +64,7 @@ std::string markerOf(const Draft& draft, const Module1& shared);
 
 struct EntryView {
     Entry boxes{};
-    LookupBoxes lookedUp{}; // slanted on a tinted ground
+    LookedUp lookedUp{}; // those boxes are slanted on a tinted ground
     std::string bandText{};
     bool onBand = true; // otherwise struck out: the frequency is on another
     std::string station{};
@@ -79,11 +76,16 @@ struct EntryView {
     ReadOutcome lastRead{};
 };
 
-EntryView viewOf(const Draft& draft, const Module1& shared, const LogTally& score,
-                 const UtcTime& utc);
+// What else than the draft it is computed from.
+struct ViewContext {
+    const Module1& shared;
+    const LogTally& score;
+    UtcTime utc;
+};
 
-// What the member would bring if he were logged now.
-std::string gainOf(const Member& member, const Draft& draft, const Module1& shared,
-                   const LogTally& score, const UtcTime& utc);
+EntryView viewOf(const Draft& draft, const ViewContext& context);
+
+// What the member would add to the score if he were logged now; empty for nothing.
+std::string gainOf(const Member& member, const Draft& draft, const ViewContext& context);
 
 } // namespace vantrel

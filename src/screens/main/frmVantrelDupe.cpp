@@ -36,7 +36,7 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(60, 30, 60, 30);
     layout->addWidget(m_label);
-    connectHandler(m_timer, &QTimer::timeout, [this] { timeUp(); });
+    connectHandler(m_timer, &QTimer::timeout, [this] { close(); });
 }
 
 void frmVantrelDupe::load() {
@@ -63,14 +63,10 @@ void frmVantrelDupe::bringToFront() {
     raise();
 }
 
-// It took no focus, so it gives none back: by now the operator may be typing the next name, or
-// be on another page.
+// Not Form's, which gives the focus back to the opener: this screen never had it, and by now the
+// operator may be typing the next name or be on another page.
 void frmVantrelDupe::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)
-}
-
-void frmVantrelDupe::timeUp() {
-    close();
 }
 
 } // namespace vantrel

@@ -26,8 +26,6 @@ protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    void timeUp();
-
     AlertLabel* m_label;
     QTimer* m_timer;
 };

@@ -17,7 +17,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QShortcut>
-#include <QTimer>
 
 #include <functional>
 #include <initializer_list>
@@ -52,8 +51,7 @@ frmVantrelMain::frmVantrelMain(const FormContext& context)
     page(this, {statusRow(), m_boxes.exchangeRow(this, m_countBox), m_boxes.hintRow(), whoRow(),
                 commandRow(), Item(contestRow(), 1), pageCommands()});
     connectBoxes();
-    m_second = new QTimer(this);
-    connectHandler(m_second, &QTimer::timeout, [this] { secondPassed(); });
+    eachSecond([this] { secondPassed(); });
     m_logWatch = shared().log.watch([this] { runHandler([this] { showLog(); }); });
 }
 
@@ -138,9 +136,9 @@ QHBoxLayout* frmVantrelMain::contestRow() {
     m_workedList = FormBuilder::named(new WorkedList(this), "List1");
     m_panel = new ContestPanel(this);
     connectHandler(m_workedList, &WorkedList::chosen,
-                   [this](int contact) { openOnContact(Screen::correct, contact, true); });
+                   [this](int contact) { openOnContact(Screen::correct, contact); });
     connectHandler(m_workedList, &WorkedList::removed,
-                   [this](int contact) { openOnContact(Screen::deletion, contact, true); });
+                   [this](int contact) { openOnContact(Screen::deletion, contact); });
     connectHandler(m_workedList, &WorkedList::escaped, [this] { toCallBox(); });
     return row({column({m_workedList->headings(this), {m_workedList, 1}}), {m_panel, 1}});
 }
@@ -156,9 +154,9 @@ QHBoxLayout* frmVantrelMain::pageCommands() {
     const Item gap = Item::gap(fontMetrics().averageCharWidth() * 2);
     return row(
         {leads("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
-               [this] { openOnContact(Screen::correct, chosenContact(), true); }),
+               [this] { openOnContact(Screen::correct, chosenContact()); }),
          leads("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
-               [this] { openOnContact(Screen::deletion, chosenContact(), false); }),
+               [this] { openOnContact(Screen::deletion, chosenContact(), OpenAt::callOnly); }),
          gap,
          leads("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
                [this] { screens().openList(ListedFile::log); }),
@@ -210,7 +208,6 @@ void frmVantrelMain::load() {
     m_entry.opened();
     toCallBox();
     runHandler([this] { shared().log.open(shared().settings.logFileName); });
-    m_second->start(1000);
     afterPaint(nullptr);
     if (settings.hasRadio() && m_entry.autoReads())
         afterPaint([this] { run(&ContactEntry::radioAsked); });
@@ -266,6 +263,16 @@ void frmVantrelMain::showEntry() {
     m_suggestions->setLines(m_entry.members());
 }
 
+void frmVantrelMain::showStation(const std::string& text) {
+    m_entry.tagChosen(text);
+    showEntry();
+}
+
+void frmVantrelMain::contactChanged(ContactChange change, const std::string& line) {
+    m_entry.contactChanged(change, line);
+    showEntry();
+}
+
 // --- Keys ------------------------------------------------------------------------------------
 
 // What no button or list has a use for belongs to the contact being entered.
@@ -301,7 +308,7 @@ bool frmVantrelMain::callBoxTakes(const QKeyEvent& key) {
         return true;
     }
     if (key.key() == Qt::Key_Up && empty && shared().log.count().value() > Log::workedCapacity) {
-        runHandler([this] { openOnContact(Screen::correct, chosenContact(), true); });
+        runHandler([this] { openOnContact(Screen::correct, chosenContact()); });
         return true; // the list ends before the last contact
     }
     return (key.key() == Qt::Key_Down && m_suggestions->takeFocus()) ||
@@ -320,7 +327,7 @@ void frmVantrelMain::showLog() {
     const Log& log = shared().log;
     put(m_countBox, countText(log.count()));
     m_workedList->setLines(log.worked());
-    m_panel->followLog(log, shared().settings);
+    m_panel->followLog(log, shared().settings, m_entry.score());
     secondPassed();
     m_entry.logChanged();
     showEntry();
@@ -339,11 +346,11 @@ int frmVantrelMain::chosenContact() const {
     return selected > 0 ? selected : shared().log.count().value();
 }
 
-void frmVantrelMain::openOnContact(Screen page, int contact, bool shown) {
+void frmVantrelMain::openOnContact(Screen page, int contact, OpenAt at) {
     if (contact == 0)
         screens().open(page);
     else
-        screens().openContact(page, contact, shown);
+        screens().openContact(page, contact, at);
 }
 
 void frmVantrelMain::audioClicked() {

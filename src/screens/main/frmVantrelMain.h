@@ -14,7 +14,6 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QRadioButton;
-class QTimer;
 class QVBoxLayout;
 
 namespace vantrel {
@@ -29,13 +28,8 @@ class frmVantrelMain : public Form, public MainPage {
 public:
     explicit frmVantrelMain(const FormContext& context);
 
-    void showStation(const std::string& text) override { tell(&ContactEntry::tagChosen, text); }
-    void contactCorrected(const std::string& line) override {
-        tell(&ContactEntry::contactCorrected, line);
-    }
-    void contactDeleted(const std::string& line) override {
-        tell(&ContactEntry::contactDeleted, line);
-    }
+    void showStation(const std::string& text) override;
+    void contactChanged(ContactChange change, const std::string& line) override;
     void loadAfresh() override {
         runHandler([this] { load(); });
     }
@@ -64,16 +58,12 @@ private:
     // What happens to the contact being entered, and what the page does then.
     using Event = Answer (ContactEntry::*)();
     void run(Event happens);
-    void tell(void (ContactEntry::*happened)(std::string_view), const std::string& text) {
-        (m_entry.*happened)(text);
-        showEntry();
-    }
     void carryOut(const Answer& answer);
     void showEntry();
 
     bool callBoxTakes(const QKeyEvent& key);
     void toCallBox();
-    void openOnContact(Screen page, int contact, bool shown);
+    void openOnContact(Screen page, int contact, OpenAt at = OpenAt::found);
     int chosenContact() const;
     void showLog();
     void secondPassed();
@@ -91,7 +81,6 @@ private:
     QRadioButton* m_stationOption;
     WorkedList* m_workedList;
     ContestPanel* m_panel;
-    QTimer* m_second;
 
     BandTable m_bands; // as the panel shows them
     InputHold m_hold;  // what is typed while the radio is read

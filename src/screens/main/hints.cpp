@@ -6,7 +6,6 @@
 #include "screens/main/qsoentry.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace vantrel {
 
@@ -47,10 +46,9 @@ std::string spokenHint(const Hint& hint) {
 
 std::string missingText(const Entry& boxes, bool hasRoster) {
     std::string missing;
-    for (const auto& [box, name] :
-         {std::pair{&boxes.name, "NAME"}, {&boxes.state, "STATE"}, {&boxes.number, "SKCC#"}})
-        if (trim(*box).empty())
-            missing += (missing.empty() ? "" : ", ") + std::string(name);
+    for (const LookupField& field : lookupFields)
+        if (trim(boxes.*field.box).empty())
+            missing += (missing.empty() ? "" : ", ") + std::string(field.name);
     if (missing.empty())
         return {};
     return hasRoster ? "NOT IN THE ROSTER: " + missing
@@ -59,22 +57,19 @@ std::string missingText(const Entry& boxes, bool hasRoster) {
 
 std::string inLogText(std::string_view contact) {
     std::string text = "IN THE LOG:";
-    for (const Column column : {qso::hisName, qso::hisState, qso::hisNumber})
-        if (!field(column, contact).empty())
-            text += ' ' + field(column, contact);
+    for (const LookupField& known : lookupFields)
+        if (!field(known.column, contact).empty())
+            text += ' ' + field(known.column, contact);
     return text + " - SPACE FILLS IN";
 }
 
 Hint loggedHint(std::string_view contact, std::string_view repeated) {
     Hint hint{"LOGGED " + callKhzTime(contact)};
-    for (const auto& [column, missing] : {std::pair{qso::hisName, "  NO NAME"},
-                                          {qso::hisState, "  NO STATE"},
-                                          {qso::hisNumber, "  NO SKCC#"}}) {
-        if (!field(column, contact).empty())
-            continue;
-        hint.text += missing;
-        hint.tone = HintTone::caution;
-    }
+    for (const LookupField& known : lookupFields)
+        if (field(known.column, contact).empty()) {
+            hint.text += std::string("  NO ") + known.name;
+            hint.tone = HintTone::caution;
+        }
     if (!repeated.empty()) {
         hint.text += "  REPEATS " + callBandTime(repeated);
         hint.tone = HintTone::alarm;
@@ -86,12 +81,9 @@ Hint refusedHint(std::string_view logged) {
     return {"REFUSED: " + callBandTime(logged) + " IS IN THE LOG", HintTone::alarm};
 }
 
-Hint correctedHint(std::string_view contact) {
-    return {"CORRECTED " + callKhzTime(contact)};
-}
-
-Hint deletedHint(std::string_view contact) {
-    return {"DELETED " + callKhzTime(contact)};
+Hint changedHint(ContactChange change, std::string_view contact) {
+    return {(change == ContactChange::corrected ? "CORRECTED " : "DELETED ") +
+            callKhzTime(contact)};
 }
 
 Hint nobodyHint(std::string_view number) {

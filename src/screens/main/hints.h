@@ -3,6 +3,8 @@
 // the operator from logging something else than he thinks.
 #pragma once
 
+#include "shared/screens.h"
+
 #include <string>
 #include <string_view>
 
@@ -42,9 +44,8 @@ Hint loggedHint(std::string_view contact, std::string_view repeated);
 // that only begins with the one typed.
 Hint refusedHint(std::string_view logged);
 
-// After a contact of the log became this one, or was taken out of it.
-Hint correctedHint(std::string_view contact);
-Hint deletedHint(std::string_view contact);
+// After another page made this line of a contact of the log, or took that line out of it.
+Hint changedHint(ContactChange change, std::string_view contact);
 
 // After a number that nobody has was looked up.
 Hint nobodyHint(std::string_view number);

@@ -8,8 +8,6 @@
 #include "shared/settings.h"
 #include "shared/utctime.h"
 
-#include <optional>
-
 namespace vantrel {
 
 namespace {
@@ -18,8 +16,7 @@ std::string fieldOf(std::string_view box, int width) {
     return leftAligned(withoutSeparators(box), width);
 }
 
-// A setting re-padded before each contact; one that a hand-edited file made too wide is
-// refused instead of shifting the columns behind it.
+// A setting that a hand-edited file made too wide is refused: it would shift the columns behind it.
 std::string settingOf(std::string_view setting, int width, std::string_view field) {
     return padded(trim(withoutSeparators(setting)), width, field);
 }
@@ -63,50 +60,31 @@ bool canBeLogged(const Entry& entry) {
     return length(callAsEntered(entry.call)) >= shortestCall;
 }
 
-ContactFields contactFields(const Entry& entry, const OperatingSettings& settings,
-                            const UtcTime& utc) {
-    ContactFields contact;
-    contact.hisCall = leftAligned(upper(callAsEntered(entry.call)), qso::hisCall.width);
-    contact.hisName = fieldOf(entry.name, qso::hisName.width);
-    contact.hisState = fieldOf(entry.state, qso::hisState.width);
-    contact.hisNumber = fieldOf(entry.number, qso::hisNumber.width);
-    contact.rstReceived = fieldOf(entry.rstReceived, qso::rstReceived.width);
-    contact.rstSent = fieldOf(entry.rstSent, qso::rstSent.width);
-    contact.date = utc.date;
-    contact.time = utc.time;
-    contact.myCall = settingOf(settings.myCall, qso::myCall.width, "my call");
-    contact.myName = settingOf(settings.myName, qso::myName.width, "my name");
-    contact.myState = settingOf(settings.myState, qso::myState.width, "my state");
-    contact.myNumber = settingOf(settings.myNumber, qso::myNumber.width, "my SKCC number");
-    contact.mode = "CW";
-    return contact;
-}
-
-FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
-                              const OperatingSettings& settings) {
-    mhz = completedFrequency(mhz);
-    contact.frequency = khzField(mhz);
-    if (!settings.isK3y() && isOutsideSprintBands(mhz, contact.frequency))
+FrequencyCheck checkFrequency(std::string_view mhz, const OperatingSettings& settings) {
+    const std::string khz = khzField(mhz);
+    if (!settings.isK3y() && isOutsideSprintBands(mhz, khz))
         return FrequencyCheck::outsideSprintBands;
-    return khzFault(contact.frequency, mhz).empty() ? FrequencyCheck::good
-                                                    : FrequencyCheck::unloggable;
+    return khzFault(khz, mhz).empty() ? FrequencyCheck::good : FrequencyCheck::unloggable;
 }
 
-std::optional<std::string> contactLine(const Entry& entry, const OperatingSettings& settings,
-                                       std::string_view marker, const UtcTime& utc) {
-    if (!canBeLogged(entry))
-        return std::nullopt;
-    try {
-        ContactFields contact = contactFields(entry, settings, utc);
-        contact.marker = marker;
-        std::string mhz = entry.frequency;
-        if (enterFrequency(contact, mhz, settings) == FrequencyCheck::good)
-            return assembleLine(contact);
-    } catch (const RuntimeError& error) {
-        if (error.code() != ErrorCode::invalidCall) // a setting too wide: LOG says so
-            throw;
-    }
-    return std::nullopt;
+std::string contactLine(const Entry& entry, const OperatingSettings& settings,
+                        std::string_view marker, const UtcTime& utc) {
+    return assembleLine(
+        {.frequency = khzField(entry.frequency),
+         .mode = "CW",
+         .date = utc.date,
+         .time = utc.time,
+         .myCall = settingOf(settings.myCall, qso::myCall.width, "my call"),
+         .rstSent = fieldOf(entry.rstSent, qso::rstSent.width),
+         .myName = settingOf(settings.myName, qso::myName.width, "my name"),
+         .myState = settingOf(settings.myState, qso::myState.width, "my state"),
+         .myNumber = settingOf(settings.myNumber, qso::myNumber.width, "my SKCC number"),
+         .hisCall = leftAligned(upper(callAsEntered(entry.call)), qso::hisCall.width),
+         .rstReceived = fieldOf(entry.rstReceived, qso::rstReceived.width),
+         .hisName = fieldOf(entry.name, qso::hisName.width),
+         .hisState = fieldOf(entry.state, qso::hisState.width),
+         .hisNumber = fieldOf(entry.number, qso::hisNumber.width),
+         .marker = std::string(marker)});
 }
 
 RuntimeError notLogged(const RuntimeError& error) {

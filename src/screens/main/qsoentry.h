@@ -8,7 +8,7 @@
 #include "log/qsoline.h"
 #include "platform/platform.h"
 
-#include <optional>
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -31,6 +31,17 @@ struct Entry {
 
     bool operator==(const Entry&) const = default;
 };
+
+// A box that a lookup fills: where a contact line holds the same, and what it is called.
+struct LookupField {
+    std::string Entry::*box;
+    Column column;
+    const char* name;
+};
+inline constexpr std::array<LookupField, 3> lookupFields{
+    {{&Entry::name, qso::hisName, "NAME"},
+     {&Entry::state, qso::hisState, "STATE"},
+     {&Entry::number, qso::hisNumber, "SKCC#"}}};
 
 // What both report boxes hold until another report is chosen.
 inline constexpr const char* usualReport = "599";
@@ -76,21 +87,16 @@ LookupOutcome lookUp(Entry& entry, Roster& roster);
 // False when the call has fewer than three characters: LOG then does nothing.
 bool canBeLogged(const Entry& entry);
 
-// The contact's fields from the boxes and the settings, cut and padded to their widths; frequency
-// and marker still missing. Commas and control characters become blanks. Throws RuntimeError 5
-// when a setting is wider than its field.
-ContactFields contactFields(const Entry& entry, const OperatingSettings& settings,
-                            const UtcTime& utc);
-
 enum class FrequencyCheck { good, outsideSprintBands, unloggable };
 
-// Completes `mhz` in place and puts it into the contact's kHz field.
-FrequencyCheck enterFrequency(ContactFields& contact, std::string& mhz,
-                              const OperatingSettings& settings);
+// Whether LOG takes a frequency: completed, in MHz.
+FrequencyCheck checkFrequency(std::string_view mhz, const OperatingSettings& settings);
 
-// The line that the boxes would be logged as; nothing where LOG would refuse them.
-std::optional<std::string> contactLine(const Entry& entry, const OperatingSettings& settings,
-                                       std::string_view marker, const UtcTime& utc);
+// The line that LOG makes of the boxes, whose frequency is completed and good: every field cut or
+// padded to its columns, commas and control characters as blanks. Throws RuntimeError 5 when a
+// setting is wider than its field.
+std::string contactLine(const Entry& entry, const OperatingSettings& settings,
+                        std::string_view marker, const UtcTime& utc);
 
 // A failure at LOG with what is to be done about it.
 RuntimeError notLogged(const RuntimeError& error);

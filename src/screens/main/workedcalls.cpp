@@ -29,13 +29,6 @@ struct Worked {
     bool dupe = false;
 };
 
-// "20" of "20M"; the kHz themselves outside the bands.
-std::string_view bandName(std::string_view line) {
-    const std::string_view khz = qso::frequency.of(line);
-    const Band* band = bandOfKhz(khz);
-    return band == nullptr ? trim(khz) : band->label.substr(0, band->label.size() - 1);
-}
-
 // The first `most` calls: no more are ever shown, and a key must not wait for thousands.
 std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
                                std::string_view bandTag, std::size_t most) {
@@ -50,7 +43,7 @@ std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
             continue;
         if (entry == result.end())
             entry = result.insert(result.end(), {call, {}});
-        const std::string_view band = bandName(line);
+        const std::string_view band = bandLabelOf(qso::frequency.of(line));
         if (std::find(entry->bands.begin(), entry->bands.end(), band) == entry->bands.end())
             entry->bands.push_back(band);
         entry->dupe = entry->dupe || qso::bandTag.of(line) == bandTag;
@@ -61,7 +54,7 @@ std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
 std::string textOf(const Worked& worked) {
     std::string text(worked.call);
     for (const std::string_view band : worked.bands)
-        text += ' ' + std::string(band);
+        text += ' ' + std::string(band.substr(0, band.find('M'))); // "20" of "20M"
     return text;
 }
 
@@ -115,11 +108,6 @@ std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
                mid(line, qso::hisCall.first, length(call)) == call;
     });
     return found == contacts.end() ? std::string_view() : *found;
-}
-
-bool isK3yDupe(const Contacts& contacts, std::string_view contactLine) {
-    return isK3yDupe(contacts, qso::hisCall.of(contactLine), qso::hisNumber.of(contactLine),
-                     qso::bandTag.of(contactLine));
 }
 
 bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view number,

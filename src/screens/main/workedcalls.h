@@ -20,12 +20,8 @@ struct Member;
 std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
                              std::string_view bandTag);
 
-// LOG's test in the event: true when a logged contact has the call, the number and the band tag
-// of the assembled contact line.
-bool isK3yDupe(const Contacts& contacts, std::string_view contactLine);
-
-// SEARCH's test in the event, before there is a line: the call and the number as the boxes hold
-// them (what exceeds their columns does not count), the band tag (2) of the completed frequency.
+// The event's own test: true when a logged contact has the call, the number and the band tag (2).
+// What of call and number exceeds their columns does not count.
 bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view number,
                std::string_view bandTag);
 

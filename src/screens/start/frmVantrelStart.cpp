@@ -15,7 +15,6 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -77,9 +76,7 @@ frmVantrelStart::frmVantrelStart(const FormContext& context)
                Item::gap(2 * fontMetrics().height()),
                build.command("Command1", "E&XIT", "QUIT THE ENTIRE PROGRAM",
                              [this] { screens().quit(); })})});
-    m_second = new QTimer(this);
-    m_second->setInterval(1000);
-    connectHandler(m_second, &QTimer::timeout, [this] { secondPassed(); });
+    eachSecond([this] { secondPassed(); });
 }
 
 QLayout* frmVantrelStart::contestPart() {
@@ -196,11 +193,11 @@ std::vector<std::string> frmVantrelStart::loadChosen() {
     OperatingSettings settings = shared().settings;
     settings.gmtOffset = offsetByValue(settings.gmtOffset);
     std::vector<std::string> unknown;
-    for (const auto& [setting, box, list] : chosenSettings()) {
-        box->setCurrentIndex(positionOf(list(), settings.*setting, OperatingSettings{}.*setting));
-        if (!isListed(list(), settings.*setting))
+    for (const auto& [setting, box] : chosenSettings())
+        if (!chooseValue(box, settings.*setting)) {
+            chooseValue(box, OperatingSettings{}.*setting);
             unknown.push_back(fromQt(box->accessibleName()) + ' ' + settings.*setting);
-    }
+        }
     return unknown;
 }
 
@@ -232,17 +229,6 @@ void frmVantrelStart::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
     if (screens().mainPage() == nullptr)
         screens().quit();
-}
-
-// Also after it was minimised.
-void frmVantrelStart::showEvent(QShowEvent* event) {
-    m_second->start();
-    Form::showEvent(event);
-}
-
-void frmVantrelStart::hideEvent(QHideEvent* event) {
-    m_second->stop();
-    Form::hideEvent(event);
 }
 
 // Enter in a box goes on to the next one.
@@ -378,12 +364,9 @@ std::vector<frmVantrelStart::TypedSetting> frmVantrelStart::typedSettings() cons
 
 std::vector<frmVantrelStart::ChosenSetting> frmVantrelStart::chosenSettings() const {
     using Settings = OperatingSettings;
-    return {{&Settings::rig, m_radio->rig, rigList},
-            {&Settings::comPort, m_radio->port, portList},
-            {&Settings::baud, m_radio->baud, baudList},
-            {&Settings::civAddress, m_radio->civ, civList},
-            {&Settings::gmtOffset, m_offsetBox, offsetList},
-            {&Settings::dupeMode, m_dupeModeBox, dupeModeList}};
+    return {{&Settings::rig, m_radio->rig},      {&Settings::comPort, m_radio->port},
+            {&Settings::baud, m_radio->baud},    {&Settings::civAddress, m_radio->civ},
+            {&Settings::gmtOffset, m_offsetBox}, {&Settings::dupeMode, m_dupeModeBox}};
 }
 
 OperatingSettings frmVantrelStart::pageSettings() const {
@@ -391,7 +374,7 @@ OperatingSettings frmVantrelStart::pageSettings() const {
     settings.contestCode = contestCode();
     for (const auto& [setting, box] : typedSettings())
         settings.*setting = textOf(box);
-    for (const auto& [setting, box, list] : chosenSettings())
+    for (const auto& [setting, box] : chosenSettings())
         settings.*setting = chosenValue(box);
     return settings;
 }

@@ -13,7 +13,6 @@ class QLabel;
 class QLayout;
 class QLineEdit;
 class QRadioButton;
-class QTimer;
 
 namespace vantrel {
 
@@ -36,8 +35,6 @@ protected:
     void escapePressed() override {}
     QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -49,7 +46,6 @@ private:
     struct ChosenSetting {
         Setting setting;
         QComboBox* box;
-        ValueList (*list)();
     };
 
     QLayout* contestPart();
@@ -88,7 +84,6 @@ private:
     QLineEdit* m_numberBox;
     QComboBox* m_offsetBox;
     QLabel* m_utcLabel;
-    QTimer* m_second;
     QLineEdit* m_fileBox;
     QComboBox* m_newFileBox;
     QLabel* m_logLabel;

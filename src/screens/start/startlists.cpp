@@ -67,18 +67,6 @@ ValueList dupeModeList() {
     return {{"NO"}, {"YES"}};
 }
 
-int positionOf(const ValueList& list, std::string_view value, std::string_view otherwise) {
-    const std::string_view listed = isListed(list, value) ? value : otherwise;
-    const auto found = std::find_if(
-        list.begin(), list.end(), [&](const ListEntry& entry) { return entry.savedAs == listed; });
-    return static_cast<int>(found - list.begin());
-}
-
-bool isListed(const ValueList& list, std::string_view value) {
-    return std::any_of(list.begin(), list.end(),
-                       [&](const ListEntry& entry) { return entry.savedAs == value; });
-}
-
 std::string offsetByValue(std::string_view saved) {
     constexpr std::size_t longest = 9; // longer digits might not fit a number
     const bool isNumber =

@@ -21,11 +21,6 @@ ValueList civList();      // "None" and an address for every Icom
 ValueList offsetList();   // "-12" .. "12"
 ValueList dupeModeList(); // "NO", "YES"
 
-// Position (from 0) of the first entry stored as `value`; of the entry stored as
-// `otherwise` when there is none.
-int positionOf(const ValueList& list, std::string_view value, std::string_view otherwise);
-
-bool isListed(const ValueList& list, std::string_view value);
 // A saved offset as it stands in the list: "5" for "05" and "+5". A text without digits is returned
 // as it is.
 std::string offsetByValue(std::string_view saved);

@@ -37,7 +37,7 @@ public:
         settings.rig = "FTdx5000";
         settings.dupeMode = pick({"YES", "NO"});
         entry.opened();
-        for (int i = upTo(6); i > 0; --i)
+        for (int i = upTo(12); i > 0; --i)
             log.push_back(someLine());
         write(log);
         module.log.open("SKS.CBR");
@@ -45,7 +45,8 @@ public:
 
     void play(int steps) {
         for (int step = 0; step < steps && !::testing::Test::HasFailure(); ++step) {
-            const int event = upTo(20);
+            const int next = searched ? 11 + upTo(2) : boxes.call.empty() ? 0 : 16;
+            const int event = chance(50) ? next : upTo(20); // mostly as a contact is made
             SCOPED_TRACE("step " + std::to_string(step) + ", event " + std::to_string(event) +
                          " on " + textOf(entry.view()));
             happen(event);
@@ -61,11 +62,15 @@ private:
     std::string pick(const Lines& of) {
         return of[static_cast<std::size_t>(upTo(static_cast<int>(of.size()) - 1))];
     }
+    // Half of them have the call that is being entered, or are on its band.
     std::string someLine() {
+        const std::string khz = khzField(completedFrequency(mhz));
+        const Lines khzs{"14050", " 7040", " 3550", "50125", "29050"};
+        const Lines workedCalls{"K1ABC", "K1ABCD", "W5NEW", "K9SKC", "K1NEW"};
         return vantrel::test::contactLine(
-            {.frequency = pick({"14050", " 7040", " 3550", "50125", "29050"}),
+            {.frequency = khzFault(khz, "").empty() && chance(50) ? khz : pick(khzs),
              .time = std::to_string(1000 + upTo(8999)),
-             .hisCall = pick({"K1ABC", "K1ABCD", "W5NEW", "K9SKC", "K1NEW"}),
+             .hisCall = canBeLogged(boxes) && chance(50) ? boxes.call : pick(workedCalls),
              .hisState = pick({"CT", "IL", ""}),
              .hisNumber = pick({"0123T", "77S", "5000S", ""})});
     }
@@ -97,14 +102,13 @@ private:
             return;
         logIs(lines);
         const bool deleted = kind == 2 && !isInLog(was);
-        if (kind == 1)
-            entry.contactCorrected(now);
-        else if (deleted)
-            entry.contactDeleted(was);
-        if ((kind == 1 || deleted) &&
-            trim(boxes.call + boxes.name + boxes.state + boxes.number).empty())
-            says((deleted ? deletedHint(was) : correctedHint(now)).text, deleted ? was : now,
-                 !deleted);
+        if (kind != 1 && !deleted)
+            return;
+        const ContactChange change = deleted ? ContactChange::deleted : ContactChange::corrected;
+        const std::string& line = deleted ? was : now;
+        entry.contactChanged(change, line);
+        if (trim(boxes.call + boxes.name + boxes.state + boxes.number).empty())
+            says(changedHint(change, line).text, line, !deleted);
     }
 
     struct {
@@ -123,6 +127,9 @@ private:
                                         ReadOutcome::failed, ReadOutcome::read, ReadOutcome::read};
         read.result = {
             outcomes[upTo(4)], pick({"14.050", "7.040", "10.120", "3.550"}), {"NOT READ"}};
+        for (const std::string& line : logged()) // on a band where he was worked
+            if (line.substr(65).starts_with(entry.view().boxes.call) && chance(30))
+                read.result.frequency = frequencyAsEntered(line.substr(5, 5));
         return read.result;
     }
 
@@ -175,12 +182,12 @@ private:
     void forgetLookup() {
         for (std::size_t i = 0; i < tinted.size(); ++i)
             if (std::exchange(tinted[i], false))
-                boxes.*lookupBoxes[i] = "";
+                boxes.*lookupFields[i].box = "";
     }
     void edit(const Entry& typed) {
         const Entry before = std::exchange(boxes, typed);
         for (std::size_t i = 0; i < tinted.size(); ++i)
-            tinted[i] = tinted[i] && boxes.*lookupBoxes[i] == before.*lookupBoxes[i];
+            tinted[i] = tinted[i] && boxes.*lookupFields[i].box == before.*lookupFields[i].box;
         if (typed.frequency != before.frequency || typed == before)
             return; // counts once it is entered
         says("");
@@ -244,7 +251,7 @@ private:
                   : owners.contains(call) ? LookupOutcome::callOfNumber
                                           : LookupOutcome::notFound;
         for (std::size_t i = 0; i < tinted.size() && outcome == LookupOutcome::found; ++i) {
-            boxes.*lookupBoxes[i] = padded(members.at(call)[i], i == 1 ? 3 : 10);
+            boxes.*lookupFields[i].box = padded(members.at(call)[i], i == 1 ? 3 : 10);
             tinted[i] = true;
         }
         if (outcome == LookupOutcome::callOfNumber)
@@ -273,15 +280,15 @@ private:
                          std::string(trim(line.substr(95, 6)))};
         bool useful = false;
         for (std::size_t i = 0; i < 3; ++i)
-            useful |= !fills[i].empty() && trim(boxes.*lookupBoxes[i]).empty();
+            useful |= !fills[i].empty() && trim(boxes.*lookupFields[i].box).empty();
         const bool asked = searched && outcome == LookupOutcome::notFound;
         return asked && useful ? fills : decltype(fills){};
     }
     void fillIn() {
         const auto fills = inLog();
         for (std::size_t i = 0; i < 3; ++i)
-            if (!fills[i].empty() && trim(boxes.*lookupBoxes[i]).empty()) {
-                boxes.*lookupBoxes[i] = fills[i];
+            if (!fills[i].empty() && trim(boxes.*lookupFields[i].box).empty()) {
+                boxes.*lookupFields[i].box = fills[i];
                 tinted[i] = true;
             }
     }
@@ -294,10 +301,12 @@ private:
                                  : std::string(frequencyMissingText));
             return known ? clear() : void();
         }
-        asks = settings.isK3y() && isK3yDupe({log.begin(), log.end()}, lineNow());
+        const std::string line = lineNow();
+        asks = settings.isK3y() && isK3yDupe({log.begin(), log.end()}, line.substr(65, 10),
+                                             line.substr(95, 6), line.substr(5, 2));
         if (asks)
             return;
-        append(lineNow());
+        append(line);
         station = noStationLabel;
     }
     void append(const std::string& line) {
@@ -311,8 +320,7 @@ private:
     std::string lineNow() const {
         Entry completed = boxes;
         completed.frequency = completedFrequency(mhz);
-        return vantrel::contactLine(completed, settings, marker(), {"0012", "2011-06-16"})
-            .value_or("");
+        return vantrel::contactLine(completed, settings, marker(), {"0012", "2011-06-16"});
     }
     std::string problemOfBand() const {
         const std::string full = completedFrequency(mhz);
@@ -372,7 +380,7 @@ private:
             return both(entry.bandUp(),
                         [&] { enter() && tune(std::string(bandUp(band).defaultFrequency)); });
         case 12:
-            if (chance(30))
+            if (chance(autoReads ? 10 : 60))
                 return both(entry.autoReadToggled(), [&] { autoReads = !autoReads; });
             return both(entry.radioAsked(), [&] { takeRadio(true); });
         case 13:
@@ -420,12 +428,14 @@ private:
             return problem;
         if (boxes.number.size() < 2)
             return "ENTER LOOKS HIM UP";
+        if (trim(boxes.call).size() < 3)
+            return "";
         Lines lines = log;
         const auto score = [&] { return computeScore({lines.begin(), lines.end()}, settings); };
         const Score now = score();
         lines.push_back(lineNow());
-        if (settings.isK3y() || lines.back().empty())
-            return lines.back().empty() ? "" : "ENTER LOGS";
+        if (settings.isK3y())
+            return "ENTER LOGS";
         const Score then = score();
         const auto says = [&](const char* words) { return shown.find(words) != shown.npos; };
         EXPECT_EQ(says("DUPE: +0"), marked && *now.total == *then.total);
@@ -463,13 +473,13 @@ private:
 
     Lines log;
     Entry boxes{"", "", "", "", "599", "599", "14.050"};
-    LookupBoxes tinted{};
+    LookedUp tinted{};
     std::string mhz = "14.050", band = "20 Meters ", tag{noMarker}, station{noStationLabel};
     std::string testedOn, takenBack;
     bool searched = false, marked = false, again = false, nameMissing = false, autoReads = true;
     LookupOutcome outcome{};
     std::tuple<std::string, std::string, bool> happened;
-    std::optional<std::pair<Entry, LookupBoxes>> cleared;
+    std::optional<std::pair<Entry, LookedUp>> cleared;
     bool dupeScreen = false, asks = false; // of the present event
     Lines told;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/widgets/contestpanel.h"
 
+#include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
@@ -8,12 +9,13 @@
 #include "forms/readtable.h"
 #include "k3y/standings.h"
 #include "output/score/scoretext.h"
-#include "screens/main/widgets/ratebars.h"
 #include "shared/settings.h"
 
 #include <QHeaderView>
+#include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrel {
 
@@ -21,6 +23,8 @@ namespace {
 
 constexpr double totalPoints = 26;
 constexpr const char* longestSum = "12000 QSOs x 150 S/P/C + 32000";
+constexpr int barLines = 3;    // the bars are as high as so many lines of text
+constexpr int betweenBars = 3; // pixels
 
 std::string_view onBandText(CallOnBand onBand) {
     switch (onBand) {
@@ -36,6 +40,39 @@ std::string_view onBandText(CallOnBand onBand) {
 
 } // namespace
 
+// The contacts of the last hour, a bar for five minutes; the five minutes that run now stand out.
+class RateBars : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    void setRate(const Rate& rate) {
+        setAccessibleName(toQt(hourText(rate)));
+        if (std::exchange(m_contacts, rate.perFiveMinutes) != rate.perFiveMinutes)
+            update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const int highest = std::max(1, *std::max_element(m_contacts.begin(), m_contacts.end()));
+        const int ground = height() - 1;
+        const QColor past = frameColour(palette());
+        painter.setPen(past);
+        painter.drawLine(0, ground, width(), ground);
+        const int count = static_cast<int>(m_contacts.size());
+        for (int i = 0; i < count; ++i) {
+            const int left = width() * i / count;
+            const int right = width() * (i + 1) / count - betweenBars;
+            const int high = m_contacts[static_cast<std::size_t>(i)] * ground / highest;
+            const QColor colour = i + 1 == count ? accentColour(palette()) : past;
+            painter.fillRect(QRect(left, ground - high, right - left, high), colour);
+        }
+    }
+
+private:
+    decltype(Rate::perFiveMinutes) m_contacts{};
+};
+
 ContestPanel::ContestPanel(QWidget* parent) : QWidget(parent) {
     FormBuilder build(this);
     m_totalLabel = build.label("Label29");
@@ -44,6 +81,8 @@ ContestPanel::ContestPanel(QWidget* parent) : QWidget(parent) {
     m_rateLabel = build.label("Label31");
     m_lastLabel = build.label("Label32");
     m_bars = FormBuilder::named(new RateBars(this), "Picture1");
+    m_bars->setFixedHeight(fontMetrics().height() * barLines);
+    setRole(m_bars, QAccessible::Graphic);
     m_bandTable = build.table("Table1", "BANDS");
     m_bandTable->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_bandTable->horizontalHeader()->setStretchLastSection(true);
@@ -71,7 +110,8 @@ void ContestPanel::showScore(std::string_view total, std::string_view sum) {
     put(m_sumLabel, sum);
 }
 
-void ContestPanel::followLog(const Log& log, const OperatingSettings& settings) {
+void ContestPanel::followLog(const Log& log, const OperatingSettings& settings,
+                             const LogTally& score) {
     m_moments = momentsOf(log.contacts());
     m_shownAt.reset();
     if (settings.isK3y() && !log.tooLong()) {
@@ -79,8 +119,8 @@ void ContestPanel::followLog(const Log& log, const OperatingSettings& settings) 
         showScore(totals.whole().text(), totals.text());
         return;
     }
-    const Score score = computeScore(log, settings);
-    showScore(figureText(score.total), scoreSum(score));
+    const Score now = score.tally().score();
+    showScore(figureText(now.total), scoreSum(now));
 }
 
 void ContestPanel::followClock(const UtcTime& utc) {

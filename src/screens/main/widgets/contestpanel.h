@@ -13,6 +13,7 @@ class QLabel;
 
 namespace vantrel {
 
+class LogTally;
 class RateBars;
 class ReadTable;
 struct OperatingSettings;
@@ -24,8 +25,8 @@ class ContestPanel : public QWidget {
 public:
     explicit ContestPanel(QWidget* parent);
 
-    // Score and rate of the log as it stands now.
-    void followLog(const Log& log, const OperatingSettings& settings);
+    // Score and rate of the log as it stands now; in the event the standings' total instead.
+    void followLog(const Log& log, const OperatingSettings& settings, const LogTally& score);
     // The rate as of this minute.
     void followClock(const UtcTime& utc);
     void showBands(const BandTable& table);

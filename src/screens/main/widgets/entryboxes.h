@@ -40,7 +40,7 @@ struct EntryBoxes {
     // A strip across the page, behind a bar of its tone.
     QHBoxLayout* hintRow() const;
 
-    std::array<QLineEdit*, lookupBoxes.size()> filledByLookup() const {
+    std::array<QLineEdit*, lookupFields.size()> filledByLookup() const {
         return {name, state, number};
     }
 

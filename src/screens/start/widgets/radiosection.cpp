@@ -24,6 +24,13 @@ std::string chosenValue(const QComboBox* combo) {
     return fromQt(combo->currentData().toString());
 }
 
+bool chooseValue(QComboBox* combo, std::string_view value) {
+    const int entry = combo->findData(toQt(value));
+    if (entry >= 0)
+        combo->setCurrentIndex(entry);
+    return entry >= 0;
+}
+
 RadioSection::RadioSection(QWidget* page, const Files& files, std::function<void()> testClicked)
     : m_page(page), m_files(files), m_layout(new QFormLayout) {
     FormBuilder build(page);
@@ -49,7 +56,7 @@ void RadioSection::rigChosen() {
     const std::string chosen = chosenValue(civ);
     if (!usual.empty()) {
         if (chosen == noneSetting || chosen == m_broughtAddress)
-            civ->setCurrentIndex(positionOf(civList(), usual, noneSetting));
+            chooseValue(civ, usual);
         m_broughtAddress = usual;
     }
     showNeeds();

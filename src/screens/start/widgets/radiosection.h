@@ -23,6 +23,8 @@ class Files;
 QComboBox* filled(QComboBox* combo, const ValueList& list);
 // The value of the entry that a combo shows, as the settings hold it.
 std::string chosenValue(const QComboBox* combo);
+// Shows the first entry with that value; false when there is none.
+bool chooseValue(QComboBox* combo, std::string_view value);
 
 class RadioSection {
 public:

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -33,20 +32,6 @@ inline std::string textOf(const QLineEdit* box) {
 }
 inline std::string textOf(const QComboBox* box) {
     return fromQt(box->currentText());
-}
-
-// A row of boxes, in its order.
-template <std::size_t count>
-void put(const std::array<QLineEdit*, count>& boxes, const std::array<std::string, count>& texts) {
-    for (std::size_t i = 0; i < count; ++i)
-        put(boxes[i], texts[i]);
-}
-template <std::size_t count>
-std::array<std::string, count> textsOf(const std::array<QLineEdit*, count>& boxes) {
-    std::array<std::string, count> texts;
-    for (std::size_t i = 0; i < count; ++i)
-        texts[i] = textOf(boxes[i]);
-    return texts;
 }
 
 } // namespace vantrel

@@ -53,23 +53,20 @@ std::vector<DupeNote> dupeNotes(const Lines& lines, bool byNumber) {
         std::optional<std::size_t> firstUnmarked{};
     };
     std::map<std::string, Group> groups;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (!isContact(lines[i]))
-            continue;
-        Group& group = groups.try_emplace(dupeKey(lines[i], byNumber), Group{i}).first->second;
-        if (!group.firstUnmarked && !isDupe(lines[i]))
-            group.firstUnmarked = i;
-    }
     std::vector<DupeNote> notes(lines.size());
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (!isContact(lines[i]))
             continue;
-        const Group& group = groups.at(dupeKey(lines[i], byNumber));
-        if (isDupe(lines[i]))
-            notes[i].status = group.first == i && !group.firstUnmarked ? DupeStatus::markedAlone
-                                                                       : DupeStatus::marked;
-        else if (*group.firstUnmarked < i)
+        Group& group = groups.try_emplace(dupeKey(lines[i], byNumber), Group{i}).first->second;
+        if (isDupe(lines[i])) {
+            notes[i].status = group.first == i ? DupeStatus::markedAlone : DupeStatus::marked;
+        } else if (group.firstUnmarked) {
             notes[i] = {DupeStatus::repeats, *group.firstUnmarked};
+        } else {
+            group.firstUnmarked = i;
+            if (group.first != i) // a marked one, no longer alone
+                notes[group.first].status = DupeStatus::marked;
+        }
     }
     return notes;
 }
@@ -129,7 +126,6 @@ std::vector<std::string> duplicateNews(const Lines& before, const Lines& after, 
         notesBefore.erase(notesBefore.begin() + changed);
     if (after.size() > before.size())
         notesBefore.insert(notesBefore.begin() + changed, DupeNote());
-    notesBefore.resize(notes.size());
 
     std::vector<std::string> news;
     for (std::size_t i = 0; i < notes.size(); ++i)

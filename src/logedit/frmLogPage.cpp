@@ -19,9 +19,14 @@ namespace vantrel {
 
 namespace {
 
-constexpr double headingEnlargement = 1.5;
 constexpr int noteLines = 3; // room for what may have to be told at once
 constexpr int matchRows = 6;
+
+// Neither narrower nor wider.
+void fit(QLineEdit* box, int columns) {
+    setColumns(box, columns);
+    box->setMaximumWidth(box->minimumWidth());
+}
 
 std::string searchedNote() {
     return "THE FIRST " + std::to_string(LogEdit::lineCapacity) + " LINES WERE SEARCHED";
@@ -62,8 +67,8 @@ void frmLogPage::escapePressed() {
 }
 
 bool frmLogPage::mayLeave() {
-    const std::vector<std::string> typed = unsaved();
-    if (std::exchange(m_toldUnsaved, typed) == typed || typed.empty())
+    const Boxes unsaved = m_log.found() && typed() != m_unchanged ? typed() : Boxes();
+    if (std::exchange(m_toldUnsaved, unsaved) == unsaved || unsaved.empty())
         return true;
     setNotes({"NOT SAVED: ONCE MORE LEAVES"});
     return false;
@@ -75,13 +80,41 @@ QWidget* frmLogPage::firstFocus() {
 
 // --- Controls --------------------------------------------------------------------------------
 
-QLabel* frmLogPage::heading(const char* text) {
-    return FormBuilder(this).heading("", text, headingEnlargement);
+void frmLogPage::makeBoxes(std::span<const BoxField> fields) {
+    m_fields = fields;
+    m_unchanged.resize(fields.size());
+    for (const BoxField& field : fields) {
+        QLineEdit* box = FormBuilder(this).text(field.box);
+        fit(box, field.written.width);
+        m_boxes.push_back(box);
+        connectHandler(box, &QLineEdit::returnPressed, [this, box, next = m_boxes.size()] {
+            QWidget* target = m_changeButton;
+            if (next < m_boxes.size())
+                target = m_boxes[next];
+            if (box != m_callBox)                     // where Enter searches
+                target->setFocus(Qt::TabFocusReason); // as Tab, which selects
+        });
+    }
 }
 
-void frmLogPage::fit(QLineEdit* box, int columns) {
-    setColumns(box, columns);
-    box->setMaximumWidth(box->minimumWidth());
+Boxes frmLogPage::typed() const {
+    Boxes texts;
+    for (const QLineEdit* box : m_boxes)
+        texts.push_back(textOf(box));
+    return texts;
+}
+
+void frmLogPage::showBoxes(const Boxes& texts) {
+    m_unchanged = texts;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        put(m_boxes[i], texts[i]);
+}
+
+void frmLogPage::clearBoxes() {
+    Boxes cleared(m_boxes.size());
+    if (!m_boxes.empty() && m_boxes.front() == m_callBox)
+        cleared.front() = textOf(m_callBox);
+    showBoxes(cleared);
 }
 
 QLayout* frmLogPage::searchRow(const char* caption, QLineEdit* callBox,
@@ -99,14 +132,26 @@ QLayout* frmLogPage::searchRow(const char* caption, QLineEdit* callBox,
                 again, Item::room()});
 }
 
-QRadioButton* frmLogPage::dupeOption(QLineEdit* markerBox) {
-    QRadioButton* option = FormBuilder(this).jobOption("Option1", "DUPE NOTE");
+QFormLayout* frmLogPage::fieldRows(std::size_t first, std::size_t end) {
+    FormBuilder build(this);
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    for (std::size_t i = first; i < end && i + 1 < m_boxes.size(); ++i) {
+        // The wrong band is what is corrected most: it has a key of its own.
+        const bool isFrequency = m_fields[i].column.first == qso::frequency.first;
+        build.row(form, isFrequency ? "&FREQUENCY" : m_fields[i].label, m_boxes[i]);
+    }
+    if (end < m_boxes.size())
+        return form;
+    QLineEdit* markerBox = m_boxes.back();
+    QRadioButton* option = build.jobOption("Option1", "DUPE NOTE");
     markerBox->setAccessibleName(QStringLiteral("DUPE NOTE AT THE END"));
     connectHandler(option, &QRadioButton::clicked, [option, markerBox] {
         put(markerBox, dupeMarker);
         option->setChecked(false);
     });
-    return option;
+    form->addRow(option, markerBox);
+    return form;
 }
 
 QLayout* frmLogPage::matchesCard(const char* placeName) {
@@ -148,15 +193,6 @@ QLayout* frmLogPage::changeButtons(const char* caption, const char* toolTip, con
     m_changeButton->setEnabled(false);
     m_undoButton->setEnabled(false);
     return row({m_changeButton, m_undoButton, Item::room(), build.exit(exitTip)});
-}
-
-void frmLogPage::chainBoxes(std::span<QLineEdit* const> boxes) {
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        const bool last = i + 1 == boxes.size();
-        QWidget* next = last ? static_cast<QWidget*>(m_changeButton) : boxes[i + 1];
-        connectHandler(boxes[i], &QLineEdit::returnPressed,
-                       [next] { next->setFocus(Qt::TabFocusReason); }); // as Tab, which selects
-    }
 }
 
 // --- Finding ---------------------------------------------------------------------------------
@@ -265,17 +301,17 @@ void frmLogPage::finish(std::string_view message, const ChangeResult& result,
 
 void frmLogPage::setStatus(std::string_view message) {
     announce(m_messageLabel, message);
+    m_messageLabel->repaint();
 }
 
 void frmLogPage::setNotes(std::vector<std::string> notes) {
     if (m_log.found() && m_log.dropsLines())
         notes.push_back("SAVING KEEPS THE FIRST " + std::to_string(LogEdit::lineCapacity) +
                         " LINES, ALL OF THEM IN " + m_log.fullCopyName());
-    if (const std::string standing = standingNote(); !standing.empty())
-        notes.push_back(standing);
+    notes.push_back(standingNote());
     std::string text;
     for (const std::string& note : notes)
-        text += (text.empty() ? "" : "\n") + note;
+        text += (text.empty() || note.empty() ? "" : "\n") + note;
     announce(m_noteLabel, text);
     setTextColour(m_noteLabel, cautionColour);
 }
@@ -293,13 +329,12 @@ void frmLogPage::refreshControls() {
 }
 
 void frmLogPage::showMatches() {
+    m_matchPositions = m_log.matches();
     std::vector<std::string> lines;
     int place = 0;
-    m_matchPositions.clear();
-    for (const Match& match : m_log.matches()) {
-        lines.push_back(matchText(match.line, match.current));
-        m_matchPositions.push_back(match.position);
-        if (match.current)
+    for (const int position : m_matchPositions) {
+        lines.push_back(matchText(m_log.lineAt(position), m_log.isAt(position)));
+        if (m_log.isAt(position))
             place = static_cast<int>(lines.size());
     }
     const int count = static_cast<int>(lines.size());

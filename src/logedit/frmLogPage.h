@@ -4,17 +4,18 @@
 #pragma once
 
 #include "forms/form.h"
+#include "logedit/boxes.h"
 #include "logedit/logedit.h"
 
 #include <span>
 
+class QFormLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
 class QListView;
 class QModelIndex;
 class QPushButton;
-class QRadioButton;
 
 namespace vantrel {
 
@@ -36,18 +37,25 @@ protected:
     void escapePressed() override;
     QWidget* firstFocus() override;
 
+    static constexpr double headingEnlargement = 1.5;
+
+    // Makes the box of each field, as wide as its columns. The last one is the marker's. Enter in
+    // each goes to the next, in the last one to what changes the contact.
+    void makeBoxes(std::span<const BoxField> fields);
+    const std::vector<QLineEdit*>& boxes() const { return m_boxes; }
+    Boxes typed() const;
+    void showBoxes(const Boxes& texts);
+    // What the boxes hold while nothing of the contact is changed.
+    Boxes& unchanged() { return m_unchanged; }
+    const Boxes& unchanged() const { return m_unchanged; }
+
     // The parts of the layout that all pages have, made with their controls.
-    QLabel* heading(const char* text);
     QLayout* searchRow(const char* caption, QLineEdit* callBox, const char* searchAgainTip);
+    // The boxes from `first` to before `end`, below each other.
+    QFormLayout* fieldRows(std::size_t first, std::size_t end);
     QLayout* matchesCard(const char* placeName);
     QLayout* messageRows(const char* messageName, const char* noteName);
     QLayout* changeButtons(const char* caption, const char* toolTip, const char* exitTip);
-    // Puts the marker into its box.
-    QRadioButton* dupeOption(QLineEdit* markerBox);
-    static void fit(QLineEdit* box, int columns); // neither narrower nor wider
-    // Enter in each of the boxes goes to the next, in the last one to what changes the contact.
-    void chainBoxes(std::span<QLineEdit* const> boxes);
-    AlertLabel* messageLabel() { return m_messageLabel; }
 
     // What a page does its own way.
     virtual void searchStarts(const std::string& /*key*/) {}
@@ -55,16 +63,15 @@ protected:
     virtual std::string notFoundText(const std::string& key) const = 0;
     virtual std::string_view lastEntryText() const { return "LAST ENTRY"; }
     virtual void change() = 0; // of the contact found
-    virtual void clearBoxes() {}
-    // What the boxes hold when it was typed over the contact found and is not saved.
-    virtual std::vector<std::string> unsaved() const { return {}; }
     // A note that is added to all others.
     virtual std::string standingNote() const { return {}; }
     // "2 OF 3".
     virtual std::string placeText(int place, int count) const;
 
+    // On the screen when this returns.
     void setStatus(std::string_view message);
-    // What else the operator should know, a line each, in place of the notes before.
+    // What else the operator should know, a line each and no empty ones, in place of the notes
+    // before.
     void setNotes(std::vector<std::string> notes);
     // Shows what is found and what can be done; the next call may be typed.
     virtual void refreshControls();
@@ -92,7 +99,7 @@ private:
     void changeFound();
     void undo();
 
-    // False, and told, the first time that what is typed would be lost.
+    // False, and told, the first time that what is typed over the contact would be lost.
     bool mayLeave();
     // The call box's text tidied, put back into it: from now on it is the key.
     std::string takeKey();
@@ -101,7 +108,11 @@ private:
     // Shows the contact found and puts its call into the call box: it need not begin with the key.
     void showWithItsCall();
     void showMatches();
+    // All but the call box.
+    void clearBoxes();
 
+    std::span<const BoxField> m_fields;
+    std::vector<QLineEdit*> m_boxes; // of the fields
     QLineEdit* m_callBox = nullptr;
     QPushButton* m_changeButton = nullptr;
     QPushButton* m_undoButton = nullptr;
@@ -114,7 +125,8 @@ private:
     LogEdit m_log;
     std::vector<int> m_matchPositions; // of the lines in the list
     std::optional<Start> m_start;
-    std::vector<std::string> m_toldUnsaved;
+    Boxes m_unchanged;
+    Boxes m_toldUnsaved;
 };
 
 } // namespace vantrel

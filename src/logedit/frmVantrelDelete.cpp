@@ -23,7 +23,7 @@ frmVantrelDelete::frmVantrelDelete(const FormContext& context)
     }
     page(
         this,
-        {heading("DELETE AN ENTRY"),
+        {build.heading("", "DELETE AN ENTRY", headingEnlargement),
          searchRow("HIS CALL", build.text("Text1"), "SEARCH FOR ADDITIONAL ENTRIES"),
          {row({build.section("ENTRY TO DELETE", column({m_callLabel, m_detailLabel, Item::room()})),
                {matchesCard("Label6"), 1}}),

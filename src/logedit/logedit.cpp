@@ -51,10 +51,8 @@ bool hasGrownFrom(std::string_view bytes, std::string_view before) {
 }
 
 int linesIn(std::string_view bytes) {
-    int lines = 0;
-    for (LineReader reader(bytes); !reader.atEnd(); reader.next())
-        ++lines;
-    return lines;
+    const bool endsOpen = !bytes.empty() && !bytes.ends_with('\n');
+    return static_cast<int>(std::count(bytes.begin(), bytes.end(), '\n')) + (endsOpen ? 1 : 0);
 }
 
 std::vector<std::string> tableOf(std::string_view bytes) {
@@ -65,10 +63,6 @@ std::vector<std::string> tableOf(std::string_view bytes) {
 }
 
 } // namespace
-
-std::string tidied(std::string_view typed) {
-    return std::string(trim(upper(withoutSeparators(typed))));
-}
 
 ContactPlace placeOf(const Contacts& contacts, int contact) {
     if (contact < 1 || contact > static_cast<int>(contacts.size()))
@@ -132,14 +126,12 @@ void LogEdit::forget() {
     m_key.clear();
 }
 
-std::vector<Match> LogEdit::matches() const {
-    std::vector<Match> matches;
-    for (int index = 1; index <= lineCount(); ++index) {
-        const bool current = m_found && index == m_position;
-        if (current || (!m_key.empty() && isContactWith(lineAt(index), m_key)))
-            matches.push_back({index, lineAt(index), current});
-    }
-    return matches;
+std::vector<int> LogEdit::matches() const {
+    std::vector<int> positions;
+    for (int index = 1; index <= lineCount(); ++index)
+        if (isAt(index) || (!m_key.empty() && isContactWith(lineAt(index), m_key)))
+            positions.push_back(index);
+    return positions;
 }
 
 std::string LogEdit::fullCopyName() const {
@@ -153,31 +145,33 @@ std::string LogEdit::fullCopyName() const {
 // --- Changing --------------------------------------------------------------------------------
 
 ChangeResult LogEdit::replaceLine(const std::string& line) {
-    if (!m_found)
-        return {};
-    if (!followGrowth())
-        return {false, logChangedNotice(m_files.path(m_logName))};
-    // A save that changes nothing must not cost the operator the copy of his last change.
-    if (line == this->line())
-        return {.made = true, .changedLog = false};
-    std::vector<std::string> lines = m_lines;
-    lines[static_cast<std::size_t>(m_position - 1)] = line;
-    return change(lines, Kind::replacement);
+    return changeLine(&line);
 }
 
 ChangeResult LogEdit::removeLine() {
+    return changeLine(nullptr);
+}
+
+// nullptr removes the line found.
+ChangeResult LogEdit::changeLine(const std::string* replacement) {
     if (!m_found)
         return {};
-    if (!followGrowth())
+    if (!takeNewLines())
         return {false, logChangedNotice(m_files.path(m_logName))};
+    // A save that changes nothing must not cost the operator the copy of his last change.
+    if (replacement != nullptr && *replacement == line())
+        return {.made = true, .changedLog = false};
     std::vector<std::string> lines = m_lines;
-    lines.erase(lines.begin() + (m_position - 1));
-    return change(lines, Kind::removal);
+    const auto changed = lines.erase(lines.begin() + (m_position - 1));
+    if (replacement != nullptr)
+        lines.insert(changed, *replacement);
+    return carryOut({m_logName, m_logBytes, joinLines(lines), m_droppedLines,
+                     replacement == nullptr, m_position});
 }
 
 // Takes in lines that were added since the search. False when the log changed otherwise; also when
 // only now a rewrite would drop lines, because the operator has not been warned of that.
-bool LogEdit::followGrowth() {
+bool LogEdit::takeNewLines() {
     if (m_log.name() != m_logName)
         return false;
     std::string bytes = m_files.readOrEmpty(m_logName);
@@ -191,60 +185,45 @@ bool LogEdit::followGrowth() {
     return true;
 }
 
-ChangeResult LogEdit::change(const std::vector<std::string>& lines, Kind kind) {
-    Change change{m_logName, m_logBytes, joinLines(lines), m_droppedLines, kind, m_position};
-    const ChangeResult result = write(change);
-    takeAfter(change);
-    m_change = std::move(change);
-    return result;
-}
-
-// The log and its copy are replaced together. Otherwise a crash between the two would leave a copy
-// equal to the log, and an undo would lose the other version.
-ChangeResult LogEdit::write(const Change& change) {
-    std::optional<Message> notice;
-    // An undo brings dropped lines back; the redo drops them again.
-    if (change.droppedLines > 0 && !change.undone) {
-        const std::string full =
-            m_files.keepCopy(withSuffix(change.logName, fullSuffix), change.before);
-        notice = droppedNotice(change.droppedLines, m_files.path(change.logName), full);
-    }
-    m_files.rewriteAll({{withSuffix(change.logName, backupSuffix), {}, change.logName},
-                        {change.logName, change.after}});
-    return {true, std::move(notice)};
-}
-
-// After a removal nothing is found, and searchNext() goes on with the line that moved up. Where the
-// call was changed, the matches are from now on those of the new call.
-void LogEdit::takeAfter(const Change& change) {
-    take(change.logName, change.after);
-    m_found = change.kind == Kind::replacement || change.undone;
-    m_position = m_found ? change.position : change.position - 1;
-    if (m_found && (change.undone || !isContactWith(line(), m_key)))
-        m_key = trim(qso::hisCall.of(line()));
-}
-
 ChangeResult LogEdit::undo() {
     if (!m_change)
         return {};
-    const std::string backup = withSuffix(m_change->logName, backupSuffix);
-    if (m_log.name() != m_change->logName || !isOnDisk(m_change->logName, m_change->after))
-        return {false, noUndoNotice(m_files.path(m_change->logName))};
-    if (!isOnDisk(backup, m_change->before))
-        return {false, noUndoNotice(m_files.path(backup))};
-
     Change reversed = *m_change;
     std::swap(reversed.before, reversed.after);
     reversed.undone = !reversed.undone;
-    const ChangeResult result = write(reversed);
-    takeAfter(reversed);
-    m_change = std::move(reversed);
-    return result;
+    const bool otherLog = m_log.name() != reversed.logName;
+    const std::string backup = withSuffix(reversed.logName, backupSuffix);
+    for (const auto& [name, bytes] :
+         {std::pair(reversed.logName, reversed.before), std::pair(backup, reversed.after)})
+        if (otherLog || m_files.readOrEmpty(name) != bytes)
+            return {false, noUndoNotice(m_files.path(name))};
+    return carryOut(std::move(reversed));
+}
+
+// Writes the log and goes on from there. After a removal nothing is found, and searchNext() goes on
+// with the line that moved up. Where the call was changed, the matches are from now on those of the
+// new call.
+ChangeResult LogEdit::carryOut(Change change) {
+    const std::string& log = change.logName;
+    std::optional<Message> notice;
+    // An undo brings dropped lines back; the redo drops them again.
+    if (change.droppedLines > 0 && !change.undone) {
+        const std::string full = m_files.keepCopy(withSuffix(log, fullSuffix), change.before);
+        notice = droppedNotice(change.droppedLines, m_files.path(log), full);
+    }
+    // Both together. Otherwise a crash between the two would leave a copy equal to the log, and an
+    // undo would lose the other version.
+    m_files.rewriteAll({{withSuffix(log, backupSuffix), {}, log}, {log, change.after}});
+    take(log, change.after);
+    m_found = !change.isRemoval || change.undone;
+    m_position = m_found ? change.position : change.position - 1;
+    if (m_found && (change.undone || !isContactWith(line(), m_key)))
+        m_key = trim(qso::hisCall.of(line()));
+    m_change = std::move(change);
+    return {true, std::move(notice)};
 }
 
 std::vector<std::string> LogEdit::newsOfDuplicates(bool byNumber) const {
-    if (!m_change)
-        return {};
     return duplicateNews(tableOf(m_change->before), tableOf(m_change->after), byNumber);
 }
 
@@ -254,10 +233,6 @@ void LogEdit::take(const std::string& logName, std::string bytes) {
     m_logName = logName;
     m_logBytes = std::move(bytes);
     m_position = 0;
-}
-
-bool LogEdit::isOnDisk(const std::string& name, std::string_view bytes) const {
-    return m_files.readOrEmpty(name) == bytes;
 }
 
 } // namespace vantrel

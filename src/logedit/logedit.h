@@ -15,14 +15,6 @@ namespace vantrel {
 
 class Files;
 
-// What a page's message label reads after an undo and after a redo.
-inline constexpr std::string_view undoneText = " Undone....Click EXIT ";
-inline constexpr std::string_view redoneText = " Redone....Click EXIT ";
-
-// A typed entry as these pages use it: commas and control characters become blanks, then upper
-// case, then trimmed.
-std::string tidied(std::string_view typed);
-
 enum class SearchResult { keyTooShort, found, notFound };
 
 struct ChangeResult {
@@ -39,13 +31,6 @@ struct ContactPlace {
 };
 // contact: 1 to their number.
 ContactPlace placeOf(const Contacts& contacts, int contact);
-
-// A contact that the search's key finds.
-struct Match {
-    int position; // of its line in the table
-    std::string_view line;
-    bool current; // the one found last
-};
 
 class LogEdit {
 public:
@@ -71,9 +56,12 @@ public:
     // Nothing is found any more.
     void forget();
 
-    // The contacts with the call searched for last and the one found, as they were read; valid
-    // until the next reading or change.
-    std::vector<Match> matches() const;
+    // Positions, from 1, of the contacts with the call searched for last and of the one found.
+    std::vector<int> matches() const;
+    // A line as it was read; valid until the next reading or change.
+    const std::string& lineAt(int position) const {
+        return m_lines[static_cast<std::size_t>(position - 1)];
+    }
     // Whether a rewrite would drop lines, and the name, without folder, of the file that would
     // keep them all.
     bool dropsLines() const { return m_droppedLines > 0; }
@@ -99,36 +87,31 @@ public:
     // that comes back is then the one found. Throws as replaceLine().
     ChangeResult undo();
     // The message label's text after an undo().
-    std::string_view undoText() const { return m_change->undone ? undoneText : redoneText; }
+    const char* undoText() const {
+        return m_change->undone ? " Undone....Click EXIT " : " Redone....Click EXIT ";
+    }
     // What the last change, undo or redo did to duplicates; see duplicateNews.
     std::vector<std::string> newsOfDuplicates(bool byNumber) const;
 
 private:
-    enum class Kind { replacement, removal };
     // A change made here, or its undo; `before` and `after` are whole logs.
     struct Change {
         std::string logName;
         std::string before;
         std::string after;
         int droppedLines;
-        Kind kind;
+        bool isRemoval;
         int position; // of the line changed
         bool undone = false;
     };
 
     int lineCount() const { return static_cast<int>(m_lines.size()); }
-    // Position 1 to lineCount().
-    const std::string& lineAt(int position) const {
-        return m_lines[static_cast<std::size_t>(position - 1)];
-    }
     void readLog();
     SearchResult searchFrom(int position, std::string_view key);
-    bool followGrowth();
-    ChangeResult change(const std::vector<std::string>& lines, Kind kind);
-    ChangeResult write(const Change& change);
-    void takeAfter(const Change& change);
+    bool takeNewLines();
+    ChangeResult changeLine(const std::string* replacement);
+    ChangeResult carryOut(Change change);
     void take(const std::string& logName, std::string bytes);
-    bool isOnDisk(const std::string& name, std::string_view bytes) const;
 
     Files& m_files;
     const Log& m_log;

@@ -11,9 +11,8 @@
 #include "k3y/standings.h"
 #include "log/contactdate.h"
 #include "log/logfile.h"
+#include "logedit/boxes.h"
 #include "logedit/contacttext.h"
-#include "logedit/correction.h"
-#include "logedit/editor.h"
 #include "logedit/logedit.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
@@ -214,7 +213,6 @@ void contact(std::string input) {
 }
 
 // A box left alone is an empty text; a cleared one is a blank.
-template <typename Boxes>
 Boxes typedOver(Boxes boxes, std::string& input) {
     for (std::string& box : boxes)
         if (const std::string text = take(input); !text.empty())
@@ -236,14 +234,14 @@ void logEdit(std::string input) {
     assert(length(deletionCallText(line)) <= 33 && length(deletionDetailText(line)) <= 35);
 
     std::string forEditor = input;
-    const EditorBoxes boxes = tidiedBoxes(typedOver(editorBoxes(line), forEditor));
+    const Boxes boxes = tidiedBoxes(typedOver(editorBoxes(line), forEditor));
     assert(tidiedBoxes(boxes) == boxes);
     const std::string rebuilt = rebuiltLine(line, boxes);
     assert(staysOneContact(rebuilt, line) && length(rebuilt) == qso::dupeColumns.last());
     assert(qso::hisCall.of(rebuilt) == boxes[9]);
 
-    const CorrectionBoxes shown = correctionBoxes(take(input), line);
-    const CorrectionBoxes typed = typedOver(shown, input);
+    const Boxes shown = correctionBoxes(take(input), line);
+    const Boxes typed = typedOver(shown, input);
     const Correction result = corrected(line, shown, typed);
     assert(staysOneContact(result.line, line));
     assert(corrected(result.line, result.boxes, result.boxes).line == result.line);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "logedit/editor.h"
+#include "logedit/boxes.h"
 #include "support/contacts.h"
 #include "support/qt/formharness.h"
 
@@ -213,7 +213,7 @@ TEST_F(LogPages, EditorRebuildsTheLineFromItsBoxes) {
 }
 
 TEST(Editor, CutsABoxBeforeItIsTrimmed) {
-    EditorBoxes boxes = editorBoxes(contact("K9SKC", "CLUB"));
+    Boxes boxes = editorBoxes(contact("K9SKC", "CLUB"));
     boxes[11] = "   bartholomew";
     EXPECT_THAT(rebuiltLine(contact("K9SKC", "CLUB"), tidiedBoxes(boxes)),
                 HasSubstr(" BARTHOL    IL "));

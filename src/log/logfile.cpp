@@ -104,7 +104,7 @@ void requireRoomForNames(const Files& files, std::string_view logFileName) {
 }
 
 void requireOtherThanLog(const Files& files, std::string_view name, std::string_view logFileName) {
-    if (files.nativePath(name) == files.nativePath(logFileName))
+    if (files.areSame(name, logFileName))
         throw RuntimeError(ErrorCode::pathFileAccess,
                            files.path(name) + " is the log itself and is not written over");
 }

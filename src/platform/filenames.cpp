@@ -35,10 +35,11 @@ bool matchesWithoutCase(const fs::path& entry, std::string_view part) {
 }
 
 fs::path matchPart(const fs::path& folder, std::string_view part) {
+    requireFileName(part);
     std::error_code error;
     const fs::path exact = folder / nativeText(part);
     if (fs::exists(fs::symlink_status(exact, error)))
-        return exact;
+        return asOnDisk(exact);
     fs::path found;
     for (const fs::path& entry : entriesOf(folder, error)) {
         if (!matchesWithoutCase(entry, part))
@@ -101,9 +102,11 @@ std::string shownText(std::string_view native) {
 }
 
 std::string resolveName(const std::string& folder, std::string_view name) {
-    const fs::path root = rootOf(name);
-    fs::path current = root.empty() ? fs::path(folder) : root;
-    for (const std::string_view part : partsOf(name.substr(root.native().size())))
+    const std::string_view root = rootOf(name);
+    fs::path current = folder;
+    if (!root.empty()) // on Windows "\\LOGS" is on the folder's drive
+        current = (current / nativeText(root)).make_preferred();
+    for (const std::string_view part : partsOf(name.substr(root.size())))
         current = matchPart(current, part);
     return current.string();
 }

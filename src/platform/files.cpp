@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files.h"
 
+#include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/diskfile.h"
 #include "platform/filenames.h"
@@ -48,6 +49,18 @@ std::string Files::nativePath(std::string_view name) const {
 
 std::string Files::path(std::string_view name) const {
     return shownText(nativePath(name));
+}
+
+bool Files::areSame(std::string_view name, std::string_view other) const {
+    const std::string path = nativePath(name);
+    const std::string otherPath = nativePath(other);
+    const std::optional<FileFacts> facts = factsOf(path);
+    const std::optional<FileFacts> otherFacts = factsOf(otherPath);
+    if (facts && otherFacts)
+        return facts->identity == otherFacts->identity;
+    std::error_code ignored;
+    return upper(fs::weakly_canonical(path, ignored).string()) ==
+           upper(fs::weakly_canonical(otherPath, ignored).string());
 }
 
 bool Files::present(std::string_view name) const {

@@ -30,6 +30,9 @@ public:
     // The same as text to show (ISO 8859-1).
     std::string path(std::string_view name) const;
     const std::string& programFolder() const { return m_programFolder; }
+    // True when both names lead to one file: other case, a link, a second name of it. Where there
+    // is no file yet, when they would.
+    bool areSame(std::string_view name, std::string_view other) const;
 
     // True when the name stands for anything on the disk, file or not: reading it then either
     // works or says why not.

@@ -36,8 +36,14 @@ void takeOwnerAndPermissions(int file, const std::string& like);
 std::string errorText(int error);
 bool isDiskFull(int error);
 
-// What an absolute name begins with ("/"); empty for one that goes on from the program folder.
-std::filesystem::path rootOf(std::string_view name);
+// What an absolute name begins with ("/", "C:\\"), as it stands there; empty for one that goes on
+// from the program folder.
+std::string_view rootOf(std::string_view name);
+// Throws RuntimeError 75 when the machine takes this part of a name for something else than a
+// file's name (a device, a stream).
+void requireFileName(std::string_view part);
+// The path as it is spelled on the disk, where the system has found it in another case.
+std::filesystem::path asOnDisk(const std::filesystem::path& path);
 // The most bytes that a name in this folder can have.
 std::size_t longestName(const std::string& folder);
 

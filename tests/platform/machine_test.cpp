@@ -53,6 +53,22 @@ TEST_F(Machine, NamesAreFoundWithoutCaseAndNewOnesStayAsGiven) {
                          AllOf(HasSubstr(at("a.cbr")), HasSubstr(at("A.CBR"))));
 }
 
+// A guard that compared names would let the log be written over.
+TEST_F(Machine, OneFileUnderSeveralNamesIsOneAndSoIsOneThatIsNotThereYet) {
+    make({"Logs/", "Logs/a.cbr", "b.cbr", "link->Logs", "soft.adi->Logs/a.cbr"});
+    fs::create_hard_link(at("Logs/a.cbr"), at("hard.adi"));
+    SystemCalls calls;
+    const Files files(folder.string(), calls);
+    for (const std::string& name :
+         {std::string("LOGS\\A.CBR"), std::string("./x/../LOGS/A.CBR"), at("link/a.cbr"),
+          std::string("SOFT.ADI"), std::string("HARD.ADI")})
+        EXPECT_TRUE(files.areSame(name, "Logs/a.cbr")) << name;
+    EXPECT_TRUE(files.areSame("link/New.cbr", "./LOGS/NEW.CBR"));
+    EXPECT_FALSE(files.areSame("b.cbr", "Logs/a.cbr"));
+    EXPECT_FALSE(files.areSame("Logs/New.cbr", "Logs/a.cbr"));
+    EXPECT_FALSE(files.areSame("New.cbr", "Logs/New.cbr"));
+}
+
 TEST(NativeText, CharactersOutsideLatin1AreAQuestionMarkEach) {
     // The euro sign, four bytes, a bare Latin-1 byte, L with stroke, an overlong slash, a cut one.
     const char* native = "a\xE2\x82\xAC z\xF0\x9F\x93\xBB\xC3\xA9 \xE9t\xC5\x81\xC0\xAF \xC3";

@@ -290,6 +290,7 @@ StrictAdifFile exportStrictAdif(Files& files, const Clock& clock, std::string_vi
     log.reread();
     const Contacts& contacts = log.contacts();
     const std::string name = strictAdifFileName(log.name());
+    requireOtherThanLog(files, name, log.name());
     files.rewrite(name, strictAdifText(contacts, creationTime(clock.now(), gmtOffset)));
     const auto written =
         static_cast<std::size_t>(std::count_if(contacts.begin(), contacts.end(), dayToWrite));

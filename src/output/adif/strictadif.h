@@ -30,8 +30,8 @@ struct StrictAdifFile {
 // "27 WRITTEN, 1 LEFT OUT: NO CALL, DATE OR TIME"; "27 WRITTEN" when none was.
 std::string contactsWritten(const StrictAdifFile& file);
 
-// Reads the log again and writes NAME-STRICT.ADI beside it. Throws as Log::reread and
-// Files::rewrite; the file is then as it was.
+// Reads the log again and writes NAME-STRICT.ADI beside it. Throws as Log::reread,
+// requireOtherThanLog and Files::rewrite; the file is then as it was.
 StrictAdifFile exportStrictAdif(Files& files, const Clock& clock, std::string_view gmtOffset,
                                 Log& log);
 

@@ -73,8 +73,14 @@ bool isDiskFull(int error) {
     return error == ENOSPC || error == EDQUOT;
 }
 
-fs::path rootOf(std::string_view name) {
-    return name.starts_with('/') ? "/" : "";
+std::string_view rootOf(std::string_view name) {
+    return name.substr(0, name.starts_with('/') ? 1 : 0);
+}
+
+void requireFileName(std::string_view) {}
+
+fs::path asOnDisk(const fs::path& path) {
+    return path;
 }
 
 std::size_t longestName(const std::string& folder) {

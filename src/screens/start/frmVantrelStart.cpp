@@ -292,10 +292,9 @@ void frmVantrelStart::startNewFile() {
     showNote(m_oldLogLabel, {kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept});
     showLogNote();
     // The main page behind this one goes on with that log, whether START follows or not.
-    const Files& files = platform().files;
-    if (!shared().log.name().empty() &&
-        files.nativePath(shared().log.name()) == files.nativePath(name))
-        shared().log.reread();
+    Log& log = shared().log;
+    if (!log.name().empty() && platform().files.areSame(log.name(), name))
+        log.reread();
 }
 
 // The note about the old log was about the name before.

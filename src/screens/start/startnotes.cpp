@@ -42,13 +42,13 @@ StatusNote noteOn(std::string_view logBytes, std::string_view contestText) {
 } // namespace
 
 void refuseOwnFile(const Files& files, std::string_view logFileName) {
-    const std::string path = files.path(logFileName);
     std::vector<std::string_view> ownFiles{configurationFile, workedStationsFile, programFile};
     ownFiles.insert(ownFiles.end(), rosterFiles.begin(), rosterFiles.end());
     for (const std::string_view name : ownFiles)
-        if (upper(files.path(name)) == upper(path))
+        if (files.areSame(name, logFileName))
             throw RuntimeError(ErrorCode::pathFileAccess,
-                               path + " is one of the program's own files and cannot be the log");
+                               files.path(logFileName) +
+                                   " is one of the program's own files and cannot be the log");
     requireRoomForNames(files, logFileName);
 }
 

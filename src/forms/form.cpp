@@ -52,6 +52,11 @@ void Form::open(QWidget* opener) {
     bringToFront();
 }
 
+int Form::freeTop() const {
+    const auto* below = qobject_cast<const Form*>(m_opener.data());
+    return below == nullptr ? screen()->availableGeometry().top() : below->freeTop();
+}
+
 // Where the operator looks: over the page that opened it, below what is being entered there.
 void Form::placeOver(const Form* page) {
     const QSize asked = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
@@ -62,10 +67,14 @@ void Form::placeOver(const Form* page) {
     if (!isOwnPage())
         stayAbove(page);
     // The window manager will put the same frame around it.
-    QRect place = rect().marginsAdded(frameOf(page));
+    const QMargins frame = frameOf(page);
+    const int top = page->freeTop();
+    const int room =
+        page->screen()->availableGeometry().bottom() - top - frame.top() - frame.bottom();
+    resize(width(), std::clamp(room, minimumSizeHint().height(), height()));
+    QRect place = rect().marginsAdded(frame);
     place.moveCenter(page->frameGeometry().center());
-    if (const int top = page->freeTop(); top > 0)
-        place.moveTop(std::max(place.top(), page->mapToGlobal(QPoint(0, top)).y()));
+    place.moveTop(std::max(place.top(), top));
     moveOnto(page->screen(), place);
 }
 

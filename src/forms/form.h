@@ -66,8 +66,9 @@ protected:
     void openAtPageSize() { resize(800, 600); }
     // A page of its own is tied to no other window.
     virtual bool isOwnPage() const { return false; }
-    // Down to which line of this page what opens over it leaves it free, if the screen has room.
-    virtual int freeTop() const { return 0; }
+    // The line of the screen below which a page opens over this one, if there is room: that of the
+    // page that opened this one, unless the screen says otherwise.
+    virtual int freeTop() const;
 
     // What takes too long to do before the page shows: runs inside the guard once the page has been
     // drawn again. Takes the place of what has not run yet; nullptr: nothing runs.

@@ -18,6 +18,8 @@ namespace {
 constexpr double corner = 2; // pixels of rounding
 constexpr const char* requiredProperty = "required";
 constexpr int flatMargin = 4;
+constexpr int buttonMargin = 8;
+constexpr int fewestCharacters = 9; // of a button, that one sees it as one
 
 bool isFlat(const QStyleOption* option) {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -60,7 +62,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         const auto* label = static_cast<const QLabel*>(watched);
         if (event->type() != QEvent::ToolTip || label->wordWrap() ||
-            label->fontMetrics().horizontalAdvance(label->text()) <= label->contentsRect().width())
+            label->fontMetrics().size(0, label->text()).width() <= label->contentsRect().width())
             return QObject::eventFilter(watched, event);
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), label->text());
         return true;
@@ -106,9 +108,21 @@ void VisibleStyle::polish(QPalette& palette) {
 QSize VisibleStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                      const QSize& contents, const QWidget* widget) const {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type != CT_PushButton || !isFlat(option))
+    if (type != CT_PushButton)
         return size;
-    return {contents.width() + 2 * flatMargin, size.height()};
+    if (isFlat(option))
+        return {contents.width() + 2 * flatMargin, size.height()};
+    const int least = option->fontMetrics.averageCharWidth() * fewestCharacters;
+    return {std::max(contents.width() + 2 * buttonMargin, least), size.height()};
+}
+
+// As large as the letters beside it.
+int VisibleStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                              const QWidget* widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric != PM_ExclusiveIndicatorWidth && metric != PM_ExclusiveIndicatorHeight)
+        return usual;
+    return std::max(usual, widget == nullptr ? 0 : widget->fontMetrics().ascent());
 }
 
 void VisibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

@@ -175,8 +175,11 @@ private:
         }
         for (const QLabel* label : form->findChildren<QLabel*>())
             EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
-        const bool onScreen = form->screen()->availableGeometry().contains(form->frameGeometry());
-        EXPECT_TRUE(onScreen || QGuiApplication::platformName() == u"offscreen")
+        const auto onScreen = [form] {
+            return QGuiApplication::platformName() == u"offscreen" ||
+                   form->screen()->availableGeometry().contains(form->frameGeometry());
+        };
+        EXPECT_TRUE(QTest::qWaitFor(onScreen)) // the window manager takes its time
             << form->objectName().toStdString() << " is not wholly on the screen";
     }
 

@@ -20,16 +20,15 @@
 namespace vantrel {
 
 namespace {
-constexpr int widthInCharacters = 135; // of the page, with each result beside its job
-constexpr int resultCharacters = 20;   // of a result, at least
+constexpr int widthInCharacters = 160; // of the page, with each result beside its job
 } // namespace
 
 frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     : Form(context, "frmVantrelFiles", "Vantrel - Files") {
     FormBuilder build(this);
     std::vector<Item> parts;
-    for (const Group& group : groups())
-        parts.emplace_back(build.section(group.title, jobs(group)));
+    for (const Group& group : groups()) // the last one's results are the longest
+        parts.emplace_back(build.section(group.title, jobs(group)), parts.empty() ? 0 : 1);
     m_adifCaption = build.alert("Label5");
     m_adifPath = build.output("Text2");
     m_adifPath->setAccessibleName(QStringLiteral("ADIF FILE"));
@@ -111,7 +110,7 @@ void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
     setTextColour(result, dimmedColour);
     // As wide as the page lets it be, whatever its text: the page does not change while it is used.
     result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    result->setMinimumWidth(fontMetrics().averageCharWidth() * resultCharacters);
+    result->setMinimumWidth(fontMetrics().size(0, toQt(noSuchFileYet)).width());
     column->addWidget(result, row, 1);
     m_results.push_back({result, job.result});
 }

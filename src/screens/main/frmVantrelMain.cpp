@@ -213,9 +213,9 @@ void frmVantrelMain::load() {
         afterPaint([this] { run(&ContactEntry::radioAsked); });
 }
 
-// Small boxes leave the boxes of the exchange free.
+// The boxes of the exchange and the hint stay to be seen.
 int frmVantrelMain::freeTop() const {
-    return m_boxes.hint->geometry().bottom();
+    return m_boxes.hintBar->mapToGlobal(m_boxes.hintBar->rect().bottomLeft()).y();
 }
 
 void frmVantrelMain::closeEvent(QCloseEvent* event) {

@@ -104,7 +104,6 @@ EntryBoxes::EntryBoxes(QWidget* form) {
     band->setFont(glanceFont(form, otherPoints));
     frequency->setFont(glanceFont(form, otherPoints));
     frequency->setFixedWidth(widthOf(frequency, frequencyColumns));
-    station->setMinimumWidth(1); // what has no room here the marker says, too
     for (QLineEdit* box :
          {call, rstSent->lineEdit(), rstReceived->lineEdit(), name, state, number, frequency})
         keepUpperCase(box);

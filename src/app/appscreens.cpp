@@ -111,7 +111,8 @@ void AppScreens::openFor(QWidget* opener, Screen screen) {
 }
 
 void AppScreens::openContact(Screen page, int contact, OpenAt at) {
-    formOf<frmLogPage>(page).startAt(contact, at);
+    if (contact > 0)
+        formOf<frmLogPage>(page).startAt(contact, at);
     open(page);
 }
 

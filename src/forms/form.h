@@ -71,7 +71,7 @@ protected:
     virtual int freeTop() const;
 
     // What takes too long to do before the page shows: runs inside the guard once the page has been
-    // drawn again. Takes the place of what has not run yet; nullptr: nothing runs.
+    // drawn again, in the place of what has not run yet.
     void afterPaint(std::function<void()> work);
     // Runs inside the guard, each second while the page shows.
     void eachSecond(std::function<void()> tick);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What is said of a radio family, the families there are, and what they have in common in taking
-// replies apart. How they are spoken to is the same for all: catlink.cpp.
+// What is said of a radio family, and the families there are. How they are spoken to is the same
+// for all: catlink.cpp.
 #pragma once
 
 #include "platform/platform.h"
@@ -64,14 +64,5 @@ extern const RadioFamily icomCiv;
 extern const RadioFamily yaesuAscii;
 extern const RadioFamily yaesuBinary;
 extern const RadioFamily kenwood;
-
-// The hertz of an answer that begins with `letters`, then so many digits, then `end`; nothing
-// when it has another form.
-std::optional<std::int64_t> hertzOfAnswer(std::string_view reply, std::string_view letters,
-                                          int digits, char end);
-
-// Four bytes as a number, most significant first. `first`: index of the first, which must
-// have three more behind it.
-std::int64_t bigEndian(std::string_view bytes, std::size_t first);
 
 } // namespace vantrel

@@ -86,7 +86,7 @@ public:
     // Closes `current` and opens `next` in its place: closing that one leads to where closing
     // `current` would have led.
     virtual void replace(Screen current, Screen next) = 0;
-    // A page of log maintenance for contact 1 to log.count().
+    // A page of log maintenance for contact 1 to log.count(); 0: for none.
     virtual void openContact(Screen page, int contact, OpenAt at) = 0;
     // The lines of the log or of its ADIF file.
     virtual void openList(ListedFile file) = 0;

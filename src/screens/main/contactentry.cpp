@@ -120,7 +120,6 @@ ContactEntry::Step ContactEntry::testForDupe(Answer& answer) {
     if (!logged.empty() && !settings.logsDupes()) {
         clear(ClearTo::nothing);
         m_draft.happened = {refusedHint(logged), std::string(logged)};
-        answer.toCallBox = true;
         return Step::ended;
     }
     m_draft.searched->bandTag = bandTag;
@@ -133,20 +132,19 @@ ContactEntry::Step ContactEntry::testForDupe(Answer& answer) {
 }
 
 Answer ContactEntry::frequencyEntered() {
-    Answer answer = frequencyLeft();
-    answer.toCallBox = true;
-    return answer;
-}
-
-Answer ContactEntry::frequencyLeft() {
     Answer answer;
     std::ignore = enterFrequencyBox(answer); // nothing else was to be done
     return answer;
 }
 
+Answer ContactEntry::frequencyLeft() {
+    Answer answer;
+    answer.toCallBox = enterFrequencyBox(answer) == Step::ended;
+    return answer;
+}
+
 Answer ContactEntry::stepTo(const Band& (*next)(std::string_view bandText)) {
     Answer answer;
-    answer.toCallBox = true;
     if (enterFrequencyBox(answer) == Step::on)
         std::ignore = tune(std::string(next(m_draft.bandText).defaultFrequency), answer);
     return answer;
@@ -156,7 +154,6 @@ Answer ContactEntry::stepTo(const Band& (*next)(std::string_view bandText)) {
 
 Answer ContactEntry::radioAsked() {
     Answer answer;
-    answer.toCallBox = true;
     std::ignore = readRadio(ReadCause::manual, answer);
     return answer;
 }
@@ -164,7 +161,7 @@ Answer ContactEntry::radioAsked() {
 Answer ContactEntry::autoReadToggled() {
     m_draft.autoReads = !m_draft.autoReads;
     m_draft.lastRead = ReadOutcome::noRadio;
-    return {.toCallBox = true};
+    return {};
 }
 
 // One that does not answer is reported, and the frequency in the box stands.
@@ -200,7 +197,6 @@ ContactEntry::Step ContactEntry::readRadio(ReadCause cause, Answer& answer) {
 
 Answer ContactEntry::search() {
     Answer answer;
-    answer.toCallBox = true;
     if (enterFrequencyBox(answer) == Step::ended)
         return answer;
     if (isComplete(m_draft.boxes) && !m_draft.broughtBack)
@@ -245,7 +241,7 @@ ContactEntry::Step ContactEntry::lookUpCall(Draft::Searched& found) {
         found.hasRoster = m_roster.hasMembers();
     if (found.outcome != LookupOutcome::nobody)
         return Step::on;
-    m_draft.happened = {nobodyHint(typed)};
+    m_draft.happened = Draft::Happened{{"NO MEMBER " + typed, HintTone::caution}};
     return Step::ended;
 }
 
@@ -259,14 +255,13 @@ Answer ContactEntry::filledFromLog() {
         box = text;
         m_draft.lookedUp[i] = true;
     }
-    return {.toCallBox = true};
+    return {};
 }
 
 // --- LOG -------------------------------------------------------------------------------------
 
 Answer ContactEntry::log() {
     Answer answer;
-    answer.toCallBox = true;
     if (enterFrequencyBox(answer) == Step::on)
         logEntered(answer);
     return answer;
@@ -356,7 +351,6 @@ void ContactEntry::append(const std::string& line, Answer& answer) {
 
 Answer ContactEntry::logAsDupe() {
     Answer answer;
-    answer.toCallBox = true;
     append(m_asked, answer);
     return answer;
 }
@@ -365,7 +359,7 @@ Answer ContactEntry::logAsDupe() {
 
 Answer ContactEntry::droppedDupe() {
     clear(ClearTo::oneBlank);
-    return {.toCallBox = true};
+    return {};
 }
 
 // What happened last stays told until there is something in the boxes.
@@ -375,7 +369,7 @@ Answer ContactEntry::dropped() {
     if (happened && !happened->contact.empty())
         m_draft.happened = happened;
     m_draft.station = noStationLabel;
-    return {.toCallBox = true};
+    return {};
 }
 
 // What is cleared can be brought back until something else is.
@@ -402,7 +396,7 @@ Answer ContactEntry::broughtBack() {
     m_draft.broughtBack = true;
     m_draft.happened.reset();
     m_cleared.reset();
-    return {.toCallBox = true};
+    return {};
 }
 
 // --- What comes from elsewhere ---------------------------------------------------------------

@@ -24,7 +24,7 @@ struct Platform;
 struct [[nodiscard]] Answer {
     bool dupeScreen = false;
     std::vector<Message> messages{};
-    bool toCallBox = false;
+    bool toCallBox = true;
     bool asksAboutDupe = false; // logAsDupe() or droppedDupe() comes next
 };
 

@@ -112,13 +112,14 @@ EntryView viewOf(const Draft& draft, const ViewContext& context) {
     const Contacts& contacts = shared.log.contacts();
     const std::string_view call = trim(draft.boxes.call);
     const std::string bandTag = draft.bandTag();
+    const std::string marker = markerOf(draft, shared);
     const bool hasRadio = draft.autoReads && shared.settings.hasRadio();
     return {.boxes = draft.boxes,
             .lookedUp = draft.lookedUp,
             .bandText = draft.bandText,
             .onBand = !bandTextOf(draft.mhz, "").empty(),
             .station = draft.station,
-            .nextMarker = nextMarkerText(markerOf(draft, shared)),
+            .nextMarker = marker == noMarker ? "" : "NEXT QSO: " + marker,
             .hint = hintOf(draft, context),
             .worked = workedBefore(contacts, call, bandTag, workedColumns),
             .bands = bandTable(contacts, call, bandTag, shared.settings.isK3y()),

@@ -68,7 +68,7 @@ struct EntryView {
     std::string bandText{};
     bool onBand = true; // otherwise struck out: the frequency is on another
     std::string station{};
-    std::string nextMarker{};
+    std::string nextMarker{}; // "NEXT QSO: K3Y/EU"; empty while it ends in six blanks
     Hint hint{};
     std::vector<WorkedCall> worked{};
     BandTable bands{};

@@ -57,20 +57,18 @@ std::string frequencyAsEntered(std::string_view typed) {
 }
 
 std::string completedFrequency(std::string_view entry) {
-    std::string frequency(entry);
-    if (length(frequency) >= 5)
+    const std::string frequency(entry);
+    switch (length(entry)) {
+    case 1:
+        return frequency + ".000";
+    case 2:
+        return frequency + (entry.back() == '.' ? "000" : ".000");
+    case 3:
+    case 4: // "7.04" gets one zero too many, which the kHz field leaves out
+        return frequency + "00";
+    default:
         return frequency;
-    // One after the other, each on the result of the one before. That "7.04" gets two zeros
-    // and six characters is meant so: the kHz field takes it all the same.
-    if (length(frequency) == 1)
-        frequency += ".000";
-    if (length(frequency) == 2 && frequency[1] == '.')
-        frequency += "000";
-    if (length(frequency) == 2)
-        frequency += ".000";
-    if (length(frequency) == 3 || length(frequency) == 4)
-        frequency += "00";
-    return frequency;
+    }
 }
 
 bool isOutsideSprintBands(std::string_view mhz, std::string_view khzField) {
@@ -79,20 +77,11 @@ bool isOutsideSprintBands(std::string_view mhz, std::string_view khzField) {
 }
 
 std::string khzField(std::string_view mhz) {
-    std::string f(mhz);
-    const auto pointAt = [&](int column) { return mid(f, column, 1) == "."; };
-    const auto part = [&](int first, int count) { return std::string(mid(f, first, count)); };
-    if (length(f) == 5 && pointAt(2))
-        f = ' ' + part(1, 1) + part(3, 3);
-    if (length(f) == 6 && pointAt(2))
-        f = part(1, 1) + part(3, 3);
-    if (length(f) == 6 && pointAt(3))
-        f = part(1, 2) + part(4, 3);
-    if (length(f) > 5)
-        f = part(1, 5);
-    if (length(f) == 4)
-        f = ' ' + f;
-    return f;
+    std::string khz(mhz);
+    const std::size_t point = khz.find('.');
+    if ((khz.size() == 5 && point == 1) || (khz.size() == 6 && (point == 1 || point == 2)))
+        khz = khz.substr(0, point) + khz.substr(point + 1, 3);
+    return khz.size() == 4 ? ' ' + khz : khz.substr(0, 5);
 }
 
 std::string khzFault(std::string_view field, std::string_view typed) {

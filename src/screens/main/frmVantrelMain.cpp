@@ -135,10 +135,10 @@ QVBoxLayout* frmVantrelMain::stationChoice() {
 QHBoxLayout* frmVantrelMain::contestRow() {
     m_workedList = FormBuilder::named(new WorkedList(this), "List1");
     m_panel = new ContestPanel(this);
-    connectHandler(m_workedList, &WorkedList::chosen,
-                   [this](int contact) { openOnContact(Screen::correct, contact); });
-    connectHandler(m_workedList, &WorkedList::removed,
-                   [this](int contact) { openOnContact(Screen::deletion, contact); });
+    connectHandler(m_workedList, &WorkedList::chosen, [this](int contact) { correct(contact); });
+    connectHandler(m_workedList, &WorkedList::removed, [this](int contact) {
+        screens().openContact(Screen::deletion, contact, OpenAt::found);
+    });
     connectHandler(m_workedList, &WorkedList::escaped, [this] { toCallBox(); });
     return row({column({m_workedList->headings(this), {m_workedList, 1}}), {m_panel, 1}});
 }
@@ -154,9 +154,11 @@ QHBoxLayout* frmVantrelMain::pageCommands() {
     const Item gap = Item::gap(fontMetrics().averageCharWidth() * 2);
     return row(
         {leads("Command7", "CO&RRECT", "CORRECT ANY ENTRY IN CABRILLO FILE",
-               [this] { openOnContact(Screen::correct, chosenContact()); }),
+               [this] { correct(chosenContact()); }),
          leads("Command8", "DELET&E", "REMOVES ENTRY FROM CABRILLO FILE",
-               [this] { openOnContact(Screen::deletion, chosenContact(), OpenAt::callOnly); }),
+               [this] {
+                   screens().openContact(Screen::deletion, chosenContact(), OpenAt::callOnly);
+               }),
          gap,
          leads("Command6", "LIS&T", "DISPLAYS OF FULL CABRILLO FILE",
                [this] { screens().openList(ListedFile::log); }),
@@ -208,9 +210,11 @@ void frmVantrelMain::load() {
     m_entry.opened();
     toCallBox();
     runHandler([this] { shared().log.open(shared().settings.logFileName); });
-    afterPaint(nullptr);
-    if (settings.hasRadio() && m_entry.autoReads())
-        afterPaint([this] { run(&ContactEntry::radioAsked); });
+    const bool reads = settings.hasRadio() && m_entry.autoReads();
+    afterPaint([this, reads] {
+        if (reads)
+            run(&ContactEntry::radioAsked);
+    });
 }
 
 // The boxes of the exchange and the hint stay to be seen.
@@ -263,16 +267,6 @@ void frmVantrelMain::showEntry() {
     m_suggestions->setLines(m_entry.members());
 }
 
-void frmVantrelMain::showStation(const std::string& text) {
-    m_entry.tagChosen(text);
-    showEntry();
-}
-
-void frmVantrelMain::contactChanged(ContactChange change, const std::string& line) {
-    m_entry.contactChanged(change, line);
-    showEntry();
-}
-
 // --- Keys ------------------------------------------------------------------------------------
 
 // What no button or list has a use for belongs to the contact being entered.
@@ -308,7 +302,7 @@ bool frmVantrelMain::callBoxTakes(const QKeyEvent& key) {
         return true;
     }
     if (key.key() == Qt::Key_Up && empty && shared().log.count().value() > Log::workedCapacity) {
-        runHandler([this] { openOnContact(Screen::correct, chosenContact()); });
+        runHandler([this] { correct(chosenContact()); });
         return true; // the list ends before the last contact
     }
     return (key.key() == Qt::Key_Down && m_suggestions->takeFocus()) ||
@@ -325,7 +319,7 @@ void frmVantrelMain::toCallBox() {
 
 void frmVantrelMain::showLog() {
     const Log& log = shared().log;
-    put(m_countBox, countText(log.count()));
+    put(m_countBox, zeroPadded(log.count().value(), 2));
     m_workedList->setLines(log.worked());
     m_panel->followLog(log, shared().settings, m_entry.score());
     secondPassed();
@@ -344,13 +338,6 @@ void frmVantrelMain::secondPassed() {
 int frmVantrelMain::chosenContact() const {
     const int selected = m_workedList->chosenContact();
     return selected > 0 ? selected : shared().log.count().value();
-}
-
-void frmVantrelMain::openOnContact(Screen page, int contact, OpenAt at) {
-    if (contact == 0)
-        screens().open(page);
-    else
-        screens().openContact(page, contact, at);
 }
 
 void frmVantrelMain::audioClicked() {

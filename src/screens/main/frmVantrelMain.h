@@ -28,8 +28,14 @@ class frmVantrelMain : public Form, public MainPage {
 public:
     explicit frmVantrelMain(const FormContext& context);
 
-    void showStation(const std::string& text) override;
-    void contactChanged(ContactChange change, const std::string& line) override;
+    void showStation(const std::string& text) override {
+        m_entry.tagChosen(text);
+        showEntry();
+    }
+    void contactChanged(ContactChange change, const std::string& line) override {
+        m_entry.contactChanged(change, line);
+        showEntry();
+    }
     void loadAfresh() override {
         runHandler([this] { load(); });
     }
@@ -63,7 +69,7 @@ private:
 
     bool callBoxTakes(const QKeyEvent& key);
     void toCallBox();
-    void openOnContact(Screen page, int contact, OpenAt at = OpenAt::found);
+    void correct(int contact) { screens().openContact(Screen::correct, contact, OpenAt::found); }
     int chosenContact() const;
     void showLog();
     void secondPassed();

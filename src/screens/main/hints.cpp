@@ -86,18 +86,10 @@ Hint changedHint(ContactChange change, std::string_view contact) {
             callKhzTime(contact)};
 }
 
-Hint nobodyHint(std::string_view number) {
-    return {"NO MEMBER " + std::string(trim(number)), HintTone::caution};
-}
-
 Hint takenBackHint(std::string_view tag) {
     if (tag.empty())
         return {};
     return {std::string(tag) + " TAKEN BACK BY SEARCH", HintTone::caution};
-}
-
-std::string nextMarkerText(std::string_view marker) {
-    return marker == noMarker ? "" : "NEXT QSO: " + std::string(marker);
 }
 
 } // namespace vantrel

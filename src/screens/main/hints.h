@@ -47,13 +47,7 @@ Hint refusedHint(std::string_view logged);
 // After another page made this line of a contact of the log, or took that line out of it.
 Hint changedHint(ContactChange change, std::string_view contact);
 
-// After a number that nobody has was looked up.
-Hint nobodyHint(std::string_view number);
-
 // While a chosen K3Y tag is taken back by SEARCH; nothing without one.
 Hint takenBackHint(std::string_view tag);
-
-// "NEXT QSO: K3Y/EU"; empty while it ends in six blanks.
-std::string nextMarkerText(std::string_view marker);
 
 } // namespace vantrel

@@ -97,16 +97,14 @@ RuntimeError notLogged(const RuntimeError& error) {
 }
 
 Message failureOnceLogged(const RuntimeError& error) {
-    return {error.headline(), BoxIcon::critical, error.detail() + '\n' + std::string(isLoggedText)};
+    return {error.headline(), BoxIcon::critical, error.detail() + "\nTHE QSO IS IN THE LOG"};
 }
 
 Message lossNotice(const LogLoss& loss, const std::string& logPath) {
-    return {std::string(loss.vanished ? logStartedAgainText : logShrankText), BoxIcon::exclamation,
+    constexpr std::string_view shrank = // and the contact is in the shorter one
+        "THE LOG FILE HELD FEWER QSOS THAN BEFORE.  THIS QSO HAS BEEN ADDED TO IT";
+    return {std::string(loss.vanished ? logStartedAgainText : shrank), BoxIcon::exclamation,
             logPath + (loss.kept.empty() ? "" : "\nWHAT IT HELD IS KEPT IN " + loss.kept)};
-}
-
-std::string countText(Integer16 contacts) {
-    return zeroPadded(contacts.value(), 2);
 }
 
 } // namespace vantrel

@@ -3,7 +3,6 @@
 // step, without a window.
 #pragma once
 
-#include "base/integer16.h"
 #include "base/runtimeerror.h"
 #include "log/qsoline.h"
 #include "platform/platform.h"
@@ -52,15 +51,9 @@ inline constexpr std::string_view wrongBandText = " MHz IS NOT A VALID SPRINT FR
 inline constexpr std::string_view invalidEntryText = "Invalid Entry - Pleasr try again";
 inline constexpr std::string_view duplicateQsoText = " <<<<<< THIS IS A DUPLICATE QSO >>>>>> ";
 
-// Said with whatever fails after the contact is in the log.
-inline constexpr std::string_view isLoggedText = "THE QSO IS IN THE LOG";
-
-// The log vanished under the program, so the contact is in a new one of that name; or it was
-// replaced by one with fewer contacts, so the contact is in that one.
+// The log vanished under the program, so the contact is in a new one of that name.
 inline constexpr std::string_view logStartedAgainText =
     "THE LOG FILE WAS NO LONGER THERE.  A NEW ONE HAS BEEN STARTED WITH THIS QSO";
-inline constexpr std::string_view logShrankText =
-    "THE LOG FILE HELD FEWER QSOS THAN BEFORE.  THIS QSO HAS BEEN ADDED TO IT";
 
 // True when SEARCH has nothing left to do and logs: the number box holds more than one
 // character.
@@ -107,8 +100,5 @@ Message failureOnceLogged(const RuntimeError& error);
 
 // What to tell the operator of a log that had changed so; logPath: as text to show.
 Message lossNotice(const LogLoss& loss, const std::string& logPath);
-
-// The count box: "00", "09", "10", "12000".
-std::string countText(Integer16 contacts);
 
 } // namespace vantrel

@@ -2,7 +2,6 @@
 #include "screens/main/rate.h"
 
 #include "log/qsoline.h"
-#include "shared/utctime.h"
 
 #include <algorithm>
 #include <numeric>
@@ -48,10 +47,6 @@ Rate rateAt(const std::vector<UtcMinute>& moments, UtcMinute now) {
     if (*best > 0)
         rate.bestSince = firsts[static_cast<std::size_t>(best - bars.begin())];
     return rate;
-}
-
-std::optional<UtcMinute> momentOf(const UtcTime& utc) {
-    return readMinute(utc.date, utc.time);
 }
 
 std::string rateText(const Rate& rate) {

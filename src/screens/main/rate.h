@@ -12,8 +12,6 @@
 
 namespace vantrel {
 
-struct UtcTime;
-
 struct Rate {
     int lastTenMinutes = 0;
     std::optional<int> minutesSinceLast{}; // nothing without any contact
@@ -27,9 +25,6 @@ std::vector<UtcMinute> momentsOf(const Contacts& contacts);
 // As of `now`. With a negative offset a contact before midnight UTC keeps the local date: one dated
 // up to a day ahead counts a day earlier, and one that lies further ahead does not count.
 Rate rateAt(const std::vector<UtcMinute>& moments, UtcMinute now);
-
-// The minute that a contact logged now would have. Nothing when the clock shows no date.
-std::optional<UtcMinute> momentOf(const UtcTime& utc);
 
 // "5 (30/h)", "LAST 3 MIN AGO", "LAST 11 H AGO" (empty without a contact).
 std::string rateText(const Rate& rate);

@@ -16,46 +16,17 @@ namespace {
 constexpr int fewestTyped = 2;
 constexpr std::size_t mostMembers = 12;
 constexpr std::size_t shortestEntry = 6; // "K1 20" and a blank
-constexpr std::string_view between = "  ";
+constexpr int between = 2;               // blanks
 
 // Equal as columns: a line that lost its last blanks in an editor is still the same contact.
 bool sameField(Column column, std::string_view line, std::string_view value) {
     return trimRight(column.of(line)) == trimRight(left(value, column.width));
 }
 
-struct Worked {
-    std::string_view call;
-    std::vector<std::string_view> bands;
-    bool dupe = false;
-};
-
-// The first `most` calls: no more are ever shown, and a key must not wait for thousands.
-std::vector<Worked> workedWith(const Contacts& contacts, std::string_view typed,
-                               std::string_view bandTag, std::size_t most) {
-    std::vector<Worked> result;
-    for (const std::string_view line : contacts) {
-        if (mid(line, qso::hisCall.first, length(typed)) != typed)
-            continue;
-        const std::string_view call = trim(qso::hisCall.of(line));
-        auto entry = std::find_if(result.begin(), result.end(),
-                                  [&](const Worked& worked) { return worked.call == call; });
-        if (entry == result.end() && result.size() == most)
-            continue;
-        if (entry == result.end())
-            entry = result.insert(result.end(), {call, {}});
-        const std::string_view band = bandLabelOf(qso::frequency.of(line));
-        if (std::find(entry->bands.begin(), entry->bands.end(), band) == entry->bands.end())
-            entry->bands.push_back(band);
-        entry->dupe = entry->dupe || qso::bandTag.of(line) == bandTag;
-    }
-    return result;
-}
-
-std::string textOf(const Worked& worked) {
-    std::string text(worked.call);
-    for (const std::string_view band : worked.bands)
-        text += ' ' + std::string(band.substr(0, band.find('M'))); // "20" of "20M"
-    return text;
+// "20" of "20M"; the kHz outside the bands.
+std::string bandName(std::string_view contact) {
+    const std::string_view label = bandLabelOf(qso::frequency.of(contact));
+    return std::string(label.substr(0, label.find('M')));
 }
 
 // A row of the band table: a band as operators count it may have several tags.
@@ -128,16 +99,30 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
     std::vector<WorkedCall> result;
     if (length(typed) < fewestTyped)
         return result;
+    // No more are ever shown, and a key must not wait for thousands.
     const auto most = static_cast<std::size_t>(columns) / shortestEntry + 1;
-    int width = 0;
-    for (const Worked& worked : workedWith(contacts, typed, bandTag, most)) {
-        std::string text = textOf(worked);
-        width += (result.empty() ? 0 : length(between)) + length(text);
+    for (const std::string_view line : contacts) {
+        if (mid(line, qso::hisCall.first, length(typed)) != typed)
+            continue;
+        const std::string call(trim(qso::hisCall.of(line)));
+        auto entry = std::find_if(result.begin(), result.end(),
+                                  [&](const WorkedCall& worked) { return worked.call == call; });
+        if (entry == result.end() && result.size() == most)
+            continue;
+        if (entry == result.end())
+            entry = result.insert(result.end(), {call, call, false});
+        const std::string band = ' ' + bandName(line);
+        if ((entry->text + ' ').find(band + ' ') == std::string::npos)
+            entry->text += band;
+        entry->dupe = entry->dupe || qso::bandTag.of(line) == bandTag;
+    }
+    int width = -between;
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        width += between + length(result[i].text);
         if (width > columns) {
-            result.push_back({std::string(moreWorked), false});
-            break;
+            result.resize(i);
+            result.push_back({"", "...", false});
         }
-        result.push_back({std::move(text), worked.dupe});
     }
     return result;
 }

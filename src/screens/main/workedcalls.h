@@ -28,11 +28,9 @@ bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view
 // The contact line as an event's duplicate is logged: its first 101 columns and "DUPE".
 std::string asDupe(std::string_view contactLine);
 
-// Stands for those that find no room.
-inline constexpr std::string_view moreWorked = "...";
-
 struct WorkedCall {
-    std::string text; // "K1ABC 20 40"
+    std::string call; // empty: those that find no room
+    std::string text; // "K1ABC 20 40", or "..." for those
     bool dupe;        // worked on the band of the frequency box
 };
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/start/frmVantrelStart.h"
 
-#include "base/fixedtext.h"
 #include "forms/colours.h"
-#include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/layouts.h"
 #include "forms/visiblestyle.h"
@@ -123,7 +121,7 @@ QLayout* frmVantrelStart::filePart() {
         build.text("Text9", 0,
                    "FILE NAME CAN BE CHANGED TO YOUR CHOICE  +  .CBR-->THEN CLICK START A NEW "
                    "FILE -YES-"));
-    connectHandler(m_fileBox, &QLineEdit::textEdited, [this] { logNameTyped(); });
+    connectHandler(m_fileBox, &QLineEdit::textEdited, [this] { m_oldLogLabel->clear(); });
     connectHandler(m_fileBox, &QLineEdit::textChanged, [this] { showLogNote(); });
     form->addRow(QString(), m_logLabel = build.label("Label15"));
     form->addRow(QString(),
@@ -164,9 +162,10 @@ QLayout* frmVantrelStart::radioPart() {
 // --- Opening ---------------------------------------------------------------------------------
 
 void frmVantrelStart::load() {
-    std::vector<std::string> unknown = loadContest();
-    const std::vector<std::string> notChosen = loadChosen();
-    unknown.insert(unknown.end(), notChosen.begin(), notChosen.end());
+    const std::string& code = shared().settings.contestCode;
+    std::vector<std::string> unknown = loadChosen();
+    if (!chooseContest(upper(trim(code))))
+        unknown.insert(unknown.begin(), "CONTEST: " + code);
     for (const auto& [setting, box] : typedSettings())
         put(box, trim(shared().settings.*setting));
     m_radio->loaded();
@@ -175,20 +174,17 @@ void frmVantrelStart::load() {
         showNote(m_oldLogLabel, {unknownSettingsText(unknown), true});
 }
 
-// Returns what the page cannot show of the saved settings, if anything.
-std::vector<std::string> frmVantrelStart::loadContest() {
-    const std::string& code = shared().settings.contestCode;
-    const auto saved = std::find_if(contests.begin(), contests.end(), [&](const Contest& contest) {
-        return contest.code == upper(trim(code));
-    });
-    const bool known = saved != contests.end();
-    m_contestOptions[known ? static_cast<std::size_t>(saved - contests.begin()) : 0]->setChecked(
-        true);
-    if (known)
-        return {};
-    return {"CONTEST: " + code};
+// The first one when there is no contest of that code; that is false.
+bool frmVantrelStart::chooseContest(std::string_view code) {
+    std::size_t contest = 0;
+    while (contest < contests.size() && contests[contest].code != code)
+        ++contest;
+    const bool known = contest < contests.size();
+    m_contestOptions[known ? contest : 0]->setChecked(true);
+    return known;
 }
 
+// Returns the saved values that no list has.
 std::vector<std::string> frmVantrelStart::loadChosen() {
     OperatingSettings settings = shared().settings;
     settings.gmtOffset = offsetByValue(settings.gmtOffset);
@@ -218,10 +214,6 @@ void frmVantrelStart::showNotes() {
     m_radio->showDevice();
     showLogNote();
     showNote(m_membersLabel, rosterNote(platform().files));
-}
-
-QWidget* frmVantrelStart::firstFocus() {
-    return m_callBox;
 }
 
 // Without a main page there is nothing to return to.
@@ -297,11 +289,6 @@ void frmVantrelStart::startNewFile() {
         log.reread();
 }
 
-// The note about the old log was about the name before.
-void frmVantrelStart::logNameTyped() {
-    m_oldLogLabel->clear();
-}
-
 void frmVantrelStart::showLogNote() {
     if (isVisible()) // while it is being loaded, the notes come later
         showNote(m_logLabel, logNote(platform().files, textOf(m_fileBox), textOf(m_contestBox)));
@@ -337,10 +324,6 @@ void frmVantrelStart::start() {
     shared().settings = settings;
     shared().settings.portDevice = platform().serialPort.device(settings.comPort);
     m_radio->started();
-    openMainPage();
-}
-
-void frmVantrelStart::openMainPage() {
     // A main page that is there already is loaded afresh: the log may be another one now.
     if (MainPage* page = screens().mainPage())
         page->loadAfresh();
@@ -387,21 +370,9 @@ std::string frmVantrelStart::contestCode() const {
 
 // --- What other screens do here --------------------------------------------------------------
 
-std::string frmVantrelStart::logFileName() const {
-    return textOf(m_fileBox);
-}
-
 void frmVantrelStart::setLogFileName(const std::string& name) {
     put(m_fileBox, name);
-    logNameTyped();
-}
-
-std::string frmVantrelStart::myCall() const {
-    return upper(trim(textOf(m_callBox)));
-}
-
-std::string frmVantrelStart::gmtOffset() const {
-    return chosenValue(m_offsetBox);
+    m_oldLogLabel->clear(); // it was about the name before
 }
 
 void frmVantrelStart::receivePath(const std::string& path) {

@@ -2,6 +2,8 @@
 // The start page: contest, operator, log file, radio; START saves them and opens the log.
 #pragma once
 
+#include "base/fixedtext.h"
+#include "forms/controltext.h"
 #include "forms/form.h"
 #include "forms/inputhold.h"
 #include "screens/start/startlists.h"
@@ -11,7 +13,6 @@
 
 class QLabel;
 class QLayout;
-class QLineEdit;
 class QRadioButton;
 
 namespace vantrel {
@@ -22,10 +23,10 @@ class frmVantrelStart : public Form, public StartPage, public PathReceiver {
 public:
     explicit frmVantrelStart(const FormContext& context);
 
-    std::string logFileName() const override;
+    std::string logFileName() const override { return textOf(m_fileBox); }
     void setLogFileName(const std::string& name) override;
-    std::string myCall() const override;
-    std::string gmtOffset() const override;
+    std::string myCall() const override { return upper(trim(textOf(m_callBox))); }
+    std::string gmtOffset() const override { return chosenValue(m_offsetBox); }
     void receivePath(const std::string& path) override;
     bool loadsAgain() const override { return true; }
     void bringToFront() override;
@@ -33,7 +34,7 @@ public:
 protected:
     void load() override;
     void escapePressed() override {}
-    QWidget* firstFocus() override;
+    QWidget* firstFocus() override { return m_callBox; }
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -53,7 +54,7 @@ private:
     QLayout* filePart();
     QLayout* radioPart();
 
-    std::vector<std::string> loadContest();
+    bool chooseContest(std::string_view code);
     std::vector<std::string> loadChosen();
     void showNotes();
     void showLogNote();
@@ -62,7 +63,6 @@ private:
     void contestClicked();
     void showUtc();
     void secondPassed();
-    void logNameTyped();
     void takeDefaultName();
     void newFileChosen();
     void testRadio();
@@ -74,7 +74,6 @@ private:
     std::string contestCode() const;
     void upperCaseBoxes();
     void startNewFile();
-    void openMainPage();
 
     std::vector<QRadioButton*> m_contestOptions;
     QLineEdit* m_contestBox;

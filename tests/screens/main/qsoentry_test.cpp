@@ -87,11 +87,11 @@ TEST(Rate, TakesAContactUpToADayAheadForOneOfTheDayBefore) {
                                      {"no date", "0001"}})
         lines.push_back(contactLine({.date = padded(date, 10), .time = time}));
     const Rate rate =
-        rateAt(momentsOf({lines.begin(), lines.end()}), *momentOf({"0005", "2012-02-29"}));
+        rateAt(momentsOf({lines.begin(), lines.end()}), *readMinute("2012-02-29", "0005"));
     EXPECT_EQ(rateText(rate), "3 (18/h)");
     EXPECT_EQ(lastText(rate), "LAST 1 MIN AGO");
     EXPECT_EQ(lastText(rateAt(momentsOf({lines.begin(), lines.end()}),
-                              *momentOf({"1149", "2012-02-29"}))),
+                              *readMinute("2012-02-29", "1149"))),
               "LAST 11 H AGO");
     EXPECT_EQ(hourText(rate), "3 contacts in the last hour, most at 2356");
     EXPECT_EQ(lastText(rateAt({}, {})) + hourText(rateAt({}, {})), "0 contacts in the last hour");

@@ -10,6 +10,7 @@
 #include "k3y/standings.h"
 #include "output/score/scoretext.h"
 #include "shared/settings.h"
+#include "shared/utctime.h"
 
 #include <QHeaderView>
 #include <QPainter>
@@ -124,7 +125,7 @@ void ContestPanel::followLog(const Log& log, const OperatingSettings& settings,
 }
 
 void ContestPanel::followClock(const UtcTime& utc) {
-    const std::optional<UtcMinute> now = momentOf(utc);
+    const std::optional<UtcMinute> now = readMinute(utc.date, utc.time);
     if (!now || m_shownAt == now)
         return;
     m_shownAt = now;

@@ -127,7 +127,7 @@ void EntryBoxes::show(const EntryView& view) const {
     marker->setVisible(!view.nextMarker.empty());
     std::vector<MarkedLabel::Run> runs;
     for (const WorkedCall& like : view.worked) {
-        const bool joins = runs.empty() || like.text == moreWorked;
+        const bool joins = runs.empty() || like.call.empty();
         runs.push_back({toQt((joins ? "" : "  ") + like.text), like.dupe});
     }
     worked->setRuns(std::move(runs));

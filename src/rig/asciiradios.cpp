@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Radios that are asked in letters and end their answers with a semicolon: Kenwood (TS-990S,
-// TS-590S, TS-480S, TS-2000), Yaesu (FTdx-5000, FTdx-3000, FT-2000, FT-950, FT-450), Elecraft K3
-// and K2. The forms are those of the makers' CAT reference books.
+// Radios that are asked and answer in letters and digits, as the makers' CAT reference books tell.
+// With a semicolon at the end: Kenwood (TS-990S, TS-590S, TS-480S, TS-2000), Yaesu (FTdx-5000,
+// FTdx-3000, FT-2000, FT-950, FT-450), Elecraft K3 and K2. With CR: Ten-Tec Orion, "?AF" and
+// "@AF14025000".
 #include "base/fixedtext.h"
 #include "rig/radiofamily.h"
 #include "shared/settings.h"
+
+#include <algorithm>
 
 namespace vantrel {
 
@@ -12,6 +15,18 @@ namespace {
 
 constexpr std::string_view catError = "ERROR READING FREQUENCY FROM THE CAT PORT";
 constexpr std::string_view catErrorLead = "                       AN ERROR HAS OCCURED: ";
+
+// The hertz of an answer that begins with `letters`, then so many digits, then `end`; nothing
+// when it has another form.
+std::optional<std::int64_t> hertzOfAnswer(std::string_view answer, std::string_view letters,
+                                          int digits, char end) {
+    const std::string_view hertz = mid(answer, length(letters) + 1, digits);
+    const bool form = answer.starts_with(letters) && length(hertz) == digits && allDigits(hertz) &&
+                      midToEnd(answer, length(letters) + digits + 1).starts_with(end);
+    if (!form)
+        return std::nullopt;
+    return numericValue(hertz);
+}
 
 // From the first answer that begins with `letters` and a digit and ends in a semicolon; empty
 // while it is not in. What a radio, its cable or the last read leave in front of it is passed
@@ -55,6 +70,14 @@ Reply twoVfoReply(std::string_view bytes, std::string_view) {
     if (transmits.starts_with("FT1;"))
         return frequencyReply(transmits, "FB", 11);
     return {true};
+}
+
+Reply orionReply(std::string_view bytes, std::string_view) {
+    constexpr std::size_t size = 12;
+    bytes.remove_prefix(std::min(bytes.find_first_not_of("\r\n"), bytes.size()));
+    if (bytes.size() < size)
+        return {};
+    return {true, hertzOfAnswer(bytes, "@AF", 8, '\r')};
 }
 
 std::string askVfoA(const OperatingSettings&) {
@@ -101,6 +124,16 @@ const RadioFamily elecraftK2{
     .parseReply = twoVfoReply,
     .message = " Com Port Not Read ",
     .vfo = "VFO IN USE",
+};
+
+const RadioFamily tenTecAscii{
+    .settings = "57600,n,8,1",
+    .query = [](const OperatingSettings&) -> std::string { return "?AF\r"; },
+    .attempts = 5,
+    .polls = 15'000,
+    .milliseconds = 360, // the five together stay below two seconds
+    .parseReply = orionReply,
+    .message = "A File Error has Occured - The freq was not read",
 };
 
 } // namespace vantrel

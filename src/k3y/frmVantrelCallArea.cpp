@@ -4,6 +4,7 @@
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
+#include "log/logfile.h"
 #include "platform/platform.h"
 #include "shared/utctime.h"
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The K3Y event's stations: the tag that closes a contact's line, the call areas, and the log's
-// name for each area.
+// The K3Y event's stations: the tag that closes a contact's line, and the call areas.
 #pragma once
 
 #include "log/qsoline.h"
 
 #include <array>
-#include <string>
 #include <string_view>
 
 namespace vantrel {
@@ -46,9 +44,5 @@ inline constexpr std::array<CallArea, 19> callAreas{{
     {"Europe       EU", "EU"},  {"Africa         AF", "AF"}, {"Asia            AS", "AS"},
     {"Oceania\t   OC", "OC"},
 }};
-
-// "2010-01-05-K3Y-03-W1ABC.CBR". utcDate as contacts carry it; the call in upper case, a `/` in
-// it (it would name a folder) as `-`.
-std::string k3yLogName(std::string_view utcDate, std::string_view code, std::string_view myCall);
 
 } // namespace vantrel

@@ -63,9 +63,8 @@ std::string dateText(const chrono::year_month_day& date) {
 }
 
 std::string timeText(chrono::minutes time) {
-    const chrono::hh_mm_ss parts(time);
-    return zeroPadded(static_cast<int>(parts.hours().count()), 2) +
-           zeroPadded(static_cast<int>(parts.minutes().count()), 2);
+    const auto minutes = static_cast<int>(time.count());
+    return zeroPadded(minutes / 60, 2) + zeroPadded(minutes % 60, 2);
 }
 
 } // namespace vantrel

@@ -5,9 +5,7 @@
 #include "base/itemreader.h"
 #include "platform/files.h"
 
-#include <algorithm>
 #include <exception>
-#include <iterator>
 
 namespace vantrel {
 
@@ -54,11 +52,10 @@ std::string workedWords(std::string_view workedLine) {
 WorkedKind kindOf(std::string_view workedLine) {
     if (markerOf(workedLine) == dupeMarker)
         return WorkedKind::dupe;
-    constexpr Column fields[] = {worked::name, worked::number, worked::state};
-    const bool missing = std::any_of(std::begin(fields), std::end(fields), [&](Column field) {
-        return trim(field.of(workedLine)).empty();
-    });
-    return missing ? WorkedKind::incomplete : WorkedKind::complete;
+    for (const Column field : {worked::name, worked::number, worked::state})
+        if (trim(field.of(workedLine)).empty())
+            return WorkedKind::incomplete;
+    return WorkedKind::complete;
 }
 
 std::string_view markerOf(std::string_view workedLine) {
@@ -146,7 +143,7 @@ void Log::addWorked(std::size_t added) {
         return;
     }
     m_workedOnDisk = false;
-    m_worked.push_back(workedLine(contacts().back()));
+    m_worked.push_back(workedLine(m_contacts.back()));
     m_files.appendLine(workedStationsFile, m_worked.back());
     m_workedOnDisk = true;
 }
@@ -154,11 +151,9 @@ void Log::addWorked(std::size_t added) {
 void Log::rewriteWorked() {
     m_workedOnDisk = false;
     m_worked.clear();
-    for (const std::string_view contact : contacts()) {
-        if (m_worked.size() == workedCapacity)
-            break;
-        m_worked.push_back(workedLine(contact));
-    }
+    for (const std::string_view contact : m_contacts)
+        if (m_worked.size() < workedCapacity)
+            m_worked.push_back(workedLine(contact));
     m_files.rewrite(workedStationsFile, joinLines(m_worked));
     m_workedOnDisk = true;
 }

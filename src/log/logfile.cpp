@@ -33,6 +33,13 @@ std::string defaultLogName(std::string_view contestCode, const LocalTime& local)
            zeroPadded(local.year % 100, 2) + ".CBR";
 }
 
+std::string k3yLogName(std::string_view utcDate, std::string_view areaCode,
+                       std::string_view myCall) {
+    std::string call = upper(trim(myCall));
+    std::replace(call.begin(), call.end(), '/', '-');
+    return std::string(utcDate) + "-K3Y-" + std::string(areaCode) + "-" + call + ".CBR";
+}
+
 std::string logHeader(std::string_view contestText, std::string_view myCall,
                       std::string_view myNumber) {
     // The last line reminds whoever reads the file where the other station's call starts.
@@ -62,12 +69,8 @@ LogSummary summaryOf(std::string_view logBytes) {
     return summary;
 }
 
-std::string qsosText(std::size_t contacts) {
-    return counted(static_cast<long long>(contacts), "QSO");
-}
-
 std::string contactsText(const Contacts& contacts) {
-    const std::string text = qsosText(contacts.size());
+    const std::string text = counted(static_cast<long long>(contacts.size()), "QSO");
     if (contacts.empty())
         return text;
     return text + ", LAST " + std::string(qso::date.of(contacts.back())) + ' ' +

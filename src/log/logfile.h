@@ -15,6 +15,10 @@ struct LocalTime;
 
 // "SKS061611.CBR": contest code, local month, day and last two digits of the year.
 std::string defaultLogName(std::string_view contestCode, const LocalTime& local);
+// "2010-01-05-K3Y-03-W1ABC.CBR", of a call area in the K3Y event. utcDate as contacts carry it; the
+// call in upper case, a `/` in it (it would name a folder) as `-`.
+std::string k3yLogName(std::string_view utcDate, std::string_view areaCode,
+                       std::string_view myCall);
 
 // The four header lines, CR LF after each. Values start in column 11; the number is padded
 // to 6. Throws RuntimeError 5 for a number longer than that.
@@ -34,8 +38,6 @@ struct LogSummary {
 };
 LogSummary summaryOf(std::string_view logBytes);
 
-// "28 QSOS".
-std::string qsosText(std::size_t contacts);
 // "28 QSOS, LAST 2026-11-21 1441"; "0 QSOS".
 std::string contactsText(const Contacts& contacts);
 

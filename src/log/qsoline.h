@@ -22,7 +22,6 @@ struct Column {
 
 // Columns of a contact line. A writer cuts or pads to these widths; nothing is escaped.
 namespace qso {
-inline constexpr Column head{1, 5};      // "QSO: "
 inline constexpr Column frequency{6, 5}; // kHz, right-aligned
 inline constexpr Column mode{12, 2};     // "CW"
 inline constexpr Column date{15, 10};    // YYYY-MM-DD; MM-01-YYYY after a month end

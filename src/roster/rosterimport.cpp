@@ -80,41 +80,29 @@ private:
     bool m_changed = false;
 };
 
-class RosterTables {
-public:
-    explicit RosterTables(const Files& files) {
-        for (std::size_t i = 0; i < rosterFiles.size(); ++i)
-            m_tables.emplace_back(rosterFiles[i], rosterCapacities[i],
-                                  i == paddedFile ? paddedWidth : 0,
-                                  files.readOrEmpty(rosterFiles[i]));
-    }
+std::vector<RosterTable> readRoster(const Files& files) {
+    std::vector<RosterTable> tables;
+    for (std::size_t i = 0; i < rosterFiles.size(); ++i)
+        tables.emplace_back(rosterFiles[i], rosterCapacities[i], i == paddedFile ? paddedWidth : 0,
+                            files.readOrEmpty(rosterFiles[i]));
+    return tables;
+}
 
-    void merge(const std::string& record, ImportResult& result) {
-        m_tables[rosterFileOf(record)].merge(record, result);
+void save(const std::vector<RosterTable>& roster, Files& files,
+          const std::function<void()>& between) {
+    const bool changed =
+        std::any_of(roster.begin(), roster.end(), std::mem_fn(&RosterTable::changed));
+    std::vector<FileContent> contents;
+    for (const RosterTable& table : roster) {
+        // A file that was not there leaves an empty copy in place of one of an earlier import: put
+        // back together, the five copies are the roster as it was.
+        const std::string copy = table.name() + std::string(backupSuffix);
+        if (changed && (files.present(table.name()) || files.present(copy)))
+            contents.push_back({copy, {}, table.name()});
+        contents.push_back({table.name(), table.bytes()});
     }
-
-    void save(Files& files, const std::function<void()>& between) const {
-        std::vector<FileContent> contents;
-        if (std::any_of(m_tables.begin(), m_tables.end(), std::mem_fn(&RosterTable::changed)))
-            for (const RosterTable& table : m_tables)
-                keepOld(files, table.name(), contents);
-        for (const RosterTable& table : m_tables)
-            contents.push_back({table.name(), table.bytes()});
-        files.rewriteAll(contents, between);
-    }
-
-private:
-    // A file that was not there leaves an empty copy in place of one of an earlier import: put
-    // back together, the five copies are the roster as it was.
-    static void keepOld(const Files& files, const std::string& name,
-                        std::vector<FileContent>& contents) {
-        const std::string copy = name + std::string(backupSuffix);
-        if (files.present(name) || files.present(copy))
-            contents.push_back({copy, {}, name});
-    }
-
-    std::vector<RosterTable> m_tables;
-};
+    files.rewriteAll(contents, between);
+}
 
 std::string readList(const Files& files, std::string_view path) {
     try {
@@ -140,7 +128,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     ImportResult result;
     if (!progress({workingPhase}))
         return result;
-    RosterTables roster(files);
+    std::vector<RosterTable> roster = readRoster(files);
     const std::string bytes = readList(files, listPath);
     if (std::min(bytes.find('\r'), bytes.size()) > longFirstLine && !progress({splittingPhase}))
         return result;
@@ -155,7 +143,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
             ++result.skipped;
         if (kind == ListLine::member) {
             ++result.members;
-            roster.merge(reader.record(), result);
+            roster[rosterFileOf(reader.record())].merge(reader.record(), result);
         }
     }
 
@@ -170,7 +158,7 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     if (!progress({savingPhase}))
         return result;
     // From here on closing the page ends nothing: the files are all saved, or none.
-    roster.save(files, [&] { progress({savingPhase}); });
+    save(roster, files, [&] { progress({savingPhase}); });
     result.finished = true;
     return result;
 }

@@ -18,14 +18,6 @@ constexpr Column day{qso::date.first + 8, 2};
 constexpr Column continent{qso::marker.first + 4, 2}; // the region letters of a K3Y tag
 constexpr std::size_t typicalRecord = 256;            // bytes
 
-// Appends the length, 0 to 99, and `>`.
-void appendAdifLength(std::string& bytes, int length) {
-    if (length >= 10)
-        bytes += static_cast<char>('0' + length / 10);
-    bytes += static_cast<char>('0' + length % 10);
-    bytes += '>';
-}
-
 class AdifWriter {
 public:
     void append(std::string& bytes, std::string_view contact) {
@@ -64,9 +56,8 @@ private:
         constexpr std::string_view prefix = "SKCC NR: ";
         const std::string_view number = trim(field);
         appendAdifItem(bytes, "<SKCC_NR:", number);
-        bytes += "<COMMENT:";
-        appendAdifLength(bytes, length(prefix) + length(field));
-        bytes.append(prefix).append(number);
+        bytes.append("<COMMENT:").append(std::to_string(length(prefix) + length(field)));
+        bytes.append(">").append(prefix).append(number);
     }
 
     std::string m_mhz;
@@ -76,9 +67,7 @@ private:
 } // namespace
 
 void appendAdifItem(std::string& bytes, std::string_view head, std::string_view value) {
-    bytes += head;
-    appendAdifLength(bytes, length(value));
-    bytes += value;
+    bytes.append(head).append(std::to_string(length(value))).append(">").append(value);
 }
 
 std::string adifText(const Contacts& contacts) {

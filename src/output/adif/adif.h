@@ -12,7 +12,7 @@ namespace vantrel {
 
 class Files;
 
-// Appends "<NAME:4>JOHN": `head` is "<NAME:", the length of the value is 0 to 99.
+// Appends "<NAME:4>JOHN": `head` is "<NAME:".
 void appendAdifItem(std::string& bytes, std::string_view head, std::string_view value);
 
 // The file's bytes: "<EOH>", a line per contact (duplicates too), "<EOF>", CR LF after each.

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 
 namespace vantrel {
 
@@ -40,33 +41,18 @@ constexpr std::array<std::string_view, 64> unaccented{
     "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
     "d", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "th", "y"};
 
-// A field trimmed and in printable ASCII; `?` for what has no plain letter. Most fields need no
-// change and are not copied, so the contact must outlive this.
-class PlainText {
-public:
-    explicit PlainText(std::string_view field) : m_text(trim(field)) {
-        if (std::all_of(m_text.begin(), m_text.end(), isPlain))
-            return;
-        for (const char character : m_text) {
-            const auto byte = static_cast<unsigned char>(character);
-            if (byte >= 0xC0)
-                m_folded += unaccented[byte - 0xC0U];
-            else
-                m_folded += isPlain(character) ? character : '?';
-        }
-        m_text = m_folded;
+// A field trimmed and in printable ASCII; `?` for what has no plain letter.
+std::string plainText(std::string_view field) {
+    std::string text;
+    for (const char character : trim(field)) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= 0xC0)
+            text += unaccented[byte - 0xC0U];
+        else
+            text += character >= ' ' && character <= '~' ? character : '?';
     }
-    PlainText(const PlainText&) = delete;
-    PlainText& operator=(const PlainText&) = delete;
-
-    operator std::string_view() const { return m_text; }
-
-private:
-    static bool isPlain(char character) { return character >= ' ' && character <= '~'; }
-
-    std::string_view m_text;
-    std::string m_folded;
-};
+    return text;
+}
 
 // "20110616"
 std::string adifDate(const chrono::year_month_day& date) {
@@ -121,32 +107,24 @@ bool isMemberNumber(std::string_view number) {
 
 // --- States and provinces ---------------------------------------------------------------------
 
-bool between(char character, char first, char last) {
-    return character >= first && character <= last;
-}
+// The first two characters of a country's calls: "K9SKC" lies between "K" and "K\xFF".
+struct Prefixes {
+    std::string_view first;
+    std::string_view last;
+};
+constexpr Prefixes unitedStatesPrefixes[] = {
+    {"AA", "AL"}, {"K", "K\xFF"}, {"N", "N\xFF"}, {"W", "W\xFF"}};
+constexpr Prefixes canadianPrefixes[] = {{"CF", "CK"}, {"CY", "CZ"}, {"VA", "VG"},
+                                         {"VO", "VO"}, {"VX", "VY"}, {"XJ", "XO"}};
 
-bool isUnitedStatesCall(std::string_view call) {
-    const char first = call.empty() ? ' ' : call.front();
-    const char second = length(call) < 2 ? ' ' : call[1];
-    return first == 'K' || first == 'N' || first == 'W' ||
-           (first == 'A' && between(second, 'A', 'L'));
-}
-
-bool isCanadianCall(std::string_view call) {
-    const char first = call.empty() ? ' ' : call.front();
-    const char second = length(call) < 2 ? ' ' : call[1];
-    return (first == 'V' &&
-            (between(second, 'A', 'G') || second == 'O' || between(second, 'X', 'Y'))) ||
-           (first == 'C' && (between(second, 'F', 'K') || between(second, 'Y', 'Z'))) ||
-           (first == 'X' && between(second, 'J', 'O'));
-}
-
-// True when any of the call's parts ("VE3/W1ABC", "W1ABC/7") belongs to the country.
-bool anyPart(std::string_view call, bool (*ofCountry)(std::string_view)) {
+// True when any of the call's parts ("VE3/W1ABC", "W1ABC/7") begins so.
+bool anyPart(std::string_view call, std::span<const Prefixes> country) {
     for (;;) {
         const std::size_t slash = call.find('/');
-        if (ofCountry(call.substr(0, slash)))
-            return true;
+        const std::string_view prefix = left(call.substr(0, slash), 2);
+        for (const auto& [first, last] : country)
+            if (first <= prefix && prefix <= last)
+                return true;
         if (slash == std::string_view::npos)
             return false;
         call.remove_prefix(slash + 1);
@@ -157,7 +135,7 @@ bool anyPart(std::string_view call, bool (*ofCountry)(std::string_view)) {
 // The call decides as well: members elsewhere send their prefix as code, and "OK" is Oklahoma
 // for K5ABC but the Czech Republic for OK1ABC, "ON" Ontario or Belgium.
 std::string_view countryOfState(std::string_view code, std::string_view call) {
-    if (anyPart(call, isUnitedStatesCall)) {
+    if (anyPart(call, unitedStatesPrefixes)) {
         if (code == "AK")
             return alaska;
         if (code == "HI")
@@ -165,7 +143,7 @@ std::string_view countryOfState(std::string_view code, std::string_view call) {
         if (code == "DC" || isAdjoiningState(code))
             return unitedStates;
     }
-    if (anyPart(call, isCanadianCall) && (code == "YT" || isCanadianProvince(code)))
+    if (anyPart(call, canadianPrefixes) && (code == "YT" || isCanadianProvince(code)))
         return canada;
     return {};
 }
@@ -189,19 +167,19 @@ std::string notesOf(std::string_view prefix, std::string_view number) {
 }
 
 void appendMarker(std::string& bytes, std::string_view contact) {
-    const PlainText marker(qso::marker.of(contact));
+    const std::string marker = plainText(qso::marker.of(contact));
     if (isDupe(contact))
         appendField(bytes, "<APP_VANTREL_DUPE:", "Y");
-    else if (std::string_view(marker).starts_with("K3Y"))
+    else if (marker.starts_with("K3Y"))
         appendField(bytes, "<APP_VANTREL_K3Y:", marker);
 }
 
 void appendHisSide(std::string& bytes, std::string_view contact, std::string_view call) {
-    const PlainText state(qso::hisState.of(contact));
-    const PlainText number(qso::hisNumber.of(contact));
+    const std::string state = plainText(qso::hisState.of(contact));
+    const std::string number = plainText(qso::hisNumber.of(contact));
     const std::string_view country = countryOfState(state, call);
-    appendField(bytes, "<RST_RCVD:", PlainText(qso::rstReceived.of(contact)));
-    appendField(bytes, "<NAME:", PlainText(qso::hisName.of(contact)));
+    appendField(bytes, "<RST_RCVD:", plainText(qso::rstReceived.of(contact)));
+    appendField(bytes, "<NAME:", plainText(qso::hisName.of(contact)));
     appendField(bytes, "<STATE:", country.empty() ? std::string_view() : state);
     appendField(bytes, "<DXCC:", country);
     appendField(bytes, "<SKCC:", isMemberNumber(number) ? number : std::string_view());
@@ -217,10 +195,10 @@ void appendFrequency(std::string& bytes, std::string_view contact) {
 }
 
 void appendMySide(std::string& bytes, std::string_view contact) {
-    const PlainText call(qso::myCall.of(contact));
-    const PlainText state(qso::myState.of(contact));
+    const std::string call = plainText(qso::myCall.of(contact));
+    const std::string state = plainText(qso::myState.of(contact));
     const std::string_view country = countryOfState(state, call);
-    appendField(bytes, "<RST_SENT:", PlainText(qso::rstSent.of(contact)));
+    appendField(bytes, "<RST_SENT:", plainText(qso::rstSent.of(contact)));
     appendField(bytes, "<STATION_CALLSIGN:", call);
     appendField(bytes, "<OPERATOR:", call);
     appendField(bytes, "<MY_STATE:", country.empty() ? std::string_view() : state);
@@ -229,12 +207,12 @@ void appendMySide(std::string& bytes, std::string_view contact) {
 
 void appendContact(std::string& bytes, std::string_view contact,
                    const chrono::year_month_day& date) {
-    const PlainText call(qso::hisCall.of(contact));
+    const std::string call = plainText(qso::hisCall.of(contact));
     appendField(bytes, "<CALL:", call);
     appendField(bytes, "<QSO_DATE:", adifDate(date));
     appendField(bytes, "<TIME_ON:", qso::time.of(contact));
     appendFrequency(bytes, contact);
-    appendField(bytes, "<MODE:", PlainText(qso::mode.of(contact)));
+    appendField(bytes, "<MODE:", plainText(qso::mode.of(contact)));
     appendHisSide(bytes, contact, call);
     appendMySide(bytes, contact);
     appendMarker(bytes, contact);

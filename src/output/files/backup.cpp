@@ -17,7 +17,7 @@ std::string copyName(std::string_view logFileName, std::string_view folder) {
 } // namespace
 
 std::string backupText(const Backup& backup) {
-    return qsosText(backup.contacts) + " WRITTEN" +
+    return counted(backup.contacts, "QSO") + " WRITTEN" +
            (backup.kept.empty() ? "" : ". THE COPY THERE HELD OTHER LINES: KEPT AS " + backup.kept);
 }
 
@@ -39,7 +39,7 @@ Backup backUpLog(Files& files, std::string_view logFileName, std::string_view fo
         throw RuntimeError(ErrorCode::pathNotFound, "no folder to send the backup to");
     const std::string copy = copyName(logFileName, folder);
     const std::string bytes = files.read(logFileName);
-    Backup backup{contactsIn(bytes).size(), {}};
+    Backup backup{static_cast<int>(contactsIn(bytes).size()), {}};
     const std::string before = files.readOrEmpty(copy);
     if (!bytes.starts_with(before))
         backup.kept = files.keepCopy(copy + ".OLD", before);

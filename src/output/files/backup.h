@@ -2,7 +2,6 @@
 // A copy of the log in a folder of the operator's choice.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -16,8 +15,8 @@ inline constexpr std::string_view backupDone = "DONE......CLICK EXIT";
 
 // What a backup did.
 struct Backup {
-    std::size_t contacts; // written
-    std::string kept;     // path of the earlier copy that was kept, as text to show; empty: none
+    int contacts;     // written
+    std::string kept; // path of the earlier copy that was kept, as text to show; empty: none
 };
 
 // "28 QSOS WRITTEN", and where the earlier copy is kept.

@@ -13,34 +13,27 @@ namespace {
 constexpr int countedStations = 200;
 constexpr Column stationKey{qso::hisCall.first, qso::hisCall.width + 1}; // the blank after it too
 
-class BonusCount {
-public:
-    // Counts a station once: what it has after a second slash, or on another band, adds
-    // nothing, even when the first value was no number.
-    void add(std::string_view station, Integer16 points) {
-        if (std::find(m_counted.begin(), m_counted.end(), station) != m_counted.end())
-            return;
-        m_counted.append(station);
-        m_total += points;
-    }
-    Integer16 total() const { return m_total; }
-
-private:
-    BoundedTable<std::string_view> m_counted{"the list of bonus stations", countedStations};
-    Integer16 m_total;
-};
-
 } // namespace
 
 Integer16 countBonusPoints(const Contacts& contacts) {
-    BonusCount count;
+    BoundedTable<std::string_view> counted("the list of bonus stations", countedStations);
+    Integer16 total;
     for (const std::string_view contact : contacts) {
         const std::string_view name = qso::hisName.of(contact);
-        for (int position = 1; position <= length(name); ++position)
-            if (mid(name, position, 1) == "/")
-                count.add(stationKey.of(contact), numericValue(trim(midToEnd(name, position + 1))));
+        const std::string_view station = stationKey.of(contact);
+        for (int position = 1; position <= length(name); ++position) {
+            if (mid(name, position, 1) != "/")
+                continue;
+            const Integer16 points = numericValue(trim(midToEnd(name, position + 1)));
+            // Once each: what a station has after a second slash, or on another band, adds nothing,
+            // even when the first value was no number.
+            if (std::find(counted.begin(), counted.end(), station) != counted.end())
+                continue;
+            counted.append(station);
+            total += points;
+        }
     }
-    return count.total();
+    return total;
 }
 
 } // namespace vantrel

@@ -4,7 +4,9 @@
 #include "log/contactdate.h"
 #include "log/qsoline.h"
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 namespace vantrel {
 
@@ -16,43 +18,28 @@ constexpr chrono::hours shortLog{3};
 constexpr chrono::minutes hour{60};
 constexpr chrono::minutes shortStep{10};
 
-using ContactsByBand = decltype(PictureBar::contacts);
-using ContactsByMoment = std::map<UtcMinute, ContactsByBand>;
-
 UtcMinute stepOf(UtcMinute moment, chrono::minutes step) {
     return moment - moment.time_since_epoch() % step;
-}
-
-// The contacts of each step, under its beginning.
-ContactsByMoment bySteps(const ContactsByMoment& minutes, chrono::minutes step) {
-    ContactsByMoment steps;
-    for (const auto& [moment, counts] : minutes)
-        for (std::size_t i = 0; i < counts.size(); ++i)
-            steps[stepOf(moment, step)][i] += counts[i];
-    return steps;
-}
-
-int minuteOfDay(UtcMinute moment) {
-    return static_cast<int>((moment - chrono::floor<chrono::days>(moment)).count());
 }
 
 } // namespace
 
 ContestPicture contestPicture(const Contacts& contacts) {
-    ContactsByMoment minutes;
+    std::vector<std::pair<UtcMinute, std::size_t>> made; // when, and the index of the band
     for (const std::string_view contact : contacts)
         if (const auto moment = contactMinute(contact); moment && !isDupe(contact))
-            ++minutes[*moment][bandIndexOf(qso::frequency.of(contact))];
-    if (minutes.empty())
+            made.emplace_back(*moment, bandIndexOf(qso::frequency.of(contact)));
+    if (made.empty())
         return {};
 
-    const UtcMinute first = minutes.begin()->first;
-    const UtcMinute last = minutes.rbegin()->first;
-    const bool isShort = last - first < shortLog;
+    const auto [first, last] = std::minmax_element(made.begin(), made.end());
+    const bool isShort = last->first - first->first < shortLog;
     const chrono::minutes step = isShort ? shortStep : hour;
-    ContactsByMoment steps = bySteps(minutes, step);
+    std::map<UtcMinute, decltype(PictureBar::contacts)> steps; // under their beginnings
+    for (const auto& [moment, band] : made)
+        ++steps[stepOf(moment, step)][band];
     if (isShort)
-        for (UtcMinute moment = stepOf(first, step); moment < last; moment += step)
+        for (UtcMinute moment = stepOf(first->first, step); moment < last->first; moment += step)
             steps[moment]; // a pause shows as bars of no height
     while (steps.size() > pictureHours)
         steps.erase(steps.begin());
@@ -60,7 +47,8 @@ ContestPicture contestPicture(const Contacts& contacts) {
     ContestPicture picture{static_cast<int>(step.count()), {}};
     UtcMinute expected = steps.begin()->first;
     for (const auto& [moment, counts] : steps) {
-        picture.bars.push_back({minuteOfDay(moment), moment != expected, counts});
+        const auto minuteOfDay = (moment - chrono::floor<chrono::days>(moment)).count();
+        picture.bars.push_back({static_cast<int>(minuteOfDay), moment != expected, counts});
         expected = moment + step;
     }
     return picture;

@@ -13,7 +13,7 @@ struct ReportLine {
     std::string_view label;
     Score::Figure Score::*figure;
 };
-using ReportLines = std::array<ReportLine, 8>;
+using ReportLines = std::array<ReportLine, 9>;
 
 // "Tribumes": the manager who reads printed reports knows them by that spelling.
 constexpr ReportLines sprintLines{{
@@ -25,8 +25,8 @@ constexpr ReportLines sprintLines{{
     {"Number Bonus Stn QSOs: ", &Score::bonusStationQsos},
     {" Number of K9SKC QSOs: ", &Score::k9skcQsos},
     {"   Total Bonus Points: ", &Score::bonusPoints},
+    {"         TOTAL SCORE: ", &Score::total},
 }};
-constexpr ReportLine sprintTotal{"         TOTAL SCORE: ", &Score::total};
 
 constexpr ReportLines europeanLines{{
     {"            Number of QSOs: ", &Score::qsos},
@@ -37,14 +37,10 @@ constexpr ReportLines europeanLines{{
     {"  Number of Bonus Stn QSOs: ", &Score::bonusStationQsos},
     {"    Regular Members Worked: ", &Score::regularMembersWorked},
     {"        Total Bonus Points: ", &Score::bonusPoints},
+    {"               TOTAL SCORE: ", &Score::total},
 }};
-constexpr ReportLine europeanTotal{"               TOTAL SCORE: ", &Score::total};
 
 constexpr std::size_t paperColumns = 72; // of 12 points, on the narrower of the two papers
-
-std::string printed(const ReportLine& line, const Score& score) {
-    return std::string(line.label) + figureText(score.*line.figure);
-}
 
 struct Gain {
     Score::Figure Score::*figure;
@@ -52,29 +48,27 @@ struct Gain {
     const char* word;
 };
 
-constexpr Gain sprintGains[] = {{&Score::multipliers, "NEW S/P/C", ""},
-                                {&Score::centurions, "+5", " CENTURION"},
-                                {&Score::tribunes, "+10", " TRIBUNE"},
-                                {&Score::senators, "+15", " SENATOR"},
-                                {&Score::bonusStationQsos, "+25", " BONUS STATION"},
-                                {&Score::k9skcQsos, "+25", " K9SKC"}};
-constexpr Gain europeanGains[] = {{&Score::multipliers, "NEW COUNTRY", ""},
-                                  {&Score::centurions, "+5", " CENTURION"},
-                                  {&Score::tribunes, "+10", " TRIBUNE"},
-                                  {&Score::senators, "+15", " SENATOR"},
-                                  {&Score::bonusStationQsos, "+25", " BONUS STATION"},
-                                  {&Score::membersPoints, "+1", " MEMBER"}};
+using Gains = std::array<Gain, 6>;
+constexpr Gains sprintGains{{{&Score::multipliers, "NEW S/P/C", ""},
+                             {&Score::centurions, "+5", " CENTURION"},
+                             {&Score::tribunes, "+10", " TRIBUNE"},
+                             {&Score::senators, "+15", " SENATOR"},
+                             {&Score::bonusStationQsos, "+25", " BONUS STATION"},
+                             {&Score::k9skcQsos, "+25", " K9SKC"}}};
+constexpr Gains europeanGains{{{&Score::multipliers, "NEW COUNTRY", ""},
+                               {&Score::centurions, "+5", " CENTURION"},
+                               {&Score::tribunes, "+10", " TRIBUNE"},
+                               {&Score::senators, "+15", " SENATOR"},
+                               {&Score::bonusStationQsos, "+25", " BONUS STATION"},
+                               {&Score::membersPoints, "+1", " MEMBER"}}};
 
-template <typename Gains>
 std::string grown(const Gains& gains, const Score& before, const Score& after, GainText text) {
     const bool full = text == GainText::full;
+    const char* separator = full ? "  " : " ";
     std::string grown;
     for (const auto& [figure, brief, word] : gains)
         if (*(after.*figure) > *(before.*figure))
-            grown += (grown.empty() ? ""
-                      : full        ? "  "
-                                    : " ") +
-                     std::string(brief) + (full ? word : "");
+            grown.append(grown.empty() ? "" : separator).append(brief).append(full ? word : "");
     return grown;
 }
 
@@ -104,8 +98,8 @@ std::string scoreGain(const ScoreTally& tally, std::string_view contact, GainTex
     const Score after = more.score();
     if (before.stoppedBy || after.stoppedBy)
         return {};
-    const std::string gain = after.european ? grown(europeanGains, before, after, text)
-                                            : grown(sprintGains, before, after, text);
+    const std::string gain =
+        grown(after.european ? europeanGains : sprintGains, before, after, text);
     if (!isDupe(contact))
         return gain;
     return gain.empty() ? "DUPE: +0" : "DUPE  " + gain;
@@ -113,10 +107,9 @@ std::string scoreGain(const ScoreTally& tally, std::string_view contact, GainTex
 
 std::vector<std::string> scoreReport(const Score& score, std::string_view logPath) {
     std::vector<std::string> lines{"", "", std::string(logPath), ""};
-    for (const ReportLine& line : score.european ? europeanLines : sprintLines)
-        lines.push_back(printed(line, score));
-    lines.emplace_back();
-    lines.push_back(printed(score.european ? europeanTotal : sprintTotal, score));
+    for (const auto& [label, figure] : score.european ? europeanLines : sprintLines)
+        lines.push_back(std::string(label) + figureText(score.*figure));
+    lines.insert(lines.end() - 1, ""); // above the total
     return lines;
 }
 

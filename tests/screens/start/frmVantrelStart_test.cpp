@@ -78,7 +78,10 @@ TEST_F(StartPageTest, WhatCannotBeTheLogOrBeSavedKeepsTheOperatorHere) {
     start("other.cbr", "Run-time error 61: Disk full");
     startNewFile("", true, accessError.c_str());
     // Those that are not there yet, too: a contest must not begin in them.
-    for (const char* name : {"vantrel.cfg", "stnsworked.txt", "\\sksdb5.txt", "VANTREL"})
+    // Nor may one without room for the names of the files beside it.
+    const std::string tooLong = std::string(232, 'L') + ".cbr";
+    for (const char* name :
+         {"vantrel.cfg", "stnsworked.txt", "\\sksdb5.txt", "VANTREL", tooLong.c_str()})
         startNewFile(name, true, accessError.c_str());
     EXPECT_EQ(folder.read("Vantrel.CFG"), saved);
     EXPECT_FALSE(isOpen(mainPage));

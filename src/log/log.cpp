@@ -119,13 +119,14 @@ void Log::parse(std::string bytes, std::size_t known) {
     const char* const before = m_bytes.data();
     ++m_reading;
     m_bytes.swap(bytes); // `bytes` keeps the old ones until the contacts point into the new ones
-    if (known == 0)
+    if (known == 0) {
         m_contacts.clear();
+        m_tooLong.reset();
+    }
     for (std::string_view& contact : m_contacts)
         contact = {m_bytes.data() + (contact.data() - before), contact.size()};
     const Contacts added = contactsIn(std::string_view(m_bytes).substr(known));
     m_contacts.insert(m_contacts.end(), added.begin(), added.end());
-    m_tooLong.reset();
     if (m_contacts.size() <= capacity)
         return;
     m_contacts.resize(capacity);

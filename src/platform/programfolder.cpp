@@ -48,7 +48,7 @@ bool keepsFilesBeside(const std::string& executableFolder) {
     if (holdsData(executableFolder))
         throw RuntimeError(ErrorCode::permissionDenied, "the program's folder cannot be written: " +
                                                             shownText(executableFolder) + ": " +
-                                                            reason);
+                                                            reason + chownHint(executableFolder));
     return false;
 }
 

@@ -34,11 +34,16 @@ EntryView ContactEntry::view() const {
     return viewOf(m_draft, context());
 }
 
+// SEARCH reports a roster that cannot be read: a message at each key would stop the typing.
 std::vector<MemberLine> ContactEntry::members() {
     const ViewContext now = context();
-    return membersLike(m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call),
-                       m_draft.bandTag(),
-                       [&](const Member& member) { return gainOf(member, m_draft, now); });
+    const auto gain = [&](const Member& member) { return gainOf(member, m_draft, now); };
+    try {
+        return membersLike(m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call),
+                           m_draft.bandTag(), gain);
+    } catch (const RuntimeError&) {
+        return {};
+    }
 }
 
 bool ContactEntry::spaceFillsIn() const {
@@ -73,7 +78,7 @@ void ContactEntry::edited(const Entry& boxes) {
         callChosen(boxes.call);
 }
 
-// What was found of another call says nothing of this one.
+// What was found for the call before does not hold for this one.
 void ContactEntry::callChosen(std::string_view call) {
     m_draft.boxes.call = call;
     m_draft.searched.reset();
@@ -82,7 +87,7 @@ void ContactEntry::callChosen(std::string_view call) {
     forgetLookup();
 }
 
-// Whoever is logged must not get somebody else's name.
+// Otherwise he would be logged with the name of the call before.
 void ContactEntry::forgetLookup() {
     for (std::size_t i = 0; i < lookupFields.size(); ++i)
         if (std::exchange(m_draft.lookedUp[i], false))
@@ -100,7 +105,7 @@ void ContactEntry::setFrequency(const std::string& mhz) {
     m_draft.bandText = bandTextOf(mhz, m_draft.bandText);
 }
 
-// What SEARCH found holds for one band: on another one the test is made again.
+// SEARCH looked for a duplicate on one band: on another one it is looked for again.
 ContactEntry::Step ContactEntry::tune(const std::string& mhz, Answer& answer) {
     setFrequency(mhz);
     if (!m_draft.searched || m_draft.searched->bandTag == m_draft.bandTag())
@@ -108,8 +113,8 @@ ContactEntry::Step ContactEntry::tune(const std::string& mhz, Answer& answer) {
     return testForDupe(answer);
 }
 
-// In a sprint a duplicate is marked and logged, or refused; in the event a K3Y duplicate is told
-// besides.
+// A duplicate is marked or refused, as the dupe mode says. In the event the operator is also told
+// when call, number and band are those of a contact.
 ContactEntry::Step ContactEntry::testForDupe(Answer& answer) {
     const OperatingSettings& settings = m_shared.settings;
     const Contacts& contacts = m_shared.log.contacts();
@@ -133,7 +138,7 @@ ContactEntry::Step ContactEntry::testForDupe(Answer& answer) {
 
 Answer ContactEntry::frequencyEntered() {
     Answer answer;
-    std::ignore = enterFrequencyBox(answer); // nothing else was to be done
+    std::ignore = enterFrequencyBox(answer); // nothing follows that a refusal could end
     return answer;
 }
 
@@ -164,7 +169,8 @@ Answer ContactEntry::autoReadToggled() {
     return {};
 }
 
-// One that does not answer is reported, and the frequency in the box stands.
+// When the radio does not answer, that is reported and the frequency in the box is used. Ends when
+// the boxes are no longer as they were: another event came while the radio was waited for.
 ContactEntry::Step ContactEntry::readRadio(ReadCause cause, Answer& answer) {
     const Entry began = m_draft.boxes;
     const ReadResult result = m_draft.autoReads || cause == ReadCause::manual
@@ -231,7 +237,7 @@ void ContactEntry::searchEntered(Answer& answer) {
         m_draft.searched->nameMissing = trim(m_draft.boxes.name).empty();
 }
 
-// Fills the boxes; ended where a number was typed that nobody has.
+// Fills the boxes. Ends where a number was typed that nobody has.
 ContactEntry::Step ContactEntry::lookUpCall(Draft::Searched& found) {
     const std::string typed = m_draft.boxes.call;
     found.outcome = lookUp(m_draft.boxes, m_roster);
@@ -288,7 +294,7 @@ void ContactEntry::logEntered(Answer& answer) {
     m_draft.station = noStationLabel;
 }
 
-// Completes the frequency, which stays on its band.
+// Completes the frequency, which stays on its band. Ends where LOG refuses it.
 ContactEntry::Step ContactEntry::completeFrequency(Answer& answer) {
     const std::string typed = m_draft.mhz;
     setFrequency(completedFrequency(typed));
@@ -308,7 +314,7 @@ ContactEntry::Step ContactEntry::completeFrequency(Answer& answer) {
     return Step::on;
 }
 
-// Nothing, and the answer says why, when a setting does not fit the line.
+// Nothing when a setting does not fit the line; the answer then says which.
 std::optional<std::string> ContactEntry::assembledLine(const UtcTime& utc, Answer& answer) {
     try {
         return contactLine(m_draft.boxes, m_shared.settings, markerOf(m_draft, m_shared), utc);
@@ -322,11 +328,11 @@ std::optional<std::string> ContactEntry::assembledLine(const UtcTime& utc, Answe
     }
 }
 
-// The contact is in the log once its line is on the disk: whatever fails from then on is told,
-// but the boxes are cleared, so that nobody logs it twice.
+// Once its line is on the disk the contact is logged: whatever fails after that is reported, but
+// the boxes are cleared all the same, so that nobody logs it twice.
 void ContactEntry::append(const std::string& line, Answer& answer) {
     Log& log = m_shared.log;
-    // Logged without a search, or the log was changed since.
+    // A duplicate that is not marked: there was no search, or the log has changed since.
     const std::string repeated(
         isDupe(line) ? std::string_view()
                      : duplicateOf(log.contacts(), qso::hisCall.of(line), qso::bandTag.of(line)));
@@ -337,7 +343,7 @@ void ContactEntry::append(const std::string& line, Answer& answer) {
         throw notLogged(error);
     }
     clear(ClearTo::nothing);
-    m_cleared.reset(); // it is in the log
+    m_cleared.reset(); // Ctrl+Z must not bring back what is in the log
     m_draft.takenBack.clear();
     try {
         log.reread();
@@ -362,7 +368,7 @@ Answer ContactEntry::droppedDupe() {
     return {};
 }
 
-// What happened last stays told until there is something in the boxes.
+// The hint about the contact logged, corrected or deleted last survives NO LOG.
 Answer ContactEntry::dropped() {
     const auto happened = std::exchange(m_draft.happened, std::nullopt);
     clear(ClearTo::nothing);
@@ -372,7 +378,7 @@ Answer ContactEntry::dropped() {
     return {};
 }
 
-// What is cleared can be brought back until something else is.
+// Keeps what it clears for broughtBack().
 void ContactEntry::clear(ClearTo left) {
     if (!trim(m_draft.boxes.call).empty())
         m_cleared = {m_draft.boxes, m_draft.lookedUp};
@@ -385,7 +391,7 @@ void ContactEntry::clear(ClearTo left) {
     m_draft.happened.reset();
 }
 
-// A contact that was refused is searched for again before it is logged.
+// It may have been refused: Enter searches again before it logs.
 Answer ContactEntry::broughtBack() {
     if (!m_cleared)
         return {};
@@ -419,7 +425,7 @@ void ContactEntry::logChanged() {
         m_draft.happened.reset();
 }
 
-// A contact that is being entered has the hint line for itself.
+// While a contact is being entered, the hint line is about that one.
 void ContactEntry::contactChanged(ContactChange change, std::string_view contact) {
     const Entry& boxes = m_draft.boxes;
     if (trim(boxes.call + boxes.name + boxes.state + boxes.number).empty())

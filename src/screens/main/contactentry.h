@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The contact being entered, from the first letter of his call to its line in the log: what each
-// thing that happens makes of it. No window: the page shows view() after each of them.
+// The contact being entered, from the first letter of his call to its line in the log. Each event
+// (a key, a command, the radio's answer, a change of the log) is a function here; the page calls it
+// and then shows view().
 #pragma once
 
 #include "output/score/score.h"
@@ -20,7 +21,7 @@ namespace vantrel {
 struct Module1;
 struct Platform;
 
-// What the page does besides showing, in this order.
+// What the page does after an event besides showing view(), in this order.
 struct [[nodiscard]] Answer {
     bool dupeScreen = false;
     std::vector<Message> messages{};
@@ -30,69 +31,71 @@ struct [[nodiscard]] Answer {
 
 class ContactEntry {
 public:
-    // Both of them show the page as it is by then; meanwhile events may come in.
+    // Both show the page first, and both wait: other events may arrive before they return.
     struct Radio {
         std::function<ReadResult()> read;
         std::function<void(const Message&)> tellFailure;
     };
 
-    // shared: its marker is the K3Y tag chosen, six blanks without one.
+    // The marker in `shared` is the K3Y tag chosen, six blanks without one.
     ContactEntry(Module1& shared, Platform& platform, Radio radio);
 
     EntryView view() const;
     const LogTally& score() const { return m_score; }
-    // Members like the call. Throws as Roster::partialMatches.
+    // Members like the call; none while the roster cannot be read.
     std::vector<MemberLine> members();
     bool autoReads() const { return m_draft.autoReads; }
-    // Space in the call box leads to the first empty box: the search left the name to be typed.
+    // Whether Space in the call box goes to the first empty box: after a search that found no name.
     bool spaceLeadsOn() const { return m_draft.searched && m_draft.searched->nameMissing; }
-    // Or fills in what the log says of who is in no roster.
+    // Whether Space fills the boxes from the log instead: he is in it, but in no roster.
     bool spaceFillsIn() const;
 
-    // As the page opens: 20 meters, nothing in the boxes.
+    // The page was opened: 20 meters, empty boxes.
     void opened();
-    // The boxes as they stand after a key; the frequency counts once it is entered.
+    // A key changed the boxes to these. A frequency does not count before it is entered.
     void edited(const Entry& boxes);
-    // A member of the list, as if he had been typed: Enter is SEARCH then.
+    // A member was taken from the list: the same as typing his call, so the next Enter searches.
     void callChosen(std::string_view call);
     // Enter in the frequency box.
     Answer frequencyEntered();
-    // And what each command does first.
+    // Another box got the focus.
     Answer frequencyLeft();
     Answer bandUp() { return stepTo(vantrel::bandUp); }
     Answer bandDown() { return stepTo(vantrel::bandDown); }
-    // Whether AUTO READ is on or off.
+    // Reads the radio even while AUTO READ is off.
     Answer radioAsked();
-    // Off, a dead radio costs no more boxes; a matter of the run.
+    // Off, a silent radio brings no more message boxes. It lasts until the program ends.
     Answer autoReadToggled();
 
-    // What these throw leaves what was typed in the boxes.
-    Answer search(); // and Enter in the call box: LOG when the contact is complete
-    // Into the empty boxes what his last contact says; it belongs to the call as a lookup does.
+    // When one of these throws, what was typed is still in the boxes.
+    Answer search(); // also Enter in the call box; it logs once the contact is complete
+    // Fills the empty boxes from his last contact. An edit of the call clears them again, as it
+    // clears what a lookup filled in.
     Answer filledFromLog();
     Answer log();
     Answer logAsDupe();
     Answer droppedDupe();
-    Answer dropped(); // NO LOG
-    Answer broughtBack();
+    Answer dropped();     // NO LOG
+    Answer broughtBack(); // what was cleared last
     void tagChosen(std::string_view label);
 
     // The log was read again, whoever changed it.
     void logChanged();
-    // On another page, the log being read already. contact: its line as it is now, or was.
+    // Another page made this line of a contact, or deleted this line; the log is read already.
     void contactChanged(ContactChange change, std::string_view contact);
 
 private:
     enum class Step { on, ended };
     enum class ReadCause { search, log, manual };
-    // What the boxes hold after a contact is dropped: nothing, or a single blank each.
+    // What dropping a contact leaves in each box: nothing, or a single blank.
     enum class ClearTo { nothing, oneBlank };
     struct Cleared {
         Entry boxes;
         LookedUp lookedUp;
     };
 
-    // Ended: by a refusal, or because the program is being closed.
+    // Each of these may end the event it is part of: the contact was refused, a message is to be
+    // shown, or the program is being closed.
     [[nodiscard]] Step enterFrequencyBox(Answer& answer);
     [[nodiscard]] Step tune(const std::string& mhz, Answer& answer);
     [[nodiscard]] Step testForDupe(Answer& answer);

@@ -26,8 +26,8 @@ std::string spokenBoxes(const Draft& draft) {
     return words;
 }
 
-// What LOG would add to the score by these boxes; nothing where it would not take them. The event
-// has no score.
+// What logging these boxes would add to the score, empty in the event, which has none. Nothing when
+// LOG would refuse them.
 std::optional<std::string> gainIfLogged(Entry entry, std::string_view marker, const Draft& draft,
                                         const ViewContext& context, GainText text) {
     const OperatingSettings& settings = context.shared.settings;
@@ -44,7 +44,7 @@ std::optional<std::string> gainIfLogged(Entry entry, std::string_view marker, co
     }
 }
 
-// What the next Enter does with the contact searched for, or why LOG will refuse it.
+// What the next Enter does after the search, or why LOG will refuse the contact.
 Hint nextStep(const Draft& draft, const ViewContext& context) {
     const std::string mhz = completedFrequency(draft.mhz);
     switch (checkFrequency(mhz, context.shared.settings)) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The contact being entered as it stands, and all that the page shows of it: computed from that,
-// the log, the settings and the clock, and from nothing else.
+// Draft: the state of the contact being entered. EntryView: all that the page shows of it, computed
+// from the draft, the log, the settings and the clock alone.
 #pragma once
 
 #include "k3y/k3ystation.h"
@@ -21,30 +21,30 @@ class LogTally;
 struct Member;
 struct Module1;
 
-// Which of the lookup fields' boxes hold what the lookup of this call put there.
+// For each of the lookup fields: whether its box still holds what was filled in for this call.
 using LookedUp = std::array<bool, lookupFields.size()>;
 
 struct Draft {
-    // What SEARCH found of the call and, on this band, in the log.
+    // What SEARCH found: the call in the roster, and a duplicate on this band in the log.
     struct Searched {
         LookupOutcome outcome;
         bool hasRoster;
-        bool nameMissing; // when the lookup was done
+        bool nameMissing; // after the lookup, whatever was typed since
         std::string bandTag{};
         bool marked = false; // a duplicate, to be logged as one
     };
-    // What was done last, while there is nothing in the boxes.
+    // What the hint line says of the last thing done, until the next key.
     struct Happened {
         Hint hint;
-        std::string contact{}; // holds as long as this line
-        bool inLog = true;     // is in the log, or is not
+        std::string contact{}; // the line it is about; empty: it is about none
+        bool inLog = true; // the hint holds while the line is in the log; false: while it is not
     };
 
     Entry boxes{};
     std::string mhz{};      // last entered, read or stepped to: band and lists follow it
-    std::string bandText{}; // of the sprint band that it was on last
+    std::string bandText{}; // the last sprint band it was on
     LookedUp lookedUp{};
-    bool broughtBack = false;           // was cleared before: SEARCH comes before LOG again
+    bool broughtBack = false;           // Enter searches before it logs, though it is complete
     std::optional<Searched> searched{}; // until the call is edited
     std::optional<Happened> happened{}; // until the next key
     std::string takenBack{};            // the K3Y tag that SEARCH took back
@@ -55,18 +55,19 @@ struct Draft {
     std::string bandTag() const;
 };
 
-// The last contact with him whom SEARCH found in no roster, while it says something for a box that
-// is empty.
+// His last contact, when SEARCH found him in no roster and the contact can fill an empty box.
+// Empty otherwise.
 std::string_view lastContact(const Draft& draft, const Contacts& contacts);
 
-// What the contact will end in: "DUPE" as SEARCH found it, otherwise the tag chosen.
+// What the contact's line will end in: "DUPE" when SEARCH found one, otherwise the K3Y tag chosen,
+// or six blanks.
 std::string markerOf(const Draft& draft, const Module1& shared);
 
 struct EntryView {
     Entry boxes{};
-    LookedUp lookedUp{}; // those boxes are slanted on a tinted ground
+    LookedUp lookedUp{}; // these boxes are shown in italics on a tint
     std::string bandText{};
-    bool onBand = true; // otherwise struck out: the frequency is on another
+    bool onBand = true; // false: shown struck out, since the frequency is on no sprint band
     std::string station{};
     std::string nextMarker{}; // "NEXT QSO: K3Y/EU"; empty while it ends in six blanks
     Hint hint{};
@@ -76,7 +77,7 @@ struct EntryView {
     ReadOutcome lastRead{};
 };
 
-// What else than the draft it is computed from.
+// What the view is computed from besides the draft.
 struct ViewContext {
     const Module1& shared;
     const LogTally& score;

@@ -4,7 +4,6 @@
 #include "base/fixedtext.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace vantrel {
 
@@ -17,16 +16,17 @@ bool startsWithAnyOf(std::string_view text, std::initializer_list<std::string_vi
                        [&](std::string_view beginning) { return text.starts_with(beginning); });
 }
 
-// The band after that of the text, in the order from `first` on.
-template <typename Iterator>
-const Band& nextSprintBand(Iterator first, Iterator last, std::string_view bandText) {
-    const auto isSprint = [](const Band& band) { return !band.text.empty(); };
-    const auto now = std::find_if(
-        first, last, [&](const Band& band) { return isSprint(band) && band.text == bandText; });
-    if (now == last)
+// From the band of the text on, so many places of the table at a time, to the next sprint band.
+const Band& sprintBandAfter(std::string_view bandText, std::size_t places) {
+    std::size_t band = 0;
+    while (band < bands.size() && (bands[band].text.empty() || bands[band].text != bandText))
+        ++band;
+    if (band == bands.size())
         return bands.front();
-    const auto next = std::find_if(std::next(now), last, isSprint);
-    return next != last ? *next : *std::find_if(first, last, isSprint);
+    do
+        band = (band + places) % bands.size();
+    while (bands[band].text.empty());
+    return bands[band];
 }
 
 std::string withPointAfter(std::string_view digits, int whole) {
@@ -97,11 +97,11 @@ std::string bandTagOf(std::string_view mhz) {
 }
 
 const Band& bandUp(std::string_view bandText) {
-    return nextSprintBand(bands.begin(), bands.end(), bandText);
+    return sprintBandAfter(bandText, 1);
 }
 
 const Band& bandDown(std::string_view bandText) {
-    return nextSprintBand(bands.rbegin(), bands.rend(), bandText);
+    return sprintBandAfter(bandText, bands.size() - 1);
 }
 
 } // namespace vantrel

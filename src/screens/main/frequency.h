@@ -24,15 +24,15 @@ bool isOutsideSprintBands(std::string_view mhz, std::string_view khzField);
 // The 5-column kHz field of a completed frequency: "14.050" gives "14050", "7.040" " 7040".
 std::string khzField(std::string_view mhz);
 
-// Why a kHz field cannot be logged, for the operator who typed this: not digits with blanks in
-// front, or not on a band. Empty when it can.
+// Why a kHz field cannot be logged: it is not digits with blanks in front, or on no band. Empty
+// when it can. typed: what the operator typed, which the text quotes.
 std::string khzFault(std::string_view field, std::string_view typed);
 
 // The band tag of a frequency in MHz: " 1", " 3", " 7", else its first two characters.
 std::string bandTagOf(std::string_view mhz);
 
-// The next higher / lower of the six sprint bands after the one whose text the band label shows,
-// round the ring at its ends; 160 m for anything else.
+// The next higher or lower of the six sprint bands, counted from the one with that text; beyond the
+// last one comes the first. 160 m for any other text.
 const Band& bandUp(std::string_view bandText);
 const Band& bandDown(std::string_view bandText);
 

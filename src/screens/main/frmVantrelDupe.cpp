@@ -52,7 +52,7 @@ void frmVantrelDupe::load() {
     }
 }
 
-// A box that asks something is never covered: it blocks the page, and this screen goes.
+// A message box blocks the page: this screen closes, so as not to cover it.
 bool frmVantrelDupe::eventFilter(QObject* receiver, QEvent* event) {
     if (receiver == opener() && event->type() == QEvent::WindowBlocked)
         close();

@@ -80,7 +80,7 @@ QHBoxLayout* frmVantrelMain::statusRow() {
                 build.caption("UTC", m_clockLabel)});
 }
 
-// Who it may be while he is typed: calls worked on the left, members on the right.
+// What the call being typed may become: worked calls on the left, members on the right.
 QHBoxLayout* frmVantrelMain::whoRow() {
     m_suggestions = FormBuilder::named(new SuggestionList(this), "List2",
                                        "MEMBERS LIKE THE CALL - DOWN AND ENTER TAKES ONE");
@@ -119,7 +119,7 @@ QHBoxLayout* frmVantrelMain::commandRow() {
 QVBoxLayout* frmVantrelMain::stationChoice() {
     const auto choose = [this] {
         screens().open(Screen::k3yBox);
-        showEntry(); // opened, nothing is chosen yet
+        showEntry(); // unchecks the option: no tag is chosen yet
     };
     m_stationOption = FormBuilder(this).jobOption(
         "Option1", "ADD K3Y/xx", "CLICK TO ADD K3Y/xx  TO FILE - BEFORE LOGGING DX K3Y STATIONS",
@@ -236,7 +236,7 @@ void frmVantrelMain::run(Event happens) {
     try {
         answer = (m_entry.*happens)();
     } catch (const RuntimeError&) {
-        showEntry(); // as far as it came
+        showEntry(); // what was done before the failure
         throw;
     }
     carryOut(answer);
@@ -269,7 +269,7 @@ void frmVantrelMain::showEntry() {
 
 // --- Keys ------------------------------------------------------------------------------------
 
-// What no button or list has a use for belongs to the contact being entered.
+// A letter typed on a button or in a list goes to the call box.
 void frmVantrelMain::keyPressEvent(QKeyEvent* event) {
     if (isTyping(*event) && !m_boxes.call->hasFocus()) {
         m_boxes.call->setFocus();
@@ -303,7 +303,7 @@ bool frmVantrelMain::callBoxTakes(const QKeyEvent& key) {
     }
     if (key.key() == Qt::Key_Up && empty && shared().log.count().value() > Log::workedCapacity) {
         runHandler([this] { correct(chosenContact()); });
-        return true; // the list ends before the last contact
+        return true; // the list holds the first 1,000 contacts only
     }
     return (key.key() == Qt::Key_Down && m_suggestions->takeFocus()) ||
            (key.key() == Qt::Key_Up && empty && m_workedList->takeFocus());
@@ -327,14 +327,14 @@ void frmVantrelMain::showLog() {
     showEntry();
 }
 
-// The one tick: changes what changed.
+// Also called when the log changes: clock and rate.
 void frmVantrelMain::secondPassed() {
     const UtcTime utc = utcTime(platform().clock.now(), shared().settings.gmtOffset);
     put(m_clockLabel, utc.time.substr(0, 2) + ':' + utc.time.substr(2));
     m_panel->followClock(utc);
 }
 
-// The contact of the line that is selected in the list; otherwise the last one.
+// The contact selected in the list, otherwise the last one. 0: the log is empty.
 int frmVantrelMain::chosenContact() const {
     const int selected = m_workedList->chosenContact();
     return selected > 0 ? selected : shared().log.count().value();

@@ -61,7 +61,7 @@ private:
     QHBoxLayout* pageCommands();
     void connectBoxes();
 
-    // What happens to the contact being entered, and what the page does then.
+    // Passes an event on to the contact being entered and does what it answers.
     using Event = Answer (ContactEntry::*)();
     void run(Event happens);
     void carryOut(const Answer& answer);
@@ -88,8 +88,8 @@ private:
     WorkedList* m_workedList;
     ContestPanel* m_panel;
 
-    BandTable m_bands; // as the panel shows them
-    InputHold m_hold;  // what is typed while the radio is read
+    BandTable m_bands; // what the panel shows now
+    InputHold m_hold;  // keeps what is typed while the radio is read
     Log::Watch m_logWatch;
 };
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One contact from the entry boxes to its line in the log: what SEARCH and LOG do, step by
-// step, without a window.
+// The single steps of SEARCH and LOG, from the entry boxes to the line in the log.
 #pragma once
 
 #include "base/runtimeerror.h"
@@ -31,7 +30,7 @@ struct Entry {
     bool operator==(const Entry&) const = default;
 };
 
-// A box that a lookup fills: where a contact line holds the same, and what it is called.
+// A box that a lookup fills, its column in a contact line, and its name in hints.
 struct LookupField {
     std::string Entry::*box;
     Column column;
@@ -51,20 +50,18 @@ inline constexpr std::string_view wrongBandText = " MHz IS NOT A VALID SPRINT FR
 inline constexpr std::string_view invalidEntryText = "Invalid Entry - Pleasr try again";
 inline constexpr std::string_view duplicateQsoText = " <<<<<< THIS IS A DUPLICATE QSO >>>>>> ";
 
-// The log vanished under the program, so the contact is in a new one of that name.
+// Shown when the log file was gone at LOG and the contact started a new one.
 inline constexpr std::string_view logStartedAgainText =
     "THE LOG FILE WAS NO LONGER THERE.  A NEW ONE HAS BEEN STARTED WITH THIS QSO";
 
-// True when SEARCH has nothing left to do and logs: the number box holds more than one
-// character.
+// True when the number box holds more than one character: SEARCH has nothing left to do and logs.
 bool isComplete(const Entry& entry);
 
-// His call as the rules take it from its box: commas and control characters are blanks, none
-// of them around it.
+// The call without blanks around it, commas and control characters turned into blanks.
 std::string callAsEntered(std::string_view box);
 
-// False when a call is too short to look up, a letter and fewer than three characters (or
-// nothing): SEARCH then goes back to the call box.
+// False for an empty call and for one of fewer than three characters that begins with a letter:
+// SEARCH then goes back to the call box.
 bool canLookUp(std::string_view call);
 
 enum class LookupOutcome {
@@ -82,23 +79,22 @@ bool canBeLogged(const Entry& entry);
 
 enum class FrequencyCheck { good, outsideSprintBands, unloggable };
 
-// Whether LOG takes a frequency: completed, in MHz.
+// Whether LOG takes the frequency; mhz: completed.
 FrequencyCheck checkFrequency(std::string_view mhz, const OperatingSettings& settings);
 
-// The line that LOG makes of the boxes, whose frequency is completed and good: every field cut or
-// padded to its columns, commas and control characters as blanks. Throws RuntimeError 5 when a
-// setting is wider than its field.
+// The contact line that LOG writes for these boxes: every field cut or padded to its columns,
+// commas and control characters turned into blanks. The frequency is a completed one that
+// checkFrequency calls good. Throws RuntimeError 5 when a setting is wider than its field.
 std::string contactLine(const Entry& entry, const OperatingSettings& settings,
                         std::string_view marker, const UtcTime& utc);
 
-// A failure at LOG with what is to be done about it.
+// The failure to append, with what the operator can do about it.
 RuntimeError notLogged(const RuntimeError& error);
 
-// What to tell the operator when something fails although the contact is in the log (a full
-// table, a file), once his boxes are cleared.
+// The message for a failure after the contact is on the disk (a full table, another file).
 Message failureOnceLogged(const RuntimeError& error);
 
-// What to tell the operator of a log that had changed so; logPath: as text to show.
+// The message for a log that had vanished or lost contacts; logPath: as text to show.
 Message lossNotice(const LogLoss& loss, const std::string& logPath);
 
 } // namespace vantrel

@@ -19,11 +19,12 @@ struct Rate {
     std::optional<UtcMinute> bestSince{};  // the first contact of the best five minutes
 };
 
-// The minutes of the contacts that have one, duplicates too: they were worked.
+// When each contact was made, duplicates included. Contacts without a readable time are left out.
 std::vector<UtcMinute> momentsOf(const Contacts& contacts);
 
-// As of `now`. With a negative offset a contact before midnight UTC keeps the local date: one dated
-// up to a day ahead counts a day earlier, and one that lies further ahead does not count.
+// The rate at `now`. With a negative GMT offset contacts made before midnight UTC carry the local
+// date, which may be a day ahead: one dated up to a day ahead is taken a day earlier, one further
+// ahead is left out.
 Rate rateAt(const std::vector<UtcMinute>& moments, UtcMinute now);
 
 // "5 (30/h)", "LAST 3 MIN AGO", "LAST 11 H AGO" (empty without a contact).

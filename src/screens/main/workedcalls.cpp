@@ -18,7 +18,7 @@ constexpr std::size_t mostMembers = 12;
 constexpr std::size_t shortestEntry = 6; // "K1 20" and a blank
 constexpr int between = 2;               // blanks
 
-// Equal as columns: a line that lost its last blanks in an editor is still the same contact.
+// Blanks at the end do not count: a line may have lost them in an editor.
 bool sameField(Column column, std::string_view line, std::string_view value) {
     return trimRight(column.of(line)) == trimRight(left(value, column.width));
 }
@@ -29,7 +29,7 @@ std::string bandName(std::string_view contact) {
     return std::string(label.substr(0, label.find('M')));
 }
 
-// A row of the band table: a band as operators count it may have several tags.
+// A row of the band table. 10 m and 6 m have several tags.
 struct RowBand {
     std::string_view name;
     std::string_view firstTag;
@@ -90,7 +90,7 @@ bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view
 }
 
 std::string asDupe(std::string_view contactLine) {
-    // A region tag gives way to "DUPE": a duplicate counts for no region.
+    // In the place of a region tag: a duplicate counts for no region.
     return std::string(left(contactLine, qso::hisNumber.last())) + std::string(dupeMarker);
 }
 
@@ -99,7 +99,7 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
     std::vector<WorkedCall> result;
     if (length(typed) < fewestTyped)
         return result;
-    // No more are ever shown, and a key must not wait for thousands.
+    // More never fit, and collecting thousands would delay the key.
     const auto most = static_cast<std::size_t>(columns) / shortestEntry + 1;
     for (const std::string_view line : contacts) {
         if (mid(line, qso::hisCall.first, length(typed)) != typed)
@@ -140,10 +140,13 @@ std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
             line.text += ' ' + std::string(trim(field));
         lines.push_back(std::move(line));
     }
-    for (const std::string_view contact : contacts)
-        if (qso::bandTag.of(contact) == bandTag)
-            for (MemberLine& line : lines)
-                line.dupe = line.dupe || trimRight(qso::hisCall.of(contact)) == line.call;
+    for (const std::string_view contact : contacts) {
+        if (qso::bandTag.of(contact) != bandTag)
+            continue;
+        const std::string_view call = trimRight(qso::hisCall.of(contact));
+        for (MemberLine& line : lines)
+            line.dupe = line.dupe || line.call == call;
+    }
     return lines;
 }
 
@@ -154,9 +157,13 @@ BandTable bandTable(const Contacts& contacts, std::string_view typed, std::strin
     Bands exact{typed};
     Bands longer;
     bool several = false;
+    std::string_view tag;
+    std::size_t row = rowOf(tag);
     for (const std::string_view contact : contacts) {
-        const std::string_view tag = qso::bandTag.of(contact);
-        const std::size_t row = rowOf(tag);
+        if (qso::bandTag.of(contact) != tag) { // mostly it is that of the contact before
+            tag = qso::bandTag.of(contact);
+            row = rowOf(tag);
+        }
         worked[row] = true;
         counts[row] += isDupe(contact) ? 0 : 1;
         if (typed.empty() || mid(contact, qso::hisCall.first, length(typed)) != typed)
@@ -170,10 +177,10 @@ BandTable bandTable(const Contacts& contacts, std::string_view typed, std::strin
     const bool isWorked = exact.onBand != decltype(exact.onBand){};
     const Bands shown = isWorked ? exact : several ? Bands() : longer;
     BandTable table{std::string(shown.call), {}};
-    for (std::size_t row = 0; row < rowBands.size(); ++row)
-        if (worked[row] || (allBands ? rowBands[row].event : rowBands[row].sprint))
-            table.rows.push_back({std::string(rowBands[row].name), counts[row],
-                                  row == rowOf(bandTag), shown.onBand[row]});
+    for (std::size_t i = 0; i < rowBands.size(); ++i)
+        if (worked[i] || (allBands ? rowBands[i].event : rowBands[i].sprint))
+            table.rows.push_back(
+                {std::string(rowBands[i].name), counts[i], i == rowOf(bandTag), shown.onBand[i]});
     return table;
 }
 

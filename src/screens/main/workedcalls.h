@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Who was worked before and where: the duplicate tests, and what is shown while a call is typed.
-// A band is told by its tag, the first two columns of a contact's kHz.
+// Who was worked before and on which band: the duplicate tests, and the lists shown while a call is
+// typed. A band is given by its tag, the first two columns of a contact's kHz.
 #pragma once
 
 #include "log/log.h"
@@ -20,23 +20,23 @@ struct Member;
 std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
                              std::string_view bandTag);
 
-// The event's own test: true when a logged contact has the call, the number and the band tag (2).
-// What of call and number exceeds their columns does not count.
+// The event's own test: true when a logged contact has this call, number and band tag. Call and
+// number are compared as far as their columns reach.
 bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view number,
                std::string_view bandTag);
 
-// The contact line as an event's duplicate is logged: its first 101 columns and "DUPE".
+// The contact line with "DUPE" for a marker: how a duplicate of the event is logged.
 std::string asDupe(std::string_view contactLine);
 
 struct WorkedCall {
-    std::string call; // empty: those that find no room
-    std::string text; // "K1ABC 20 40", or "..." for those
+    std::string call; // empty in the last entry when not all fit
+    std::string text; // "K1ABC 20 40"; "..." in that entry
     bool dupe;        // worked on the band of the frequency box
 };
 
-// The logged calls that begin with what is typed, each with the bands it was worked on, in the
-// order of the log. None for fewer than two characters. At most as many as fit `columns`
-// characters with two blanks between them.
+// The logged calls that begin with what is typed, each with its bands, in the order of the log: as
+// many as fit into `columns` characters with two blanks between them. None for fewer than two
+// characters.
 std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view typed,
                                      std::string_view bandTag, int columns);
 
@@ -47,7 +47,8 @@ struct MemberLine {
     std::string gain; // what else he would bring: "NEW S/P/C +15"
 };
 
-// Members like what is typed, from two characters on. Throws as Roster::partialMatches.
+// The members whose calls are like the one typed, none for fewer than two characters. Throws as
+// Roster::partialMatches.
 std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
                                     std::string_view typed, std::string_view bandTag,
                                     const std::function<std::string(const Member&)>& gainOf);
@@ -64,15 +65,16 @@ struct BandRow {
 };
 
 struct BandTable {
-    // The worked call that is typed, otherwise the one that begins so; empty when there are
-    // several.
+    // The call typed, if it was worked; otherwise the one worked call that begins so. Empty when
+    // there are several.
     std::string call;
     std::vector<BandRow> rows;
 
     bool operator==(const BandTable&) const = default;
 };
 
-// A row for each band that can be worked in this contest (allBands: those of the event) or was.
+// A row for each band that can be worked in this contest and for each other one with a contact.
+// allBands: 30, 17 and 12 m can be worked, too.
 BandTable bandTable(const Contacts& contacts, std::string_view typed, std::string_view bandTag,
                     bool allBands);
 

@@ -40,7 +40,7 @@ void showNote(QLabel* label, const StatusNote& note) {
     setTextColour(label, note.caution ? cautionColour : nullptr);
 }
 
-// As wide as what it takes, in capitals.
+// As wide as the longest text it takes, in capitals.
 QLineEdit* fitted(QLineEdit* box) {
     const QFontMetrics metrics(box->font());
     box->setFixedWidth(metrics.horizontalAdvance(QString(box->maxLength(), QLatin1Char('N'))) +
@@ -174,7 +174,7 @@ void frmVantrelStart::load() {
         showNote(m_oldLogLabel, {unknownSettingsText(unknown), true});
 }
 
-// The first one when there is no contest of that code; that is false.
+// Chooses the first contest and returns false when none has that code.
 bool frmVantrelStart::chooseContest(std::string_view code) {
     std::size_t contest = 0;
     while (contest < contests.size() && contests[contest].code != code)
@@ -197,8 +197,8 @@ std::vector<std::string> frmVantrelStart::loadChosen() {
     return unknown;
 }
 
-// Also when it comes back from behind another page: roster and log may be others now. To look into
-// log, roster and ports takes as long as to draw the page: it is drawn without them at first.
+// The notes are made anew each time, since log and roster may have changed behind another page. At
+// the first opening they come after the paint: reading log, roster and ports takes as long again.
 void frmVantrelStart::bringToFront() {
     Form::bringToFront();
     runHandler([this] {
@@ -216,7 +216,7 @@ void frmVantrelStart::showNotes() {
     showNote(m_membersLabel, rosterNote(platform().files));
 }
 
-// Without a main page there is nothing to return to.
+// The start page is the only page until START has opened the main page.
 void frmVantrelStart::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
     if (screens().mainPage() == nullptr)
@@ -274,7 +274,7 @@ void frmVantrelStart::newFileChosen() {
 
 void frmVantrelStart::startNewFile() {
     const OperatingSettings settings = storedSettings(pageSettings());
-    // The file gets the name as it was typed; START finds it whatever its case.
+    // The file gets its name in the case as typed; START looks it up without regard to case.
     const std::string name(trim(withoutSeparatorsAndQuotes(textOf(m_fileBox))));
     m_oldLogLabel->clear();
     refuseOwnFile(platform().files, name);
@@ -283,7 +283,7 @@ void frmVantrelStart::startNewFile() {
                     logHeader(settings.contestText, settings.myCall, settings.myNumber));
     showNote(m_oldLogLabel, {kept.empty() ? "NEW FILE STARTED" : "THE OLD LOG IS KEPT AS " + kept});
     showLogNote();
-    // The main page behind this one goes on with that log, whether START follows or not.
+    // A main page behind this one has that log open: it must see that it is empty now.
     Log& log = shared().log;
     if (!log.name().empty() && platform().files.areSame(log.name(), name))
         log.reread();
@@ -320,7 +320,7 @@ void frmVantrelStart::start() {
                          platform().files.path(settings.logFileName)});
         return;
     }
-    // Not before: until START a main page behind this one uses the settings that it shows.
+    // Not earlier: a main page behind this one uses the old settings until START succeeds.
     shared().settings = settings;
     shared().settings.portDevice = platform().serialPort.device(settings.comPort);
     m_radio->started();
@@ -336,7 +336,7 @@ void frmVantrelStart::upperCaseBoxes() {
         put(box, upper(textOf(box)));
 }
 
-std::vector<frmVantrelStart::TypedSetting> frmVantrelStart::typedSettings() const {
+auto frmVantrelStart::typedSettings() const -> std::vector<BoxOfSetting<QLineEdit>> {
     using Settings = OperatingSettings;
     return {{&Settings::contestText, m_contestBox}, {&Settings::myCall, m_callBox},
             {&Settings::myName, m_nameBox},         {&Settings::myState, m_stateBox},
@@ -344,7 +344,7 @@ std::vector<frmVantrelStart::TypedSetting> frmVantrelStart::typedSettings() cons
             {&Settings::bonusStation, m_bonusBox}};
 }
 
-std::vector<frmVantrelStart::ChosenSetting> frmVantrelStart::chosenSettings() const {
+auto frmVantrelStart::chosenSettings() const -> std::vector<BoxOfSetting<QComboBox>> {
     using Settings = OperatingSettings;
     return {{&Settings::rig, m_radio->rig},      {&Settings::comPort, m_radio->port},
             {&Settings::baud, m_radio->baud},    {&Settings::civAddress, m_radio->civ},

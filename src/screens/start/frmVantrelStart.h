@@ -10,6 +10,7 @@
 #include "screens/start/widgets/radiosection.h"
 
 #include <memory>
+#include <utility>
 
 class QLabel;
 class QLayout;
@@ -39,15 +40,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    using Setting = std::string OperatingSettings::*;
-    struct TypedSetting {
-        Setting setting;
-        QLineEdit* box;
-    };
-    struct ChosenSetting {
-        Setting setting;
-        QComboBox* box;
-    };
+    // Which box a setting stands in.
+    template <typename Box>
+    using BoxOfSetting = std::pair<std::string OperatingSettings::*, Box*>;
 
     QLayout* contestPart();
     QLayout* operatorPart();
@@ -68,8 +63,8 @@ private:
     void testRadio();
     void start();
 
-    std::vector<TypedSetting> typedSettings() const;
-    std::vector<ChosenSetting> chosenSettings() const;
+    std::vector<BoxOfSetting<QLineEdit>> typedSettings() const;
+    std::vector<BoxOfSetting<QComboBox>> chosenSettings() const;
     OperatingSettings pageSettings() const;
     std::string contestCode() const;
     void upperCaseBoxes();
@@ -94,7 +89,7 @@ private:
 
     bool m_wasInFront = false;
 
-    InputHold m_hold; // what is typed while the radio is tried
+    InputHold m_hold; // keeps what is typed while the radio is tried
 };
 
 } // namespace vantrel

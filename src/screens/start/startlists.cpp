@@ -35,17 +35,15 @@ ValueList portList() {
 }
 
 ValueList baudList() {
-    ValueList list = listFromNone();
-    // Operators know 57,600 baud by the text 56700.
-    list.insert(list.end(), {{"115200"},
-                             {"56700", "57600"},
-                             {"38400"},
-                             {"19200"},
-                             {"9600"},
-                             {"4800"},
-                             {"2400"},
-                             {"1200"}});
-    return list;
+    return {{std::string(noneSetting)},
+            {"115200"},
+            {"56700", "57600"}, // operators know that rate by this text
+            {"38400"},
+            {"19200"},
+            {"9600"},
+            {"4800"},
+            {"2400"},
+            {"1200"}};
 }
 
 ValueList civList() {

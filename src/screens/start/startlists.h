@@ -21,8 +21,8 @@ ValueList civList();      // "None" and an address for every Icom
 ValueList offsetList();   // "-12" .. "12"
 ValueList dupeModeList(); // "NO", "YES"
 
-// A saved offset as it stands in the list: "5" for "05" and "+5". A text without digits is returned
-// as it is.
+// The list's value for a saved offset: "5" for "05" and "+5". A text without digits is returned as
+// it is.
 std::string offsetByValue(std::string_view saved);
 
 } // namespace vantrel

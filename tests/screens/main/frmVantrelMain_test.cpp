@@ -204,6 +204,17 @@ TEST_F(MainPageTest, AutoReadStaysOffUntilItIsTurnedOn) {
     EXPECT_EQ(serialPort.sent.size(), 2U);
 }
 
+TEST_F(MainPageTest, RosterThatCannotBeReadIsToldAtSearchAndNotAtEachKey) {
+    std::filesystem::create_directory(folder.path() / "SKSDB4.TXT");
+    openPage();
+    type(page, "Text2", "w5new");
+    messages.expect("Run-time error 75: Path/File access error");
+    enter();
+    EXPECT_EQ(shown(page, "Text2"), "W5NEW");
+    work(page, "Text5=none!");
+    EXPECT_EQ(logged(), unknown);
+}
+
 TEST_F(MainPageTest, NothingDoneByAccidentChangesAContact) {
     openPage();
     work(page, "Text2=k1abc!");

@@ -25,9 +25,9 @@ class ContestPanel : public QWidget {
 public:
     explicit ContestPanel(QWidget* parent);
 
-    // Score and rate of the log as it stands now; in the event the standings' total instead.
+    // Shows score and rate of the log; in the event, which has no score, the standings' total.
     void followLog(const Log& log, const OperatingSettings& settings, const LogTally& score);
-    // The rate as of this minute.
+    // Shows the rate at this minute.
     void followClock(const UtcTime& utc);
     void showBands(const BandTable& table);
 

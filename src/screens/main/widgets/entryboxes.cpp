@@ -29,7 +29,7 @@ constexpr int countColumns = 4;     // as wide as five digits
 constexpr const char* reports[] = {usualReport, "589", "579", "569", "559", "549",
                                    "539",       "529", "519", "449", "339"};
 
-// Upper case as one types; the cursor stays where it was.
+// Turns what is typed into upper case; the cursor keeps its place.
 void keepUpperCase(QLineEdit* box) {
     QObject::connect(box, &QLineEdit::textEdited, box, [box](const QString& typed) {
         const QString shown = toQt(upper(fromQt(typed)));
@@ -54,7 +54,7 @@ void nextOnEnter(QLineEdit* box, QWidget* next) {
                      [next] { next->setFocus(Qt::TabFocusReason); });
 }
 
-// As wide as what the box holds: capitals, and the arrow of a list.
+// Room for so many capitals, and for the arrow of a list.
 int widthOf(const QWidget* box, int columns) {
     const QFontMetrics metrics(box->font());
     const int arrow = qobject_cast<const QComboBox*>(box) != nullptr ? metrics.height() : 0;
@@ -62,7 +62,7 @@ int widthOf(const QWidget* box, int columns) {
            metrics.averageCharWidth() * 2 + arrow;
 }
 
-// The colours of the hint's text, of its ground and of the bar before it, by its tone.
+// By tone: the colours of the hint's text, of its background and of the bar before it.
 struct ToneColours {
     Colour text, ground, bar;
 };
@@ -153,8 +153,8 @@ void EntryBoxes::showBoxes(const EntryView& view) const {
             setLookedUp(box, view.lookedUp[i]);
 }
 
-// Outside the six bands the label stays as it was, struck out. A green dot stands for a good read
-// of the radio, a red cross for a failed one.
+// Outside the sprint bands the band label keeps its text, struck out. A green dot: the radio was
+// read; a red cross: it was not.
 void EntryBoxes::showFrequency(const EntryView& view) const {
     put(band, view.bandText);
     setTextColour(band, view.onBand ? nullptr : cautionColour);
@@ -170,7 +170,7 @@ void EntryBoxes::showFrequency(const EntryView& view) const {
     setTextColour(readSign, read ? goodColour : warningColour);
 }
 
-// Told again only when it says something else.
+// A screen reader repeats it only when the text is another one.
 void EntryBoxes::showHint(const Hint& shown) const {
     if (textOf(hint) == shown.text)
         return;

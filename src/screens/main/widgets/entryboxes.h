@@ -19,10 +19,10 @@ namespace vantrel {
 class AlertLabel;
 class MarkedLabel;
 
-// A letter or figure, which wherever it is typed belongs into a box.
+// True for a letter or figure: wherever the focus is, it belongs into a box.
 bool isTyping(const QKeyEvent& key);
 
-// Its boxes and what is said of it, as children of the form.
+// The boxes and the labels about the contact, as children of the form.
 struct EntryBoxes {
     explicit EntryBoxes(QWidget* form);
 
@@ -30,14 +30,14 @@ struct EntryBoxes {
     EntryBoxes& operator=(const EntryBoxes&) = delete;
 
     Entry entry() const;
-    // The one place that shows it: what differs; the cursor stays in what does not.
+    // The only function that writes to them. A box that is right already keeps its cursor.
     void show(const EntryView& view) const;
-    // The first box behind the call that is empty has the focus.
+    // Gives the focus to the first empty box behind the call.
     void toFirstEmpty() const;
-    // The boxes of the exchange, each under its name, large enough to be read from the key, and at
-    // the far end the count.
+    // The boxes of the exchange under their captions, in a font that can be read from the key, and
+    // the count at the far end.
     QGridLayout* exchangeRow(QWidget* form, QLineEdit* count) const;
-    // A strip across the page, behind a bar of its tone.
+    // The hint across the page, with a bar in the colour of its tone before it.
     QHBoxLayout* hintRow() const;
 
     std::array<QLineEdit*, lookupFields.size()> filledByLookup() const {
@@ -53,10 +53,10 @@ struct EntryBoxes {
     QLineEdit* frequency; // MHz
     QLabel* band;
     QLabel* autoRead;
-    QLabel* readSign; // before that one: how the last read went
+    QLabel* readSign; // in front of autoRead: how the last read went
     AlertLabel* hint;
     QWidget* hintBar;
-    MarkedLabel* worked; // calls like his
+    MarkedLabel* worked; // worked calls that begin with what is typed
     QLabel* station;
     QLabel* marker; // what the next contact will end in
 

@@ -20,7 +20,7 @@ constexpr int spacingCharacters = 3;
 SuggestionList::SuggestionList(QWidget* page)
     : QListView(page), m_model(new QStandardItemModel(this)) {
     setAccessibleName(QStringLiteral("MEMBERS"));
-    setFocusPolicy(Qt::ClickFocus); // the exchange goes on behind it; Down leads into it
+    setFocusPolicy(Qt::ClickFocus); // Tab passes it, Down in the call box leads into it
     setModel(m_model);
     setFlow(LeftToRight);
     setWrapping(false);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The members whose call is like the one being typed, side by side in one line.
+// The members whose calls are like the one being typed, side by side in one line.
 #pragma once
 
 #include "screens/main/workedcalls.h"
@@ -18,15 +18,15 @@ class SuggestionList : public QListView {
 public:
     explicit SuggestionList(QWidget* page);
 
-    // As many of them as fit.
+    // Shows as many of them as fit.
     void setLines(const std::vector<MemberLine>& lines);
-    // The first one has the focus; false when there is none.
+    // Goes to the first member; false when there is none.
     bool takeFocus();
 
 Q_SIGNALS:
     // By a click or Enter.
     void chosen(const QString& call);
-    // Esc: the operator goes on typing.
+    // Esc or Up: back to the call box.
     void escaped();
 
 protected:

@@ -24,8 +24,8 @@ namespace {
 
 constexpr int tint = 19; // per cent of the selection's colour in the last row's ground
 
-// The last contact is bold on a tinted row, a duplicate red, one with something missing amber; a
-// K3Y tag has the accent colour. The bars, and a date that is that of the line above, are faint.
+// Paints the last contact bold on a tint, a duplicate red, one with something missing amber, a K3Y
+// tag in the accent colour. Bars are faint, and so is a date that repeats the line above.
 class WorkedDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -72,7 +72,7 @@ protected:
     }
 
 private:
-    // Of each character.
+    // The colour of each character.
     static std::vector<QColor> coloursOf(const QModelIndex& index,
                                          const QStyleOptionViewItem& shown) {
         const std::string line = fromQt(index.data().toString());
@@ -112,7 +112,7 @@ WorkedList::WorkedList(QWidget* page)
     setItemDelegate(new WorkedDelegate(this));
     setModel(m_lines);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    // Bold, in which the last line stands, is as wide in a fixed-width font.
+    // The last line is bold, which in a fixed-width font takes no more room.
     const int margins = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() +
                         4 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     setFixedWidth(widthOfColumns(QFontMetrics(font()), worked::columns) + margins);

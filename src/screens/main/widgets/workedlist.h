@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The worked stations as the main page lists them: what stands out and why.
+// The main page's list of worked stations.
 #pragma once
 
 #include <QListView>
@@ -19,20 +19,20 @@ class WorkedList : public QListView {
 public:
     explicit WorkedList(QWidget* page);
 
-    // Shows the lines and the end of them.
+    // Shows the lines, scrolled to the last one.
     void setLines(const std::vector<std::string>& lines);
     // The headings over the columns.
     QLabel* headings(QWidget* page) const;
-    // The last contact has the focus; false when there is none.
+    // Goes to the last contact; false when there is none.
     bool takeFocus();
-    // Of the line that is selected, from 1; 0: none.
+    // The number of the selected contact in the log, from 1; 0 for none.
     int chosenContact() const { return currentIndex().row() + 1; }
 
 Q_SIGNALS:
-    // By a double click or Enter, and by Del: a contact of the log, from 1.
+    // By a double click or Enter; by Del. contact: its number in the log, from 1.
     void chosen(int contact);
     void removed(int contact);
-    // Esc: the operator goes on typing.
+    // Esc: back to the call box.
     void escaped();
 
 protected:

@@ -6,7 +6,6 @@
 #include "app/appscreens.h"
 #include "base/fixedtext.h"
 #include "fakes/fakeclock.h"
-#include "forms/accessible.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/qt/latin1.h"
@@ -19,7 +18,6 @@
 #include "support/tempfolder.h"
 
 #include <QAbstractButton>
-#include <QAccessible>
 #include <QApplication>
 #include <QKeySequence>
 #include <QLabel>
@@ -38,23 +36,7 @@ class Stage : public Hands {
 public:
     // Everything is played in `where`, which is emptied first; pictures go to its "pictures"
     // folder.
-    explicit Stage(const std::filesystem::path& where) : folder(emptied(where)) {
-        describeControls();
-    }
-
-    // A screen reader is told this by the label.
-    void hears(const char* formName, const char* label, const char* words) const {
-        const auto* told = control(formName, label)->findChild<QLabel*>();
-        std::ignore = QTest::qWaitFor([told] { return !told->isHidden(); });
-        EXPECT_EQ(told->text().toStdString(), words);
-    }
-    // What it says that a control is called, or the line of a list.
-    static std::string nameOf(QAccessibleInterface* part) {
-        return fromQt(part->text(QAccessible::Name));
-    }
-    static std::string nameOf(QWidget* control) {
-        return nameOf(QAccessible::queryAccessibleInterface(control));
-    }
+    explicit Stage(const std::filesystem::path& where) : folder(emptied(where)) {}
 
     // Runs `action`, which must bring up a message box with this text; takes a picture of
     // it and presses Yes or OK.
@@ -136,30 +118,8 @@ private:
         }
     }
 
-    // Whatever shows has a name, and no two controls the same.
-    static void checkNames(QAccessibleInterface* part, std::set<std::string>& names) {
-        for (int i = 0; i < part->childCount(); ++i) {
-            QAccessibleInterface* child = part->child(i);
-            if (child == nullptr || child->state().invisible)
-                continue;
-            const QAccessible::Role role = child->role();
-            const bool isList = role == QAccessible::ComboBox || role == QAccessible::List ||
-                                role == QAccessible::Table;
-            const bool isControl = isList || role == QAccessible::Button ||
-                                   role == QAccessible::RadioButton ||
-                                   role == QAccessible::EditableText;
-            const std::string name = nameOf(child);
-            EXPECT_TRUE(!isControl || (!name.empty() && names.insert(name).second))
-                << child->object()->objectName().toStdString() << " is called " << name;
-            if (!isList)
-                checkNames(child, names);
-        }
-    }
-
-    // What holds for every screen: Alt keys stand once, text is plain, all is seen and has a name.
+    // What holds for every screen: Alt keys stand once, text is plain, all is seen.
     static void checkForm(QWidget* form) {
-        std::set<std::string> names;
-        checkNames(QAccessible::queryAccessibleInterface(form), names);
         static const std::set<std::string> alone{"frmVantrelStart", "frmVantrelMain",
                                                  "frmVantrelDupe"};
         EXPECT_TRUE(form->windowHandle()->transientParent() ||

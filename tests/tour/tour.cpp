@@ -130,15 +130,9 @@ void playContest(Stage& stage) {
     stage.press(mainPage, "Text2", Qt::Key_F1);
     stage.leave("frmVantrelHelp", "help");
     press("k1");
-    int begin = 0, end = 0;
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(stage.control(mainPage, "Text2"))
-                  ->textInterface()
-                  ->textAtOffset(2, QAccessible::WordBoundary, &begin, &end),
-              u"K1"); // the last word of a box is told
     stage.picture(mainPage, "main-typing");
     // A duplicate on 20 m: the word comes up, and nothing is left in the boxes.
     press("abc&m14\r\r");
-    stage.hears("frmVantrelDupe", "Label1", "DUPE");
     stage.picture("frmVantrelDupe", "dupe");
     EXPECT_EQ(stage.shown(mainPage, "Text2"), "");
     // His number came through, his call did not: the first Enter yields the call, the second
@@ -147,23 +141,12 @@ void playContest(Stage& stage) {
     int keys = press("9010\r");
     EXPECT_EQ(stage.shown(mainPage, "Text2"), "DL1QRS    ");
     keys += press("\r");
-    stage.hears(mainPage, "Label26", "KLAUS, DL, 9010. ENTER LOGS");
     stage.picture(mainPage, "main-looked-up");
     takes("a number", 7, keys + press("\r"));
     press("&m14.055\rk9skc\r\r");
     EXPECT_EQ(stage.folder.read(contestLog),
               expected + contactWith(klaus) + contactWith(club, "14055"));
     EXPECT_EQ(stage.shown(mainPage, "Text1"), "12");
-    stage.hears(mainPage, "Label26", "LOGGED K9SKC 14055 0012");
-    auto* worked = QAccessible::queryAccessibleInterface(stage.control(mainPage, "List1"));
-    EXPECT_EQ(Stage::nameOf(worked->child(0)), "K1ABC JOE 0123T CT 14050 at 0012");
-    std::string passed; // by Tab, as one reads
-    stage.control(mainPage, "Text7")->setFocus();
-    for (int i = 0; i < 3; ++i) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        passed += Stage::nameOf(QApplication::focusWidget()) + '|';
-    }
-    EXPECT_EQ(passed, "Enter|Up|Down|");
     stage.picture(mainPage, "main-contest");
 }
 
@@ -221,7 +204,6 @@ void changeTheLog(Stage& stage) {
     const Station corrected{"K9SKD", club.name, club.state, club.number};
     takes("the last call corrected", 8, press("^\rk9skd&s"));
     EXPECT_EQ(stage.folder.read(contestLog), kept + contactWith(corrected, "14055"));
-    stage.hears(correction, "Label11", " Done....Click EXIT ");
     stage.leave(correction, "correction");
     takes("the last band corrected", 9, press("^\r&f21055&s"));
     EXPECT_EQ(stage.folder.read(contestLog), kept + contactWith(corrected, "21055"));
@@ -293,7 +275,6 @@ void playK3yEvent(Stage& stage) {
     stage.picture(mainPage, "main-k3y-logged");
 
     stage.click(mainPage, "Command11");
-    EXPECT_EQ(Stage::nameOf(stage.control("frmK3YStandings", "Text21")), "K3Y/3 40M 2820S");
     stage.picture("frmK3YStandings", "k3y-standings");
     stage.click("frmK3YStandings", "Command2");
     stage.leave("frmK3YStandings2", "k3y-standings-regions");

@@ -42,7 +42,7 @@ void frmLogPage::startAt(int contact, OpenAt at) {
 }
 
 void frmLogPage::load() {
-    if (m_start && !mayLeave())
+    if (m_start && !mayDrop(typed()))
         return m_start.reset();
     setNotes({});
     if (!m_start)
@@ -62,12 +62,19 @@ void frmLogPage::load() {
 }
 
 void frmLogPage::escapePressed() {
-    if (mayLeave())
+    if (mayDrop(typed()))
         close();
 }
 
-bool frmLogPage::mayLeave() {
-    const Boxes unsaved = m_log.found() && typed() != m_unchanged ? typed() : Boxes();
+bool frmLogPage::maySearch() {
+    Boxes kept = typed();
+    if (!kept.empty() && m_boxes.front() == m_callBox) // what is typed there is the key
+        kept.front() = m_unchanged.front();
+    return mayDrop(kept);
+}
+
+bool frmLogPage::mayDrop(const Boxes& boxes) {
+    const Boxes unsaved = m_log.found() && boxes != m_unchanged ? boxes : Boxes();
     if (std::exchange(m_toldUnsaved, unsaved) == unsaved || unsaved.empty())
         return true;
     setNotes({"NOT SAVED: ONCE MORE LEAVES"});
@@ -198,11 +205,15 @@ QLayout* frmLogPage::changeButtons(const char* caption, const char* toolTip, con
 // --- Finding ---------------------------------------------------------------------------------
 
 void frmLogPage::search() {
+    if (!maySearch())
+        return;
     const std::string key = takeKey();
     showOutcome(m_log.search(key), key, notFoundText(key));
 }
 
 void frmLogPage::searchAgain() {
+    if (!maySearch())
+        return;
     const std::string key = takeKey();
     showOutcome(m_log.searchNext(key), key, lastEntryText());
 }
@@ -233,7 +244,7 @@ void frmLogPage::showMatch(const QModelIndex& index) {
     const int position = m_matchPositions.at(static_cast<std::size_t>(index.row()));
     // What was typed over the contact that is shown already stays.
     if (!m_log.isAt(position)) {
-        if (!mayLeave())
+        if (!mayDrop(typed()))
             return;
         m_log.goTo(position);
         showFound(textOf(m_callBox));
@@ -265,6 +276,8 @@ void frmLogPage::changeFound() {
 }
 
 void frmLogPage::undo() {
+    if (!mayDrop(typed()))
+        return;
     const ChangeResult result = m_log.undo();
     if (!publish(result))
         return;

@@ -99,8 +99,9 @@ private:
     void changeFound();
     void undo();
 
-    // False, and told, the first time that what is typed over the contact would be lost.
-    bool mayLeave();
+    // False, and told, the first time that these boxes, typed over the contact, would be lost.
+    bool mayDrop(const Boxes& boxes);
+    bool maySearch();
     // The call box's text tidied, put back into it: from now on it is the key.
     std::string takeKey();
     // Shows the contact that a search found, else the text `none`.

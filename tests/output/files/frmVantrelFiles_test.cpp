@@ -155,8 +155,9 @@ TEST_F(FilesPage, TheBackupCopiesEveryByteOfTheLogOfTheMomentAndKeepsAFullerCopy
               manyLines + fuller);
     folder.write("NEW.CBR", logHeaderLines);
     module.log.open("NEW.CBR");
-    screens.open(Screen::backup); // while it shows
     type(backup, "Text1", "copies");
+    press(backup, "Text1", Qt::Key_Escape);
+    screens.open(Screen::backup); // the folder is remembered
     EXPECT_EQ(shown(backup, "Label6"), "NO COPY THERE YET");
     click(backup, "Command2");
     EXPECT_EQ(folder.read("copies/NEW.CBR"), logHeaderLines);

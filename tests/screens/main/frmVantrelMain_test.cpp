@@ -96,12 +96,16 @@ TEST_F(MainPageTest, SettingTooWideIsSaidAndNothingIsLogged) {
 TEST_F(MainPageTest, FullDiskKeepsTheTypingUntilTheContactIsOnTheDiskAndThenClearsIt) {
     openPage();
     work(page, "Text2=k1abc!");
-    calls.failAt(Call::write, 1, ENOSPC);
-    messages.expect("Run-time error 61: Disk full");
-    enter();
-    EXPECT_THAT(messages.shown.back().informative,
-                AllOf(HasSubstr(log), HasSubstr("NOT LOGGED. THE BOXES ARE KEPT")));
-    EXPECT_EQ(texts(page, "Text2 Text5") + logged(), "K1ABC|0123T     |");
+    for (const auto& [failure, told, remedy] :
+         {std::tuple(ENOSPC, "Run-time error 61: Disk full", "MAKE ROOM ON THE DISK"),
+          std::tuple(EACCES, "Run-time error 70: Permission denied", "ALLOW THE FILE")}) {
+        calls.failAt(Call::write, 1, failure);
+        messages.expect(told);
+        enter();
+        EXPECT_THAT(messages.shown.back().informative,
+                    AllOf(HasSubstr(log), HasSubstr(std::string("THE BOXES ARE KEPT: ") + remedy)));
+        EXPECT_EQ(texts(page, "Text2 Text5") + logged(), "K1ABC|0123T     |");
+    }
 
     calls.failAt(Call::write, 2, ENOSPC); // the worked-stations file, after the log
     messages.expect("Run-time error 61: Disk full");

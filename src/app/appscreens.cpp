@@ -31,7 +31,7 @@ namespace vantrel {
 
 namespace {
 
-// Editions: what makes one page of two screens.
+// editions: which of its screens a class makes that makes several.
 template <typename Page, const auto&... editions>
 Form* make(const FormContext& context) {
     return new Page(context, editions...);
@@ -78,7 +78,7 @@ Form* AppScreens::formOf(Screen screen) {
 
 void AppScreens::open(Screen screen) {
     QWidget* opener = QApplication::activeWindow();
-    // Not every platform says at once which window is active.
+    // Some platforms know no active window for a moment after another one closed.
     for (Form* page :
          {m_lastOpened.data(), m_slots[Screen::main].data(), m_slots[Screen::start].data()})
         if (opener == nullptr && page != nullptr && page->isVisible())
@@ -94,7 +94,7 @@ void AppScreens::replace(Screen current, Screen next) {
 }
 
 void AppScreens::openFor(QWidget* opener, Screen screen) {
-    // Of the two pages of the standings one shows.
+    // The second page of the standings gives way to the first.
     const Form* const second = m_slots[Screen::standings2];
     if (screen == Screen::standings && second != nullptr && second->isVisible()) {
         replace(Screen::standings2, Screen::standings);
@@ -105,7 +105,7 @@ void AppScreens::openFor(QWidget* opener, Screen screen) {
         form->bringToFront();
         return;
     }
-    if (form->windowType() != Qt::ToolTip) // nothing returns to the dupe screen
+    if (form->windowType() != Qt::ToolTip) // the dupe screen opens no other
         m_lastOpened = form;
     form->open(opener);
 }

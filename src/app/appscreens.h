@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One slot per screen: makes the forms, keeps each at most once, finds them for each other.
+// Makes the forms, keeps at most one of each screen, and passes what one screen asks of another.
 #pragma once
 
 #include "forms/form.h"
@@ -33,7 +33,7 @@ public:
     void quit() override;
 
 private:
-    // The one there is, or a new one.
+    // The screen's form; a new one when there is none.
     Form* formOf(Screen screen);
     // Throws std::bad_cast for a screen of another kind.
     template <typename Page>

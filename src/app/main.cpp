@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Makes the machine's doors, the shared state and the screens, and shows the start page.
+// Makes the platform, the shared state and the screens, and shows the start page.
 #include "app/appscreens.h"
 #include "base/version.h"
 #include "forms/accessible.h"
@@ -28,7 +28,7 @@ std::string programFolder() {
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
 }
 
-// Throws RuntimeError when the program cannot start: what it needs is there but broken.
+// Throws RuntimeError when the program cannot start, for example with a broken settings file.
 int runProgram(QtMessages& messages) {
     const std::string folder = programFolder();
     SystemCalls calls;

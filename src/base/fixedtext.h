@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-// What some editors put in front of a text.
+// The mark that some editors put in front of a UTF-8 text.
 inline constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
 // `count` bytes from column `first`; shorter or empty when the text ends before.

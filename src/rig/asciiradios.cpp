@@ -28,13 +28,14 @@ std::optional<std::int64_t> hertzOfAnswer(std::string_view answer, std::string_v
     return numericValue(hertz);
 }
 
-// From the first answer that begins with `letters` and a digit and ends in a semicolon; empty
-// while it is not in. What a radio, its cable or the last read leave in front of it is passed
-// over: the query echoed, "?;", reports nobody asked for, the tail of an answer.
+// The bytes from the first answer on that begins with `letters` and a digit and ends in a
+// semicolon; empty until it has come. What stands before it is passed over: the query echoed by the
+// cable,
+// "?;" of a busy radio, reports nobody asked for, the rest of an earlier answer.
 std::string_view fromAnswer(std::string_view bytes, std::string_view letters) {
     for (auto end = bytes.find(';'); end != std::string_view::npos;
          end = bytes.find(';', end + 1)) {
-        // The last before the end: one in front of it was cut off.
+        // The last letters before the end: earlier ones begin an answer that was cut off.
         const auto begin = bytes.rfind(letters, end);
         if (begin != std::string_view::npos && isDigit(bytes[begin + letters.size()]))
             return bytes.substr(begin);
@@ -59,8 +60,8 @@ Reply eightDigitReply(std::string_view bytes, std::string_view) {
     return frequencyReply(bytes, "FA", 8);
 }
 
-// "FT0;FA00014025000;FB00007025000;MD3;": the frequency one transmits on is the one to log, VFO B
-// when the radio transmits on B. What comes behind it is not waited for.
+// "FT0;FA00014025000;FB00007025000;MD3;": the frequency of the VFO that transmits is logged, A
+// after FT0 and B after FT1. What follows it is not waited for.
 Reply twoVfoReply(std::string_view bytes, std::string_view) {
     const std::string_view transmits = fromAnswer(bytes, "FT");
     if (transmits.empty())

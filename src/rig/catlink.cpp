@@ -14,10 +14,10 @@ namespace vantrel {
 
 namespace {
 
-// Polls shorter than this only cost time: the port wakes us when a byte comes.
+// Shorter polls only take time: a wait ends anyway when a byte arrives.
 constexpr int shortestPoll = 3; // milliseconds
 
-// What the log's frequency column holds.
+// The range of the log's frequency column, 5 digits of kHz.
 constexpr std::int64_t lowestHertz = 1'000;
 constexpr std::int64_t aboveHertz = 100'000'000;
 
@@ -60,8 +60,8 @@ std::string lineOf(const RadioFamily& family, const OperatingSettings& settings)
     return (family.takesBaud ? settings.baud : "") + std::string(family.settings);
 }
 
-// Adapters that are pulled and plugged in change places, and another device may be keyed by what a
-// radio only answers. Throws SerialPortError when the port is another device than at START.
+// Adapters change places when they are plugged in again, and what is a harmless query to the radio
+// may key another device. Throws SerialPortError when the port is another device than at START.
 void requireSameDevice(const OperatingSettings& settings, const SerialPort& port) {
     const std::string& before = settings.portDevice;
     const std::string now = before.empty() ? "" : port.device(settings.comPort);
@@ -72,8 +72,8 @@ void requireSameDevice(const OperatingSettings& settings, const SerialPort& port
                               true);
 }
 
-// Lets the family's quiet time run out, whatever is heard in it: to send into somebody else's
-// frame spoils both. False when the program is being closed.
+// Waits for the family's quiet time and discards what is received in it: a query sent into another
+// station's frame spoils both. False when the program is being closed.
 bool awaitQuiet(const CatTransaction& cat) {
     while (cat.port.elapsed() < cat.family.quietMs) {
         if (!cat.port.wait(cat.family.quietMs - cat.port.elapsed()))
@@ -83,8 +83,8 @@ bool awaitQuiet(const CatTransaction& cat) {
     return true;
 }
 
-// Takes what the radio sends until its reply is complete or the polls are used up, each lasting
-// its share of the family's time. False when the program is being closed.
+// Receives until the reply is complete or the polls are used up; each poll waits for its share of
+// the family's time. False when the program is being closed.
 bool awaitReply(CatTransaction& cat) {
     const RadioFamily& family = cat.family;
     const int polls = std::min(family.polls, family.milliseconds / shortestPoll);
@@ -126,7 +126,7 @@ Message failure(const RadioFamily& family, std::string_view text, const std::str
             std::string(family.errorLead) + reason};
 }
 
-// Why there is no frequency, and what to look after, in the operator's words.
+// Why there is no frequency and what to check, in the operator's words.
 std::string plainReason(const CatTransaction& cat) {
     const RadioFamily& family = cat.family;
     const OperatingSettings& settings = cat.settings;
@@ -156,8 +156,8 @@ ReadResult askRadio(const RadioFamily& family, const OperatingSettings& settings
     CatTransaction cat{family, settings, port, family.query(settings)};
     requireSameDevice(settings, port);
     for (int attempt = 0; attempt < family.attempts && !cat.isRead(); ++attempt) {
-        // A reply cut off by the time-out is dropped; a complete bad one stays, and so spoils
-        // the attempts that are left: a radio that talks nonsense costs no more waiting.
+        // A reply cut off by the time-out is dropped. A complete bad one is kept, so that the
+        // attempts left end at once: more waiting would not help.
         if (!cat.reply.complete)
             cat.bytes.clear();
         if (!exchange(cat))

@@ -16,8 +16,8 @@ namespace {
 constexpr char frameEnd = '\xFD';
 constexpr std::size_t addressInQuery = 2;
 constexpr std::size_t fullQuery = 6;
-// 1 Hz to 10 MHz. The oldest radios send these four pairs and the end, the others a fifth pair,
-// from 100 MHz up.
+// The pairs from 1 Hz to 10 MHz, which the oldest radios send alone. The others send a fifth pair,
+// for 100 MHz and up.
 constexpr std::size_t fewestPairs = 4;
 
 int hexDigit(char digit) {
@@ -35,7 +35,7 @@ std::string hexText(std::string_view bytes) {
     return text;
 }
 
-// An address that no listed radio has is left out: no radio answers the short frame.
+// An address that is not in the table is left out of the frame, and then no radio answers.
 std::string query(const OperatingSettings& settings) {
     const std::string_view address = settings.civAddress;
     const bool known = std::any_of(rigs.begin(), rigs.end(), [&](const Rig& rig) {
@@ -74,8 +74,8 @@ std::optional<std::int64_t> hertzOf(std::string_view digits) {
     return hertz;
 }
 
-// The answer stands behind the echo of the query. Around both the radio tells everybody when
-// the dial is turned, and other stations of the bus speak: their frames are passed over.
+// The answer follows the echo of the query. Other frames are passed over: the radio sends one to
+// all stations whenever its dial is turned, and other stations use the bus.
 Reply parseReply(std::string_view bytes, std::string_view query) {
     const std::string_view answer = answerIn(behind(bytes, query), query);
     if (answer.find(frameEnd) < fewestPairs)
@@ -86,16 +86,16 @@ Reply parseReply(std::string_view bytes, std::string_view query) {
             hertzOf(answer.substr(0, fewestPairs + (answer[fewestPairs] == frameEnd ? 0 : 1)))};
 }
 
-// Two who send at once spoil each other, and a radio whose dial is turned sends every 60 ms or so:
-// right behind one of its frames there is room for a query, and so there is when it is quiet.
-bool queryLost(std::string_view query, const Heard& heard) {
-    constexpr int echoIsInAfter = 200; // also behind somebody's frame at 1,200 baud
+// Two stations that send at once spoil each other's frames, and a radio whose dial is turned sends
+// about every 60 ms. The query fits in right after one of its frames, or once the bus is quiet.
+bool queryLost(std::string_view query, const Received& received) {
+    constexpr int echoIsInAfter = 200; // milliseconds; at 1,200 baud after another frame, too
     constexpr int justNow = 5;
     constexpr int longestPause = 100;
-    const bool spoilt = heard.sinceQuery >= echoIsInAfter && !heard.bytes.empty() &&
-                        !isEchoed(heard.bytes, query) && answerIn(heard.bytes, query).empty();
-    return spoilt && (heard.quiet >= longestPause ||
-                      (heard.quiet < justNow && heard.bytes.back() == frameEnd));
+    const bool spoilt = received.sinceQuery >= echoIsInAfter && !received.bytes.empty() &&
+                        !isEchoed(received.bytes, query) && answerIn(received.bytes, query).empty();
+    return spoilt && (received.quiet >= longestPause ||
+                      (received.quiet < justNow && received.bytes.back() == frameEnd));
 }
 
 std::string reason(const OperatingSettings& settings, std::string_view bytes) {

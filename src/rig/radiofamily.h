@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What is said of a radio family, and the families there are. How they are spoken to is the same
-// for all: catlink.cpp.
+// Radio families: radios that take the same query and answer in the same form. catlink.cpp speaks
+// to all of them by these descriptions.
 #pragma once
 
 #include "platform/platform.h"
@@ -15,43 +15,43 @@ namespace vantrel {
 struct OperatingSettings;
 
 struct Reply {
-    bool complete = false;               // nothing more is waited for
-    std::optional<std::int64_t> hertz{}; // nothing when it is not of the family's form
+    bool complete = false;               // no further bytes are waited for
+    std::optional<std::int64_t> hertz{}; // nothing for a reply that is not in the family's form
 };
 
-// What has come since the query went out.
-struct Heard {
+// The bytes received since the query was sent.
+struct Received {
     std::string_view bytes;
     int sinceQuery; // milliseconds
     int quiet;      // milliseconds since the last byte
 };
 
 struct RadioFamily {
-    // The port's settings: complete, or what follows the operator's baud rate.
+    // The port's settings, "38400,n,8,2"; without the rate where the operator chooses that.
     std::string_view settings;
     bool takesBaud = false;
     RtsLine rts = RtsLine::low;
 
     std::string (*query)(const OperatingSettings& settings);
-    int quietMs = 0;  // before the query; what comes then is discarded
+    int quietMs = 0;  // waited before the query; what is received then is discarded
     int attempts = 1; // how often the query is sent at most
 
-    // The reply's polls: so many at most, over so many milliseconds (each attempt).
+    // How often the port is asked for the reply at most, and in how many milliseconds (an attempt).
     int polls;
     int milliseconds = 1500;
-    // Finds the answer to `query` in all that came since.
+    // Finds the answer to `query` in all bytes received since.
     Reply (*parseReply)(std::string_view bytes, std::string_view query);
-    // True when the query was lost on its way and now is the moment to send it once more.
-    bool (*queryLost)(std::string_view query, const Heard& heard) = nullptr;
-    // Why there was no frequency, in plain words, where the family knows more than others.
+    // True when another sender has spoilt the query and it can be sent again now.
+    bool (*queryLost)(std::string_view query, const Received& received) = nullptr;
+    // Why there was no frequency, in plain words; empty: the general words are used.
     std::string (*reason)(const OperatingSettings& settings, std::string_view bytes) = nullptr;
 
-    std::string_view message;          // no good reply
+    std::string_view message;          // box text when there was no good reply
     std::string_view refusedMessage{}; // the port is not there; empty: as `message`
     std::string_view errorMessage{};   // the port fails otherwise; empty: as `message`
-    std::string_view errorLead{};      // stands before an error's text, where there is one
+    std::string_view errorLead{};      // put before the reason
 
-    // For the start page: which VFO is read, and the rate where it is the radio's to say.
+    // For the start page: which VFO is read, and which rate the radio takes.
     std::string_view vfo = "VFO A";
     std::string_view rate = "ANY BAUD";
 };

@@ -14,8 +14,8 @@ const std::array<Rig, 43> rigs{{
     {"Jupiter", &tenTecBinary},
     {"K-3", &elecraftK3},
     {"K-2", &elecraftK2},
-    // Old settings files hold these two without the hyphen, and no radio of that name is known:
-    // their owners type the frequency.
+    // Saved without the hyphen, as in all settings files before. No model has that name, so the two
+    // are not read: their owners type the frequency.
     {"FTdx-5000", &yaesuAscii, "", "FTdx5000"},
     {"FTdx-3000", &yaesuAscii, "", "FTdx3000"},
     {"FT-2000", &yaesuAscii},
@@ -61,13 +61,13 @@ const RadioFamily* familyOf(std::string_view rig) {
                                            [&](const Rig& listed) { return listed.model == rig; });
     if (found != rigs.end())
         return found->family;
-    // Every IC-7 and something is taken for an Icom, listed or not; other Icoms are not read.
+    // Any name that begins "IC-7" is taken for an Icom, listed or not.
     return rig.starts_with("IC-7") ? &icomCiv : nullptr;
 }
 
 std::string_view usualCivAddress(std::string_view rig) {
     const auto* const found = std::find_if(
-        rigs.begin(), rigs.end(), [&](const Rig& listed) { return listed.stored() == rig; });
+        rigs.begin(), rigs.end(), [&](const Rig& listed) { return listed.savedAs() == rig; });
     return found == rigs.end() ? std::string_view() : found->civAddress;
 }
 

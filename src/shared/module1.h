@@ -15,10 +15,10 @@ struct Module1 {
 
     OperatingSettings settings;
     Log log;
-    std::string marker{noMarker}; // end-of-line marker of the contact being logged
-    bool audioOn = false;         // duplicates sound the alarm
-    std::string backupFolder{};   // of SEND BACKUP TO, for the run
-    bool importRuns = false;      // of members, on either page
+    std::string marker{noMarker}; // the K3Y tag chosen; six blanks without one
+    bool audioOn = false;         // a duplicate sounds the alarm
+    std::string backupFolder{};   // last one typed at SEND BACKUP TO; not saved
+    bool importRuns = false;      // one of the two member imports is running
 };
 
 } // namespace vantrel

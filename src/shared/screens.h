@@ -33,7 +33,7 @@ enum class Screen {
     help,         // frmVantrelHelp: openHelp
 };
 
-// What other screens do to the start page.
+// What other screens need of the start page.
 class StartPage {
 public:
     virtual ~StartPage() = default;
@@ -45,7 +45,7 @@ public:
 
 enum class ContactChange { corrected, deleted };
 
-// What other screens do to the main page.
+// What other screens need of the main page.
 class MainPage {
 public:
     virtual ~MainPage() = default;
@@ -83,8 +83,8 @@ public:
     virtual ~Screens() = default;
     // Creates the screen when there is none, shows it and brings it to front.
     virtual void open(Screen screen) = 0;
-    // Closes `current` and opens `next` in its place: closing that one leads to where closing
-    // `current` would have led.
+    // Closes `current` and opens `next` in its place. Closing `next` leads back to the page that
+    // opened `current`.
     virtual void replace(Screen current, Screen next) = 0;
     // A page of log maintenance for contact 1 to log.count(); 0: for none.
     virtual void openContact(Screen page, int contact, OpenAt at) = 0;
@@ -97,7 +97,7 @@ public:
     // The key sheet; page: the objectName of the page that it is for.
     virtual void openHelp(const std::string& page) = 0;
     virtual void askAboutDupe(DupeQuestion question) = 0;
-    // Hands the finder's choice to the screen that asked for it, if it is still there.
+    // Gives the path chosen in the finder to the screen that asked for it, if that is still open.
     virtual void handBackPath(Screen receiver, const std::string& path) = 0;
     // nullptr while there is none.
     virtual StartPage* startPage() = 0;

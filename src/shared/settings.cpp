@@ -44,7 +44,7 @@ std::string normalised(std::string_view typed) {
 OperatingSettings storedSettings(const OperatingSettings& typed) {
     OperatingSettings settings = typed;
     settings.myCall = padded(normalised(typed.myCall), callWidth, "the call");
-    settings.myCall = trimRight(settings.myCall); // the call alone is kept unpadded
+    settings.myCall = trimRight(settings.myCall); // only its length was to be checked
     settings.myName = padded(normalised(typed.myName), nameWidth, "the name");
     settings.myState = padded(normalised(typed.myState), stateWidth, "the state");
     settings.myNumber = padded(normalised(typed.myNumber), numberWidth, "the SKCC number");
@@ -66,7 +66,7 @@ OperatingSettings loadSettings(const Files& files) {
     if (!files.present(configurationFile))
         return settings;
     std::string bytes = files.read(configurationFile);
-    if (bytes.starts_with(utf8Mark)) // from an editor
+    if (bytes.starts_with(utf8Mark)) // an editor has written it
         bytes.erase(0, utf8Mark.size());
     ItemReader reader(bytes);
     for (const SettingLine& line : settingLines) {

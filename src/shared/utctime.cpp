@@ -37,7 +37,7 @@ UtcTime utcTime(const LocalTime& local, std::string_view gmtOffset) {
         hour -= 24;
     else if (unwrapped < 0)
         hour += 24;
-    // Deliberate: when UTC is still on the day before, the contact carries the local date.
+    // Deliberate: when UTC is still on the day before, the date stays the local one.
     return {zeroPadded(hour.value(), 2) + zeroPadded(local.minute, 2),
             unwrapped > 23 ? rolledDate(local) : dateOf(local, local.day)};
 }

@@ -39,7 +39,7 @@ std::vector<MemberLine> ContactEntry::members() {
     const ViewContext now = context();
     const auto gain = [&](const Member& member) { return gainOf(member, m_draft, now); };
     try {
-        return membersLike(m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call),
+        return memberLines(m_roster, m_shared.log.contacts(), trim(m_draft.boxes.call),
                            m_draft.bandTag(), gain);
     } catch (const RuntimeError&) {
         return {};
@@ -56,7 +56,7 @@ void ContactEntry::opened() {
     m_draft.autoReads = autoReads;
     setFrequency(std::string(startFrequency));
     m_shared.marker = noMarker;
-    clear(ClearTo::nothing);
+    clear();
     m_cleared.reset();
 }
 
@@ -123,7 +123,7 @@ ContactEntry::Step ContactEntry::testForDupe(Answer& answer) {
     const std::string_view logged = duplicateOf(contacts, call, bandTag);
     answer.dupeScreen = answer.dupeScreen || !logged.empty();
     if (!logged.empty() && !settings.logsDupes()) {
-        clear(ClearTo::nothing);
+        clear();
         m_draft.happened = {refusedHint(logged), std::string(logged)};
         return Step::ended;
     }
@@ -302,7 +302,7 @@ ContactEntry::Step ContactEntry::completeFrequency(Answer& answer) {
     switch (checkFrequency(mhz, m_shared.settings)) {
     case FrequencyCheck::outsideSprintBands:
         answer.messages.push_back({mhz + std::string(wrongBandText), BoxIcon::critical});
-        clear(ClearTo::nothing);
+        clear();
         return Step::ended;
     case FrequencyCheck::unloggable:
         answer.messages.push_back({std::string(frequencyMissingText), BoxIcon::exclamation,
@@ -323,7 +323,7 @@ std::optional<std::string> ContactEntry::assembledLine(const UtcTime& utc, Answe
             throw;
         answer.messages.push_back(
             {std::string(invalidEntryText), BoxIcon::exclamation, error.detail()});
-        clear(ClearTo::nothing);
+        clear();
         return std::nullopt;
     }
 }
@@ -342,13 +342,14 @@ void ContactEntry::append(const std::string& line, Answer& answer) {
     } catch (const RuntimeError& error) {
         throw notLogged(error);
     }
-    clear(ClearTo::nothing);
+    clear();
     m_cleared.reset(); // Ctrl+Z must not bring back what is in the log
     m_draft.takenBack.clear();
     try {
         log.reread();
     } catch (const RuntimeError& error) {
-        answer.messages.push_back(failureOnceLogged(error));
+        answer.messages.push_back(
+            {error.headline(), BoxIcon::critical, error.detail() + "\nTHE QSO IS IN THE LOG"});
     }
     m_draft.happened = {loggedHint(line, repeated), line};
     if (loss)
@@ -364,14 +365,14 @@ Answer ContactEntry::logAsDupe() {
 // --- Dropping and bringing back --------------------------------------------------------------
 
 Answer ContactEntry::droppedDupe() {
-    clear(ClearTo::oneBlank);
+    clear(" ");
     return {};
 }
 
 // The hint about the contact logged, corrected or deleted last survives NO LOG.
 Answer ContactEntry::dropped() {
     const auto happened = std::exchange(m_draft.happened, std::nullopt);
-    clear(ClearTo::nothing);
+    clear();
     if (happened && !happened->contact.empty())
         m_draft.happened = happened;
     m_draft.station = noStationLabel;
@@ -379,12 +380,10 @@ Answer ContactEntry::dropped() {
 }
 
 // Keeps what it clears for broughtBack().
-void ContactEntry::clear(ClearTo left) {
+void ContactEntry::clear(const std::string& left) {
     if (!trim(m_draft.boxes.call).empty())
         m_cleared = {m_draft.boxes, m_draft.lookedUp};
-    const std::string text = left == ClearTo::oneBlank ? " " : "";
-    const std::string report(usualReport);
-    m_draft.boxes = {text, text, text, text, report, report, m_draft.boxes.frequency};
+    m_draft.boxes = {left, left, left, left, usualReport, usualReport, m_draft.boxes.frequency};
     m_draft.lookedUp = {};
     m_draft.broughtBack = false;
     m_draft.searched.reset();
@@ -414,14 +413,13 @@ void ContactEntry::tagChosen(std::string_view label) {
         m_draft.searched->marked = false;
 }
 
-bool ContactEntry::isInLog(std::string_view contact) const {
-    const Contacts& contacts = m_shared.log.contacts();
-    return std::find(contacts.rbegin(), contacts.rend(), contact) != contacts.rend();
-}
-
 void ContactEntry::logChanged() {
     const auto& happened = m_draft.happened;
-    if (happened && !happened->contact.empty() && isInLog(happened->contact) != happened->inLog)
+    if (!happened || happened->contact.empty())
+        return;
+    const Contacts& contacts = m_shared.log.contacts();
+    const auto found = std::find(contacts.rbegin(), contacts.rend(), happened->contact);
+    if ((found != contacts.rend()) != happened->inLog)
         m_draft.happened.reset();
 }
 

@@ -87,8 +87,6 @@ public:
 private:
     enum class Step { on, ended };
     enum class ReadCause { search, log, manual };
-    // What dropping a contact leaves in each box: nothing, or a single blank.
-    enum class ClearTo { nothing, oneBlank };
     struct Cleared {
         Entry boxes;
         LookedUp lookedUp;
@@ -110,8 +108,7 @@ private:
     std::optional<std::string> assembledLine(const UtcTime& utc, Answer& answer);
     void append(const std::string& line, Answer& answer);
     void forgetLookup();
-    void clear(ClearTo left);
-    bool isInLog(std::string_view contact) const;
+    void clear(const std::string& left = "");
 
     Module1& m_shared;
     Platform& m_platform;

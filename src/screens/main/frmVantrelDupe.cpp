@@ -59,14 +59,4 @@ bool frmVantrelDupe::eventFilter(QObject* receiver, QEvent* event) {
     return Form::eventFilter(receiver, event);
 }
 
-void frmVantrelDupe::bringToFront() {
-    raise();
-}
-
-// Not Form's, which gives the focus back to the opener: this screen never had it, and by now the
-// operator may be typing the next name or be on another page.
-void frmVantrelDupe::closeEvent(QCloseEvent* event) {
-    QWidget::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)
-}
-
 } // namespace vantrel

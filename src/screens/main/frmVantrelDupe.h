@@ -18,11 +18,15 @@ public:
 
     // A second duplicate while the screen shows starts its two seconds again.
     bool loadsAgain() const override { return true; }
-    void bringToFront() override;
+    void bringToFront() override { raise(); }
 
 protected:
     void load() override;
-    void closeEvent(QCloseEvent* event) override;
+    // Not Form's, which gives the focus back to the opener: this screen never had it, and by now
+    // the operator may be typing the next name or be on another page.
+    void closeEvent(QCloseEvent* event) override {
+        QWidget::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    }
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:

@@ -96,10 +96,6 @@ RuntimeError notLogged(const RuntimeError& error) {
                               "THEN PRESS LOG AGAIN"};
 }
 
-Message failureOnceLogged(const RuntimeError& error) {
-    return {error.headline(), BoxIcon::critical, error.detail() + "\nTHE QSO IS IN THE LOG"};
-}
-
 Message lossNotice(const LogLoss& loss, const std::string& logPath) {
     constexpr std::string_view shrank = // and the contact is in the shorter one
         "THE LOG FILE HELD FEWER QSOS THAN BEFORE.  THIS QSO HAS BEEN ADDED TO IT";

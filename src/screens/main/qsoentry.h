@@ -91,9 +91,6 @@ std::string contactLine(const Entry& entry, const OperatingSettings& settings,
 // The failure to append, with what the operator can do about it.
 RuntimeError notLogged(const RuntimeError& error);
 
-// The message for a failure after the contact is on the disk (a full table, another file).
-Message failureOnceLogged(const RuntimeError& error);
-
 // The message for a log that had vanished or lost contacts; logPath: as text to show.
 Message lossNotice(const LogLoss& loss, const std::string& logPath);
 

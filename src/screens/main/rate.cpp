@@ -15,7 +15,7 @@ constexpr int barMinutes = 5;
 
 } // namespace
 
-std::vector<UtcMinute> momentsOf(const Contacts& contacts) {
+std::vector<UtcMinute> contactMinutes(const Contacts& contacts) {
     std::vector<UtcMinute> moments;
     moments.reserve(contacts.size());
     std::string_view date;

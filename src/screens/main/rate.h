@@ -20,7 +20,7 @@ struct Rate {
 };
 
 // When each contact was made, duplicates included. Contacts without a readable time are left out.
-std::vector<UtcMinute> momentsOf(const Contacts& contacts);
+std::vector<UtcMinute> contactMinutes(const Contacts& contacts);
 
 // The rate at `now`. With a negative GMT offset contacts made before midnight UTC carry the local
 // date, which may be a day ahead: one dated up to a day ahead is taken a day earlier, one further

@@ -34,23 +34,27 @@ struct RowBand {
     std::string_view name;
     std::string_view firstTag;
     std::string_view lastTag;
-    bool sprint; // may be worked in any contest
-    bool event;  // and in the event
 };
 constexpr std::array<RowBand, 12> rowBands{{
-    {"160", " 1", " 1", true, true},
-    {"80", " 3", " 3", true, true},
-    {"60", " 5", " 5", false, false},
-    {"40", " 7", " 7", true, true},
-    {"30", "10", "10", false, true},
-    {"20", "14", "14", true, true},
-    {"17", "18", "18", false, true},
-    {"15", "21", "21", true, true},
-    {"12", "24", "24", false, true},
-    {"10", "28", "29", true, true},
-    {"6", "50", "53", false, false},
-    {"OTHER", "", "\xFF", false, false},
+    {"160", " 1", " 1"},
+    {"80", " 3", " 3"},
+    {"60", " 5", " 5"},
+    {"40", " 7", " 7"},
+    {"30", "10", "10"},
+    {"20", "14", "14"},
+    {"17", "18", "18"},
+    {"15", "21", "21"},
+    {"12", "24", "24"},
+    {"10", "28", "29"},
+    {"6", "50", "53"},
+    {"OTHER", "", "\xFF"},
 }};
+
+// Whether the band has a row before a contact is made there. allBands: those of the event.
+bool isExpected(const RowBand& row, bool allBands) {
+    const Band* band = bandOfKhz(row.firstTag);
+    return band != nullptr && (allBands || !band->text.empty());
+}
 
 std::size_t rowOf(std::string_view tag) {
     const auto* const row =
@@ -127,7 +131,7 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
     return result;
 }
 
-std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
+std::vector<MemberLine> memberLines(Roster& roster, const Contacts& contacts,
                                     std::string_view typed, std::string_view bandTag,
                                     const std::function<std::string(const Member&)>& gainOf) {
     std::vector<MemberLine> lines;
@@ -178,7 +182,7 @@ BandTable bandTable(const Contacts& contacts, std::string_view typed, std::strin
     const Bands shown = isWorked ? exact : several ? Bands() : longer;
     BandTable table{std::string(shown.call), {}};
     for (std::size_t i = 0; i < rowBands.size(); ++i)
-        if (worked[i] || (allBands ? rowBands[i].event : rowBands[i].sprint))
+        if (worked[i] || isExpected(rowBands[i], allBands))
             table.rows.push_back(
                 {std::string(rowBands[i].name), counts[i], i == rowOf(bandTag), shown.onBand[i]});
     return table;

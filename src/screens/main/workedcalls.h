@@ -49,7 +49,7 @@ struct MemberLine {
 
 // The members whose calls are like the one typed, none for fewer than two characters. Throws as
 // Roster::partialMatches.
-std::vector<MemberLine> membersLike(Roster& roster, const Contacts& contacts,
+std::vector<MemberLine> memberLines(Roster& roster, const Contacts& contacts,
                                     std::string_view typed, std::string_view bandTag,
                                     const std::function<std::string(const Member&)>& gainOf);
 

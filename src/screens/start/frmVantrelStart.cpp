@@ -290,7 +290,7 @@ void frmVantrelStart::startNewFile() {
 }
 
 void frmVantrelStart::showLogNote() {
-    if (isVisible()) // while it is being loaded, the notes come later
+    if (isVisible()) // otherwise the notes come after the first paint
         showNote(m_logLabel, logNote(platform().files, textOf(m_fileBox), textOf(m_contestBox)));
 }
 

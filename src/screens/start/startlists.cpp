@@ -21,7 +21,7 @@ ValueList listFromNone() {
 ValueList rigList() {
     ValueList list = listFromNone();
     for (const Rig& rig : rigs)
-        list.push_back({std::string(rig.model), std::string(rig.stored())});
+        list.push_back({std::string(rig.model), std::string(rig.savedAs())});
     return list;
 }
 

@@ -69,7 +69,7 @@ OpenResult tryToOpen(const Files& files, std::string_view logFileName) {
 }
 
 StatusNote logNote(const Files& files, std::string_view logFileName, std::string_view contestText) {
-    // As START takes it.
+    // START turns the box's text into a name in the same way.
     const std::string name(trim(withoutSeparatorsAndQuotes(logFileName)));
     if (name.empty())
         return {};
@@ -96,7 +96,7 @@ std::string newFileWarning(const Files& files, std::string_view logFileName) {
                ".\nTHEY ARE KEPT BESIDE IT AS " + std::string(lastPart(name)) +
                ".OLD (NUMBERED WHEN THERE IS ONE)";
     } catch (const RuntimeError&) {
-        return {}; // the new start says why
+        return {}; // starting the new file will report it
     }
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the start page checks: whether the log's name can be a log, and the notes beside its boxes,
-// so that a wrong entry shows before the contest and not after it.
+// The start page's checks: whether a name can be the log's, and the notes beside the boxes, which
+// show a wrong entry before the contest.
 #pragma once
 
 #include <string>
@@ -21,15 +21,15 @@ inline constexpr std::string_view pathNotFoundText =
 inline constexpr std::string_view newFileQuestion =
     "  START A NEW FILE - ARE YOU SURE?          THE NEW FILE WILL START WITH NO QSOS         ";
 
-// Throws RuntimeError 75 when the name stands for one of the program's own files: a log of that
-// name would replace the settings, the worked stations, the roster or the program itself. The same
-// when it leaves no room for the names of the files beside a log.
+// Throws RuntimeError 75 when the name is that of one of the program's own files, which the log
+// would replace: settings, worked stations, roster, the program. Likewise when it is too long for
+// the names of the files kept beside a log.
 void refuseOwnFile(const Files& files, std::string_view logFileName);
 
 enum class OpenResult { opened, fileNotFound, pathNotFound };
 
-// Opens and reads the log. An empty name is a file that cannot be found. Throws as
-// refuseOwnFile, and as Files::read for whatever else keeps it from being opened.
+// Reads the log. An empty name is a file that is not found. Throws as refuseOwnFile, and as
+// Files::read for other failures.
 OpenResult tryToOpen(const Files& files, std::string_view logFileName);
 
 // A line beside a box.
@@ -39,25 +39,25 @@ struct StatusNote {
     std::string tip{};
 };
 
-// What the named log is: "28 QSOS, LAST 2026-11-21 1441"; that there is no such file yet; that its
-// header names another contest; that it is no log, or cannot be opened and why. Empty without a
-// name. Never throws a RuntimeError.
+// The note about the named log: "28 QSOS, LAST 2026-11-21 1441", or that the file does not exist
+// yet, names another contest in its header, is no log, or cannot be opened (with the reason as
+// tip). Empty without a name. Never throws a RuntimeError.
 StatusNote logNote(const Files& files, std::string_view logFileName, std::string_view contestText);
 
-// What a new start over that log keeps: "SKS061611.CBR HOLDS 28 QSOS, LAST ...". Empty where it
-// holds no contact. Never throws a RuntimeError.
+// Before a new file replaces that log: "SKS061611.CBR HOLDS 28 QSOS, LAST ..." and where they are
+// kept. Empty when it holds no contact. Never throws a RuntimeError.
 std::string newFileWarning(const Files& files, std::string_view logFileName);
 
 // How many members the roster holds. Never throws a RuntimeError.
 StatusNote rosterNote(const Files& files);
 
-// UTC and date by the offset; a caution with the computer's own UTC when the two are more than
-// half an hour apart, as they are after a change of summer time. (Where the zone is at the half
-// hour, no whole offset is nearer.)
+// UTC and date by the offset. A caution, with the computer's own UTC, when the two are more than
+// half an hour apart: summer time has changed, perhaps. (Half an hour is no fault: in a zone at the
+// half hour no whole offset comes nearer.)
 StatusNote utcNote(const Clock& clock, std::string_view gmtOffset);
 
-// "SAVED, BUT IN NO LIST: RIG: FT-891, ...": for settings that no list of the page has. The page
-// shows the default in their place, and START saves that.
+// "SAVED, BUT IN NO LIST: RIG: FT-891, ...": for saved settings that the page's lists do not have.
+// It shows the defaults instead, and START saves them.
 std::string unknownSettingsText(const std::vector<std::string>& settings);
 
 } // namespace vantrel

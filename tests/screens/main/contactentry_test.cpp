@@ -228,7 +228,8 @@ private:
         logIs(read.log);
         if (read.dropped)
             drop();
-        if (read.dropped || read.result.outcome == ReadOutcome::cancelled)
+        stays = read.result.outcome == ReadOutcome::cancelled;
+        if (read.dropped || stays)
             return false;
         if (read.result.outcome == ReadOutcome::noReader && asked)
             says(rigNeeds(settings.rig));
@@ -332,7 +333,7 @@ private:
     // --- Both ---
 
     void both(const vantrel::Answer& answer, const std::function<void()>& event) {
-        dupeScreen = asks = false;
+        dupeScreen = asks = stays = false;
         told.clear();
         event();
         EXPECT_FALSE(std::exchange(read.done, false)) << "the radio was read";
@@ -342,6 +343,7 @@ private:
         EXPECT_EQ(boxTexts, told);
         EXPECT_EQ(answer.dupeScreen, dupeScreen);
         EXPECT_EQ(answer.asksAboutDupe, asks);
+        EXPECT_EQ(answer.toCallBox, !asks && !stays);
         if (!answer.asksAboutDupe)
             return;
         compare(); // all is still in the boxes
@@ -375,6 +377,8 @@ private:
         case 9:
             return both(entry.dropped(), [&] { drop(); });
         case 10:
+            if (chance(50))
+                return both(entry.frequencyLeft(), [&] { stays = enter(); });
             return both(entry.frequencyEntered(), [&] { enter(); });
         case 11:
             return both(entry.bandUp(),
@@ -417,7 +421,11 @@ private:
     // What is shown of the score is taken over where it is right.
     std::string hint(const std::string& shown) {
         const std::string problem = problemOfBand();
-        std::string missing = missingText(boxes, true);
+        std::string missing;
+        for (std::size_t i = 0; i < 3; ++i)
+            if (trim(boxes.*lookupFields[i].box).empty())
+                missing += (missing.empty() ? "NOT IN THE ROSTER: " : ", ") +
+                           Lines{"NAME", "STATE", "SKCC#"}[i];
         if (const auto [name, state, number] = inLog(); !(name + state + number).empty())
             missing = "IN THE LOG:" + (name.empty() ? "" : ' ' + name) +
                       (state.empty() ? "" : ' ' + state) + (number.empty() ? "" : ' ' + number) +
@@ -480,7 +488,7 @@ private:
     LookupOutcome outcome{};
     std::tuple<std::string, std::string, bool> happened;
     std::optional<std::pair<Entry, LookedUp>> cleared;
-    bool dupeScreen = false, asks = false; // of the present event
+    bool dupeScreen = false, asks = false, stays = false; // of the present event
     Lines told;
 };
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What the contact being entered is made with: frequencies, bands, who was worked before, the rate.
-#include "log/shortlog.h"
 #include "screens/main/frequency.h"
 #include "screens/main/qsoentry.h"
 #include "screens/main/rate.h"
 #include "screens/main/workedcalls.h"
 #include "shared/utctime.h"
+#include "support/contacts.h"
 
 #include <gtest/gtest.h>
 
@@ -87,10 +87,10 @@ TEST(Rate, TakesAContactUpToADayAheadForOneOfTheDayBefore) {
                                      {"no date", "0001"}})
         lines.push_back(contactLine({.date = padded(date, 10), .time = time}));
     const Rate rate =
-        rateAt(momentsOf({lines.begin(), lines.end()}), *readMinute("2012-02-29", "0005"));
+        rateAt(contactMinutes({lines.begin(), lines.end()}), *readMinute("2012-02-29", "0005"));
     EXPECT_EQ(rateText(rate), "3 (18/h)");
     EXPECT_EQ(lastText(rate), "LAST 1 MIN AGO");
-    EXPECT_EQ(lastText(rateAt(momentsOf({lines.begin(), lines.end()}),
+    EXPECT_EQ(lastText(rateAt(contactMinutes({lines.begin(), lines.end()}),
                               *readMinute("2012-02-29", "1149"))),
               "LAST 11 H AGO");
     EXPECT_EQ(hourText(rate), "3 contacts in the last hour, most at 2356");
@@ -99,24 +99,15 @@ TEST(Rate, TakesAContactUpToADayAheadForOneOfTheDayBefore) {
 
 // Unlike the ordinary check, the start of a call is not the call.
 TEST(K3yDupe, IsTheSameCallNumberAndBand) {
-    const FieldList fields{&Fields::hisCall, &Fields::frequency, &Fields::hisNumber,
-                           &Fields::marker};
-    const std::string logged = logOf(fields, "K3Y/1 14050 123456 K3Y/EU").substr(0, 107);
-    const std::pair<const char*, bool> rows[] = {{"K3Y/1 14062 123456 DUPE", true},
-                                                 {"K3Y/1 7050 123456", false},
-                                                 {"K3Y/1 14050 12345", false},
-                                                 {"K3Y/1/P 14050 123456", false},
-                                                 {"K3Y/ 14050 123456", false}};
-    for (const auto& [assembled, dupe] : rows) {
-        const std::string line = logOf(fields, assembled);
-        // A number in its box may exceed its columns.
-        EXPECT_EQ(isK3yDupe({logged}, trim(qso::hisCall.of(line)),
-                            std::string(qso::hisNumber.of(line)) + "7", qso::bandTag.of(line)),
-                  dupe)
-            << assembled;
-    }
-    const std::string shortNumber = logOf(fields, "K3Y/1 14050 55").substr(0, 97);
-    EXPECT_TRUE(isK3yDupe({shortNumber}, "K3Y/1", "55    ", "14")); // lost its last blanks
+    const std::string logged =
+        contactLine({.hisCall = "K3Y/1", .hisNumber = "123456", .marker = "K3Y/EU"});
+    EXPECT_TRUE(isK3yDupe({logged}, "K3Y/1", "1234567", "14")) << "cut to its columns";
+    EXPECT_FALSE(isK3yDupe({logged}, "K3Y/1", "123456", " 7"));
+    EXPECT_FALSE(isK3yDupe({logged}, "K3Y/1", "12345", "14"));
+    EXPECT_FALSE(isK3yDupe({logged}, "K3Y/1/P", "123456", "14"));
+    EXPECT_FALSE(isK3yDupe({logged}, "K3Y/", "123456", "14"));
+    const std::string cut = contactLine({.hisCall = "K3Y/1", .hisNumber = "55"}).substr(0, 97);
+    EXPECT_TRUE(isK3yDupe({cut}, "K3Y/1", "55    ", "14")); // lost its last blanks
     EXPECT_EQ(asDupe(logged), logged.substr(0, 101) + "DUPE");
 }
 

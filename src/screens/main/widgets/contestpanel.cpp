@@ -27,17 +27,8 @@ constexpr const char* longestSum = "12000 QSOs x 150 S/P/C + 32000";
 constexpr int barLines = 3;    // the bars are as high as so many lines of text
 constexpr int betweenBars = 3; // pixels
 
-std::string_view onBandText(CallOnBand onBand) {
-    switch (onBand) {
-    case CallOnBand::dupe:
-        return "DUPE";
-    case CallOnBand::worked:
-        return "worked";
-    case CallOnBand::notWorked:
-        break;
-    }
-    return "";
-}
+// Of CallOnBand, in its order.
+constexpr const char* onBandTexts[] = {"", "worked", "DUPE"};
 
 } // namespace
 
@@ -113,7 +104,7 @@ void ContestPanel::showScore(std::string_view total, std::string_view sum) {
 
 void ContestPanel::followLog(const Log& log, const OperatingSettings& settings,
                              const LogTally& score) {
-    m_moments = momentsOf(log.contacts());
+    m_contactMinutes = contactMinutes(log.contacts());
     m_shownAt.reset();
     if (settings.isK3y() && !log.tooLong()) {
         const StandingsTotals totals = standingsTotals(log.contacts());
@@ -129,7 +120,7 @@ void ContestPanel::followClock(const UtcTime& utc) {
     if (!now || m_shownAt == now)
         return;
     m_shownAt = now;
-    const Rate rate = rateAt(m_moments, *now);
+    const Rate rate = rateAt(m_contactMinutes, *now);
     put(m_rateLabel, rateText(rate));
     put(m_lastLabel, lastText(rate));
     m_bars->setRate(rate);
@@ -141,7 +132,7 @@ void ContestPanel::showBands(const BandTable& table) {
     std::vector<std::vector<ReadTable::Cell>> rows;
     for (const BandRow& band : table.rows) {
         const std::string count = std::to_string(band.contacts);
-        const std::string text(onBandText(band.onBand));
+        const std::string text(onBandTexts[static_cast<std::size_t>(band.onBand)]);
         const Colour colour = band.onBand == CallOnBand::dupe ? warningColour : nullptr;
         rows.push_back({{band.name, band.name, Qt::AlignLeft, band.present},
                         {band.contacts == 0 ? "-" : count, band.name + ' ' + count + " QSOs",

@@ -41,8 +41,8 @@ private:
     RateBars* m_bars;
     ReadTable* m_bandTable;
 
-    std::vector<UtcMinute> m_moments;   // of the contacts
-    std::optional<UtcMinute> m_shownAt; // the minute whose rate is shown
+    std::vector<UtcMinute> m_contactMinutes; // of the contacts
+    std::optional<UtcMinute> m_shownAt;      // the minute whose rate is shown
 };
 
 } // namespace vantrel

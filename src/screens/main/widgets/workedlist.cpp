@@ -150,16 +150,12 @@ void WorkedList::keyPressEvent(QKeyEvent* event) {
 }
 
 QLabel* WorkedList::headings(QWidget* page) const {
-    struct Heading {
-        int column;
-        std::string_view text;
-    };
-    constexpr Heading headings[] = {{1, "LAST CALL WKD "}, {15, "NAME"}, {24, "SKCC#"},
-                                    {33, "STATE"},         {39, "FREQ"}, {47, "TIME"},
-                                    {54, "DATE"},          {65, "DUPE"}};
+    constexpr std::pair<int, std::string_view> headings[] = {
+        {1, "LAST CALL WKD "}, {15, "NAME"}, {24, "SKCC#"}, {33, "STATE"},
+        {39, "FREQ"},          {47, "TIME"}, {54, "DATE"},  {65, "DUPE"}};
     std::string line;
-    for (const Heading& heading : headings)
-        line = leftAligned(line, heading.column - 1) + std::string(heading.text);
+    for (const auto& [column, text] : headings)
+        line = leftAligned(line, column - 1) + std::string(text);
     FormBuilder build(page);
     QLabel* label = build.caption(line.c_str());
     label->setFont(fixedWidthFont());

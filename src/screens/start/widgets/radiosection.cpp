@@ -36,7 +36,8 @@ RadioSection::RadioSection(QWidget* page, const Files& files, std::function<void
     FormBuilder build(page);
     rig = build.row(m_layout, "RIG:", filled(build.combo("Combo1"), rigList()));
     m_needsLabel = build.alert("Label17");
-    m_needsLabel->setMinimumHeight(2 * page->fontMetrics().lineSpacing()); // nothing jumps
+    m_needsLabel->setMinimumHeight(
+        2 * page->fontMetrics().lineSpacing()); // room for two lines from the start
     m_testButton = build.command("Command8", "&TEST", "READS THE FREQUENCY FROM THE RADIO ONCE",
                                  std::move(testClicked));
     m_layout->addRow(row({{wrapped(m_needsLabel), 1}, m_testButton}));
@@ -64,7 +65,7 @@ void RadioSection::rigChosen() {
 
 void RadioSection::lineChosen() {
     showNeeds();
-    if (m_page->isVisible()) // while it is being loaded, the device comes later
+    if (m_page->isVisible()) // otherwise the page shows the device after its first paint
         showDevice();
 }
 
@@ -88,13 +89,13 @@ RadioSection::Device RadioSection::device() const {
     const std::string name = chosenValue(port);
     try {
         return {name, serialDeviceShown(m_files, name), serialIdentity(m_files, name)};
-    } catch (const RuntimeError& error) { // two entries of the program folder are called so
+    } catch (const RuntimeError& error) { // two files of that name, in different case
         return {name, error.detail(), {}};
     }
 }
 
-// Adapters that are plugged in another order change places: the radio may be on another port
-// than it was an hour ago.
+// USB adapters change places when they are plugged in another order, and then the radio is on
+// another port.
 void RadioSection::showDevice() {
     const Device now = device();
     const bool changed = now.port == m_started.port && !now.identity.empty() &&

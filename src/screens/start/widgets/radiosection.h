@@ -19,11 +19,11 @@ namespace vantrel {
 class AlertLabel;
 class Files;
 
-// The combo, with these entries.
+// Adds the entries and returns the combo.
 QComboBox* filled(QComboBox* combo, const ValueList& list);
-// The value of the entry that a combo shows, as the settings hold it.
+// The settings' value of the entry chosen.
 std::string chosenValue(const QComboBox* combo);
-// Shows the first entry with that value; false when there is none.
+// Chooses the first entry with that value; false when there is none.
 bool chooseValue(QComboBox* combo, std::string_view value);
 
 class RadioSection {
@@ -34,15 +34,15 @@ public:
     RadioSection& operator=(const RadioSection&) = delete;
 
     QFormLayout* layout() const { return m_layout; }
-    // The boxes hold the saved settings now.
+    // Call when the boxes have been filled from the saved settings.
     void loaded();
-    // What the chosen port stands for now: adapters are plugged in and out.
+    // Shows which device the chosen port is now.
     void showDevice();
-    // An Icom brings its usual address, unless the operator has chosen one himself.
+    // Another rig: an Icom sets its usual address, unless the operator has chosen one himself.
     void rigChosen();
-    // Another port, baud rate or address, or what the port stands for.
+    // Another port, baud rate or address was chosen.
     void lineChosen();
-    // START was pressed: from now on another device at the port is told of.
+    // START was pressed: a later change of the port's device is pointed out from now on.
     void started();
     void showReading();
     void showRead(const ReadResult& result);
@@ -68,7 +68,7 @@ private:
     AlertLabel* m_needsLabel;
     QLabel* m_deviceLabel;
     Device m_started;             // at the last START of this run
-    std::string m_broughtAddress; // the last Icom's usual one
+    std::string m_broughtAddress; // the usual one of the Icom chosen last
 };
 
 } // namespace vantrel

@@ -3,6 +3,7 @@
 
 #include "forms/accessible.h"
 #include "forms/controltext.h"
+#include "platform/qt/readernotice.h"
 
 #include <QTimer>
 
@@ -18,7 +19,7 @@ AlertLabel::AlertLabel(QWidget* parent)
     m_notification->setTextFormat(Qt::PlainText);
     m_notification->hide();
     m_timer->setSingleShot(true);
-    connect(m_timer, &QTimer::timeout, m_notification, &QWidget::show);
+    connect(m_timer, &QTimer::timeout, this, [this] { notifyReader(this, m_notification); });
 }
 
 void AlertLabel::announce(std::string_view text, std::string_view words) {

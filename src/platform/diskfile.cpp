@@ -31,8 +31,8 @@ ErrorCode codeFor(int error, const std::string& path) {
         return ErrorCode::diskFull;
     switch (error) {
     case ENOENT:
-        return fs::exists(folderOf(path), ignored) ? ErrorCode::fileNotFound
-                                                   : ErrorCode::pathNotFound;
+        return fs::is_directory(folderOf(path), ignored) ? ErrorCode::fileNotFound
+                                                         : ErrorCode::pathNotFound;
     case ENOTDIR:
         return ErrorCode::pathNotFound;
     case EACCES:

@@ -104,8 +104,10 @@ std::string shownText(std::string_view native) {
 std::string resolveName(const std::string& folder, std::string_view name) {
     const std::string_view root = rootOf(name);
     fs::path current = folder;
-    if (!root.empty()) // on Windows "\\LOGS" is on the folder's drive
-        current = (current / nativeText(root)).make_preferred();
+    if (root.size() == 1)
+        current = current.root_path(); // on Windows the folder's drive
+    else if (!root.empty())
+        current = fs::path(nativeText(root)).make_preferred();
     for (const std::string_view part : partsOf(name.substr(root.size())))
         current = matchPart(current, part);
     return current.string();

@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(argc == 2 ? argv[1] : "")) {
         // Told beforehand: when a property does not hold, this is the last line but its own.
-        std::fprintf(stderr, "%s\n", entry.path().c_str());
+        std::fprintf(stderr, "%s\n", entry.path().string().c_str());
         std::ifstream file(entry.path(), std::ios::binary);
         const std::string bytes{std::istreambuf_iterator<char>(file), {}};
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());

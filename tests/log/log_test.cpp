@@ -140,7 +140,7 @@ TEST_F(OpenLog, StartingANewOneKeepsWhateverCountsAsAContact) {
         EXPECT_EQ(folder.read(name), logHeaderLines);
     }
     folder.write(name, "note,QSO: 14050\r\n");
-    EXPECT_EQ(startNewLog(files, name, header), folder.string() + "/" + name + ".OLD");
+    EXPECT_EQ(startNewLog(files, name, header), (folder.path() / (name + ".OLD"s)).string());
     EXPECT_EQ(folder.read(name + ".OLD"s), "note,QSO: 14050\r\n");
 }
 

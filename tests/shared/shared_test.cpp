@@ -24,8 +24,9 @@ TEST_F(Settings, FileHoldsTheFourteenValuesAndTheyComeBackWithoutTheirPadding) {
     EXPECT_EQ(loadSettings(files).rig + loadSettings(files).dupeMode, "YES");
     folder.write("Vantrel.CFG", stored.substr(0, stored.rfind("YES")));
     EXPECT_RUNTIME_ERROR(loadSettings(files), ErrorCode::inputPastEnd,
-                         folder.string() + "/Vantrel.CFG: line 14 (dupe mode) is missing\n"
-                                           "DELETE THE FILE TO START WITH THE DEFAULTS");
+                         (folder.path() / "Vantrel.CFG").string() +
+                             ": line 14 (dupe mode) is missing\n"
+                             "DELETE THE FILE TO START WITH THE DEFAULTS");
 
     const std::tuple<std::string OperatingSettings::*, std::string, const char*> rows[] = {
         {&OperatingSettings::myCall, "W1ABC/QRP/P", "the call is longer"},

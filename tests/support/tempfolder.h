@@ -3,11 +3,11 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,7 +36,7 @@ public:
     std::vector<std::string> names() const {
         std::vector<std::string> result;
         for (const auto& entry : std::filesystem::directory_iterator(m_path))
-            result.push_back(entry.path().filename());
+            result.push_back(entry.path().filename().string());
         std::sort(result.begin(), result.end());
         return result;
     }
@@ -47,12 +47,19 @@ private:
 
 class TempFolder : public Folder {
 public:
-    TempFolder()
-        : Folder(::mkdtemp(
-              (std::filesystem::temp_directory_path() / "vantrel-test-XXXXXX").string().data())) {}
+    TempFolder() : Folder(made()) {}
     ~TempFolder() {
         std::error_code ignored;
         std::filesystem::remove_all(path(), ignored);
+    }
+
+private:
+    // Its real path: the system's own may be written in short.
+    static std::filesystem::path made() {
+        const std::filesystem::path folder =
+            canonical(std::filesystem::temp_directory_path()) /
+            ("vantrel-test-" + std::to_string(std::random_device()()));
+        return create_directory(folder) ? folder : made();
     }
 };
 

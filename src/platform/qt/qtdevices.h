@@ -32,7 +32,12 @@ public:
     std::string pdf(const std::vector<std::string>& lines) override;
 };
 
-// The doors that each kind of machine has its own way to open.
+// Where the operators' own alarm has always been kept, and the alarm built into the program.
+inline constexpr const char* ownAlarmPath = "C:/Program Files/Quillmoor/Dupe.wav";
+inline constexpr const char* builtInAlarmPath = ":/Dupe.wav";
+
+// The doors that each kind of machine has its own way to open. The alarm sounds where there is a
+// sound device.
 std::unique_ptr<Sound> makeSound();
 // files: a link named "com1" in the program folder stands for that port.
 std::unique_ptr<SerialPort> makeSerialPort(const Files& files);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/posix/qtserialport.h"
 
-#include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
+#include "platform/linesettings.h"
 #include "platform/posix/seriallinks.h"
 #include "platform/qt/qtdevices.h"
 #include "platform/serialnames.h"
@@ -12,11 +12,9 @@
 #include <QEventLoop>
 #include <QTimer>
 
-#include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
 #include <grp.h>
-#include <optional>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -28,30 +26,6 @@ namespace vantrel {
 namespace {
 
 enum WaitResult { woken = 1, givenUp = 2 };
-
-// The settings text "38400,n,8,2" taken apart.
-struct LineSettings {
-    int baud;
-    char parity; // 'n', 'e' or 'o'
-    int dataBits;
-    int stopBits;
-};
-
-// Nothing when the text has another form ("None,n,8,1").
-std::optional<LineSettings> lineSettings(std::string_view text) {
-    const auto baudEnd = text.find(',');
-    if (baudEnd == std::string_view::npos || baudEnd == 0 || baudEnd > 6)
-        return std::nullopt;
-    const std::string_view baud = text.substr(0, baudEnd);
-    const std::string_view rest = text.substr(baudEnd);
-    const bool form = rest.size() == 6 && rest[0] == ',' && rest[2] == ',' && rest[4] == ',' &&
-                      std::all_of(baud.begin(), baud.end(), isDigit);
-    if (!form || std::string_view("neo").find(rest[1]) == std::string_view::npos ||
-        (rest[3] != '7' && rest[3] != '8') || (rest[5] != '1' && rest[5] != '2'))
-        return std::nullopt;
-    return LineSettings{static_cast<int>(numericValue(baud)), rest[1], rest[3] - '0',
-                        rest[5] - '0'};
-}
 
 void setLine(QSerialPort& port, const LineSettings& line) {
     port.setBaudRate(line.baud);

@@ -9,19 +9,15 @@ namespace vantrel {
 
 namespace {
 
-// Where the operators' own alarm has always been kept.
-const QString alarmPath = QStringLiteral("C:/Program Files/Quillmoor/Dupe.wav");
-const QString builtInAlarm = QStringLiteral("qrc:/Dupe.wav");
-
-// The duplicate alarm through the system's sound device, if there is one.
 class QtSound : public Sound {
 public:
     void playDupeAlarm() override {
         if (!m_alarm) {
             m_alarm = std::make_unique<QSoundEffect>();
-            const QFileInfo own(alarmPath);
-            m_alarm->setSource(own.isFile() ? QUrl::fromLocalFile(own.absoluteFilePath())
-                                            : QUrl(builtInAlarm));
+            const QFileInfo own(QString::fromLatin1(ownAlarmPath));
+            m_alarm->setSource(own.isFile()
+                                   ? QUrl::fromLocalFile(own.absoluteFilePath())
+                                   : QUrl(QStringLiteral("qrc") + QLatin1String(builtInAlarmPath)));
         }
         m_alarm->play();
     }

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/readernotice.h"
+
+#include <QLabel>
+
+namespace vantrel {
+
+// Readers speak a notification when it is shown.
+void notifyReader(QLabel*, QLabel* notification) {
+    notification->show();
+}
+
+} // namespace vantrel

@@ -13,17 +13,18 @@ namespace vantrel {
 
 namespace {
 
-// Light as screens give it off, for each of the three colours.
+// An sRGB component as the light that a screen gives off.
 double linear(double part) {
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
+// WCAG 2's relative luminance, with its 0.05 for ambient light.
 double lightOf(const QColor& colour) {
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF()) + 0.05; // a room is never quite dark
+           0.0722 * linear(colour.blueF()) + 0.05;
 }
 
-// All grounds are one there, and nothing but text and frames parts what lies on them.
+// High-contrast themes use one background for window, base and button.
 bool isHighContrast(const QPalette& palette) {
     const QColor window = palette.color(QPalette::Window);
     return window == palette.color(QPalette::Base) && window == palette.color(QPalette::Button);

@@ -12,7 +12,7 @@ namespace vantrel {
 // More than the 4.5 that make a text readable: thin letters are a shade weaker than their colour.
 constexpr double textContrast = 5.5;
 
-// How many times as light one is as the other, as an eye sees it: 1 to 21.
+// WCAG 2's contrast ratio, 1 to 21.
 double contrastOf(const QColor& one, const QColor& other);
 QColor mixed(const QColor& one, const QColor& other, int percentOfOther);
 // The colour, made so much darker or lighter that it stands out from the ground.

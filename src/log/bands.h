@@ -12,8 +12,8 @@ struct Band {
     std::string_view bandTag;          // first two columns of the kHz field
     std::string_view mhzPrefix;        // first two characters of the frequency in MHz
     std::string_view label;            // "160M": grids, ADIF
-    std::string_view text;             // main page, ten characters; empty on no sprint band
-    std::string_view defaultFrequency; // MHz, for the band buttons; empty on no sprint band
+    std::string_view text;             // main page, ten characters; empty: no sprint there
+    std::string_view defaultFrequency; // MHz, for the band buttons; empty: no sprint there
 };
 
 // From the lowest frequency up.
@@ -34,7 +34,7 @@ inline constexpr std::array<Band, 9> bands{{
 const Band* bandOfKhz(std::string_view khzField);
 const Band* bandOfMhz(std::string_view mhz);
 
-// Whether a contact may stand there: on one of those, 60 m, or all of 10 m and 6 m.
+// Whether a kHz field can be logged: on one of `bands`, on 60 m, anywhere in 10 m or 6 m.
 bool isOnBand(std::string_view khzField);
 
 // Index in `bands` of a kHz field's band; bands.size() for none.

@@ -28,7 +28,7 @@ Contacts contactsIn(std::string_view logBytes) {
 }
 
 std::string workedLine(std::string_view contact) {
-    // Of a contact line that ends early only the number is padded; its other fields are shorter.
+    // Where a contact line ends early only the number is padded; other fields become shorter.
     return std::string(qso::hisCall.of(contact)) + "| " + std::string(qso::hisName.of(contact)) +
            '|' + leftAligned(qso::hisNumber.of(contact), qso::hisNumber.width) + " | " +
            std::string(qso::hisState.of(contact)) + " | " +
@@ -72,8 +72,8 @@ void Log::open(const std::string& name) {
     reread();
 }
 
-// The pages show what could be read, so they are called before a failure is thrown. One of them
-// may close, or open another, because of it.
+// Watchers run before a failure is thrown, so that pages show what could be read. They run from a
+// copy of the list: a watcher may close a page or open one, and so change the list.
 void Log::reread() {
     std::exception_ptr failure;
     const auto attempt = [&failure](const auto& step) {
@@ -113,8 +113,8 @@ void Log::readAndUpdate() {
         throw RuntimeError(*m_tooLong);
 }
 
-// known: how many bytes at the beginning are as they were. After a contact was logged only its
-// line is split into items: there may be thousands before it.
+// known: how many bytes at the beginning are unchanged. Only what follows is split into items, so
+// that logging one contact does not parse the thousands before it.
 void Log::parse(std::string bytes, std::size_t known) {
     const char* const before = m_bytes.data();
     ++m_reading;
@@ -135,7 +135,7 @@ void Log::parse(std::string bytes, std::size_t known) {
                                                           std::to_string(capacity) + " contacts");
 }
 
-// Writes nothing while nothing changed: the score must be seen on a full disk too.
+// Writes nothing when nothing changed, so that the score can be seen on a full disk.
 void Log::addWorked(std::size_t added) {
     if (added == 0 || (m_workedOnDisk && m_worked.size() == workedCapacity))
         return;

@@ -47,17 +47,16 @@ inline constexpr int columns = 70;
 // The line in words, for a screen reader: "K9SKC CLUB 5000S IL 14050 at 0012", then its marker.
 std::string workedWords(std::string_view workedLine);
 
-// What a worked-stations line is marked for in the list: a duplicate, or missing name, state or
-// number.
+// How the list marks a worked-stations line: a duplicate, or incomplete (no name, state or number).
 enum class WorkedKind { complete, incomplete, dupe };
 WorkedKind kindOf(std::string_view workedLine);
 // The last field of a worked-stations line, without its blanks: a K3Y tag, "DUPE" or nothing.
 std::string_view markerOf(std::string_view workedLine);
 
-// What had become of the log on the disk when a contact was to be appended.
+// The log's file was gone, or had lost contacts, when the next contact was appended.
 struct LogLoss {
-    bool vanished;    // no such file any more; otherwise it held fewer contacts than were read
-    std::string kept; // copy of what was read last, as text to show; empty: it held no contact
+    bool vanished;    // gone; otherwise it held fewer contacts than had been read
+    std::string kept; // path of the copy made of what was read, as text to show; empty: no contact
 };
 
 class Log {
@@ -73,9 +72,9 @@ public:
     // The first 12,000; valid until the log is read again.
     const Contacts& contacts() const { return m_contacts; }
     Integer16 count() const { return static_cast<long long>(m_contacts.size()); }
-    // Another one whenever the contacts were read again.
+    // Changes whenever the log is read.
     int reading() const { return m_reading; }
-    // RuntimeError 9 while the file holds more contacts than that.
+    // RuntimeError 9 while the file holds more contacts than the first 12,000.
     const std::optional<RuntimeError>& tooLong() const { return m_tooLong; }
     // The lines of the first 1,000 contacts.
     const std::vector<std::string>& worked() const { return m_worked; }
@@ -89,9 +88,10 @@ public:
     void open(const std::string& name);
 
     // Reads the log again and brings the worked stations and their file up to date, then calls
-    // every watcher. Throws afterwards, the log's own failure before a watcher's: as Files::read,
-    // contacts and worked stations being as before; RuntimeError 9 with tooLong(); as
-    // Files::rewrite for "StnsWorked.TXT", the list in memory being right.
+    // every watcher. A failure is thrown after that, a watcher's only when there is none of:
+    // - as Files::read: contacts and worked stations are as before;
+    // - RuntimeError 9: see tooLong();
+    // - as Files::rewrite: "StnsWorked.TXT" is not up to date, worked() is.
     void reread();
 
     // Appends the line to the file: on the disk when this returns. The next reread() brings it

@@ -31,7 +31,7 @@ std::string logHeader(std::string_view contestText, std::string_view myCall,
 // and as Files.
 std::string startNewLog(Files& files, const std::string& name, std::string_view header);
 
-// What a log's bytes hold, however much that is. Views into those bytes.
+// What a log holds, beyond the first 12,000 contacts too. Views into the bytes given.
 struct LogSummary {
     std::optional<std::string_view> contest; // text in the header, trimmed; nothing without one
     Contacts contacts;
@@ -55,8 +55,8 @@ std::string strictAdifFileName(std::string_view logFileName);
 std::string scorePdfName(std::string_view logFileName);
 std::string logPdfName(std::string_view logFileName);
 
-// Throws RuntimeError 75 when the log's name leaves no room for those of the files beside it: they
-// would only fail when they are needed.
+// Throws RuntimeError 75 when the log's name is so long that a file beside it could not be named:
+// the operator learns that at START and not when an export or a kept copy fails.
 void requireRoomForNames(const Files& files, std::string_view logFileName);
 
 // Throws RuntimeError 75 when writing `name` would replace the log itself.

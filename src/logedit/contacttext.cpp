@@ -26,7 +26,7 @@ std::string text(Column column, std::string_view line) {
     return std::string(column.of(line));
 }
 
-// At its width, also where the line ends before.
+// Padded to its width where the line ends early.
 std::string field(Column column, std::string_view line) {
     return leftAligned(column.of(line), column.width);
 }
@@ -117,8 +117,8 @@ std::string briefly(std::string_view line) {
 std::vector<std::string> duplicateNews(const Lines& before, const Lines& after, bool byNumber) {
     std::vector<DupeNote> notesBefore = dupeNotes(before, byNumber);
     const std::vector<DupeNote> notes = dupeNotes(after, byNumber);
-    // Makes the notes before a change stand at the places after it. A line that came back was
-    // nothing before.
+    // Aligns the notes before the change with the lines after it. A line that an undo put back had
+    // no note.
     const auto changed =
         std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first -
         before.begin();

@@ -17,8 +17,8 @@ std::string deletionDetailText(std::string_view line);
 
 inline constexpr int matchColumns = 33;
 
-// A line of the list of matches: "> " for the current one or two blanks, call (10), a blank, date
-// (10), a blank, time (4), a blank, band: what tells one contact with a call from the next.
+// A line of the list of matches: "> " for the contact found or two blanks, call (10), a blank, date
+// (10), a blank, time (4), a blank, band.
 std::string matchText(std::string_view line, bool current);
 // A line of that list without its mark: screen readers say by themselves which line is current.
 std::string matchWords(std::string_view matchText);
@@ -26,11 +26,12 @@ std::string matchWords(std::string_view matchText);
 // "K1ABC 20M 0015"; the kHz where there is no band.
 std::string briefly(std::string_view line);
 
-// A sentence for each contact that the change from `before` to `after` (lines of a log, one of them
-// changed, removed or put back) made a duplicate of an earlier one on its band without the mark, so
-// that it would count twice; that is no longer a duplicate; or that still has the mark though it
-// repeats none any more, so that it would not count at all. byNumber: in the event, equal calls
-// with different member numbers are no duplicates.
+// What a change did to duplicates: a sentence for each contact that
+// - now repeats an earlier one on its band without the mark, and would count twice;
+// - is no longer a duplicate;
+// - still has the mark though it repeats none any more, and would not count at all.
+// before, after: the log's lines, one of them changed, removed or put back. byNumber: in the event,
+// equal calls with different member numbers are no duplicates.
 std::vector<std::string> duplicateNews(const std::vector<std::string>& before,
                                        const std::vector<std::string>& after, bool byNumber);
 

@@ -67,14 +67,14 @@ void frmLogPage::escapePressed() {
 }
 
 bool frmLogPage::maySearch() {
-    Boxes kept = typed();
-    if (!kept.empty() && m_boxes.front() == m_callBox) // what is typed there is the key
-        kept.front() = m_unchanged.front();
-    return mayDrop(kept);
+    Boxes texts = typed();
+    if (hasCallAmongBoxes())
+        texts.front() = m_unchanged.front();
+    return mayDrop(texts);
 }
 
-bool frmLogPage::mayDrop(const Boxes& boxes) {
-    const Boxes unsaved = m_log.found() && boxes != m_unchanged ? boxes : Boxes();
+bool frmLogPage::mayDrop(const Boxes& texts) {
+    const Boxes unsaved = m_log.found() && texts != m_unchanged ? texts : Boxes();
     if (std::exchange(m_toldUnsaved, unsaved) == unsaved || unsaved.empty())
         return true;
     setNotes({"NOT SAVED: ONCE MORE LEAVES"});
@@ -119,7 +119,7 @@ void frmLogPage::showBoxes(const Boxes& texts) {
 
 void frmLogPage::clearBoxes() {
     Boxes cleared(m_boxes.size());
-    if (!m_boxes.empty() && m_boxes.front() == m_callBox)
+    if (hasCallAmongBoxes())
         cleared.front() = textOf(m_callBox);
     showBoxes(cleared);
 }
@@ -173,7 +173,7 @@ QLayout* frmLogPage::matchesCard(const char* placeName) {
                                     m_matchList->verticalScrollBar()->sizeHint().width(),
                                 metrics.height() * matchRows);
     const auto choose = [this](const QModelIndex& index) { showMatch(index); };
-    // Where one click activates, it must not count as two.
+    // On desktops where one click activates, both signals would come.
     if (style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick) == 0)
         connectHandler(m_matchList, &QListView::clicked, choose);
     connectHandler(m_matchList, &QListView::activated, choose);
@@ -239,7 +239,7 @@ void frmLogPage::showOutcome(SearchResult result, const std::string& key, std::s
 }
 
 void frmLogPage::showMatch(const QModelIndex& index) {
-    if (!index.isValid()) // a double click, after its first one made the lines anew
+    if (!index.isValid()) // the second of two clicks: the first one has replaced the lines
         return;
     const int position = m_matchPositions.at(static_cast<std::size_t>(index.row()));
     // What was typed over the contact that is shown already stays.

@@ -99,8 +99,11 @@ private:
     void changeFound();
     void undo();
 
-    // False, and told, the first time that these boxes, typed over the contact, would be lost.
-    bool mayDrop(const Boxes& boxes);
+    // True where the call box is the first of the boxes too.
+    bool hasCallAmongBoxes() const { return !m_boxes.empty() && m_boxes.front() == m_callBox; }
+    // False, with a note, the first time that these texts of the boxes would be lost unsaved.
+    bool mayDrop(const Boxes& texts);
+    // The same for a search, which takes what is typed in the call box as its key.
     bool maySearch();
     // The call box's text tidied, put back into it: from now on it is the key.
     std::string takeKey();

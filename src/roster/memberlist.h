@@ -27,8 +27,8 @@ enum class MemberList { data, members };
 enum class ListLine { member, other, malformed };
 
 // A list's lines, ended by CR LF, LF or CR, as text in ISO 8859-1 without control characters
-// (blanks in their place). A list in UTF-8, told by its mark or by being valid UTF-8 throughout, is
-// converted: `?` for what ISO 8859-1 has not; the mark is no part of the first line.
+// (blanks in their place). A list that begins with the UTF-8 mark or is valid UTF-8 throughout is
+// converted; what ISO 8859-1 does not have becomes `?`. The mark is no part of the first line.
 class ListLines {
 public:
     explicit ListLines(std::string_view bytes); // which outlive this

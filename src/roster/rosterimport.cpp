@@ -94,8 +94,8 @@ void save(const std::vector<RosterTable>& roster, Files& files,
         std::any_of(roster.begin(), roster.end(), std::mem_fn(&RosterTable::changed));
     std::vector<FileContent> contents;
     for (const RosterTable& table : roster) {
-        // A file that was not there leaves an empty copy in place of one of an earlier import: put
-        // back together, the five copies are the roster as it was.
+        // Of a missing file an empty copy replaces that of an earlier import: together the five
+        // copies are the roster as it was.
         const std::string copy = table.name() + std::string(backupSuffix);
         if (changed && (files.present(table.name()) || files.present(copy)))
             contents.push_back({copy, {}, table.name()});

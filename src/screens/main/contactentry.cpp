@@ -299,19 +299,17 @@ ContactEntry::Step ContactEntry::completeFrequency(Answer& answer) {
     const std::string typed = m_draft.mhz;
     setFrequency(completedFrequency(typed));
     const std::string& mhz = m_draft.mhz;
-    switch (checkFrequency(mhz, m_shared.settings)) {
-    case FrequencyCheck::outsideSprintBands:
-        answer.messages.push_back({mhz + std::string(wrongBandText), BoxIcon::critical});
-        clear();
-        return Step::ended;
-    case FrequencyCheck::unloggable:
+    const FrequencyCheck check = checkFrequency(mhz, m_shared.settings);
+    if (check == FrequencyCheck::good)
+        return Step::on;
+    if (check == FrequencyCheck::unloggable) {
         answer.messages.push_back({std::string(frequencyMissingText), BoxIcon::exclamation,
                                    khzFault(khzField(mhz), typed)});
         return Step::ended;
-    case FrequencyCheck::good:
-        break;
     }
-    return Step::on;
+    answer.messages.push_back({mhz + std::string(wrongBandText), BoxIcon::critical});
+    clear();
+    return Step::ended;
 }
 
 // Nothing when a setting does not fit the line; the answer then says which.

@@ -47,14 +47,11 @@ std::optional<std::string> gainIfLogged(Entry entry, std::string_view marker, co
 // What the next Enter does after the search, or why LOG will refuse the contact.
 Hint nextStep(const Draft& draft, const ViewContext& context) {
     const std::string mhz = completedFrequency(draft.mhz);
-    switch (checkFrequency(mhz, context.shared.settings)) {
-    case FrequencyCheck::outsideSprintBands:
+    const FrequencyCheck check = checkFrequency(mhz, context.shared.settings);
+    if (check == FrequencyCheck::outsideSprintBands)
         return {mhz + " IS NO SPRINT BAND: LOG REFUSES IT", HintTone::caution};
-    case FrequencyCheck::unloggable:
+    if (check == FrequencyCheck::unloggable)
         return {khzFault(khzField(mhz), draft.mhz), HintTone::caution};
-    case FrequencyCheck::good:
-        break;
-    }
     if (!isComplete(draft.boxes))
         return {"ENTER LOOKS HIM UP", HintTone::plain, spokenBoxes(draft)};
     const auto gain =

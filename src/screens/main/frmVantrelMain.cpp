@@ -231,7 +231,7 @@ void frmVantrelMain::closeEvent(QCloseEvent* event) {
 
 void frmVantrelMain::run(Event happens) {
     const InputHold::Scope hold(m_hold);
-    m_entry.edited(m_boxes.entry());
+    m_entry.edited(m_boxes.entry()); // dictation, for one, sends no textEdited
     Answer answer;
     try {
         answer = (m_entry.*happens)();
@@ -271,12 +271,10 @@ void frmVantrelMain::showEntry() {
 
 // A letter typed on a button or in a list goes to the call box.
 void frmVantrelMain::keyPressEvent(QKeyEvent* event) {
-    if (isTyping(*event) && !m_boxes.call->hasFocus()) {
-        m_boxes.call->setFocus();
-        QCoreApplication::sendEvent(m_boxes.call, event);
-        return;
-    }
-    Form::keyPressEvent(event);
+    if (!isTyping(*event) || m_boxes.call->hasFocus())
+        return Form::keyPressEvent(event);
+    m_boxes.call->setFocus();
+    QCoreApplication::sendEvent(m_boxes.call, event);
 }
 
 bool frmVantrelMain::eventFilter(QObject* receiver, QEvent* event) {

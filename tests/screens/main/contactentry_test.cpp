@@ -426,10 +426,11 @@ private:
             if (trim(boxes.*lookupFields[i].box).empty())
                 missing += (missing.empty() ? "NOT IN THE ROSTER: " : ", ") +
                            Lines{"NAME", "STATE", "SKCC#"}[i];
-        if (const auto [name, state, number] = inLog(); !(name + state + number).empty())
-            missing = "IN THE LOG:" + (name.empty() ? "" : ' ' + name) +
-                      (state.empty() ? "" : ' ' + state) + (number.empty() ? "" : ' ' + number) +
-                      " - SPACE FILLS IN";
+        std::string known;
+        for (const std::string& text : inLog())
+            known += text.empty() ? "" : ' ' + text;
+        if (!known.empty())
+            missing = "IN THE LOG:" + known + " - SPACE FILLS IN";
         if (outcome == LookupOutcome::notFound && !missing.empty())
             return missing + (problem.empty() ? "" : "   " + problem);
         if (!problem.empty())

@@ -82,33 +82,29 @@ private:
     }
     Lines logged() const { return {module.log.contacts().begin(), module.log.contacts().end()}; }
 
-    // By another hand: a contact more, another one in the place of one, or one less.
+    // By another hand: a contact more, one less, or another one for it.
     void changeLog(bool toldByPage) {
         Lines lines = logged();
-        const int kind = lines.empty() ? 0 : upTo(2);
-        const std::string now = someLine();
-        lines.push_back(kind == 0 ? now : lines[static_cast<std::size_t>(upTo(9)) % lines.size()]);
-        const std::string was = lines.back();
-        if (kind > 0) {
-            lines.pop_back();
-            *std::find(lines.begin(), lines.end(), was) = now;
-        }
-        if (kind == 2)
-            std::erase(lines, now);
+        const std::string was = lines.empty() || chance(33) ? "" : pick(lines);
+        const std::string now = was.empty() || chance(50) ? someLine() : "";
+        if (!was.empty())
+            lines.erase(std::find(lines.begin(), lines.end(), was));
+        if (!now.empty())
+            lines.push_back(now);
         write(lines);
         module.log.reread();
         read.log = lines;
         if (!toldByPage)
             return;
         logIs(lines);
-        const bool deleted = kind == 2 && !isInLog(was);
-        if (kind != 1 && !deleted)
+        if (was.empty() || (now.empty() && isInLog(was)))
             return;
-        const ContactChange change = deleted ? ContactChange::deleted : ContactChange::corrected;
-        const std::string& line = deleted ? was : now;
+        const ContactChange change =
+            now.empty() ? ContactChange::deleted : ContactChange::corrected;
+        const std::string& line = now.empty() ? was : now;
         entry.contactChanged(change, line);
         if (trim(boxes.call + boxes.name + boxes.state + boxes.number).empty())
-            says(changedHint(change, line).text, line, !deleted);
+            says(changedHint(change, line).text, line, !now.empty());
     }
 
     struct {
@@ -460,7 +456,7 @@ private:
                 worked[std::string(trim(line.substr(65, 10)))] |= line.substr(5, 2) == bandTag();
         EXPECT_EQ(view.worked.size(), typed.size() < 2 ? 0 : worked.size());
         for (const WorkedCall& call : view.worked)
-            EXPECT_EQ(call.dupe, worked.at(call.text.substr(0, call.text.find(' ')))) << call.text;
+            EXPECT_EQ(call.dupe, worked.at(call.call)) << call.text;
         for (const MemberLine& member : entry.members())
             EXPECT_EQ(member.dupe, !dupe(member.call + ' ').empty()) << member.call;
         const BandTable& bands = view.bands;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/accessible.h"
 
-#include "forms/accessibletext.h"
 #include "forms/readingorder.h"
 
 #include <QAbstractButton>
@@ -15,6 +14,7 @@
 #include <QTableView>
 #include <QTimer>
 
+#include <algorithm>
 #include <optional>
 
 namespace vantrel {
@@ -51,7 +51,7 @@ QAccessible::Role roleOf(const QWidget* control, QAccessible::Role usual) {
     return role.isValid() ? static_cast<QAccessible::Role>(role.toInt()) : usual;
 }
 
-// A text behind the caption that it belongs to. Without a text there is nothing to see.
+// The caption of a label and its text; unseen while the text is empty.
 class AccessibleLabel : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
@@ -77,7 +77,7 @@ private:
     const QLabel* label() const { return static_cast<const QLabel*>(widget()); }
 };
 
-// A press by the reader is input like a key: it clicks, and is kept while a radio is read.
+// A press by the reader comes as an Alt key does, so it is kept while a radio is read.
 class AccessibleButton : public QAccessibleWidget {
 public:
     explicit AccessibleButton(QAbstractButton* button)
@@ -98,7 +98,7 @@ public:
     QStringList actionNames() const override {
         return QStringList(pressAction()) + QAccessibleWidget::actionNames();
     }
-    // The reader does not wait for the boxes that come up.
+    // Posted: the reader must not wait until a message box is answered.
     void doAction(const QString& name) override {
         if (name != pressAction())
             QAccessibleWidget::doAction(name);
@@ -120,12 +120,121 @@ private:
     QAbstractButton* button() const { return static_cast<QAbstractButton*>(widget()); }
 };
 
+// The text of a one-line box: whole, by words, by characters.
+// Replaces Qt's own: the text...Offset() of Qt 6.4.2 never return for a word at the end of a text,
+// and a program that stands still in a contest loses contacts.
+class AccessibleText : public QAccessibleTextInterface, public QAccessibleEditableTextInterface {
+public:
+    explicit AccessibleText(QLineEdit& box) : m_box(box) {}
+
+    const QLineEdit& box() const { return m_box; }
+    // This as the interface of that type; nullptr for any other type.
+    void* cast(QAccessible::InterfaceType type) {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface*>(this);
+        if (type == QAccessible::EditableTextInterface)
+            return static_cast<QAccessibleEditableTextInterface*>(this);
+        return nullptr;
+    }
+
+    QString text(int begin, int end) const override { return m_box.text().mid(begin, end - begin); }
+    int characterCount() const override { return static_cast<int>(m_box.text().size()); }
+
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
+                         int* end) const override {
+        const Part part = partAt(offset, boundary);
+        *begin = part.begin;
+        *end = part.end;
+        return text(part.begin, part.end);
+    }
+
+    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
+                             int* end) const override {
+        const int here = partAt(offset, boundary).begin;
+        if (here > 0)
+            return textAtOffset(here - 1, boundary, begin, end);
+        *begin = *end = 0;
+        return {};
+    }
+
+    QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int* begin,
+                            int* end) const override {
+        const int behind = partAt(offset, boundary).end;
+        if (behind < characterCount())
+            return textAtOffset(behind, boundary, begin, end);
+        *begin = *end = characterCount();
+        return {};
+    }
+
+    int cursorPosition() const override { return m_box.cursorPosition(); }
+    void setCursorPosition(int position) override { m_box.setCursorPosition(position); }
+    int selectionCount() const override { return m_box.hasSelectedText() ? 1 : 0; }
+    void selection(int, int* begin, int* end) const override {
+        const bool selected = m_box.hasSelectedText();
+        *begin = selected ? m_box.selectionStart() : 0;
+        *end = selected ? m_box.selectionEnd() : 0;
+    }
+
+    void addSelection(int begin, int end) override { setSelection(0, begin, end); }
+    void removeSelection(int) override { m_box.deselect(); }
+    void setSelection(int, int begin, int end) override { m_box.setSelection(begin, end - begin); }
+    void scrollToSubstring(int begin, int) override { setCursorPosition(begin); }
+    QRect characterRect(int) const override { return {}; }
+    int offsetAtPoint(const QPoint&) const override { return -1; }
+    QString attributes(int, int* begin, int* end) const override {
+        *begin = 0;
+        *end = characterCount();
+        return {};
+    }
+
+    void deleteText(int begin, int end) override { replaceText(begin, end, {}); }
+    void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
+    // As if typed: whatever follows typing follows this too.
+    void replaceText(int begin, int end, const QString& text) override {
+        if (m_box.isReadOnly())
+            return;
+        m_box.setSelection(begin, end - begin);
+        m_box.insert(text);
+    }
+
+private:
+    struct Part {
+        int begin;
+        int end;
+    };
+    // A word reaches to the beginning of the next one; a line is the whole text.
+    Part partAt(int offset, QAccessible::TextBoundaryType boundary) const {
+        const QString all = m_box.text();
+        const int count = characterCount();
+        // Two offsets stand for the end and for where the cursor is.
+        offset = offset == -1   ? count
+                 : offset == -2 ? cursorPosition()
+                                : std::clamp(offset, 0, count);
+        if (boundary == QAccessible::CharBoundary)
+            return {offset, std::min(offset + 1, count)};
+        if (boundary != QAccessible::WordBoundary || count == 0)
+            return {0, count};
+        const auto beginsWord = [&all](int at) {
+            return at == 0 || (!all[at].isSpace() && all[at - 1].isSpace());
+        };
+        int begin = std::min(offset, count - 1);
+        while (!beginsWord(begin))
+            --begin;
+        int end = begin + 1;
+        while (end < count && !beginsWord(end))
+            ++end;
+        return {begin, end};
+    }
+
+    QLineEdit& m_box;
+};
+
 class AccessibleLineEdit : public QAccessibleWidget {
 public:
     explicit AccessibleLineEdit(QLineEdit* edit)
         : QAccessibleWidget(edit, QAccessible::EditableText), m_text(*edit) {}
 
-    int childCount() const override { return 0; } // what lies in it is only drawn there
+    int childCount() const override { return 0; } // none to be read
     QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Value)
             return m_text.box().text();
@@ -201,7 +310,7 @@ void announceRow(QAbstractItemView* list, int row) {
     QAccessible::updateAccessibility(&focus);
 }
 
-// Nothing for what Qt describes well by itself.
+// nullptr: Qt's own description will do.
 QAccessibleInterface* describe(const QString&, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
     if (widget == nullptr || !widget->window()->property(pageProperty).isValid())

@@ -13,24 +13,24 @@ namespace vantrel {
 
 namespace {
 
-// An sRGB component as the light that a screen gives off.
-double linear(double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+// A channel of sRGB, 0 to 1, without its gamma.
+double linear(double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
 }
 
-// WCAG 2's relative luminance, with its 0.05 for ambient light.
-double lightOf(const QColor& colour) {
+// As WCAG 2.1 defines it: 0 to 1.
+double relativeLuminance(const QColor& colour) {
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF()) + 0.05;
+           0.0722 * linear(colour.blueF());
 }
 
-// High-contrast themes use one background for window, base and button.
+// Such themes use one colour for windows, boxes and buttons.
 bool isHighContrast(const QPalette& palette) {
     const QColor window = palette.color(QPalette::Window);
     return window == palette.color(QPalette::Base) && window == palette.color(QPalette::Button);
 }
 
-// A text on the window; of the two colours that for a light or for a dark one.
+// For texts: the colour that suits a light or a dark window, made readable on it.
 QColor textColour(const QPalette& palette, const QColor& onLight, const QColor& onDark) {
     if (isHighContrast(palette))
         return palette.color(QPalette::WindowText);
@@ -89,9 +89,10 @@ private:
 
 } // namespace
 
-double contrastOf(const QColor& one, const QColor& other) {
-    const auto [dark, light] = std::minmax({lightOf(one), lightOf(other)});
-    return light / dark;
+double contrastRatio(const QColor& one, const QColor& other) {
+    constexpr double flare = 0.05; // light of the room on the screen
+    const auto [dark, light] = std::minmax({relativeLuminance(one), relativeLuminance(other)});
+    return (light + flare) / (dark + flare);
 }
 
 QColor mixed(const QColor& one, const QColor& other, int percentOfOther) {
@@ -105,8 +106,8 @@ QColor mixed(const QColor& one, const QColor& other, int percentOfOther) {
 QColor standingOut(QColor colour, const QColor& ground, double contrast) {
     constexpr int step = 10; // per cent
     const QColor end =
-        contrastOf(Qt::white, ground) > contrastOf(Qt::black, ground) ? Qt::white : Qt::black;
-    for (int i = 0; i < 100 / step && contrastOf(colour, ground) < contrast; ++i)
+        contrastRatio(Qt::white, ground) > contrastRatio(Qt::black, ground) ? Qt::white : Qt::black;
+    for (int i = 0; i < 100 / step && contrastRatio(colour, ground) < contrast; ++i)
         colour = mixed(colour, end, step);
     return colour;
 }
@@ -143,7 +144,7 @@ QColor faintColour(const QPalette& palette, const QColor& text, const QColor& gr
     QColor faint = text;
     for (int share = step; share < 100 && !isHighContrast(palette); share += step) {
         const QColor fainter = mixed(text, ground, share);
-        if (contrastOf(fainter, ground) < weakest)
+        if (contrastRatio(fainter, ground) < weakest)
             break;
         faint = fainter;
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What colours mean, in whatever palette the desktop has: texts stand out from their ground 4.5
-// times, frames and bars 3 times. No colour is the only sign of anything.
+// times, frames and bars 3 times. Nothing is told by colour alone.
 #pragma once
 
 #include <QColor>
@@ -12,10 +12,10 @@ namespace vantrel {
 // More than the 4.5 that make a text readable: thin letters are a shade weaker than their colour.
 constexpr double textContrast = 5.5;
 
-// WCAG 2's contrast ratio, 1 to 21.
-double contrastOf(const QColor& one, const QColor& other);
+// The contrast ratio of WCAG 2.1: 1, alike, to 21, black on white.
+double contrastRatio(const QColor& one, const QColor& other);
 QColor mixed(const QColor& one, const QColor& other, int percentOfOther);
-// The colour, made so much darker or lighter that it stands out from the ground.
+// The colour, darkened or lightened until it has that contrast ratio to the ground.
 QColor standingOut(QColor colour, const QColor& ground, double contrast);
 
 // In a high-contrast palette all of these are the palette's own.
@@ -29,11 +29,11 @@ QColor accentColour(const QPalette& palette);
 QColor dimmedColour(const QPalette& palette);
 // Rings of options, frames of boxes, buttons and sections.
 QColor frameColour(const QPalette& palette);
-// The text as weak as can still be read on the ground: what is there but says nothing new.
+// For what repeats what is known: the palest shade of `text` still readable on `ground`.
 QColor faintColour(const QPalette& palette, const QColor& text, const QColor& ground);
 // The ground of a box whose text was looked up.
 QColor lookedUpColour(const QPalette& palette);
-// No ground of its own: that of what it lies on.
+// Transparent.
 QColor noColour(const QPalette& palette);
 
 // A colour in the palette of the moment: one of those above.
@@ -43,9 +43,9 @@ void setColour(QWidget* control, QPalette::ColorRole role, Colour colour);
 inline void setTextColour(QWidget* label, Colour colour) {
     setColour(label, QPalette::WindowText, colour);
 }
-// The control is a panel across which one word of alarm is written.
+// For a panel that shows one word of alarm: white on red.
 void setAlarmColours(QWidget* panel);
-// A strip of the window in that tone, and a text on it.
+// The window tinted with that tone, for a strip across it, and a text readable on the strip.
 QColor tinted(const QPalette& palette, const QColor& tone);
 template <Colour tone>
 QColor tintColour(const QPalette& palette) {
@@ -55,7 +55,7 @@ template <Colour tone>
 QColor onTintColour(const QPalette& palette) {
     return standingOut(tone(palette), tintColour<tone>(palette), textContrast);
 }
-// A box that says by its ground and by slanted letters that its text was looked up, not typed.
+// Tints the box and sets its text in italics: it was looked up, not typed.
 void setLookedUp(QWidget* box, bool lookedUp);
 
 } // namespace vantrel

@@ -19,7 +19,7 @@ namespace vantrel {
 
 namespace {
 
-// None before the window manager has put it there.
+// Empty until the window manager has put the frame there.
 QMargins frameOf(const QWidget* page) {
     const QRect inside = page->geometry();
     const QRect frame = page->frameGeometry();
@@ -78,8 +78,8 @@ void Form::placeOver(const Form* page) {
     moveOnto(page->screen(), place);
 }
 
-// place: with the frame. Wholly on the screen; where the least size is more than there is, its
-// beginning is seen.
+// Moves and shrinks the page until it is wholly on the screen; of one that cannot be made small
+// enough the upper left part is seen. place: the page with its frame.
 void Form::moveOnto(const QScreen* screen, QRect place) {
     const QRect room = screen->availableGeometry();
     const QSize frame = place.size() - size();
@@ -94,7 +94,7 @@ void Form::moveOnto(const QScreen* screen, QRect place) {
 
 // A click on the page below must not put it in front of this one.
 void Form::stayAbove(const QWidget* page) {
-    // The one kind of window that is tied to another on every platform.
+    // Dialogs alone stay above another window on every platform.
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     winId(); // makes the window
     windowHandle()->setTransientParent(page->windowHandle());
@@ -108,12 +108,12 @@ void Form::bringToFront() {
         first->setFocus();
     if (auto* list = qobject_cast<QListView*>(first))
         announceCurrentRow(list);
-    // Where the focus is shows at once, not only after the first Tab.
+    // The focus is shown at once, not only after the first Tab.
     setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 bool Form::event(QEvent* event) {
-    // The layout itself bounds the height as if nothing wrapped.
+    // Qt bounds the height as if no label broke its text into lines.
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
         if (layout() != nullptr && layout()->hasHeightForWidth())
             setMinimumHeight(std::max(layout()->totalMinimumSize().height(),

@@ -111,7 +111,7 @@ private:
     FormContext m_context;
     QPointer<QWidget> m_opener;
     std::function<void()> m_afterPaint;
-    bool m_isPlaced = false; // with its frame, whose width is not known from the start
+    bool m_isPlaced = false; // its frame's size was known when it was last moved
     bool m_gone = false;
 };
 

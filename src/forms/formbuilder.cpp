@@ -100,7 +100,9 @@ protected:
 };
 
 template <typename Button>
-Button* withHandler(Button* button, FormBuilder::Handler clicked) {
+Button* made(QWidget* form, const char* name, const char* caption, const char* toolTip,
+             FormBuilder::Handler clicked) {
+    auto* button = FormBuilder::named(new Button(text(caption), form), name, toolTip);
     if (clicked)
         QObject::connect(button, &QAbstractButton::clicked, button,
                          [button, clicked = std::move(clicked)] {
@@ -130,8 +132,7 @@ QLineEdit* FormBuilder::output(const char* name, const char* toolTip) {
 
 QPushButton* FormBuilder::command(const char* name, const char* caption, const char* toolTip,
                                   Handler clicked) {
-    return withHandler(named(new CommandButton(vantrel::text(caption), m_form), name, toolTip),
-                       std::move(clicked));
+    return made<CommandButton>(m_form, name, caption, toolTip, std::move(clicked));
 }
 
 QPushButton* FormBuilder::exit(const char* toolTip) {
@@ -162,15 +163,14 @@ QLabel* FormBuilder::caption(const char* text, QWidget* buddy) {
     auto* label = new QLabel(m_form);
     label->setTextFormat(Qt::PlainText);
     label->setText(vantrel::text(text));
-    if (buddy == nullptr)
-        return label;
-    tie(label, buddy);
-    setTextColour(label, dimmedColour);
+    if (buddy != nullptr)
+        tie(label, buddy);
     return label;
 }
 
 void FormBuilder::tie(QLabel* caption, QWidget* box) {
     caption->setBuddy(box);
+    setTextColour(caption, dimmedColour);
     if (box->accessibleName().isEmpty())
         box->setAccessibleName(caption->text().remove(u'&'));
 }
@@ -192,14 +192,12 @@ QComboBox* FormBuilder::editableCombo(const char* name, const char* toolTip) {
 
 QRadioButton* FormBuilder::option(const char* name, const char* caption, const char* toolTip,
                                   Handler clicked) {
-    return withHandler(named(new OptionButton(vantrel::text(caption), m_form), name, toolTip),
-                       std::move(clicked));
+    return made<OptionButton>(m_form, name, caption, toolTip, std::move(clicked));
 }
 
 QRadioButton* FormBuilder::jobOption(const char* name, const char* caption, const char* toolTip,
                                      Handler clicked) {
-    return withHandler(named(new JobButton(vantrel::text(caption), m_form), name, toolTip),
-                       std::move(clicked));
+    return made<JobButton>(m_form, name, caption, toolTip, std::move(clicked));
 }
 
 ReadTable* FormBuilder::table(const char* name, const char* words) {
@@ -244,9 +242,9 @@ QLayout* FormBuilder::section(const char* title, QLayout* content) {
 QFont fixedWidthFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::Monospace);
-    if (!QFontInfo(font).fixedPitch()) // some desktops call any font so
+    if (!QFontInfo(font).fixedPitch()) // some desktops offer any font as such
         font.setFamily(QStringLiteral("monospace"));
-    // As large as everything else: the system's own fixed font knows no larger setting.
+    // The desktop's fixed font does not follow the size set for its other texts.
     font.setPointSizeF(QApplication::font().pointSizeF());
     return font;
 }
@@ -281,7 +279,7 @@ int widthOfColumns(const QFontMetrics& metrics, int columns) {
 
 void setColumns(QLineEdit* box, int columns) {
     // A digit is as wide as most capitals; a frame and the cursor need two more.
-    box->setMinimumWidth(widthOfColumns(QFontMetrics(box->font()), columns + 2));
+    box->setFixedWidth(widthOfColumns(QFontMetrics(box->font()), columns + 2));
 }
 
 } // namespace vantrel

@@ -28,7 +28,7 @@ public:
     // A one-line box that takes at most `width` characters; 0: no limit. What is typed takes
     // the place of the blanks that pad it.
     QLineEdit* text(const char* name, int width = 0, const char* toolTip = "");
-    // A box that only shows a figure: flat, right-aligned, left out by Tab.
+    // A box that only shows a figure: flat, right-aligned, passed over by Tab.
     QLineEdit* output(const char* name, const char* toolTip = "");
     // What a click runs, inside the guard of the form that the control is on.
     using Handler = std::function<void()>;
@@ -39,13 +39,14 @@ public:
     QPushButton* exit(const char* toolTip = "");
     // Plain text, never markup.
     QLabel* label(const char* name, const char* caption = "");
-    // Large, bold and in the middle.
+    // Large, bold and centred.
     QLabel* heading(const char* name, const char* text, double enlargement);
     AlertLabel* alert(const char* name);
     // A caption without a name of its own; `buddy` is the box it names, to screen readers too,
     // and gets the focus on its Alt key.
     QLabel* caption(const char* text, QWidget* buddy = nullptr);
-    // Makes the label the box's buddy, and its text the box's accessible name if it has none.
+    // Makes the label the caption of the box: dimmed, its buddy, and its text the accessible name
+    // of a box without one.
     static void tie(QLabel* caption, QWidget* box);
     // A row of a form: a box behind its caption, tied as above.
     template <typename Box>
@@ -92,20 +93,20 @@ Control* bold(Control* control) {
     control->setFont(enlargedFont(control, 1));
     return control;
 }
-// The text goes on in a next line where one is not wide enough.
+// Lets the label break its text into lines.
 inline QLabel* wrapped(QLabel* label) {
     label->setWordWrap(true);
     return label;
 }
-// For what is read at a glance: so many points where the text has the usual nine; in a larger font
-// it grows less than the text does.
+// For what is read at a glance: `points` beside a text of the usual nine; beside a larger text it
+// grows less than that.
 QFont glanceFont(const QWidget* widget, double points, bool bold = false);
 // The form's font in another family; where that is not installed, the system's nearest.
 QFont familyFont(const QWidget* widget, const char* family);
 // The width of so many characters of a fixed-width font, which is not always that many times the
 // width of one: a character may be a fraction of a pixel wider.
 int widthOfColumns(const QFontMetrics& metrics, int columns);
-// A box `columns` characters of its font wide (at least).
+// A box `columns` characters of its font wide, neither more nor less.
 void setColumns(QLineEdit* box, int columns);
 
 } // namespace vantrel

@@ -24,7 +24,7 @@ frmVantrelHelp::frmVantrelHelp(const FormContext& context)
 }
 
 void frmVantrelHelp::load() {
-    m_sheet->setPlainText(toQt(keySheet(m_page, shared().settings)));
+    m_sheet->setPlainText(toQt(keySheet(m_page, shared().settings)).trimmed());
     m_sheet->setMinimumWidth(textSize().width());
 }
 

@@ -34,8 +34,8 @@ KeyGuard::KeyGuard() {
     qApp->installEventFilter(this);
 }
 
-// A key held down is to an X server a release and a press at one moment. On a busy machine they
-// are read one by one, and then nothing else tells them from a key pressed twice.
+// An X server repeats a held key as a release and a press of the same time. On a busy machine Qt
+// reads the two one by one and does not mark them as repeated.
 bool KeyGuard::isRepeated(const QKeyEvent& enter) {
     constexpr quint64 soonestRepeat = 100; // milliseconds; keys typed blindly are up again by then
     const quint64 before = std::exchange(m_pressedAt, enter.timestamp());

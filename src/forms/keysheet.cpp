@@ -40,6 +40,11 @@ constexpr std::string_view logPageKeys = "Enter            in the call box: SEAR
                                          "Esc              closes the page; twice when something\n"
                                          "                 is typed and not saved\n";
 
+constexpr std::string_view viewerKeys =
+    "Ctrl+F F3        find, find the next\n"
+    "Ctrl+C           copy the selected lines\n"
+    "Esc              in FIND back to the lines, there it closes the page\n";
+
 constexpr PageKeys pages[] = {
     {"frmVantrelStart", "1 choose the contest, fill in your call, name, state and SKCC#\n"
                         "2 set the hours to UTC until the time shown is right\n"
@@ -54,10 +59,8 @@ constexpr PageKeys pages[] = {
     {"frmVantrelCorrect", logPageKeys},
     {"frmVantrelDelete", logPageKeys},
     {"frmVantrelEDITcbr", logPageKeys},
-    {"frmVantrelList", "Ctrl+F F3        find, find the next\n"
-                       "Ctrl+C           copy the selected lines\n"},
-    {"frmVantrelShowDB", "Ctrl+F F3        find, find the next\n"
-                         "Ctrl+C           copy the selected lines\n"},
+    {"frmVantrelList", viewerKeys},
+    {"frmVantrelShowDB", viewerKeys},
     {"frmK3Ybox", "E F A O N S      the continent, and OK\n"
                   "X                no tag, and OK\n"
                   "Enter            OK\n"},

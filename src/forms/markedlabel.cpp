@@ -32,7 +32,7 @@ QFont MarkedLabel::fontOf(const Run& run) const {
     return shown;
 }
 
-// Whole pixels: an advance that is rounded down is no room for the text.
+// One pixel more than the advance, which may have been rounded down.
 int MarkedLabel::widthOf(const Run& run) const {
     return QFontMetrics(fontOf(run)).horizontalAdvance(run.text) + 1;
 }

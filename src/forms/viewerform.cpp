@@ -23,8 +23,8 @@ constexpr int fewestRows = 8;
 constexpr int mostRows = 24;
 constexpr int mostDigits = 14; // "12000 OF 12000"
 
-// Gives every line the width of the longest: a list with uniform item sizes asks for the size of
-// one line only, so that it opens at once however many there are.
+// Gives every line the width of the longest: to open at once, a list with uniform item sizes asks
+// for the size of one line only.
 class LineDelegate : public QStyledItemDelegate {
 public:
     LineDelegate(QObject* parent, int columns) : QStyledItemDelegate(parent), m_columns(columns) {}
@@ -39,7 +39,7 @@ private:
     int m_columns;
 };
 
-// Of their text: the blanks that pad a line need no room.
+// Without the blanks that pad a line.
 int longestOf(const std::vector<std::string>& lines) {
     int longest = 0;
     for (const std::string& line : lines)
@@ -123,7 +123,7 @@ void ViewerForm::showLines(const std::string& path, std::vector<std::string> lin
     updateGeometry();
 }
 
-// The list's hint is the same whatever it holds.
+// Qt's own hint for a list does not depend on its lines.
 QSize ViewerForm::sizeHint() const {
     return Form::sizeHint() - m_list->sizeHint() +
            listSize().expandedTo({m_list->sizeHint().width(), 0});
@@ -155,7 +155,7 @@ void ViewerForm::findNext() {
     goToFound(m_list->currentIndex().row() + 1);
 }
 
-// The first one from that row on; behind the last line it goes on at the first.
+// Goes to the first match from that row on; from the last one on to the first.
 void ViewerForm::goToFound(int row) {
     if (!m_findBox->text().isEmpty() && !m_found.empty()) {
         const auto next = std::lower_bound(m_found.begin(), m_found.end(), row);

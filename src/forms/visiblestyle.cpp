@@ -86,7 +86,7 @@ void VisibleStyle::polish(QWidget* widget) {
 void VisibleStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
                                 const QPalette& palette, bool enabled, const QString& text,
                                 QPalette::ColorRole role) const {
-    // Blanks at its end are no text.
+    // Blanks at the end need no room.
     QString seen = text;
     while (seen.endsWith(QLatin1Char(' ')))
         seen.chop(1);
@@ -159,7 +159,7 @@ void VisibleStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 void VisibleStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
-    if (element == CE_HeaderSection) // headings are texts over their columns
+    if (element == CE_HeaderSection) // no frame around headings
         return;
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element == CE_PushButtonBevel && isFlat(option) && option->state.testFlag(State_HasFocus))

@@ -15,7 +15,7 @@ QLineEdit* required(QLineEdit* box);
 
 class VisibleStyle : public QProxyStyle {
 public:
-    // Desktops there are whose selected text can hardly be read.
+    // The selected text of some desktops can hardly be read.
     void polish(QPalette& palette) override;
     void polish(QWidget* widget) override;
     using QProxyStyle::polish;

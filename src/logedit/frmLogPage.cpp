@@ -22,12 +22,6 @@ namespace {
 constexpr int noteLines = 3; // room for what may have to be told at once
 constexpr int matchRows = 6;
 
-// Neither narrower nor wider.
-void fit(QLineEdit* box, int columns) {
-    setColumns(box, columns);
-    box->setMaximumWidth(box->minimumWidth());
-}
-
 std::string searchedNote() {
     return "THE FIRST " + std::to_string(LogEdit::lineCapacity) + " LINES WERE SEARCHED";
 }
@@ -92,7 +86,7 @@ void frmLogPage::makeBoxes(std::span<const BoxField> fields) {
     m_unchanged.resize(fields.size());
     for (const BoxField& field : fields) {
         QLineEdit* box = FormBuilder(this).text(field.box);
-        fit(box, field.written.width);
+        setColumns(box, field.written.width);
         m_boxes.push_back(box);
         connectHandler(box, &QLineEdit::returnPressed, [this, box, next = m_boxes.size()] {
             QWidget* target = m_changeButton;
@@ -128,7 +122,7 @@ QLayout* frmLogPage::searchRow(const char* caption, QLineEdit* callBox,
                                const char* searchAgainTip) {
     FormBuilder build(this);
     m_callBox = callBox;
-    fit(m_callBox, qso::hisCall.width);
+    setColumns(m_callBox, qso::hisCall.width);
     connectHandler(m_callBox, &QLineEdit::returnPressed, [this] { search(); });
     QPushButton* again =
         build.command("Command4", "SEARCH AGAIN", searchAgainTip, [this] { searchAgain(); });
@@ -161,7 +155,7 @@ QFormLayout* frmLogPage::fieldRows(std::size_t first, std::size_t end) {
     return form;
 }
 
-QLayout* frmLogPage::matchesCard(const char* placeName) {
+QLayout* frmLogPage::matchesSection(const char* placeName) {
     FormBuilder build(this);
     m_placeLabel = build.label(placeName);
     m_matchList = build.list("List1", "CLICK A CONTACT, OR ARROWS AND ENTER, TO GO TO IT");

@@ -53,7 +53,7 @@ protected:
     QLayout* searchRow(const char* caption, QLineEdit* callBox, const char* searchAgainTip);
     // The boxes from `first` to before `end`, below each other.
     QFormLayout* fieldRows(std::size_t first, std::size_t end);
-    QLayout* matchesCard(const char* placeName);
+    QLayout* matchesSection(const char* placeName);
     QLayout* messageRows(const char* messageName, const char* noteName);
     QLayout* changeButtons(const char* caption, const char* toolTip, const char* exitTip);
 

@@ -23,7 +23,7 @@ frmVantrelCorrect::frmVantrelCorrect(const FormContext& context)
                 searchRow(correctionFields.front().label, callBox,
                           "CLICK HERE TO FIND ADDITIONAL ENTRIES"),
                 {row({build.section("CONTACT", fieldRows(1, boxes().size())),
-                      {matchesCard("Label13"), 1}}),
+                      {matchesSection("Label13"), 1}}),
                  1},
                 messageRows("Label11", "Label12"),
                 changeButtons("&SAVE CHANGES", "SAVE WITH CHANGES", "EXIT THIS ROUTINE")});

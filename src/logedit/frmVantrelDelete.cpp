@@ -26,7 +26,7 @@ frmVantrelDelete::frmVantrelDelete(const FormContext& context)
         {build.heading("", "DELETE AN ENTRY", headingEnlargement),
          searchRow("HIS CALL", build.text("Text1"), "SEARCH FOR ADDITIONAL ENTRIES"),
          {row({build.section("ENTRY TO DELETE", column({m_callLabel, m_detailLabel, Item::room()})),
-               {matchesCard("Label6"), 1}}),
+               {matchesSection("Label6"), 1}}),
           1},
          messageRows("Label4", "Label5"),
          changeButtons("&DELETE", "REMOVE THE ENTRY DISPLAYED ", "QUIT THIS ROUTINE")});

@@ -33,7 +33,7 @@ frmVantrelEDITcbr::frmVantrelEDITcbr(const FormContext& context)
                 row(contact),
                 {row({build.section("MY SIDE", fieldRows(firstOfMine, firstOfHis)),
                       build.section("HIS SIDE", fieldRows(firstOfHis, boxes().size())),
-                      {matchesCard("Label18"), 1}}),
+                      {matchesSection("Label18"), 1}}),
                  1},
                 messageRows("Label16", "Label17"),
                 changeButtons("&SAVE CHANGES", "SAVE WITH CHANGES", "QUIT THIS ROUTINE")});

@@ -163,7 +163,8 @@ bool frmMemberImport::runImport() {
 
 // Shows a phase at once and the lines once a frame; false once the window has been closed.
 bool frmMemberImport::showStep(const ImportStep& step) {
-    if (isGone()) // files under way are saved to the end; another turn would delete this form
+    if (isGone()) // the files are saved all the same; a turn of the event loop would delete this
+                  // form
         return false;
     const bool lastLine = step.line == step.lines;
     if (!lastLine && m_sinceShown.isValid() && m_sinceShown.elapsed() < frameMilliseconds)
@@ -187,7 +188,7 @@ void frmMemberImport::showResult(const ImportResult& result) {
     put(m_changed, m_page.changedText(result.fixed));
 }
 
-// What is under way shows only as long as it is; the buttons rest meanwhile.
+// Progress shows while the import runs, and the buttons are disabled.
 void frmMemberImport::showRunning(bool running) {
     for (QWidget* widget : std::initializer_list<QWidget*>{m_phase, m_lineNumber, m_progress})
         widget->setVisible(running);

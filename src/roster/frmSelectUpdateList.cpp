@@ -12,7 +12,7 @@ namespace vantrel {
 frmSelectUpdateList::frmSelectUpdateList(const FormContext& context)
     : Form(context, "frmSelectUpdateList", "SELSCT FILE TO UPDATE SKSDBx FILES") {
     FormBuilder build(this);
-    // An option here is a job, not a choice that stays; the next one is likely to be beside it.
+    // An option here runs a job and is not left chosen.
     const auto job = [&](const char* name, const char* caption, const char* toolTip, auto work) {
         QRadioButton* option = build.jobOption(name, caption, toolTip);
         connectHandler(option, &QRadioButton::clicked, [this, option, work] {

@@ -206,8 +206,8 @@ TEST_P(Looks, FollowAPaletteThatChanges) {
     settle();
     for (QWidget* page : QApplication::topLevelWidgets())
         for (const QLabel* label : page->findChildren<QLabel*>())
-            EXPECT_GE(contrastOf(label->palette().color(QPalette::Active, QPalette::WindowText),
-                                 label->palette().color(QPalette::Active, QPalette::Window)),
+            EXPECT_GE(contrastRatio(label->palette().color(QPalette::Active, QPalette::WindowText),
+                                    label->palette().color(QPalette::Active, QPalette::Window)),
                       4.5)
                 << fromQt(page->objectName()) << ' ' << fromQt(label->objectName());
     QApplication::setPalette(light);

@@ -2,7 +2,6 @@
 #include "output/files/frmVantrelBackup.h"
 
 #include "forms/alertlabel.h"
-#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/layouts.h"
@@ -21,11 +20,6 @@ constexpr int folderColumns = 56;
 frmVantrelBackup::frmVantrelBackup(const FormContext& context)
     : Form(context, "frmVantrelBackup", "BACKUP CABRILLO FILE") {
     FormBuilder build(this);
-    const auto caption = [&](const char* name, const char* text) {
-        QLabel* label = build.label(name, text);
-        setTextColour(label, dimmedColour);
-        return label;
-    };
     m_folderBox = build.text("Text1");
     m_folderBox->setMinimumWidth(fontMetrics().averageCharWidth() * folderColumns);
     m_copy = wrapped(build.label("Label6"));
@@ -35,13 +29,15 @@ frmVantrelBackup::frmVantrelBackup(const FormContext& context)
                                         [this] { screens().openFinder(Screen::backup); });
     m_backupButton = bold(
         build.command("Command2", "&BACKUP", "COPIES THE CABRILLO FILE", [this] { backUp(); }));
-    QLabel* folderCaption = caption("Label2", "SEND BACKUP TO:");
-    folderCaption->setBuddy(m_folderBox);
-    page(this,
-         {build.heading("Label1", "BACKUP THE CABRILLO FILE", headingEnlargement),
-          caption("Label4", "FILE TO BACKUP:"), m_logPath = wrapped(build.label("Label5")),
-          folderCaption, row({{m_folderBox, 1}, browse}), m_copy, m_status = build.alert("Label3"),
-          Item::room(), row({m_backupButton, Item::room(), build.exit("QUIT THIS PAGE")})});
+    m_logPath = wrapped(build.label("Label5"));
+    QLabel* logCaption = build.label("Label4", "FILE TO BACKUP:");
+    QLabel* folderCaption = build.label("Label2", "SEND BACKUP TO:");
+    FormBuilder::tie(logCaption, m_logPath);
+    FormBuilder::tie(folderCaption, m_folderBox);
+    page(this, {build.heading("Label1", "BACKUP THE CABRILLO FILE", headingEnlargement), logCaption,
+                m_logPath, folderCaption, row({{m_folderBox, 1}, browse}), m_copy,
+                m_status = build.alert("Label3"), Item::room(),
+                row({m_backupButton, Item::room(), build.exit("QUIT THIS PAGE")})});
     connectHandler(m_folderBox, &QLineEdit::returnPressed, [this] { backUp(); });
     connectHandler(m_folderBox, &QLineEdit::textChanged, [this] {
         shared().backupFolder = textOf(m_folderBox);

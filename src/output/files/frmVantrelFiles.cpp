@@ -108,7 +108,7 @@ void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
         return;
     QLabel* result = build.label((job.name + std::string("Result")).c_str());
     setTextColour(result, dimmedColour);
-    // As wide as the page lets it be, whatever its text: the page does not change while it is used.
+    // It takes the room that is left, whatever its text: the page keeps its width.
     result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     result->setMinimumWidth(fontMetrics().size(0, toQt(noSuchFileYet)).width());
     column->addWidget(result, row, 1);
@@ -124,7 +124,7 @@ void frmVantrelFiles::bringToFront() {
     Form::bringToFront();
 }
 
-// First nothing is said to be made: the job may fail.
+// What the job before made is cleared first: this one may fail.
 void frmVantrelFiles::run(QRadioButton* option, const std::function<void()>& job) {
     m_lastRun = option;
     showAdifFile({});

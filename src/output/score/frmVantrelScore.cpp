@@ -3,7 +3,6 @@
 
 #include "base/fixedtext.h"
 #include "forms/alertlabel.h"
-#include "forms/colours.h"
 #include "forms/controltext.h"
 #include "forms/formbuilder.h"
 #include "forms/layouts.h"
@@ -26,12 +25,6 @@ namespace {
 constexpr int figureColumns = 6;
 constexpr int minutesPerHour = 60;
 constexpr double scoreEnlargement = 2;
-
-// The figure stands close behind its caption.
-void keepNarrow(QLineEdit* figure) {
-    setColumns(figure, figureColumns);
-    figure->setMaximumWidth(figure->minimumWidth());
-}
 } // namespace
 
 frmVantrelScore::frmVantrelScore(const FormContext& context)
@@ -62,9 +55,8 @@ QFormLayout* frmVantrelScore::figures() {
     form->setLabelAlignment(Qt::AlignRight);
     const auto add = [&](QLabel* caption, const char* name, Figure figure) {
         QLineEdit* box = build.output(name);
-        keepNarrow(box);
+        setColumns(box, figureColumns); // close behind its caption
         FormBuilder::tie(caption, box);
-        setTextColour(caption, dimmedColour);
         form->addRow(caption, box);
         m_figures.emplace_back(box, figure);
     };
@@ -87,7 +79,7 @@ QLayout* frmVantrelScore::total() {
     m_total = build.output("Text7");
     m_total->setFont(enlargedFont(this, scoreEnlargement));
     m_total->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    keepNarrow(m_total);
+    setColumns(m_total, figureColumns);
     return column({build.caption("TOTAL SCORE:", m_total), m_total, m_sum = build.alert("Label20"),
                    Item::gap(fontMetrics().height()), m_dupesLogged = build.label("Label13"),
                    m_dupesNotCounted = build.label("Label14"), Item::room()});

@@ -134,8 +134,9 @@ TEST_F(MainPageTest, FullDiskKeepsTheTypingUntilTheContactIsOnTheDiskAndThenClea
 // Wherever what is shown of the contact stands, and whatever changes it.
 TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     openPage(joe);
-    EXPECT_EQ(texts(page, "Label12 Label13 Label11 Text7 Label29 Label30"),
-              "FILE NAME:  SKS061611.CBR|Dupes Not Logged|AUTO READ OFF|14.050|11|1 QSOs x 1 S/P/C "
+    EXPECT_EQ(texts(page, "Label28 Label12 Label13 Label11 Text7 Label29 Label30"),
+              "W1ABC  SKS|FILE NAME:  SKS061611.CBR|Dupes Not Logged|AUTO READ OFF|14.050|11|1 "
+              "QSOs x 1 S/P/C "
               "+ 10|");
     type(page, "Text2", "k1a");
     EXPECT_EQ(shown(page, "Label24"), "K1ABC 20");
@@ -179,6 +180,8 @@ TEST_F(MainPageTest, ShowsTheContactAsItIsAfterEachKeyAndEachChangeOfTheLog) {
     EXPECT_EQ(boxes(), "W5NEW|BOB||NONE|");
     enter();
     EXPECT_EQ(shown(page, "Label26"), "LOGGED W5NEW 21050 0012  NO STATE");
+    click(page, "Command7");
+    EXPECT_EQ(shown("frmVantrelCorrect", "Text1"), "W5NEW") << "the last one";
     press(page, "Text2", Qt::Key_Up);
     work(page, "List1!");
     EXPECT_EQ(shown("frmVantrelCorrect", "Text1"), "W5NEW");

@@ -4,7 +4,6 @@
 #include "log/shortlog.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
-#include "platform/platform.h"
 #include "support/errors.h"
 
 namespace vantrel::test {
@@ -101,11 +100,6 @@ TEST(StrictAdif, ValuesOutsideTheirFieldAreLeftOutOrNoted) {
            "1>1 |1>1 |1>1 |1>1 |1>1 |1>1 |1>1 ||");
     expect("<NOTES:", state, "VH3A ON; VZ3A ON; CE3A ON; XI3A ON; XP3A ON; K1A ON; K1A -",
            "2>ON |2>ON |2>ON |2>ON |2>ON |2>ON ||");
-}
-
-TEST(StrictAdif, CreationTimeIsUtcByTheCalendar) {
-    EXPECT_EQ(creationTime({2012, 2, 28, 22, 5, 9}, "5"), "20120229 030509");
-    EXPECT_EQ(creationTime({2012, 1, 1, 1, 15, 0}, "-2"), "20111231 231500");
 }
 
 } // namespace

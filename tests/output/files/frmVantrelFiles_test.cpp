@@ -53,11 +53,11 @@ TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
         EXPECT_EQ(texts(page, "Label5 Text2"),
                   "ADIF FILE CREATED AT:|" + folder.string() + "/SKS.ADI|");
     }
-    clock.time = {2011, 6, 16, 22, 12, 30};
+    clock.time = {2012, 2, 28, 22, 12, 9};
     module.settings.gmtOffset = "5";
     click(page, "Option14");
     EXPECT_EQ(folder.read("SKS-STRICT.ADI"),
-              strictAdifText(contactsIn(contacts), "20110617 031230"));
+              strictAdifText(contactsIn(contacts), "20120229 031209"));
     EXPECT_THAT(shown(page, "Option6Result"), // not on the day of the clock: with its date
                 ::testing::MatchesRegex("20..-..-.. [0-2].[0-5]. SKS.ADI"));
     folder.write("SKS.ADI", log);

@@ -4,8 +4,6 @@
 #include "base/fixedtext.h"
 #include "log/qsoline.h"
 
-#include <algorithm>
-
 namespace vantrel {
 
 namespace {

@@ -238,6 +238,8 @@ TEST_F(LogPages, EditorRebuildsTheLineFromItsBoxes) {
               "                   Done......Click EXIT| 7045|CHANGED BESIDES: MODE SSB > SS, "
               "RST SENT 579 > 557, MY STATE MEX > ME, MY SKCC# 12345C > 12345, "
               "HIS NAME BARTHOLOMEW > BARTHOLOME|");
+    search("k9skc");
+    EXPECT_THAT(told("Label17"), HasSubstr("A SAVE REBUILDS THE WHOLE LINE"));
     search("w1aw");
     EXPECT_EQ(told("Label16"), "W1AW IS NOT IN THE FILE|");
 }

@@ -6,8 +6,6 @@
 #include "log/log.h"
 
 #include <array>
-#include <cstddef>
-#include <string_view>
 #include <vector>
 
 namespace vantrel {

@@ -91,8 +91,8 @@ TEST(Rate, TakesAContactUpToADayAheadForOneOfTheDayBefore) {
     EXPECT_EQ(rateText(rate), "3 (18/h)");
     EXPECT_EQ(lastText(rate), "LAST 1 MIN AGO");
     EXPECT_EQ(lastText(rateAt(contactMinutes({lines.begin(), lines.end()}),
-                              *readMinute("2012-02-29", "1149"))),
-              "LAST 11 H AGO");
+                              *readMinute("2012-02-29", "1206"))),
+              "LAST 12 H AGO");
     EXPECT_EQ(hourText(rate), "3 contacts in the last hour, most at 2356");
     EXPECT_EQ(lastText(rateAt({}, {})) + hourText(rateAt({}, {})), "0 contacts in the last hour");
 }

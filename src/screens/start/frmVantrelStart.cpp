@@ -162,12 +162,18 @@ QLayout* frmVantrelStart::radioPart() {
 // --- Opening ---------------------------------------------------------------------------------
 
 void frmVantrelStart::load() {
-    const std::string& code = shared().settings.contestCode;
-    std::vector<std::string> unknown = loadChosen();
-    if (!chooseContest(upper(trim(code))))
-        unknown.insert(unknown.begin(), "CONTEST: " + code);
+    OperatingSettings settings = shared().settings;
+    settings.gmtOffset = offsetByValue(settings.gmtOffset);
+    std::vector<std::string> unknown; // saved values that no list has
+    if (!chooseContest(upper(trim(settings.contestCode))))
+        unknown.push_back("CONTEST: " + settings.contestCode);
+    for (const auto& [setting, box] : chosenSettings())
+        if (!chooseValue(box, settings.*setting)) {
+            chooseValue(box, OperatingSettings{}.*setting);
+            unknown.push_back(fromQt(box->accessibleName()) + ' ' + settings.*setting);
+        }
     for (const auto& [setting, box] : typedSettings())
-        put(box, trim(shared().settings.*setting));
+        put(box, trim(settings.*setting));
     m_radio->loaded();
     m_oldLogLabel->clear();
     if (!unknown.empty())
@@ -182,19 +188,6 @@ bool frmVantrelStart::chooseContest(std::string_view code) {
     const bool known = contest < contests.size();
     m_contestOptions[known ? contest : 0]->setChecked(true);
     return known;
-}
-
-// Returns the saved values that no list has.
-std::vector<std::string> frmVantrelStart::loadChosen() {
-    OperatingSettings settings = shared().settings;
-    settings.gmtOffset = offsetByValue(settings.gmtOffset);
-    std::vector<std::string> unknown;
-    for (const auto& [setting, box] : chosenSettings())
-        if (!chooseValue(box, settings.*setting)) {
-            chooseValue(box, OperatingSettings{}.*setting);
-            unknown.push_back(fromQt(box->accessibleName()) + ' ' + settings.*setting);
-        }
-    return unknown;
 }
 
 // The notes are made anew each time, since log and roster may have changed behind another page. At

@@ -50,7 +50,6 @@ private:
     QLayout* radioPart();
 
     bool chooseContest(std::string_view code);
-    std::vector<std::string> loadChosen();
     void showNotes();
     void showLogNote();
 

@@ -39,7 +39,7 @@ QSize frmVantrelHelp::textSize() const {
         2 * (m_sheet->frameWidth() + static_cast<int>(m_sheet->document()->documentMargin()));
     const QSize text = QFontMetrics(m_sheet->font()).size(0, m_sheet->toPlainText());
     return {text.width() + around + m_sheet->verticalScrollBar()->sizeHint().width(),
-            text.height() + around};
+            text.height() + around + 1}; // without the one the last line had to be scrolled to
 }
 
 QWidget* frmVantrelHelp::firstFocus() {

@@ -20,7 +20,7 @@
 namespace vantrel {
 
 namespace {
-constexpr int widthInCharacters = 160; // of the page, with each result beside its job
+constexpr int widthInCharacters = 168; // of the page, with each result beside its job
 } // namespace
 
 frmVantrelFiles::frmVantrelFiles(const FormContext& context)

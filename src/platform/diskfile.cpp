@@ -21,8 +21,9 @@ namespace {
 constexpr std::size_t smallestRead = 4096;
 
 std::string scratchPath(const std::string& target, std::string_view suffix) {
-    const fs::path path(target);
-    return (path.parent_path() / ("." + path.filename().string() + std::string(suffix))).string();
+    const fs::path path = pathOf(target);
+    return (path.parent_path() / pathOf("." + path.filename().string() + std::string(suffix)))
+        .string();
 }
 
 ErrorCode codeFor(int error, const std::string& path) {
@@ -31,8 +32,8 @@ ErrorCode codeFor(int error, const std::string& path) {
         return ErrorCode::diskFull;
     switch (error) {
     case ENOENT:
-        return fs::is_directory(folderOf(path), ignored) ? ErrorCode::fileNotFound
-                                                         : ErrorCode::pathNotFound;
+        return fs::is_directory(pathOf(path).parent_path(), ignored) ? ErrorCode::fileNotFound
+                                                                     : ErrorCode::pathNotFound;
     case ENOTDIR:
         return ErrorCode::pathNotFound;
     case EACCES:
@@ -52,7 +53,7 @@ unsigned modeAtFirst(const std::string& like) {
 // Throws unless `path` is a regular file or nothing at all.
 void requireRegular(const std::string& path) {
     std::error_code ignored;
-    const fs::file_status status = fs::status(path, ignored);
+    const fs::file_status status = fs::status(pathOf(path), ignored);
     if (fs::exists(status) && !fs::is_regular_file(status))
         throw RuntimeError(ErrorCode::pathFileAccess, shownText(path) + " is not a file");
 }
@@ -120,19 +121,26 @@ void throwSystemError(int error, const std::string& path) {
                                                  (forbidden && ownFolder ? chownHint(path) : ""));
 }
 
+std::string chownHint(const std::string& path) {
+    if (!belongsToAnother(path))
+        return {};
+    return ". It belongs to another user; this command makes it yours: sudo chown -R \"$USER\" '" +
+           shownText(path) + "'";
+}
+
 bool exists(const std::string& path) {
     std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
+    return fs::exists(fs::symlink_status(pathOf(path), ignored));
 }
 
 std::string targetPath(const std::string& folder, std::string_view name) {
     const std::string path = resolveName(folder, name);
     std::error_code error;
-    if (!fs::is_symlink(path, error))
+    if (!fs::is_symlink(pathOf(path), error))
         return path;
-    const fs::path target = fs::canonical(path, error);
+    const fs::path target = fs::canonical(pathOf(path), error);
     if (error)
-        throwSystemError(error.value(), path);
+        throwSystemError(errnoOf(error), path);
     return target.string();
 }
 
@@ -217,7 +225,7 @@ std::string oldPath(const std::string& target) {
 }
 
 std::string folderOf(const std::string& path) {
-    return fs::path(path).parent_path().string();
+    return pathOf(path).parent_path().string();
 }
 
 } // namespace vantrel

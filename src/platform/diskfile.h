@@ -43,6 +43,9 @@ private:
 };
 
 [[noreturn]] void throwSystemError(int error, const std::string& path);
+// What somebody else made in a folder of the operator's, as a start with sudo does, comes with the
+// command that makes it his.
+std::string chownHint(const std::string& path);
 
 // True for any entry of that path, a link that leads nowhere too.
 bool exists(const std::string& path);

@@ -37,7 +37,7 @@ bool matchesWithoutCase(const fs::path& entry, std::string_view part) {
 fs::path matchPart(const fs::path& folder, std::string_view part) {
     requireFileName(part);
     std::error_code error;
-    const fs::path exact = folder / nativeText(part);
+    const fs::path exact = folder / pathOf(nativeText(part));
     if (fs::exists(fs::symlink_status(exact, error)))
         return asOnDisk(exact);
     fs::path found;
@@ -103,11 +103,11 @@ std::string shownText(std::string_view native) {
 
 std::string resolveName(const std::string& folder, std::string_view name) {
     const std::string_view root = rootOf(name);
-    fs::path current = folder;
+    fs::path current = pathOf(folder);
     if (root.size() == 1)
         current = current.root_path(); // on Windows the folder's drive
     else if (!root.empty())
-        current = fs::path(nativeText(root)).make_preferred();
+        current = pathOf(nativeText(root)).make_preferred();
     for (const std::string_view part : partsOf(name.substr(root.size())))
         current = matchPart(current, part);
     return current.string();

@@ -19,6 +19,12 @@ std::optional<std::string> latin1Text(std::string_view native);
 // The same for showing: `?` for whatever does not fit.
 std::string shownText(std::string_view native);
 
+// A real path for std::filesystem, which would take bytes for text in the user's own code page on
+// Windows. What it gives back as string() is UTF-8 everywhere.
+inline std::filesystem::path pathOf(std::string_view native) {
+    return std::u8string(native.begin(), native.end());
+}
+
 // The real path that `name` stands for: relative to `folder` (a real path) unless it begins
 // with `/`; `\` and `/` both separate, doubled ones count once; each part is matched exactly
 // first, then without regard to case; a part that matches nothing stays as given. Throws

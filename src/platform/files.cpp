@@ -59,13 +59,13 @@ bool Files::areSame(std::string_view name, std::string_view other) const {
     if (facts && otherFacts)
         return facts->identity == otherFacts->identity;
     std::error_code ignored;
-    return upper(fs::weakly_canonical(path, ignored).string()) ==
-           upper(fs::weakly_canonical(otherPath, ignored).string());
+    return upper(fs::weakly_canonical(pathOf(path), ignored).string()) ==
+           upper(fs::weakly_canonical(pathOf(otherPath), ignored).string());
 }
 
 bool Files::present(std::string_view name) const {
     std::error_code ignored;
-    const fs::file_status status = fs::symlink_status(nativePath(name), ignored);
+    const fs::file_status status = fs::symlink_status(pathOf(nativePath(name)), ignored);
     return status.type() != fs::file_type::not_found;
 }
 
@@ -153,7 +153,7 @@ std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
 
 void Files::requireNameFits(std::string_view name) const {
     const std::string path = nativePath(name);
-    const std::size_t size = fs::path(newPath(path)).filename().string().size();
+    const std::size_t size = pathOf(newPath(path)).filename().string().size();
     const std::size_t longest = longestName(folderOf(path));
     if (size > longest)
         throw RuntimeError(ErrorCode::pathFileAccess,

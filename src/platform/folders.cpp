@@ -29,7 +29,7 @@ void sortRegardlessOfCase(std::vector<std::string>& names) {
         code = ErrorCode::permissionDenied;
     if (error == std::errc::no_such_file_or_directory)
         code = ErrorCode::pathNotFound;
-    throw RuntimeError(code, shownText(folder) + ": " + error.message());
+    throw RuntimeError(code, shownText(folder) + ": " + errorText(errnoOf(error)));
 }
 
 } // namespace
@@ -46,7 +46,7 @@ std::vector<std::string> SystemFolders::drives() const {
 FolderContent SystemFolders::content(const std::string& folder) const {
     FolderContent result;
     std::error_code error;
-    for (const fs::directory_entry& entry : entriesOf(folder, error)) {
+    for (const fs::directory_entry& entry : entriesOf(pathOf(folder), error)) {
         const std::string name = entry.path().filename().string();
         std::error_code unreadable; // an entry that cannot be looked at is neither
         if (isHidden(entry))

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace vantrel {
@@ -26,13 +27,15 @@ std::optional<FileFacts> factsOf(const std::string& path);
 bool mayWrite(const std::string& path);
 // By the rules of a file system with owners; never elsewhere.
 bool belongsToAnother(const std::string& path);
-// What somebody else made in a folder of the operator's, as a start with sudo does, comes with the
-// command that makes it his.
-std::string chownHint(const std::string& path);
 // Gives the open file those of `like`, where that exists, as far as the system lets it.
 void takeOwnerAndPermissions(int file, const std::string& like);
 
-// What a call's errno says, in words; and whether it says that there is no room on the disk.
+// The errno that stands for an error of std::filesystem.
+inline int errnoOf(const std::error_code& error) {
+    return error.default_error_condition().value();
+}
+// What an errno says, in English whatever the system speaks; and whether it says that there is no
+// room on the disk.
 std::string errorText(int error);
 bool isDiskFull(int error);
 

@@ -20,7 +20,7 @@ constexpr const char* lockName = ".vantrel-lock";
 
 bool holdsData(const std::string& folder) {
     std::error_code error;
-    for (const fs::path& entry : entriesOf(folder, error)) {
+    for (const fs::path& entry : entriesOf(pathOf(folder), error)) {
         const std::string name = upper(entry.filename().string());
         if (name == upper(configurationFile) || name.ends_with(".CBR"))
             return true;
@@ -40,7 +40,7 @@ bool installedForAll(const fs::path& executableFolder) {
 bool keepsFilesBeside(const std::string& executableFolder) {
     // Whoever starts it once as the system's administrator could write among the system's
     // programs, and his files there would stop everybody else's start.
-    if (installedForAll(executableFolder))
+    if (installedForAll(pathOf(executableFolder)))
         return false;
     if (mayWrite(executableFolder))
         return true;
@@ -78,18 +78,18 @@ std::string chooseProgramFolder(const std::string& executableFolder,
         return executableFolder;
     requireKnownName(userFolder);
     std::error_code error;
-    fs::create_directories(userFolder, error);
+    fs::create_directories(pathOf(userFolder), error);
     if (error)
         throw RuntimeError(ErrorCode::pathFileAccess,
-                           shownText(userFolder) + ": " + error.message());
+                           shownText(userFolder) + ": " + errorText(errnoOf(error)));
     if (!mayWrite(userFolder))
         throw RuntimeError(ErrorCode::permissionDenied,
                            shownText(userFolder) + " cannot be written" + chownHint(userFolder));
-    return userFolder;
+    return pathOf(userFolder).make_preferred().string();
 }
 
 FolderLock::FolderLock(SystemCalls& calls, const std::string& folder)
-    : m_file(openedLock(calls, (fs::path(folder) / lockName).string())),
+    : m_file(openedLock(calls, (pathOf(folder) / lockName).string())),
       m_held(m_file >= 0 && m_file.lock()) {}
 
 } // namespace vantrel

@@ -54,7 +54,7 @@ void syncMeanwhile(const std::vector<DiskFile>& files, const std::function<void(
 } // namespace
 
 std::string Replacement::journalPath(std::string_view journal) const {
-    return (fs::path(m_programFolder) / journal).string();
+    return (pathOf(m_programFolder) / journal).string();
 }
 
 void Replacement::replaceAll(const std::vector<FileContent>& contents,
@@ -217,7 +217,7 @@ void Replacement::recover() {
 // Whatever else lies there was being written when the program was stopped.
 void Replacement::removeStrays() {
     std::error_code error;
-    for (const fs::path& entry : entriesOf(m_programFolder, error)) {
+    for (const fs::path& entry : entriesOf(pathOf(m_programFolder), error)) {
         const std::string name = entry.filename().string();
         if (name.starts_with('.') && (name.ends_with(newSuffix) || name.ends_with(oldSuffix)))
             m_calls.remove(entry.string());

@@ -7,19 +7,16 @@
 #include "platform/files.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace vantrel {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 const std::string upwards = "..";
 
 // An empty name gives the folder with the separator behind it.
 std::string inside(const std::string& folder, const std::string& name) {
-    return (fs::path(folder) / name).string();
+    return (pathOf(folder) / pathOf(name)).string();
 }
 
 // Whether the name can be handed back: it is ISO 8859-1 and has no `\`, which would separate.
@@ -85,7 +82,7 @@ void FileFinder::openDrive(std::size_t index) {
 
 void FileFinder::enterFolder(std::size_t index) {
     const std::string& name = m_content.folders.at(index);
-    moveTo(name == upwards ? fs::path(m_folder).parent_path().string() : inside(m_folder, name));
+    moveTo(name == upwards ? pathOf(m_folder).parent_path().string() : inside(m_folder, name));
 }
 
 void FileFinder::chooseFile(std::size_t index) {
@@ -104,7 +101,7 @@ void FileFinder::moveTo(const std::string& folder) {
     FolderContent content = m_machine.content(folder);
     leaveOutUnsayable(content.folders);
     leaveOutUnsayable(content.files);
-    if (fs::path(folder).has_relative_path())
+    if (pathOf(folder).has_relative_path())
         content.folders.insert(content.folders.begin(), upwards);
     m_folder = folder;
     m_content = std::move(content);

@@ -2,7 +2,6 @@
 #include "platform/machine.h"
 
 #include "platform/diskfile.h"
-#include "platform/filenames.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -44,13 +43,6 @@ bool mayWrite(const std::string& path) {
 bool belongsToAnother(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && status.st_uid != ::getuid();
-}
-
-std::string chownHint(const std::string& path) {
-    if (!belongsToAnother(path))
-        return {};
-    return ". It belongs to another user; this command makes it yours: sudo chown -R \"$USER\" '" +
-           shownText(path) + "'";
 }
 
 // Not every system and file system lets it. Without the group, its members may do no more than

@@ -79,10 +79,6 @@ bool belongsToAnother(const std::string&) {
     return false;
 }
 
-std::string chownHint(const std::string&) {
-    return {};
-}
-
 // A new file has those of its folder.
 void takeOwnerAndPermissions(int, const std::string&) {}
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/windows/win32.h"
 
+#include "platform/filenames.h"
+
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -8,7 +10,7 @@
 namespace vantrel {
 
 std::wstring wideText(std::string_view utf8) {
-    return std::filesystem::path(utf8).wstring();
+    return pathOf(utf8).wstring();
 }
 
 std::string narrowText(std::wstring_view wide) {

@@ -47,7 +47,9 @@ TEST_F(Windows, DevicesAndStreamsAreRefusedInWords) {
         EXPECT_RUNTIME_ERROR(files.appendLine(name, "x"), ErrorCode::pathFileAccess,
                              HasSubstr("cannot hold"));
     files.rewrite("COM0X.CBR", "a log");
-    EXPECT_EQ(folder.names(), std::vector<std::string>{"COM0X.CBR"});
+    files.rewrite("\xC9.CBR", "another");
+    EXPECT_THAT(folder.names(), ElementsAre("COM0X.CBR", "\xC3\x89.CBR"));
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / L"\u00C9.CBR"));
 }
 
 TEST_F(Windows, FileHeldForAMomentIsWaitedForAndOneHeldOnIsTold) {

@@ -34,6 +34,8 @@ constexpr const char* onBandTexts[] = {"", "worked", "DUPE"};
 
 // The contacts of the last hour, a bar for five minutes; the five minutes that run now stand out.
 class RateBars : public QWidget {
+    Q_OBJECT
+
 public:
     using QWidget::QWidget;
 
@@ -149,3 +151,5 @@ void ContestPanel::showBands(const BandTable& table) {
 }
 
 } // namespace vantrel
+
+#include "contestpanel.moc"

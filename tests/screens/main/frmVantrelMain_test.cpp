@@ -4,6 +4,7 @@
 #include "support/contacts.h"
 #include "support/qt/formharness.h"
 
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QTimer>

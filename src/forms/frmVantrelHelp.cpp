@@ -46,4 +46,12 @@ QWidget* frmVantrelHelp::firstFocus() {
     return m_sheet; // read line by line, and scrolled
 }
 
+// Looking up a key leads back to the box in which it is to be pressed.
+void frmVantrelHelp::closeEvent(QCloseEvent* event) {
+    const QPointer<QWidget> box = opener() == nullptr ? nullptr : opener()->focusWidget();
+    Form::closeEvent(event);
+    if (box)
+        box->setFocus();
+}
+
 } // namespace vantrel

@@ -23,6 +23,7 @@ public:
 protected:
     void load() override;
     QWidget* firstFocus() override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     QSize textSize() const;

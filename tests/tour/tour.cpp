@@ -132,8 +132,11 @@ void playContest(Stage& stage) {
         takes(part.what, part.keys, press(part.pressed));
         EXPECT_EQ(stage.folder.read(contestLog), expected += part.gained);
     }
-    stage.press(mainPage, "Text2", Qt::Key_F1);
+    stage.control(mainPage, "Text3")->setFocus();
+    stage.press(mainPage, "Text3", Qt::Key_F1);
     stage.leave("frmVantrelHelp", "help");
+    EXPECT_EQ(QApplication::focusWidget(), stage.control(mainPage, "Text3"));
+    stage.control(mainPage, "Text2")->setFocus();
     press("k1");
     stage.picture(mainPage, "main-typing");
     // A duplicate on 20 m: the word comes up, and nothing is left in the boxes.

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Plays a contest on the built program itself, from outside, with real keys.
+"""Plays contests on the built program itself, from outside, with real keys.
 
 usage: outside.py PROGRAM
 
 The program is copied alone into an empty folder and started in a window of a small virtual screen
-(Xvfb, openbox); xdotool presses the keys. The log is compared byte for byte with what is
-expected. Exits with 77 (skipped) where the virtual screen cannot be had.
+(Xvfb, openbox); xdotool presses the keys. The logs are compared byte for byte with what is
+expected, and the keys are counted that a contact costs the operator. Exits with 77 (skipped)
+where the virtual screen cannot be had.
 """
 import contextlib
 import os
@@ -20,6 +21,9 @@ import time
 PATIENCE = 20.0  # seconds; a program built with sanitizers on a busy machine is slow
 NEEDED = ("Xvfb", "openbox", "xdotool")
 START, MAIN = "Vantrel - Start", "W1ABC SKS MYLOG.CBR - Vantrel"
+CORRECTION, DELETION = "CORRECTION PAGE", "DELETE AN ENTRY FROM THE CABRILLO FILE"
+MAIN_K3Y = "W1ABC K3Y MYK3Y.CBR - Vantrel"
+KEYS = {"\r": "Return", " ": "space", ".": "period", "/": "slash", "^": "Up", "~": "Delete"}
 
 
 class Screen:
@@ -88,6 +92,14 @@ def keys(*names):
     xdotool("key", "--delay", "20", *names)
 
 
+def press(text):
+    """The keys of the text, "&m" being Alt+M, "^" the arrow up, "~" Del; says how many."""
+    names = [("alt+" if key[0] == "&" else "") + KEYS.get(key[-1], key[-1])
+             for key in re.findall("&?.", text, re.DOTALL)]
+    keys(*names)
+    return len(names)
+
+
 def type_text(text):
     xdotool("type", "--delay", "15", text)
 
@@ -100,9 +112,9 @@ def wait_for_lines(path, count):
     wait_for(f"{count} lines in {path.name}", lambda: read(path).count(b"\r\n") == count)
 
 
-def contact(khz, when, call, name, state, number):
+def contact(khz, when, call, name, state, number, marker=""):
     return (f"QSO: {khz} CW {when[0]} {when[1]} W1ABC      599 JOHN       MA 1234T "
-            f"{call:<10} 599 {name:<10} {state:<3} {number:<6}      ")
+            f"{call:<10} 599 {name:<10} {state:<3} {number:<6}{marker:<6}")
 
 
 def text_of(lines):
@@ -112,6 +124,19 @@ def text_of(lines):
 def compare(path, expected):
     if read(path) != expected:
         raise SystemExit(f"outside: {path.name}\n  got      {read(path)!r}\n  expected {expected!r}")
+
+
+def must_hold(path, contacts):
+    """Waits until the log holds these, each (kHz, his call, name, state, number) and perhaps a
+    marker, at the times that stand there."""
+    def expected():
+        whens = re.findall(r" CW (20\d\d-\d\d-\d\d) (\d{4}) ", read(path).decode("latin-1"))
+        whens += [("not", "logged")] * len(contacts)
+        return text_of(HEADER + [contact(khz, when, *his)
+                                 for (khz, *his), when in zip(contacts, whens)])
+    with contextlib.suppress(SystemExit):
+        wait_for("the log", lambda: read(path) == expected())
+    compare(path, expected())
 
 
 HEADER = [" Contest: SKS", " My Call: W1ABC", "My SKCC#: 1234T ", "   Count: 66 to HisCall"]
@@ -127,21 +152,106 @@ def fill_start_page():
     wait_for_window(START)
 
 
-def type_blindly(folder):
+# His call, name, state and number.
+BLIND = [(f"K2A{chr(65 + n)}", "JOE", "CT", "0123T") for n in range(22)]
+JOE, CLUB = ("K1ABC", "JOE", "CT", "0123T"), ("K9SKC", "CLUB", "IL", "5000S")
+ANN, KLAUS = ("N4XYZ", "ANN", "NC", "8123C"), ("DL1QRS", "KLAUS", "DL", "9010")
+BOB, SUE = ("W5NEW", "BOB", "TX", "NONE"), ("VE3ABC", "SUE", "ON", "4411T")
+IAN = ("G4AAA/P", "IAN", "G", "77S")
+CORRECTED = ("K9SKD", *CLUB[1:])
+ROSTER = {"SKSDB2.TXT": [*BLIND, JOE, CLUB], "SKSDB3.TXT": [ANN], "SKSDB5.TXT": [KLAUS]}
+
+# What costs how many keys (None: nobody counts), the keys, and what the log gains by them.
+CONTEST = [
+    ("a member", 7, "k1abc\r\r", [("14050", *JOE)]),
+    (None, 0, "n4xyz\r\r", [("14050", *ANN)]),
+    ("a non-member", 19, "w5new\r bob\rtx\rnone\r", [("14050", *BOB)]),
+    ("a typed frequency", 6, "&m7045\r", []),
+    (None, 0, "k1abc\r\rdl1qrs\r\r", [(" 7045", *JOE), (" 7045", *KLAUS)]),
+    (None, 0, "&m3.55\rk9skc\r\rve3abc\r sue\ron\r4411t\r",
+     [(" 3550", *CLUB), (" 3550", *SUE)]),
+    (None, 0, "&m21050\rg4aaa/p\r ian\rg\r77s\r", [("21050", *IAN)]),
+    ("a non-member on the second band", 8, "w5new\r \r", [("21050", *BOB)]),
+    # A duplicate leaves nothing in the boxes and in the log.
+    (None, 0, "&m1820\rk9skc\r\rk1abc&m14\r\r", [(" 1820", *CLUB)]),
+    (None, 0, "&m14050\r", []),
+    # His number came through, his call did not: the first Enter yields the call, the second looks
+    # it up, the third logs.
+    ("a number", 7, "9010\r\r\r", [("14050", *KLAUS)]),
+    (None, 0, "&m14.055\rk9skc\r\r", [("14055", *CLUB)]),
+]
+# What costs how many keys, those on the main page, the page they open, the keys there, and what
+# becomes of the last contact.
+CHANGES = [
+    ("the last call corrected", 8, "^\r", CORRECTION, "k9skd&s", [("14055", *CORRECTED)]),
+    ("the last band corrected", 9, "^\r", CORRECTION, "&f21055&s", [("21055", *CORRECTED)]),
+    ("the last contact deleted", 3, "^~", DELETION, "&d", []),
+]
+
+
+def takes(what, most, count):
+    if what is None:
+        return
+    print(f"outside: {what} takes {count} keys")
+    if count != most:
+        raise SystemExit(f"outside: {what} may take {most} keys")
+
+
+def write_roster(folder):
+    for file, members in ROSTER.items():
+        (folder / file).write_text("".join(
+            f"{call:<10}{number:<10}{name:<10}{state:<3}\r\n"
+            for call, name, state, number in members), newline="")
+
+
+def type_blindly(log):
     """Twenty-two contacts in a second and a half, eyes shut: none is lost, all in order."""
-    calls = [f"K2A{chr(65 + n)}" for n in range(22)]
-    (folder / "SKSDB2.TXT").write_text("".join(
-        f"{call:<10}0123T     JOE       CT \r\n" for call in calls), newline="")
-    wait_for_window(START)
-    fill_start_page()
-    keys("alt+s")
-    wait_for_window(MAIN)
-    xdotool("key", "--delay", "9", *[key for call in calls
+    xdotool("key", "--delay", "9", *[key for call, *_ in BLIND
                                      for key in [*call.lower(), "Return", "Return"]])
-    wait_for_lines(folder / LOG, len(HEADER) + len(calls))
-    whens = re.findall(r" CW (20\d\d-\d\d-\d\d) (\d{4}) ", read(folder / LOG).decode("latin-1"))
-    compare(folder / LOG, text_of(HEADER + [contact("14050", when, call, "JOE", "CT", "0123T")
-                                            for call, when in zip(calls, whens)]))
+    logged = [("14050", *his) for his in BLIND]
+    must_hold(log, logged)
+    return logged
+
+
+def play_contest(log, logged):
+    for what, most, text, gained in CONTEST:
+        count = press(text)
+        logged = logged + gained
+        must_hold(log, logged)
+        takes(what, most, count)
+    for what, most, text, page, more, last in CHANGES:
+        count = press(text)
+        wait_for_window(page)
+        takes(what, most, count + press(more))
+        must_hold(log, logged[:-1] + last)
+        keys("alt+x")
+        wait_for_window(MAIN)
+
+
+def play_k3y(folder):
+    """The tag is chosen when the station is known to be one, just before logging."""
+    log = folder / "MYK3Y.CBR"
+    log.write_bytes(text_of(HEADER))
+    settings = folder / "Vantrel.CFG"
+    settings.write_bytes(read(settings).replace(b"SKS", b"K3Y").replace(b"MYLOG", b"MYK3Y"))
+    with running(sys.argv[1], folder) as program:
+        wait_for_window(START)
+        keys("alt+s")
+        wait_for_window(MAIN_K3Y)
+        press("gb0skc\r ian\rg\r77s")
+        count = press("&k")
+        wait_for_window("K3Y")
+        takes("a K3Y tag", 2, count + press("e"))
+        wait_for_window(MAIN_K3Y)
+        press("\r")
+        must_hold(log, [("14050", "GB0SKC", *IAN[1:], "K3Y/EU")])
+        leave(program)
+
+
+def leave(program):
+    keys("alt+x")
+    if program.wait(PATIENCE) != 0:
+        raise SystemExit(f"outside: exit code {program.returncode}")
 
 
 def can_run():
@@ -155,12 +265,17 @@ def main():
     if not can_run():
         return 77
     with Screen("1024x600"), tempfile.TemporaryDirectory(prefix="vantrel-outside-") as name:
-        with running(sys.argv[1], pathlib.Path(name)) as program:
-            type_blindly(pathlib.Path(name))
-            keys("alt+x")
-            if program.wait(PATIENCE) != 0:
-                raise SystemExit(f"outside: exit code {program.returncode}")
-    print("outside: the log is as expected")
+        folder = pathlib.Path(name)
+        write_roster(folder)
+        with running(sys.argv[1], folder) as program:
+            wait_for_window(START)
+            fill_start_page()
+            keys("alt+s")
+            wait_for_window(MAIN)
+            play_contest(folder / LOG, type_blindly(folder / LOG))
+            leave(program)
+        play_k3y(folder)
+    print("outside: the logs are as expected")
     return 0
 
 

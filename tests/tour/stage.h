@@ -65,13 +65,6 @@ public:
         checkForm(form(formName));
     }
 
-    // Takes a picture of the form and leaves it by its EXIT.
-    void leave(const char* formName, const std::string& name) {
-        picture(formName, name);
-        click(formName, "Command1");
-        settle();
-    }
-
     Folder folder;
     FakeClock clock;
     SystemCalls calls;

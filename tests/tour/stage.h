@@ -39,7 +39,7 @@ public:
     explicit Stage(const std::filesystem::path& where) : folder(emptied(where)) {}
 
     // Runs `action`, which must bring up a message box with this text; takes a picture of
-    // it and presses Yes or OK.
+    // it and presses Yes.
     void confirming(const std::string& text, const std::function<void()>& action) {
         std::string came;
         QTimer watch;
@@ -50,8 +50,7 @@ public:
             watch.stop();
             came = fromQt(box->text());
             save(box, "message");
-            QAbstractButton* yes = box->button(QMessageBox::Yes);
-            QTest::mouseClick(yes != nullptr ? yes : box->button(QMessageBox::Ok), Qt::LeftButton);
+            QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
         });
         watch.start(50);
         action();

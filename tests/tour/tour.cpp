@@ -210,10 +210,8 @@ void dress() {
     if (name.isEmpty())
         return;
     const bool dark = name == "dark";
-    const QColor window = dark ? QColor(0x2B, 0x2B, 0x2B) : Qt::black;
-    QPalette palette(dark ? QColor(0x3C, 0x3C, 0x3C) : Qt::black, window);
-    palette.setColor(QPalette::Base, dark ? QColor(0x1E, 0x1E, 0x1E) : Qt::black);
-    palette.setColor(QPalette::ToolTipBase, window);
+    QPalette palette(dark ? QColor(0x3C3C3C) : Qt::black, dark ? QColor(0x2B2B2B) : Qt::black);
+    palette.setColor(QPalette::Base, dark ? QColor(0x1E1E1E) : Qt::black);
     if (!dark) {
         palette.setColor(QPalette::Highlight, Qt::yellow);
         palette.setColor(QPalette::HighlightedText, Qt::black);

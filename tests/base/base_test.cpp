@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "base/fixedtext.h"
 #include "base/itemreader.h"
-#include "support/errors.h"
+#include "support/testing.h"
 
 namespace vantrel::test {
 namespace {
@@ -15,8 +14,9 @@ TEST(FixedText, OneByteIsOneColumnAndWhatIsBeyondTheEndIsShortOrEmpty) {
     // Capitals: e acute, o slash, thorn; not division sign, sharp s, y with diaeresis.
     EXPECT_EQ(upper("az`{\xE0\xE9\xF8\xFE\xF7\xDF\xFF 9"), "AZ`{\xC0\xC9\xD8\xDE\xF7\xDF\xFF 9");
     EXPECT_EQ(withoutSeparatorsAndQuotes("A,B\tC\rD\"\x1F\x7F"), "A B C D   ");
-    EXPECT_EQ(padded("MAX", 3, "") + rightAligned("7040", 5) + leftAligned("ABC", 2), "MAX 7040AB");
-    EXPECT_RUNTIME_ERROR(padded("MAXI", 3, "the state"), ErrorCode::invalidCall,
+    EXPECT_EQ(vantrel::padded("MAX", 3, "") + rightAligned("7040", 5) + leftAligned("ABC", 2),
+              "MAX 7040AB");
+    EXPECT_RUNTIME_ERROR(vantrel::padded("MAXI", 3, "the state"), ErrorCode::invalidCall,
                          "the state is longer than 3 characters: \"MAXI\"");
     EXPECT_EQ(countCapitals("@AZ["), 2);
     EXPECT_RUNTIME_ERROR(numericValue("99999999999999999999"), ErrorCode::overflow,

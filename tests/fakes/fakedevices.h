@@ -3,15 +3,10 @@
 // boxes that answer themselves.
 #pragma once
 
-#include "base/runtimeerror.h"
 #include "platform/platform.h"
+#include "support/testing.h"
 
 #include <deque>
-#include <functional>
-#include <gtest/gtest.h>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace vantrel::test {
 

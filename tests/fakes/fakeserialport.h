@@ -4,13 +4,9 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "support/testing.h"
 
 #include <deque>
-#include <gtest/gtest.h>
-#include <optional>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace vantrel::test {
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "fakes/radios.h"
 
-#include <algorithm>
-
 namespace vantrel::test {
 
 namespace {

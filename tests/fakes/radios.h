@@ -3,10 +3,9 @@
 #pragma once
 
 #include "shared/settings.h"
+#include "support/testing.h"
 
 #include <ostream>
-#include <string>
-#include <vector>
 
 namespace vantrel::test {
 

@@ -16,14 +16,8 @@
 #include "roster/rosterfiles.h"
 #include "roster/rosterimport.h"
 #include "shared/settings.h"
-#include "support/contacts.h"
-#include "support/errors.h"
 #include "support/machine.h"
-#include "support/tempfolder.h"
-
-#include <array>
-#include <cerrno>
-#include <map>
+#include "support/testing.h"
 
 namespace vantrel::test {
 namespace {

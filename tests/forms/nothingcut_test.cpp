@@ -8,7 +8,6 @@
 #include "platform/qt/qtmessages.h"
 #include "screens/main/qsoentry.h"
 #include "screens/start/startnotes.h"
-#include "support/contacts.h"
 #include "support/qt/formharness.h"
 
 #include <QHeaderView>
@@ -18,8 +17,6 @@
 #include <QTableWidget>
 #include <QTimer>
 #include <QToolTip>
-
-#include <gtest/gtest.h>
 
 namespace vantrel::test {
 namespace {

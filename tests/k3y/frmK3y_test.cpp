@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The event's screens: dupe question, tag, call area and standings.
-#include "log/shortlog.h"
 #include "support/qt/formharness.h"
 
 #include <QLineEdit>

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "log/log.h"
 #include "log/logfile.h"
-#include "support/contacts.h"
-#include "support/errors.h"
 #include "support/fakemachine.h"
-
-#include <cerrno>
 
 namespace vantrel::test {
 namespace {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/boxes.h"
-#include "support/contacts.h"
 #include "support/qt/formharness.h"
 
 namespace vantrel::test {

@@ -4,9 +4,8 @@
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/programfolder.h"
-#include "support/errors.h"
 #include "support/machine.h"
-#include "support/tempfolder.h"
+#include "support/testing.h"
 
 #include <chrono>
 #include <thread>

@@ -5,7 +5,7 @@
 #include "fakes/radios.h"
 #include "rig/catlink.h"
 #include "rig/radiofamily.h"
-#include "support/errors.h"
+#include "support/testing.h"
 
 namespace vantrel::test {
 namespace {

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The five roster files: brought up to date from the club's lists, sorted, and looked up in.
-#include "base/fixedtext.h"
 #include "roster/rosterfiles.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterlookup.h"
-#include "support/errors.h"
 #include "support/fakemachine.h"
 
 namespace vantrel::test {

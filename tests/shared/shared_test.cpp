@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "base/fixedtext.h"
 #include "shared/utctime.h"
-#include "support/errors.h"
 #include "support/fakemachine.h"
 
 namespace vantrel::test {

@@ -8,7 +8,7 @@
 #include "fakes/fakeserialport.h"
 #include "platform/files.h"
 #include "shared/module1.h"
-#include "support/tempfolder.h"
+#include "support/testing.h"
 
 namespace vantrel::test {
 

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "app/appscreens.h"
-#include "base/fixedtext.h"
 #include "fakes/fakeclock.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -13,9 +12,8 @@
 #include "platform/qt/qtmessages.h"
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
-#include "support/errors.h"
 #include "support/qt/hands.h"
-#include "support/tempfolder.h"
+#include "support/testing.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -4,7 +4,6 @@
 #include "fakes/qt/ptyradio.h"
 #include "forms/visiblestyle.h"
 #include "screens/start/startnotes.h"
-#include "support/contacts.h"
 #include "tour/stage.h"
 
 #include <cstdio>

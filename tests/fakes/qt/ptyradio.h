@@ -7,10 +7,6 @@
 
 #include <QSocketNotifier>
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <string_view>
 #include <termios.h>
 
 namespace vantrel::test {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "base/version.h"
 #include "log/log.h"
-#include "log/shortlog.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
-#include "support/errors.h"
+#include "support/testing.h"
 
 namespace vantrel::test {
 namespace {

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The file screen and what it opens, the backup and the finder.
-#include "base/fixedtext.h"
-#include "log/shortlog.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 #include "support/qt/formharness.h"

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The figures of the score and bonus pages by each contest's rules, and the picture of the hours.
-#include "base/fixedtext.h"
 #include "forms/stackedbars.h"
-#include "log/shortlog.h"
 #include "output/score/contestpicture.h"
 #include "output/score/scoretext.h"
 #include "support/qt/formharness.h"

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What the program finds on a machine with owners, links and devices that are files: files by names
 // without case, folders and drives, the folder of its own files, the device behind a port.
-#include "base/fixedtext.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/posix/seriallinks.h"
 #include "platform/programfolder.h"
-#include "support/errors.h"
 #include "support/machine.h"
-#include "support/tempfolder.h"
-
-#include <memory>
+#include "support/testing.h"
 
 namespace vantrel::test {
 namespace {
@@ -49,14 +45,6 @@ TEST_F(Machine, NamesAreFoundWithoutCaseAndNewOnesStayAsGiven) {
     EXPECT_EQ(resolveName("/nowhere", upper(at("logs"))), at("Logs")) << "from the top";
     EXPECT_RUNTIME_ERROR(resolveName(folder.string(), "a.CBR\\NEW"), ErrorCode::pathFileAccess,
                          AllOf(HasSubstr(at("a.cbr")), HasSubstr(at("A.CBR"))));
-}
-
-TEST_F(Machine, LinksLeadToTheFileThatTheyLeadTo) {
-    make({"Logs/", "Logs/a.cbr", "link->Logs", "soft.adi->Logs/a.cbr"});
-    SystemCalls calls;
-    const Files files(folder.string(), calls);
-    EXPECT_TRUE(files.areSame("SOFT.ADI", at("link/a.cbr")));
-    EXPECT_TRUE(files.areSame("link/New.cbr", "Logs/New.cbr"));
 }
 
 TEST_F(Machine, ContentIsFoldersAndRegularFilesInOrderHiddenOnesOut) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "base/fixedtext.h"
 #include "platform/qt/qtdevices.h"
-#include "support/tempfolder.h"
+#include "support/testing.h"
 
 #include <QProcess>
 #include <QStandardPaths>

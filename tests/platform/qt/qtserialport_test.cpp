@@ -6,15 +6,13 @@
 #include "platform/qt/posix/qtserialport.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
-#include "support/errors.h"
-#include "support/tempfolder.h"
+#include "support/testing.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTimer>
 
 #include <cstdarg>
-#include <map>
 #include <sys/ioctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>

@@ -5,11 +5,7 @@
 #include "rig/rigs.h"
 #include "screens/main/contactentry.h"
 #include "shared/utctime.h"
-#include "support/contacts.h"
 #include "support/fakemachine.h"
-
-#include <map>
-#include <random>
 
 namespace vantrel::test {
 namespace {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "fakes/radios.h"
 #include "screens/main/qsoentry.h"
-#include "support/contacts.h"
 #include "support/qt/formharness.h"
 
 #include <QLineEdit>

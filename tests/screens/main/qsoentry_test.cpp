@@ -5,9 +5,7 @@
 #include "screens/main/rate.h"
 #include "screens/main/workedcalls.h"
 #include "shared/utctime.h"
-#include "support/contacts.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace vantrel::test {
 namespace {

@@ -3,7 +3,6 @@
 #include "forms/formbuilder.h"
 #include "forms/visiblestyle.h"
 #include "screens/start/startnotes.h"
-#include "support/contacts.h"
 #include "support/qt/formharness.h"
 
 namespace vantrel::test {

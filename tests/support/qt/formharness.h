@@ -3,14 +3,11 @@
 #pragma once
 
 #include "app/appscreens.h"
-#include "support/errors.h"
 #include "support/fakemachine.h"
 #include "support/qt/hands.h"
 
 #include <QApplication>
 #include <QTest>
-
-#include <cerrno>
 
 namespace vantrel::test {
 

@@ -11,8 +11,6 @@
 #include <QTest>
 #include <QVariant>
 
-#include <sstream>
-
 namespace vantrel::test {
 
 namespace {
@@ -23,19 +21,22 @@ QWidget* keyTarget(QWidget* control) {
     return combo != nullptr && combo->isEditable() ? combo->lineEdit() : control;
 }
 
-} // namespace
-
-bool Hands::isOpen(const char* name) const {
-    for (const QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->isVisible() && widget->objectName() == QLatin1String(name))
-            return true;
-    return false;
-}
-
-QWidget* Hands::form(const char* name) const {
+QWidget* findForm(const char* name) {
     for (QWidget* widget : QApplication::topLevelWidgets())
         if (widget->isVisible() && widget->objectName() == QLatin1String(name))
             return widget;
+    return nullptr;
+}
+
+} // namespace
+
+bool Hands::isOpen(const char* name) const {
+    return findForm(name) != nullptr;
+}
+
+QWidget* Hands::form(const char* name) const {
+    if (QWidget* found = findForm(name))
+        return found;
     throw std::runtime_error(std::string("no form ") + name + " shows");
 }
 

@@ -2,12 +2,9 @@
 // The operator's hands and eyes: finds forms and controls by name, types, clicks, reads.
 #pragma once
 
-#include <QWidget>
+#include "support/testing.h"
 
-#include <stdexcept>
-#include <string>
-#include <string_view>
-#include <vector>
+#include <QWidget>
 
 namespace vantrel::test {
 

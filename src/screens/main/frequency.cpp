@@ -80,7 +80,7 @@ std::string khzField(std::string_view mhz) {
     std::string khz(mhz);
     const std::size_t point = khz.find('.');
     if ((khz.size() == 5 && point == 1) || (khz.size() == 6 && (point == 1 || point == 2)))
-        khz = khz.substr(0, point) + khz.substr(point + 1, 3);
+        khz.erase(point, 1).resize(point + 3);
     return khz.size() == 4 ? ' ' + khz : khz.substr(0, 5);
 }
 

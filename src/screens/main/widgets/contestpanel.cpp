@@ -32,40 +32,28 @@ constexpr const char* onBandTexts[] = {"", "worked", "DUPE"};
 
 } // namespace
 
-// The contacts of the last hour, a bar for five minutes; the five minutes that run now stand out.
-class RateBars : public QWidget {
-    Q_OBJECT
+void RateBars::setRate(const Rate& rate) {
+    setAccessibleName(toQt(hourText(rate)));
+    if (std::exchange(m_contacts, rate.perFiveMinutes) != rate.perFiveMinutes)
+        update();
+}
 
-public:
-    using QWidget::QWidget;
-
-    void setRate(const Rate& rate) {
-        setAccessibleName(toQt(hourText(rate)));
-        if (std::exchange(m_contacts, rate.perFiveMinutes) != rate.perFiveMinutes)
-            update();
+void RateBars::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const int highest = std::max(1, *std::max_element(m_contacts.begin(), m_contacts.end()));
+    const int ground = height() - 1;
+    const QColor past = frameColour(palette());
+    painter.setPen(past);
+    painter.drawLine(0, ground, width(), ground);
+    const int count = static_cast<int>(m_contacts.size());
+    for (int i = 0; i < count; ++i) {
+        const int left = width() * i / count;
+        const int right = width() * (i + 1) / count - betweenBars;
+        const int high = m_contacts[static_cast<std::size_t>(i)] * ground / highest;
+        const QColor colour = i + 1 == count ? accentColour(palette()) : past;
+        painter.fillRect(QRect(left, ground - high, right - left, high), colour);
     }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        const int highest = std::max(1, *std::max_element(m_contacts.begin(), m_contacts.end()));
-        const int ground = height() - 1;
-        const QColor past = frameColour(palette());
-        painter.setPen(past);
-        painter.drawLine(0, ground, width(), ground);
-        const int count = static_cast<int>(m_contacts.size());
-        for (int i = 0; i < count; ++i) {
-            const int left = width() * i / count;
-            const int right = width() * (i + 1) / count - betweenBars;
-            const int high = m_contacts[static_cast<std::size_t>(i)] * ground / highest;
-            const QColor colour = i + 1 == count ? accentColour(palette()) : past;
-            painter.fillRect(QRect(left, ground - high, right - left, high), colour);
-        }
-    }
-
-private:
-    decltype(Rate::perFiveMinutes) m_contacts{};
-};
+}
 
 ContestPanel::ContestPanel(QWidget* parent) : QWidget(parent) {
     FormBuilder build(this);
@@ -151,5 +139,3 @@ void ContestPanel::showBands(const BandTable& table) {
 }
 
 } // namespace vantrel
-
-#include "contestpanel.moc"

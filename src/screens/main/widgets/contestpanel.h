@@ -14,10 +14,24 @@ class QLabel;
 namespace vantrel {
 
 class LogTally;
-class RateBars;
 class ReadTable;
 struct OperatingSettings;
 struct UtcTime;
+
+// The contacts of the last hour, a bar for five minutes; the five minutes that run now stand out.
+class RateBars : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+    void setRate(const Rate& rate);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    decltype(Rate::perFiveMinutes) m_contacts{};
+};
 
 class ContestPanel : public QWidget {
     Q_OBJECT

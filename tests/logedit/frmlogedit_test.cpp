@@ -243,12 +243,5 @@ TEST_F(LogPages, EditorRebuildsTheLineFromItsBoxes) {
     EXPECT_EQ(told("Label16"), "W1AW IS NOT IN THE FILE|");
 }
 
-TEST(Editor, CutsABoxBeforeItIsTrimmed) {
-    Boxes boxes = editorBoxes(contact("K9SKC", "CLUB"));
-    boxes[11] = "   bartholomew";
-    EXPECT_THAT(rebuiltLine(contact("K9SKC", "CLUB"), tidiedBoxes(boxes)),
-                HasSubstr(" BARTHOL    IL "));
-}
-
 } // namespace
 } // namespace vantrel::test

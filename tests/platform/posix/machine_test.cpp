@@ -57,20 +57,6 @@ TEST_F(Machine, ContentIsFoldersAndRegularFilesInOrderHiddenOnesOut) {
                          HasSubstr("/gone"));
 }
 
-TEST_F(Machine, DrivesAreTheTopAndTheVolumesMountedOnFolders) {
-    make({"stick/", "my disk/", "nas/", "image/", "memory/"});
-    const std::pair<const char*, std::string> mounts[] = {
-        {"/dev/sdb1", at("stick")},  {"/dev/sdc1", at("my\\040disk")}, {"host:/y", at("nas")},
-        {"/dev/loop3", at("image")}, {"/dev/sdd1", at("gone")},        {"tmpfs", at("memory")}};
-    std::string table;
-    for (const auto& [device, place] : mounts)
-        table += std::string(device) + ' ' + place + " ext4 rw 0 0\n";
-    folder.write("mounts", table + "\nshort\n");
-    EXPECT_THAT(SystemFolders(at("mounts")).drives(),
-                ElementsAre("/", at("my disk"), at("nas"), at("stick")));
-    EXPECT_THAT(SystemFolders(at("missing")).drives(), ElementsAre("/"));
-}
-
 // --- The program's own folder --------------------------------------------------------------
 
 struct ProgramFolder : Machine {

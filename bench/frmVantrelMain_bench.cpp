@@ -37,6 +37,8 @@ void typing() {
     program.screens.open(Screen::main);
     QWidget* page = bench::windowNamed("frmVantrelMain");
     auto* box = page->findChild<QLineEdit*>(QStringLiteral("Text2"));
+    bench::waitUntilPainted(page);
+    QApplication::processEvents(); // the roster is read behind the first paint
     const auto press = [&](int key, const QString& text) {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
         QApplication::sendEvent(box, &event);

@@ -91,10 +91,10 @@ NumberMatch Roster::findByNumber(std::string_view callBoxText) {
 }
 
 bool Roster::hasMembers() {
+    bool found = false;
     for (std::size_t file = 0; file < rosterFiles.size(); ++file)
-        if (!current(file).records.empty())
-            return true;
-    return false;
+        found = !current(file).records.empty() || found;
+    return found;
 }
 
 std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) {

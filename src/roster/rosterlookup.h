@@ -50,7 +50,7 @@ public:
     // more is notANumber: it is a call.
     NumberMatch findByNumber(std::string_view callBoxText);
 
-    // Whether any of the files has a record.
+    // Whether any of the files has a record. Reads all of them, so that the next lookup need not.
     bool hasMembers();
 
     // Check partial: members whose call begins with the text, shorter calls first; then those

@@ -46,6 +46,13 @@ std::vector<MemberLine> ContactEntry::members() {
     }
 }
 
+void ContactEntry::readRoster() {
+    try {
+        std::ignore = m_roster.hasMembers();
+    } catch (const RuntimeError&) { // as in members()
+    }
+}
+
 bool ContactEntry::spaceFillsIn() const {
     return !lastContact(m_draft, m_shared.log.contacts()).empty();
 }

@@ -44,6 +44,8 @@ public:
     const LogTally& score() const { return m_score; }
     // Members like the call; none while the roster cannot be read.
     std::vector<MemberLine> members();
+    // Reads the roster before the first key needs it. A file that cannot be read SEARCH reports.
+    void readRoster();
     bool autoReads() const { return m_draft.autoReads; }
     // Whether Space in the call box goes to the first empty box: after a search that found no name.
     bool spaceLeadsOn() const { return m_draft.searched && m_draft.searched->nameMissing; }

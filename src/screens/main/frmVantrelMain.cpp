@@ -212,6 +212,7 @@ void frmVantrelMain::load() {
     runHandler([this] { shared().log.open(shared().settings.logFileName); });
     const bool reads = settings.hasRadio() && m_entry.autoReads();
     afterPaint([this, reads] {
+        m_entry.readRoster();
         if (reads)
             run(&ContactEntry::radioAsked);
     });

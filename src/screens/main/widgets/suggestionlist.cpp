@@ -44,6 +44,13 @@ void SuggestionList::resizeEvent(QResizeEvent* event) {
     showLines();
 }
 
+// The lines are coloured for the palette of the moment.
+void SuggestionList::changeEvent(QEvent* event) {
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showLines();
+}
+
 void SuggestionList::showLines() {
     m_model->clear();
     const int gap = fontMetrics().averageCharWidth() * spacingCharacters;

@@ -59,8 +59,7 @@ char upper(char character) {
 
 std::string upper(std::string_view text) {
     std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char character) { return upper(character); });
+    std::ranges::transform(result, result.begin(), [](char character) { return upper(character); });
     return result;
 }
 
@@ -74,7 +73,7 @@ bool isControl(char character) {
 }
 
 bool allDigits(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), isDigit);
+    return std::ranges::all_of(text, isDigit);
 }
 
 bool isCapital(char character) {
@@ -82,7 +81,7 @@ bool isCapital(char character) {
 }
 
 int countCapitals(std::string_view text) {
-    return static_cast<int>(std::count_if(text.begin(), text.end(), isCapital));
+    return static_cast<int>(std::ranges::count_if(text, isCapital));
 }
 
 std::string padded(std::string_view text, int width, std::string_view field) {
@@ -110,15 +109,14 @@ std::string blanks(int count) {
 
 std::string withoutSeparators(std::string_view text) {
     std::string result(text);
-    std::replace_if(
-        result.begin(), result.end(),
-        [](char character) { return character == ',' || isControl(character); }, ' ');
+    std::ranges::replace_if(
+        result, [](char character) { return character == ',' || isControl(character); }, ' ');
     return result;
 }
 
 std::string withoutSeparatorsAndQuotes(std::string_view text) {
     std::string result = withoutSeparators(text);
-    std::replace(result.begin(), result.end(), '"', ' ');
+    std::ranges::replace(result, '"', ' ');
     return result;
 }
 

@@ -45,4 +45,10 @@ std::string RuntimeError::headline() const {
     return headlineFor(m_code);
 }
 
+void requireCapacity(const std::string& table, std::size_t entries, int capacity) {
+    if (entries > static_cast<std::size_t>(capacity))
+        throw RuntimeError(ErrorCode::subscriptOutOfRange,
+                           table + " holds at most " + std::to_string(capacity) + " entries");
+}
+
 } // namespace vantrel

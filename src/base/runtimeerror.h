@@ -2,6 +2,7 @@
 // The one exception the rules throw: a numbered run-time error with one line of detail.
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -39,5 +40,9 @@ private:
     ErrorCode m_code;
     std::string m_detail;
 };
+
+// Throws RuntimeError 9 naming the table ("the list of Centurions") when it holds more entries
+// than it has room for.
+void requireCapacity(const std::string& table, std::size_t entries, int capacity);
 
 } // namespace vantrel

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "roster/rosterfiles.h"
 
-#include "base/boundedtable.h"
 #include "base/itemreader.h"
+#include "base/runtimeerror.h"
 #include "platform/files.h"
 
 #include <algorithm>
@@ -34,11 +34,13 @@ std::string withLeadingZeros(std::string_view digits) {
 
 // The comma-delimited items of a roster file. Throws RuntimeError 9 naming the use when there are
 // more.
-BoundedTable<std::string_view> itemsOf(std::string_view bytes, const std::string& use,
-                                       int capacity) {
-    BoundedTable<std::string_view> items(use, capacity);
-    for (ItemReader reader(bytes); !reader.atEnd();)
-        items.append(reader.next());
+std::vector<std::string_view> itemsOf(std::string_view bytes, const std::string& use,
+                                      int capacity) {
+    std::vector<std::string_view> items;
+    for (ItemReader reader(bytes); !reader.atEnd();) {
+        items.push_back(reader.next());
+        requireCapacity(use, items.size(), capacity);
+    }
     return items;
 }
 
@@ -100,10 +102,9 @@ void sortRosterFiles(Files& files) {
     for (const std::string_view file : rosterFiles) {
         const std::string name(file);
         const std::string bytes = files.read(name);
-        auto lines = itemsOf(bytes, "the sort of " + name, sortedLinesCapacity).entries();
-        std::stable_sort(lines.begin(), lines.end(), [](std::string_view a, std::string_view b) {
-            return numericValue(sortKey.of(a)) < numericValue(sortKey.of(b));
-        });
+        auto lines = itemsOf(bytes, "the sort of " + name, sortedLinesCapacity);
+        std::ranges::stable_sort(
+            lines, {}, [](std::string_view line) { return numericValue(sortKey.of(line)); });
         files.rewrite(name, joinLines(lines));
     }
 }

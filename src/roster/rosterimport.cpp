@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "roster/rosterimport.h"
 
-#include "base/boundedtable.h"
 #include "base/itemreader.h"
+#include "base/runtimeerror.h"
 #include "platform/files.h"
 #include "roster/rosterfiles.h"
 
@@ -36,7 +36,7 @@ class RosterTable {
 public:
     // width: to which shorter lines are padded with blanks.
     RosterTable(std::string_view name, int capacity, int width, std::string_view bytes)
-        : m_name(name), m_width(width), m_lines("the table of " + m_name, capacity) {
+        : m_name(name), m_capacity(capacity), m_width(width) {
         for (LineReader reader(bytes); !reader.atEnd();)
             append(reader.next());
     }
@@ -49,7 +49,7 @@ public:
             m_changed = true;
             return;
         }
-        std::string& line = m_lines.at(place->second);
+        std::string& line = m_lines[place->second];
         if (leftAligned(member::number.of(line), member::number.width) != member::number.of(record))
             ++result.fixed;
         std::string replaced = paddedLine(record);
@@ -69,14 +69,16 @@ private:
         return leftAligned(line, std::max(length(line), m_width));
     }
     void append(std::string_view line) {
-        m_lines.append(paddedLine(line));
-        m_places.emplace(callOf(m_lines.at(m_lines.size())), m_lines.size());
+        m_lines.push_back(paddedLine(line));
+        m_places.emplace(callOf(m_lines.back()), m_lines.size() - 1);
+        requireCapacity("the table of " + m_name, m_lines.size(), m_capacity);
     }
 
     std::string m_name;
+    int m_capacity;
     int m_width;
-    BoundedTable<std::string> m_lines;
-    std::unordered_map<std::string, int> m_places;
+    std::vector<std::string> m_lines;
+    std::unordered_map<std::string, std::size_t> m_places;
     bool m_changed = false;
 };
 
@@ -90,8 +92,7 @@ std::vector<RosterTable> readRoster(const Files& files) {
 
 void save(const std::vector<RosterTable>& roster, Files& files,
           const std::function<void()>& between) {
-    const bool changed =
-        std::any_of(roster.begin(), roster.end(), std::mem_fn(&RosterTable::changed));
+    const bool changed = std::ranges::any_of(roster, &RosterTable::changed);
     std::vector<FileContent> contents;
     for (const RosterTable& table : roster) {
         // Of a missing file an empty copy replaces that of an earlier import: together the five
@@ -114,10 +115,12 @@ std::string readList(const Files& files, std::string_view path) {
     }
 }
 
-BoundedTable<std::string> linesOf(std::string_view bytes, const std::string& path) {
-    BoundedTable<std::string> lines("the table of " + path, listCapacity);
-    for (ListLines reader(bytes); !reader.atEnd();)
-        lines.append(reader.next());
+std::vector<std::string> linesOf(std::string_view bytes, const std::string& path) {
+    std::vector<std::string> lines;
+    for (ListLines reader(bytes); !reader.atEnd();) {
+        lines.push_back(reader.next());
+        requireCapacity("the table of " + path, lines.size(), listCapacity);
+    }
     return lines;
 }
 
@@ -132,11 +135,11 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     const std::string bytes = readList(files, listPath);
     if (std::min(bytes.find('\r'), bytes.size()) > longFirstLine && !progress({splittingPhase}))
         return result;
-    const BoundedTable<std::string> lines = linesOf(bytes, files.path(listPath));
+    const std::vector<std::string> lines = linesOf(bytes, files.path(listPath));
 
     MemberListReader reader(list);
     for (const std::string& line : lines) {
-        if (!progress({mergingPhase(list), ++result.lines, lines.size()}))
+        if (!progress({mergingPhase(list), ++result.lines, static_cast<int>(lines.size())}))
             return result;
         const ListLine kind = reader.read(line);
         if (kind == ListLine::malformed)
@@ -149,9 +152,8 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
 
     if (result.members == 0 && result.skipped > 0) { // the wrong file: nothing is written
         MemberListReader other(list == MemberList::data ? MemberList::members : MemberList::data);
-        result.otherList = std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
-            return other.read(line) == ListLine::member;
-        });
+        result.otherList = std::ranges::any_of(
+            lines, [&](const std::string& line) { return other.read(line) == ListLine::member; });
         result.finished = true;
         return result;
     }

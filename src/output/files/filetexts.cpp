@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/filetexts.h"
 
-#include "base/boundedtable.h"
 #include "base/fixedtext.h"
 #include "base/itemreader.h"
+#include "base/runtimeerror.h"
 #include "log/contactdate.h"
 #include "log/logfile.h"
 #include "log/qsoline.h"
@@ -55,12 +55,13 @@ std::size_t lastContactOf(const std::vector<std::string>& lines) {
 }
 
 std::vector<std::string> logPrintLines(std::string_view logFileName, std::string_view logBytes) {
-    BoundedTable<std::string_view> items("the list of lines to print", printedItemsCapacity);
-    ItemReader reader(logBytes);
-    while (!reader.atEnd())
-        items.append(reader.next());
     std::vector<std::string> lines{std::string(logFileName), ""};
-    lines.insert(lines.end(), items.begin(), items.end());
+    const std::size_t headLines = lines.size();
+    for (ItemReader reader(logBytes); !reader.atEnd();) {
+        lines.emplace_back(reader.next());
+        requireCapacity("the list of lines to print", lines.size() - headLines,
+                        printedItemsCapacity);
+    }
     return lines;
 }
 

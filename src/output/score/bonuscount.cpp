@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/score/bonuscount.h"
 
-#include "base/boundedtable.h"
+#include "base/runtimeerror.h"
 #include "log/qsoline.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ constexpr Column stationKey{qso::hisCall.first, qso::hisCall.width + 1}; // the 
 } // namespace
 
 Integer16 countBonusPoints(const Contacts& contacts) {
-    BoundedTable<std::string_view> counted("the list of bonus stations", countedStations);
+    std::vector<std::string_view> counted;
     Integer16 total;
     for (const std::string_view contact : contacts) {
         const std::string_view name = qso::hisName.of(contact);
@@ -27,9 +27,10 @@ Integer16 countBonusPoints(const Contacts& contacts) {
             const Integer16 points = numericValue(trim(midToEnd(name, position + 1)));
             // Once each: what a station has after a second slash, or on another band, adds nothing,
             // even when the first value was no number.
-            if (std::find(counted.begin(), counted.end(), station) != counted.end())
+            if (std::ranges::find(counted, station) != counted.end())
                 continue;
-            counted.append(station);
+            counted.push_back(station);
+            requireCapacity("the list of bonus stations", counted.size(), countedStations);
             total += points;
         }
     }

@@ -9,8 +9,7 @@ namespace vantrel {
 
 namespace {
 const Band* bandWhere(std::string_view Band::*key, std::string_view text) {
-    const auto* const found = std::find_if(
-        bands.begin(), bands.end(), [&](const Band& band) { return band.*key == left(text, 2); });
+    const auto* const found = std::ranges::find(bands, left(text, 2), key);
     return found == bands.end() ? nullptr : found;
 }
 } // namespace
@@ -25,9 +24,9 @@ const Band* bandOfMhz(std::string_view mhz) {
 
 bool isOnBand(std::string_view khzField) {
     constexpr std::array others{" 5", "29", "50", "51", "52", "53"};
-    return bandOfKhz(khzField) != nullptr ||
-           std::any_of(others.begin(), others.end(),
-                       [&](const char* begin) { return khzField.starts_with(begin); });
+    return bandOfKhz(khzField) != nullptr || std::ranges::any_of(others, [&](const char* begin) {
+               return khzField.starts_with(begin);
+           });
 }
 
 std::size_t bandIndexOf(std::string_view khzField) {

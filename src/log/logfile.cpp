@@ -36,7 +36,7 @@ std::string defaultLogName(std::string_view contestCode, const LocalTime& local)
 std::string k3yLogName(std::string_view utcDate, std::string_view areaCode,
                        std::string_view myCall) {
     std::string call = upper(trim(myCall));
-    std::replace(call.begin(), call.end(), '/', '-');
+    std::ranges::replace(call, '/', '-');
     return std::string(utcDate) + "-K3Y-" + std::string(areaCode) + "-" + call + ".CBR";
 }
 

@@ -119,9 +119,7 @@ std::vector<std::string> duplicateNews(const Lines& before, const Lines& after, 
     const std::vector<DupeNote> notes = dupeNotes(after, byNumber);
     // Aligns the notes before the change with the lines after it. A line that an undo put back had
     // no note.
-    const auto changed =
-        std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first -
-        before.begin();
+    const auto changed = std::ranges::mismatch(before, after).in1 - before.begin();
     if (after.size() < before.size())
         notesBefore.erase(notesBefore.begin() + changed);
     if (after.size() > before.size())

@@ -52,7 +52,7 @@ bool hasGrownFrom(std::string_view bytes, std::string_view before) {
 
 int linesIn(std::string_view bytes) {
     const bool endsOpen = !bytes.empty() && !bytes.ends_with('\n');
-    return static_cast<int>(std::count(bytes.begin(), bytes.end(), '\n')) + (endsOpen ? 1 : 0);
+    return static_cast<int>(std::ranges::count(bytes, '\n')) + (endsOpen ? 1 : 0);
 }
 
 std::vector<std::string> tableOf(std::string_view bytes) {

@@ -20,7 +20,7 @@ bool isSeparator(char character) {
 std::vector<std::string_view> partsOf(std::string_view name) {
     std::vector<std::string_view> parts;
     while (!name.empty()) {
-        const auto* const end = std::find_if(name.begin(), name.end(), isSeparator);
+        const auto* const end = std::ranges::find_if(name, isSeparator);
         const auto size = static_cast<std::size_t>(end - name.begin());
         if (size > 0)
             parts.push_back(name.substr(0, size));

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 namespace {
 
 void sortRegardlessOfCase(std::vector<std::string>& names) {
-    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+    std::ranges::sort(names, [](const std::string& a, const std::string& b) {
         return std::pair(upper(a), a) < std::pair(upper(b), b);
     });
 }

@@ -3,8 +3,6 @@
 
 #include "base/fixedtext.h"
 
-#include <algorithm>
-
 namespace vantrel {
 
 std::optional<LineSettings> lineSettings(std::string_view text) {
@@ -13,8 +11,8 @@ std::optional<LineSettings> lineSettings(std::string_view text) {
         return std::nullopt;
     const std::string_view baud = text.substr(0, baudEnd);
     const std::string_view rest = text.substr(baudEnd);
-    const bool form = rest.size() == 6 && rest[0] == ',' && rest[2] == ',' && rest[4] == ',' &&
-                      std::all_of(baud.begin(), baud.end(), isDigit);
+    const bool form =
+        rest.size() == 6 && rest[0] == ',' && rest[2] == ',' && rest[4] == ',' && allDigits(baud);
     if (!form || std::string_view("neo").find(rest[1]) == std::string_view::npos ||
         (rest[3] != '7' && rest[3] != '8') || (rest[5] != '1' && rest[5] != '2'))
         return std::nullopt;

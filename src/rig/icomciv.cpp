@@ -38,9 +38,8 @@ std::string hexText(std::string_view bytes) {
 // An address that is not in the table is left out of the frame, and then no radio answers.
 std::string query(const OperatingSettings& settings) {
     const std::string_view address = settings.civAddress;
-    const bool known = std::any_of(rigs.begin(), rigs.end(), [&](const Rig& rig) {
-        return rig.family == &icomCiv && rig.civAddress == address;
-    });
+    const bool known = std::ranges::any_of(
+        rigs, [&](const Rig& rig) { return rig.family == &icomCiv && rig.civAddress == address; });
     std::string frame = "\xFE\xFE";
     if (known)
         frame += static_cast<char>(hexDigit(address[4]) * 16 + hexDigit(address[5]));

@@ -57,8 +57,7 @@ const std::array<Rig, 43> rigs{{
 }};
 
 const RadioFamily* familyOf(std::string_view rig) {
-    const auto* const found = std::find_if(rigs.begin(), rigs.end(),
-                                           [&](const Rig& listed) { return listed.model == rig; });
+    const auto* const found = std::ranges::find(rigs, rig, &Rig::model);
     if (found != rigs.end())
         return found->family;
     // Any name that begins "IC-7" is taken for an Icom, listed or not.
@@ -66,8 +65,7 @@ const RadioFamily* familyOf(std::string_view rig) {
 }
 
 std::string_view usualCivAddress(std::string_view rig) {
-    const auto* const found = std::find_if(
-        rigs.begin(), rigs.end(), [&](const Rig& listed) { return listed.savedAs() == rig; });
+    const auto* const found = std::ranges::find(rigs, rig, &Rig::savedAs);
     return found == rigs.end() ? std::string_view() : found->civAddress;
 }
 

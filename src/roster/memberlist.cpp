@@ -44,8 +44,8 @@ bool isBlank(std::string_view text) {
 bool isNumber(std::string_view field) {
     const std::string number = upper(trim(field));
     return !number.empty() && isDigit(number.front()) &&
-           std::all_of(number.begin(), number.end(),
-                       [](char character) { return isDigit(character) || isCapital(character); });
+           std::ranges::all_of(
+               number, [](char character) { return isDigit(character) || isCapital(character); });
 }
 
 bool isAscii(char character) {
@@ -87,15 +87,14 @@ ListLines::ListLines(std::string_view bytes)
 
 std::string ListLines::next() {
     // find_first_of("\r\n") takes four times as long.
-    const auto* const end = std::find_if(m_rest.begin(), m_rest.end(), [](char character) {
-        return character == '\n' || character == '\r';
-    });
+    const auto* const end = std::ranges::find_if(
+        m_rest, [](char character) { return character == '\n' || character == '\r'; });
     std::string line(m_rest.begin(), end);
     m_rest.remove_prefix(line.size());
     m_rest.remove_prefix(m_rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(m_rest.size(), 1));
-    if (m_isUtf8 && !std::all_of(line.begin(), line.end(), isAscii))
+    if (m_isUtf8 && !std::ranges::all_of(line, isAscii))
         line = shownText(line);
-    std::replace_if(line.begin(), line.end(), isControl, ' ');
+    std::ranges::replace_if(line, isControl, ' ');
     return line;
 }
 

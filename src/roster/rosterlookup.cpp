@@ -26,8 +26,8 @@ std::string_view callOf(std::string_view record) {
 using Records = std::vector<std::string_view>;
 
 bool holds(const std::vector<Member>& members, std::string_view call) {
-    return std::any_of(members.begin(), members.end(),
-                       [&](const Member& member) { return trim(member.call) == call; });
+    return std::ranges::any_of(members,
+                               [&](const Member& member) { return trim(member.call) == call; });
 }
 
 // Whether one letter added, left out or changed makes the one call of the other.
@@ -113,9 +113,8 @@ std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t mo
                 oneLetterAway.push_back(record);
         }
     }
-    std::stable_sort(
-        beginning.begin(), beginning.end(),
-        [](std::string_view a, std::string_view b) { return callOf(a).size() < callOf(b).size(); });
+    std::ranges::stable_sort(beginning, {},
+                             [](std::string_view record) { return callOf(record).size(); });
     std::vector<Member> members;
     const auto take = [&](const Records& records) {
         for (const std::string_view record : records)

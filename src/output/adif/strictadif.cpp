@@ -100,7 +100,7 @@ std::string_view bandName(int khz) {
 // Digits, and the award letter if any. "100W" is a non-member's power and "NONE" nobody's.
 bool isMemberNumber(std::string_view number) {
     return !number.empty() && isDigit(number.front()) && !number.ends_with('W') &&
-           std::all_of(number.begin(), number.end(), [](char character) {
+           std::ranges::all_of(number, [](char character) {
                return isDigit(character) || isCapital(upper(character));
            });
 }

@@ -30,8 +30,7 @@ bool canBeNamed(const std::string& name, FinderNames names) {
 
 std::vector<std::string> shown(const std::vector<std::string>& names) {
     std::vector<std::string> texts;
-    std::transform(names.begin(), names.end(), std::back_inserter(texts),
-                   [](const std::string& name) { return shownText(name); });
+    std::ranges::transform(names, std::back_inserter(texts), shownText);
     return texts;
 }
 

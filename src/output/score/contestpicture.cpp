@@ -32,7 +32,7 @@ ContestPicture contestPicture(const Contacts& contacts) {
     if (made.empty())
         return {};
 
-    const auto [first, last] = std::minmax_element(made.begin(), made.end());
+    const auto [first, last] = std::ranges::minmax_element(made);
     const bool isShort = last->first - first->first < shortLog;
     const chrono::minutes step = isShort ? shortStep : hour;
     std::map<UtcMinute, decltype(PictureBar::contacts)> steps; // under their beginnings

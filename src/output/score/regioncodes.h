@@ -21,10 +21,10 @@ inline constexpr std::array<std::string_view, 12> canadianProvinceCodes{
 
 // Both lists are in alphabetical order.
 inline bool isAdjoiningState(std::string_view code) {
-    return std::binary_search(adjoiningStateCodes.begin(), adjoiningStateCodes.end(), code);
+    return std::ranges::binary_search(adjoiningStateCodes, code);
 }
 inline bool isCanadianProvince(std::string_view code) {
-    return std::binary_search(canadianProvinceCodes.begin(), canadianProvinceCodes.end(), code);
+    return std::ranges::binary_search(canadianProvinceCodes, code);
 }
 
 } // namespace vantrel

@@ -85,7 +85,7 @@ std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSetti
 }
 
 bool DistinctValues::add(std::string_view value) {
-    const auto place = std::lower_bound(m_values.begin(), m_values.end(), value);
+    const auto place = std::ranges::lower_bound(m_values, value);
     if (place != m_values.end() && *place == value)
         return false;
     if (m_values.size() <= distinctValuesCapacity)

@@ -22,7 +22,7 @@ std::vector<fs::path> sortedEntries(const std::string& folder) {
     std::error_code error;
     const std::vector<fs::directory_entry> entries = entriesOf(folder, error);
     std::vector<fs::path> paths(entries.begin(), entries.end());
-    std::sort(paths.begin(), paths.end());
+    std::ranges::sort(paths);
     return paths;
 }
 
@@ -57,11 +57,10 @@ fs::path endOfLinks(fs::path path, const fs::path& folder) {
 std::vector<fs::path> allPorts(const SerialRoots& roots) {
     std::vector<fs::path> ports = sortedEntries(roots.byId);
     std::vector<fs::path> listed;
-    std::transform(ports.begin(), ports.end(), std::back_inserter(listed), target);
+    std::ranges::transform(ports, std::back_inserter(listed), target);
     for (const fs::path& tty : sortedEntries(roots.classTty)) {
         const fs::path device = fs::path(roots.devices) / tty.filename();
-        if (hasHardware(tty) &&
-            std::find(listed.begin(), listed.end(), target(device)) == listed.end())
+        if (hasHardware(tty) && std::ranges::find(listed, target(device)) == listed.end())
             ports.push_back(device);
     }
     return ports;

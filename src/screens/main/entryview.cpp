@@ -93,10 +93,9 @@ std::string_view lastContact(const Draft& draft, const Contacts& contacts) {
     });
     if (last == contacts.rend())
         return {};
-    const bool saysMore =
-        std::any_of(lookupFields.begin(), lookupFields.end(), [&](const LookupField& field) {
-            return trim(draft.boxes.*field.box).empty() && !trim(field.column.of(*last)).empty();
-        });
+    const bool saysMore = std::ranges::any_of(lookupFields, [&](const LookupField& field) {
+        return trim(draft.boxes.*field.box).empty() && !trim(field.column.of(*last)).empty();
+    });
     return saysMore ? *last : std::string_view();
 }
 

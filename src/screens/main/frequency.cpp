@@ -12,8 +12,8 @@ namespace {
 constexpr int decimals = 3;
 
 bool startsWithAnyOf(std::string_view text, std::initializer_list<std::string_view> beginnings) {
-    return std::any_of(beginnings.begin(), beginnings.end(),
-                       [&](std::string_view beginning) { return text.starts_with(beginning); });
+    return std::ranges::any_of(
+        beginnings, [&](std::string_view beginning) { return text.starts_with(beginning); });
 }
 
 // From the band of the text on, so many places of the table at a time, to the next sprint band.
@@ -37,7 +37,7 @@ std::string withPointAfter(std::string_view digits, int whole) {
 
 std::string frequencyAsEntered(std::string_view typed) {
     std::string entry(trim(typed));
-    std::replace(entry.begin(), entry.end(), ',', '.');
+    std::ranges::replace(entry, ',', '.');
     if (allDigits(entry) && (length(entry) == 3 || length(entry) == 4) &&
         startsWithAnyOf(entry, {"18", "19", "3", "5", "7"}))
         return withPointAfter(entry + (length(entry) == 3 ? "0" : ""), 1);

@@ -51,7 +51,7 @@ Rate rateAt(const std::vector<UtcMinute>& moments, UtcMinute now) {
         firsts[bar] = bars[bar] == 0 ? now - since : std::min(firsts[bar], now - since);
         ++bars[bar];
     }
-    const auto best = std::max_element(bars.begin(), bars.end());
+    const auto best = std::ranges::max_element(bars);
     if (*best > 0)
         rate.bestSince = firsts[static_cast<std::size_t>(best - bars.begin())];
     return rate;

@@ -57,10 +57,8 @@ bool isExpected(const RowBand& row, bool allBands) {
 }
 
 std::size_t rowOf(std::string_view tag) {
-    const auto* const row =
-        std::find_if(rowBands.begin(), rowBands.end(), [&](const RowBand& band) {
-            return tag >= band.firstTag && tag <= band.lastTag;
-        });
+    const auto* const row = std::ranges::find_if(
+        rowBands, [&](const RowBand& band) { return tag >= band.firstTag && tag <= band.lastTag; });
     return static_cast<std::size_t>(row - rowBands.begin());
 }
 
@@ -78,7 +76,7 @@ struct Bands {
 
 std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
                              std::string_view bandTag) {
-    const auto found = std::find_if(contacts.begin(), contacts.end(), [&](std::string_view line) {
+    const auto found = std::ranges::find_if(contacts, [&](std::string_view line) {
         return qso::bandTag.of(line) == bandTag &&
                mid(line, qso::hisCall.first, length(call)) == call;
     });
@@ -87,7 +85,7 @@ std::string_view duplicateOf(const Contacts& contacts, std::string_view call,
 
 bool isK3yDupe(const Contacts& contacts, std::string_view call, std::string_view number,
                std::string_view bandTag) {
-    return std::any_of(contacts.begin(), contacts.end(), [&](std::string_view line) {
+    return std::ranges::any_of(contacts, [&](std::string_view line) {
         return sameField(qso::hisCall, line, call) && qso::bandTag.of(line) == bandTag &&
                sameField(qso::hisNumber, line, number);
     });
@@ -109,8 +107,8 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
         if (mid(line, qso::hisCall.first, length(typed)) != typed)
             continue;
         const std::string call(trim(qso::hisCall.of(line)));
-        auto entry = std::find_if(result.begin(), result.end(),
-                                  [&](const WorkedCall& worked) { return worked.call == call; });
+        auto entry = std::ranges::find_if(
+            result, [&](const WorkedCall& worked) { return worked.call == call; });
         if (entry == result.end() && result.size() == most)
             continue;
         if (entry == result.end())

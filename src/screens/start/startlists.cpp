@@ -67,8 +67,7 @@ ValueList dupeModeList() {
 
 std::string offsetByValue(std::string_view saved) {
     constexpr std::size_t longest = 9; // longer digits might not fit a number
-    const bool isNumber =
-        saved.size() <= longest && std::any_of(saved.begin(), saved.end(), isDigit);
+    const bool isNumber = saved.size() <= longest && std::ranges::any_of(saved, isDigit);
     return isNumber ? std::to_string(numericValue(saved)) : std::string(saved);
 }
 

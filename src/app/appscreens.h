@@ -4,9 +4,6 @@
 
 #include "forms/form.h"
 #include "forms/keyguard.h"
-#include "shared/screens.h"
-
-#include <QPointer>
 
 #include <map>
 

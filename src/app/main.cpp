@@ -7,7 +7,6 @@
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/machine.h"
-#include "platform/platform.h"
 #include "platform/programfolder.h"
 #include "platform/qt/qtdevices.h"
 #include "platform/qt/qtmessages.h"

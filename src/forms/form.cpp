@@ -103,10 +103,9 @@ void Form::stayAbove(const QWidget* page) {
 void Form::bringToFront() {
     raise();
     activateWindow();
-    QWidget* first = firstFocus();
-    if (first != nullptr)
-        first->setFocus();
-    if (auto* list = qobject_cast<QListView*>(first))
+    if (m_firstFocus != nullptr)
+        m_firstFocus->setFocus();
+    if (auto* list = qobject_cast<QListView*>(m_firstFocus))
         announceCurrentRow(list);
     // The focus is shown at once, not only after the first Tab.
     setAttribute(Qt::WA_KeyboardFocusChange);

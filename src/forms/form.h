@@ -59,8 +59,13 @@ protected:
     virtual void load() {}
     // What Esc does: closes the form unless the screen says otherwise.
     virtual void escapePressed() { close(); }
-    // The control that has the focus after opening and after every message box.
-    virtual QWidget* firstFocus() { return nullptr; }
+    // Gives the control, which is handed back, the focus whenever the form comes to the front.
+    template <typename Control>
+    Control* focusFirst(Control* control) {
+        m_firstFocus = control;
+        return control;
+    }
+    QWidget* firstFocus() const { return m_firstFocus; }
 
     // For the page that a contest is run from; all others open as large as what they hold.
     void openAtPageSize() { resize(800, 600); }
@@ -110,6 +115,7 @@ private:
 
     FormContext m_context;
     QPointer<QWidget> m_opener;
+    QWidget* m_firstFocus = nullptr;
     std::function<void()> m_afterPaint;
     bool m_isPlaced = false; // its frame's size was known when it was last moved
     bool m_gone = false;

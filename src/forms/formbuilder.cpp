@@ -4,7 +4,6 @@
 #include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/form.h"
-#include "forms/layouts.h"
 #include "forms/readtable.h"
 
 #include <QApplication>

@@ -4,12 +4,11 @@
 #pragma once
 
 #include "forms/alertlabel.h"
+#include "forms/controltext.h"
+#include "forms/layouts.h"
 
-#include <QComboBox>
 #include <QFontMetrics>
 #include <QFormLayout>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QRadioButton>

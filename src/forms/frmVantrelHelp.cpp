@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmVantrelHelp.h"
 
-#include "forms/formbuilder.h"
 #include "forms/keysheet.h"
-#include "forms/layouts.h"
-#include "platform/qt/latin1.h"
 
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -13,7 +10,8 @@ namespace vantrel {
 
 frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     : Form(context, "frmVantrelHelp", "Vantrel - Keys") {
-    m_sheet = FormBuilder::named(new QPlainTextEdit(this), "Text1");
+    // It has the focus to be read line by line, and scrolled.
+    m_sheet = focusFirst(FormBuilder::named(new QPlainTextEdit(this), "Text1"));
     m_sheet->setAccessibleName(QStringLiteral("KEYS"));
     m_sheet->setReadOnly(true);
     m_sheet->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -40,10 +38,6 @@ QSize frmVantrelHelp::textSize() const {
     const QSize text = QFontMetrics(m_sheet->font()).size(0, m_sheet->toPlainText());
     return {text.width() + around + m_sheet->verticalScrollBar()->sizeHint().width(),
             text.height() + around + 1}; // without the one the last line had to be scrolled to
-}
-
-QWidget* frmVantrelHelp::firstFocus() {
-    return m_sheet; // read line by line, and scrolled
 }
 
 // Looking up a key leads back to the box in which it is to be pressed.

@@ -2,7 +2,7 @@
 // The key sheet of the page from which F1 opened it.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 
 class QPlainTextEdit;
 
@@ -22,7 +22,6 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -2,10 +2,6 @@
 #include "forms/viewerform.h"
 
 #include "base/fixedtext.h"
-#include "forms/alertlabel.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "forms/linelistmodel.h"
 
 #include <QApplication>
@@ -63,7 +59,7 @@ ViewerForm::ViewerForm(const FormContext& context, const char* name, const char*
     : Form(context, name, caption) {
     FormBuilder build(this);
     m_lines = new LineListModel(this);
-    m_list = build.list("List1", "CTRL+F FINDS, CTRL+C COPIES THE SELECTED LINES");
+    m_list = focusFirst(build.list("List1", "CTRL+F FINDS, CTRL+C COPIES THE SELECTED LINES"));
     m_list->setAccessibleName(QStringLiteral("LINES"));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTextElideMode(Qt::ElideNone);
@@ -95,10 +91,6 @@ ViewerForm::ViewerForm(const FormContext& context, const char* name, const char*
     onKeys(new QShortcut(QKeySequence::FindNext, this), &ViewerForm::findNext);
     onKeys(new QShortcut(QKeySequence::Copy, m_list, nullptr, nullptr, Qt::WidgetShortcut),
            &ViewerForm::copySelected);
-}
-
-QWidget* ViewerForm::firstFocus() {
-    return m_list;
 }
 
 void ViewerForm::setHeading(std::string_view heading) {
@@ -158,7 +150,7 @@ void ViewerForm::findNext() {
 // Goes to the first match from that row on; from the last one on to the first.
 void ViewerForm::goToFound(int row) {
     if (!m_findBox->text().isEmpty() && !m_found.empty()) {
-        const auto next = std::lower_bound(m_found.begin(), m_found.end(), row);
+        const auto next = std::ranges::lower_bound(m_found, row);
         m_list->setCurrentIndex(m_lines->index(next == m_found.end() ? m_found.front() : *next));
     }
     showPlace();
@@ -168,7 +160,7 @@ void ViewerForm::goToFound(int row) {
 // it with the line while the operator types in FIND; in the list Qt announces the line itself.
 void ViewerForm::showPlace() {
     const QModelIndex line = m_list->currentIndex();
-    const auto place = std::lower_bound(m_found.begin(), m_found.end(), line.row());
+    const auto place = std::ranges::lower_bound(m_found, line.row());
     std::string text = std::to_string(m_found.size()) + " FOUND";
     if (m_found.empty())
         text = m_findBox->text().isEmpty() ? "" : "NOT FOUND";

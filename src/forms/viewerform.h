@@ -2,20 +2,15 @@
 // The base of the screens that show a file's lines: the list, finding, copying.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
-class QLabel;
-class QLineEdit;
-class QListView;
-
 namespace vantrel {
 
-class AlertLabel;
 class LineListModel;
 
 class ViewerForm : public Form {
@@ -32,7 +27,6 @@ public:
 
 protected:
     void escapePressed() override;
-    QWidget* firstFocus() override;
 
     // What stands over the columns of the lines.
     void setHeading(std::string_view heading);

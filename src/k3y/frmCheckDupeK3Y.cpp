@@ -2,9 +2,6 @@
 #include "k3y/frmCheckDupeK3Y.h"
 
 #include "forms/colours.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
-#include "platform/platform.h"
 
 #include <QTimer>
 
@@ -27,24 +24,21 @@ frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     reason->setFont(familyFont(this, "Arial Unicode MS"));
     reason->setAlignment(Qt::AlignCenter);
     QPushButton* logButton = build.command("Command2", "LOG THE DUPE", "", [this] { logDupe(); });
-    m_noLogButton = build.command("Command1", "NO LOG", "", [this] { close(); });
-    for (QPushButton* button : {logButton, m_noLogButton})
+    QPushButton* noLogButton = build.command("Command1", "NO LOG", "", [this] { close(); });
+    focusFirst(noLogButton);
+    for (QPushButton* button : {logButton, noLogButton})
         button->setFont(familyFont(this, "Arial Rounded MT Bold"));
     // Unlike the other dupe screen's, this timer closes nothing: the operator has to decide.
     m_timer = new QTimer(this);
     m_timer->setObjectName(QStringLiteral("Timer1"));
     m_timer->setInterval(timerMilliseconds);
-    page(this, {verdict, reason, row({logButton, m_noLogButton})});
+    page(this, {verdict, reason, row({logButton, noLogButton})});
 }
 
 void frmCheckDupeK3Y::load() {
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
     m_timer->start();
-}
-
-QWidget* frmCheckDupeK3Y::firstFocus() {
-    return m_noLogButton;
 }
 
 void frmCheckDupeK3Y::ask(DupeQuestion question) {

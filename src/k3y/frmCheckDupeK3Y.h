@@ -3,9 +3,8 @@
 // logged once more.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 
-class QPushButton;
 class QTimer;
 
 namespace vantrel {
@@ -20,13 +19,11 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void logDupe();
 
-    QPushButton* m_noLogButton;
     QTimer* m_timer;
 
     DupeQuestion m_question;

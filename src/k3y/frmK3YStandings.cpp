@@ -2,9 +2,6 @@
 #include "k3y/frmK3YStandings.h"
 
 #include "base/fixedtext.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 
 #include <QGridLayout>
 #include <QPalette>
@@ -82,12 +79,14 @@ frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage
     m_total = build.label("Label2");
     m_total->setFont(enlargedFont(this, headlineEnlargement));
     const Item gap = Item::gap(fontMetrics().height());
-    page(this, {build.heading("Label1", "K3Y  Regions/Continents Worked", headlineEnlargement),
-                {createGrid(), 1},
-                row({m_total, gap, m_wholeTotal = build.label("Label22"), Item::room(),
-                     m_otherPageButton = build.command("Command2", m_page.otherCaption, "",
-                                                       [this] { openOtherPage(); }),
-                     gap, build.exit()})});
+    page(
+        this,
+        {build.heading("Label1", "K3Y  Regions/Continents Worked", headlineEnlargement),
+         {createGrid(), 1},
+         row({m_total, gap, m_wholeTotal = build.label("Label22"), Item::room(),
+              focusFirst(build.command("Command2", m_page.otherCaption, "",
+                                       [this] { screens().replace(m_page.screen, m_page.other); })),
+              gap, build.exit()})});
 }
 
 QGridLayout* frmK3YStandings::createGrid() {
@@ -118,10 +117,6 @@ QGridLayout* frmK3YStandings::createGrid() {
     return grid;
 }
 
-QWidget* frmK3YStandings::firstFocus() {
-    return m_otherPageButton;
-}
-
 // A log that cannot be read leaves the page empty, also one that showed something before.
 void frmK3YStandings::load() {
     m_logWatch.reset();
@@ -148,11 +143,6 @@ void frmK3YStandings::showStandings(const Contacts& contacts) {
         showCount(m_bandTotals[static_cast<std::size_t>(column - 1)], standings.bandTotal(column));
     put(m_total, standings.totalText());
     put(m_wholeTotal, "BOTH PAGES:  " + standingsTotals(contacts).whole().text());
-}
-
-// The other page takes this one's place: leaving it leads back to where this one came from.
-void frmK3YStandings::openOtherPage() {
-    screens().replace(m_page.screen, m_page.other);
 }
 
 } // namespace vantrel

@@ -3,7 +3,7 @@
 // frmK3YStandings shows the call areas, frmK3YStandings2 the outlying areas and continents.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 #include "k3y/standings.h"
 
 #include <span>
@@ -11,9 +11,6 @@
 #include <vector>
 
 class QGridLayout;
-class QLabel;
-class QLineEdit;
-class QPushButton;
 
 namespace vantrel {
 
@@ -51,12 +48,9 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
 
 private:
     QGridLayout* createGrid();
-
-    void openOtherPage();
 
     void showStandings(const Contacts& contacts);
 
@@ -66,7 +60,6 @@ private:
     std::vector<QLabel*> m_bandTotals;
     QLabel* m_total;
     QLabel* m_wholeTotal; // of both pages
-    QPushButton* m_otherPageButton;
 
     Log::Watch m_logWatch; // each contact logged shows at once
 };

@@ -2,14 +2,12 @@
 #include "k3y/frmK3Ybox.h"
 
 #include "base/fixedtext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
-#include "platform/qt/latin1.h"
 
 #include <QKeyEvent>
 #include <QShortcut>
 
 #include <algorithm>
+#include <span>
 
 namespace vantrel {
 
@@ -45,30 +43,21 @@ frmK3Ybox::frmK3Ybox(const FormContext& context) : Form(context, "frmK3Ybox", "K
 
 // Shows no station as chosen, whatever tag is in force; NONE stays as it was.
 void frmK3Ybox::load() {
-    for (QRadioButton* option : m_options) {
-        if (option == m_options.back())
-            break;
+    for (QRadioButton* option : std::span(m_options).first(m_options.size() - 1)) {
         option->setAutoExclusive(false); // in the group one of them has to stay chosen
         option->setChecked(false);
         option->setAutoExclusive(true);
     }
-    m_inForce = k3yStations.size() - 1;
+    // On the tag in force: Enter alone leaves it as it is.
+    focusFirst(m_options.back());
     for (std::size_t index = 0; index < k3yStations.size(); ++index)
         if (k3yStations[index].marker == shared().marker)
-            m_inForce = index;
-}
-
-// On the tag in force: Enter alone leaves it as it is.
-QWidget* frmK3Ybox::firstFocus() {
-    return m_options[m_inForce];
+            focusFirst(m_options[index]);
 }
 
 void frmK3Ybox::keyPressEvent(QKeyEvent* event) {
     const std::string typed = upper(fromQt(event->text()));
-    const auto chosen =
-        std::find_if(k3yStations.begin(), k3yStations.end(), [&](const K3yStation& station) {
-            return typed == std::string(1, station.letter);
-        });
+    const auto* const chosen = std::ranges::find(k3yStations, typed, &K3yStation::letter);
     if (chosen == k3yStations.end() || event->isAutoRepeat()) {
         Form::keyPressEvent(event);
         return;
@@ -79,7 +68,7 @@ void frmK3Ybox::keyPressEvent(QKeyEvent* event) {
 
 // The choice takes effect at once; OK only closes the box.
 void frmK3Ybox::choose(std::size_t index) {
-    m_inForce = index;
+    focusFirst(m_options.at(index));
     const K3yStation& station = k3yStations.at(index);
     shared().marker = station.marker;
     if (MainPage* page = screens().mainPage())
@@ -88,12 +77,10 @@ void frmK3Ybox::choose(std::size_t index) {
 
 // Enter on an option that Tab led to, and that is not chosen yet, chooses it.
 void frmK3Ybox::okPressed() {
-    const auto focused =
-        std::find_if(m_options.begin(), m_options.end(),
-                     [](const QRadioButton* option) { return option->hasFocus(); });
-    const auto index = static_cast<std::size_t>(focused - m_options.begin());
-    if (focused != m_options.end() && index != m_inForce)
-        choose(index);
+    const auto focused = std::ranges::find_if(
+        m_options, [](const QRadioButton* option) { return option->hasFocus(); });
+    if (focused != m_options.end() && *focused != firstFocus())
+        choose(static_cast<std::size_t>(focused - m_options.begin()));
     close();
 }
 

@@ -2,12 +2,10 @@
 // The K3Y box: the operator picks the event station the next contacts are with.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 #include "k3y/k3ystation.h"
 
 #include <array>
-
-class QRadioButton;
 
 namespace vantrel {
 
@@ -22,7 +20,6 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -30,8 +27,6 @@ private:
     void okPressed();
 
     std::array<QRadioButton*, k3yStations.size()> m_options; // as k3yStations
-
-    std::size_t m_inForce = 0; // the station that the next contacts get
 };
 
 } // namespace vantrel

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmVantrelCallArea.h"
 
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 #include "log/logfile.h"
-#include "platform/platform.h"
 #include "shared/utctime.h"
 
 #include <QGridLayout>
@@ -67,7 +64,7 @@ frmVantrelCallArea::frmVantrelCallArea(const FormContext& context)
 
 void frmVantrelCallArea::createAreas() {
     FormBuilder build(this);
-    m_areas = build.list("List1");
+    m_areas = focusFirst(build.list("List1"));
     m_areas->setAccessibleName(QStringLiteral("CALL AREAS"));
     m_areas->setFont(font()); // its items are aligned for it
     std::vector<std::string> items;
@@ -91,10 +88,6 @@ void frmVantrelCallArea::load() {
         return;
     m_utcDate = utcTime(platform().clock.now(), page->gmtOffset()).date;
     m_savedName = page->logFileName();
-}
-
-QWidget* frmVantrelCallArea::firstFocus() {
-    return m_areas;
 }
 
 void frmVantrelCallArea::choose(const CallArea& area) {

@@ -2,11 +2,8 @@
 // The choice of the call area or region that an event station signs from.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 #include "k3y/k3ystation.h"
-
-class QLabel;
-class QListView;
 
 namespace vantrel {
 
@@ -18,7 +15,6 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
 
 private:
     void createAreas();

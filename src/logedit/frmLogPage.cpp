@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmLogPage.h"
 
-#include "forms/alertlabel.h"
 #include "forms/colours.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "forms/linelistmodel.h"
 #include "log/qsoline.h"
 #include "logedit/contacttext.h"
@@ -75,10 +71,6 @@ bool frmLogPage::mayDrop(const Boxes& texts) {
     return false;
 }
 
-QWidget* frmLogPage::firstFocus() {
-    return m_callBox;
-}
-
 // --- Controls --------------------------------------------------------------------------------
 
 void frmLogPage::makeBoxes(std::span<const BoxField> fields) {
@@ -121,7 +113,7 @@ void frmLogPage::clearBoxes() {
 QLayout* frmLogPage::searchRow(const char* caption, QLineEdit* callBox,
                                const char* searchAgainTip) {
     FormBuilder build(this);
-    m_callBox = callBox;
+    m_callBox = focusFirst(callBox);
     setColumns(m_callBox, qso::hisCall.width);
     connectHandler(m_callBox, &QLineEdit::returnPressed, [this] { search(); });
     QPushButton* again =

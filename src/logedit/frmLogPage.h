@@ -3,23 +3,16 @@
 // the one found, and take the change back.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 #include "logedit/boxes.h"
 #include "logedit/logedit.h"
 
 #include <span>
 
-class QFormLayout;
-class QLabel;
-class QLayout;
-class QLineEdit;
-class QListView;
 class QModelIndex;
-class QPushButton;
 
 namespace vantrel {
 
-class AlertLabel;
 class LineListModel;
 
 class frmLogPage : public Form {
@@ -35,7 +28,6 @@ protected:
 
     void load() override;
     void escapePressed() override;
-    QWidget* firstFocus() override;
 
     static constexpr double headingEnlargement = 1.5;
 

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmVantrelCorrect.h"
 
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
-
 #include <QScopeGuard>
 
 namespace vantrel {

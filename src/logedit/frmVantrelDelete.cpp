@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "logedit/frmVantrelDelete.h"
 
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "logedit/contacttext.h"
 
 namespace vantrel {

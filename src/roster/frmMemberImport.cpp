@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmMemberImport.h"
 
-#include "forms/alertlabel.h"
 #include "forms/colours.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "platform/platform.h"
 
 #include <QProgressBar>
 
@@ -52,6 +47,7 @@ frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportP
                                    [this] { screens().openFinder(m_page.screen); });
     m_addButton =
         bold(build.command("Command2", "&ADD MBRS", m_page.addTip, [this] { addMembers(); }));
+    focusFirst(m_addButton);
     m_exitButton = build.exit("QUIT THIS PAGE");
     const QLayout* const whole = page(
         this, {texts(), row({build.caption("LIST:", m_pathBox), {m_pathBox, 1}, m_browseButton}),
@@ -110,10 +106,6 @@ void frmMemberImport::load() {
     const Files& files = platform().files;
     const bool sayable = latin1Text(files.programFolder()).has_value();
     put(m_pathBox, sayable ? files.path(m_page.listFile) : std::string(m_page.listFile));
-}
-
-QWidget* frmMemberImport::firstFocus() {
-    return m_addButton;
 }
 
 void frmMemberImport::receivePath(const std::string& path) {

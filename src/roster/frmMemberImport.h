@@ -2,19 +2,14 @@
 // The two import screens, frmReadSKCCDATA and frmVantrelUpdate: one page in two editions.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 #include "roster/rosterimport.h"
 
 #include <QElapsedTimer>
 
-class QLabel;
-class QLineEdit;
 class QProgressBar;
-class QPushButton;
 
 namespace vantrel {
-
-class AlertLabel;
 
 // What differs between the two.
 struct MemberImportPage {
@@ -43,7 +38,6 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
 
 private:
     QLayout* texts();

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "roster/frmSelectUpdateList.h"
 
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "platform/files.h"
-#include "platform/platform.h"
 #include "roster/memberlist.h"
 
 namespace vantrel {
@@ -17,17 +14,18 @@ frmSelectUpdateList::frmSelectUpdateList(const FormContext& context)
         QRadioButton* option = build.jobOption(name, caption, toolTip);
         connectHandler(option, &QRadioButton::clicked, [this, option, work] {
             option->setChecked(false);
-            m_lastRun = option;
+            focusFirst(option);
             work();
         });
         return option;
     };
-    m_lastRun = job("Option3", "DOWNLOAD AND SAVE SKCCDATA.TXT AND SKCCLIST.TXT",
-                    "STARTS THE FETCHER, WHICH DOWNLOADS BOTH LISTS", [this] { download(); });
+    QRadioButton* first =
+        job("Option3", "DOWNLOAD AND SAVE SKCCDATA.TXT AND SKCCLIST.TXT",
+            "STARTS THE FETCHER, WHICH DOWNLOADS BOTH LISTS", [this] { download(); });
     QLabel* address =
         build.caption(("The club publishes its lists at " + std::string(listsAddress)).c_str());
     address->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    page(this, {row({m_lastRun, build.caption("DO THIS FIRST"), Item::room()}),
+    page(this, {row({focusFirst(first), build.caption("DO THIS FIRST"), Item::room()}),
                 job("Option1", "UPDATE  USING  SKCCDATA.TXT   (First Choice)", "",
                     [this] { screens().open(Screen::readData); }),
                 job("Option2", "UPDATE  USING  SKCCLIST.TXT    (Second Choice)", "",
@@ -35,10 +33,6 @@ frmSelectUpdateList::frmSelectUpdateList(const FormContext& context)
                 address,
                 Item::room(),
                 {build.exit("QUIT THIS PAGE"), 0, Qt::AlignRight}});
-}
-
-QWidget* frmSelectUpdateList::firstFocus() {
-    return m_lastRun;
 }
 
 void frmSelectUpdateList::download() {

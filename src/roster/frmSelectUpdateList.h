@@ -2,9 +2,7 @@
 // The choice of how to bring the roster up to date.
 #pragma once
 
-#include "forms/form.h"
-
-class QRadioButton;
+#include "forms/page.h"
 
 namespace vantrel {
 
@@ -14,13 +12,8 @@ class frmSelectUpdateList : public Form {
 public:
     explicit frmSelectUpdateList(const FormContext& context);
 
-protected:
-    QWidget* firstFocus() override;
-
 private:
     void download();
-
-    QRadioButton* m_lastRun; // has the focus; at first the job to begin with
 };
 
 } // namespace vantrel

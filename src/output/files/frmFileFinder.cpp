@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmFileFinder.h"
 
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 
 #include <QGridLayout>
@@ -33,11 +31,12 @@ frmFileFinder::frmFileFinder(const FormContext& context)
     m_folders = new LineListModel(this);
     m_files = new LineListModel(this);
     m_driveBox = build.combo("drvList", "CHOOSE A DRIVE");
-    m_folderList = list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER", m_folders);
+    QListView* folderList =
+        focusFirst(list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER", m_folders));
     QListView* fileList = list("filList", "CLICK OR ENTER SELECTS A FILE", m_files);
     grid->addWidget(build.label("Label1", "Select a File"), 0, 0, 1, 2, Qt::AlignCenter);
     addUnder(build.label("Label2", "DRIVE:"), m_driveBox, 1, 0);
-    addUnder(build.label("Label3", "FOLDER"), m_folderList, 3, 0);
+    addUnder(build.label("Label3", "FOLDER"), folderList, 3, 0);
     addUnder(build.label("Label4", "FILE"), fileList, 3, 1);
     grid->addWidget(build.label("Label6", "FILE SELECTED :"), 5, 0);
     grid->addWidget(m_selection = wrapped(build.label("Label5")), 6, 0, 1, 2);
@@ -47,7 +46,7 @@ frmFileFinder::frmFileFinder(const FormContext& context)
     grid->setRowStretch(4, 1);
     // Chosen, not only changed: the drive that shows already leads back to its top.
     connectHandler(m_driveBox, &QComboBox::activated, [this](int index) { openDrive(index); });
-    connectHandler(m_folderList, &QListView::activated,
+    connectHandler(folderList, &QListView::activated,
                    [this](const QModelIndex& index) { openFolder(index); });
     FormBuilder::onChoice(fileList, [this](std::size_t row) {
         m_finder->chooseFile(row);
@@ -62,10 +61,6 @@ void frmFileFinder::load() {
     for (const std::string& drive : m_finder->drives())
         m_driveBox->addItem(toQt(drive));
     showFolder();
-}
-
-QWidget* frmFileFinder::firstFocus() {
-    return m_folderList;
 }
 
 void frmFileFinder::openDrive(int index) {

@@ -2,14 +2,11 @@
 // The drive, folder and file picker that three screens share.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 #include "output/files/filefinder.h"
 
 #include <optional>
 
-class QComboBox;
-class QLabel;
-class QListView;
 class QModelIndex;
 
 namespace vantrel {
@@ -29,7 +26,6 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
 
 private:
     void openDrive(int index);
@@ -40,7 +36,6 @@ private:
     void showFolder();
 
     QComboBox* m_driveBox;
-    QListView* m_folderList;
     QLabel* m_selection;
 
     Screen m_receiver = Screen::start;

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelBackup.h"
 
-#include "forms/alertlabel.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "output/files/backup.h"
 #include "platform/files.h"
 
@@ -20,7 +16,7 @@ constexpr int folderColumns = 56;
 frmVantrelBackup::frmVantrelBackup(const FormContext& context)
     : Form(context, "frmVantrelBackup", "BACKUP CABRILLO FILE") {
     FormBuilder build(this);
-    m_folderBox = build.text("Text1");
+    m_folderBox = focusFirst(build.text("Text1"));
     m_folderBox->setMinimumWidth(fontMetrics().averageCharWidth() * folderColumns);
     m_copy = wrapped(build.label("Label6"));
     m_copy->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing jumps below it
@@ -60,10 +56,6 @@ void frmVantrelBackup::bringToFront() {
     if (isVisible())
         showLog();
     Form::bringToFront();
-}
-
-QWidget* frmVantrelBackup::firstFocus() {
-    return m_folderBox;
 }
 
 void frmVantrelBackup::receivePath(const std::string& path) {

@@ -2,15 +2,10 @@
 // The backup screen: a copy of the log into a folder that the operator names.
 #pragma once
 
-#include "forms/form.h"
-
-class QLabel;
-class QLineEdit;
-class QPushButton;
+#include "forms/page.h"
 
 namespace vantrel {
 
-class AlertLabel;
 class frmVantrelBackup : public Form, public PathReceiver {
     Q_OBJECT
 
@@ -23,7 +18,6 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
 
 private:
     void backUp();

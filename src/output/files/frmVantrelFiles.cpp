@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelFiles.h"
 
-#include "forms/alertlabel.h"
 #include "forms/colours.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "log/logfile.h"
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 #include "output/files/filetexts.h"
 #include "platform/files.h"
-#include "platform/platform.h"
 #include "roster/rosterfiles.h"
 #include "shared/utctime.h"
 
@@ -29,6 +24,7 @@ frmVantrelFiles::frmVantrelFiles(const FormContext& context)
     std::vector<Item> parts;
     for (const Group& group : groups()) // the last one's results are the longest
         parts.emplace_back(build.section(group.title, jobs(group)), parts.empty() ? 0 : 1);
+    focusFirst(findChild<QRadioButton*>()); // until a job was run
     m_adifCaption = build.alert("Label5");
     m_adifPath = build.output("Text2");
     m_adifPath->setAccessibleName(QStringLiteral("ADIF FILE"));
@@ -100,8 +96,6 @@ void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
     QRadioButton* option = build.jobOption(job.name, job.caption, job.toolTip);
     connectHandler(option, &QRadioButton::clicked,
                    [this, option, task = job.run] { run(option, task); });
-    if (m_lastRun == nullptr)
-        m_lastRun = option;
     const int row = column->rowCount();
     column->addWidget(option, row, 0);
     if (!job.result)
@@ -115,10 +109,6 @@ void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
     m_results.push_back({result, job.result});
 }
 
-QWidget* frmVantrelFiles::firstFocus() {
-    return m_lastRun;
-}
-
 void frmVantrelFiles::bringToFront() {
     showResults();
     Form::bringToFront();
@@ -126,7 +116,7 @@ void frmVantrelFiles::bringToFront() {
 
 // What the job before made is cleared first: this one may fail.
 void frmVantrelFiles::run(QRadioButton* option, const std::function<void()>& job) {
-    m_lastRun = option;
+    focusFirst(option); // from now on
     showAdifFile({});
     const QPointer<Form> self(this);
     runHandler(job);

@@ -2,22 +2,16 @@
 // The file screen: each option button runs its job at once, on each click.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <vector>
 
 class QGridLayout;
-class QLabel;
-class QLayout;
-class QLineEdit;
-class QRadioButton;
 
 namespace vantrel {
 
-class AlertLabel;
 class frmVantrelFiles : public Form {
     Q_OBJECT
 
@@ -29,7 +23,6 @@ public:
 
 protected:
     void load() override { showResults(); }
-    QWidget* firstFocus() override;
 
 private:
     struct Job {
@@ -62,7 +55,6 @@ private:
     std::string writtenNow(const std::string& name);
     void printLog();
 
-    QRadioButton* m_lastRun = nullptr; // has the focus; the first job before one was run
     std::vector<Result> m_results;
     AlertLabel* m_adifCaption;
     QLineEdit* m_adifPath;

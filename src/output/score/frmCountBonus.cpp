@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/score/frmCountBonus.h"
 
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "output/score/bonuscount.h"
 
 namespace vantrel {
@@ -18,22 +15,17 @@ frmCountBonus::frmCountBonus(const FormContext& context)
     m_total = build.label("Label1");
     m_total->setFont(enlargedFont(this, totalEnlargement));
     m_total->setAlignment(Qt::AlignCenter);
-    m_exitButton = build.exit("CLOSES THE BONUS COUNT");
     page(this, {{build.caption("BONUS POINTS NOTED IN THE NAME FIELD AFTER A SLASH,\n"
                                "ONCE PER STATION (JOHN/25 = 25 POINTS)"),
                  0, Qt::AlignCenter},
                 {m_total, 1},
-                {m_exitButton, 0, Qt::AlignCenter}});
+                {focusFirst(build.exit("CLOSES THE BONUS COUNT")), 0, Qt::AlignCenter}});
 }
 
 void frmCountBonus::load() {
     m_total->clear();
     shared().log.reread();
     put(m_total, "Total: " + countBonusPoints(shared().log.contacts()).text());
-}
-
-QWidget* frmCountBonus::firstFocus() {
-    return m_exitButton;
 }
 
 } // namespace vantrel

@@ -2,10 +2,7 @@
 // The bonus points noted in the name fields of the log, added up.
 #pragma once
 
-#include "forms/form.h"
-
-class QLabel;
-class QPushButton;
+#include "forms/page.h"
 
 namespace vantrel {
 
@@ -20,11 +17,9 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
 
 private:
     QLabel* m_total;
-    QPushButton* m_exitButton;
 };
 
 } // namespace vantrel

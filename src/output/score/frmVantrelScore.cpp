@@ -2,18 +2,12 @@
 #include "output/score/frmVantrelScore.h"
 
 #include "base/fixedtext.h"
-#include "forms/alertlabel.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "forms/readtable.h"
 #include "forms/stackedbars.h"
 #include "log/logfile.h"
 #include "output/score/contestpicture.h"
 #include "output/score/scoretext.h"
 #include "platform/files.h"
-#include "platform/platform.h"
-#include "platform/qt/latin1.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -45,7 +39,7 @@ frmVantrelScore::frmVantrelScore(const FormContext& context)
                      build.command("Command3", "&COPY", "COPIES THE REPORT AS TEXT",
                                    [this] { copyToClipboard(); }),
                      m_copied = build.label("Label21"), Item::room(),
-                     m_exitButton = build.exit("CLOSES THE SCORE")})});
+                     focusFirst(build.exit("CLOSES THE SCORE"))})});
 }
 
 // Each figure behind its caption, in the order of the report.
@@ -83,10 +77,6 @@ QLayout* frmVantrelScore::total() {
     return column({build.caption("TOTAL SCORE:", m_total), m_total, m_sum = build.alert("Label20"),
                    Item::gap(fontMetrics().height()), m_dupesLogged = build.label("Label13"),
                    m_dupesNotCounted = build.label("Label14"), Item::room()});
-}
-
-QWidget* frmVantrelScore::firstFocus() {
-    return m_exitButton;
 }
 
 // --- Opening ---------------------------------------------------------------------------------
@@ -173,7 +163,7 @@ void frmVantrelScore::print() {
         sendToPrinter(platform().printer, platform().files, wrappedForPaper(report()),
                       scorePdfName(shared().log.name()));
     messages().show({std::string(reportPrinted), BoxIcon::exclamation, note});
-    m_exitButton->setFocus();
+    firstFocus()->setFocus(); // EXIT
 }
 
 void frmVantrelScore::copyToClipboard() {

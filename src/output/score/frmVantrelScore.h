@@ -2,22 +2,15 @@
 // The claimed score of the log, printed or copied on request, with its bands and hours.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 #include "output/score/score.h"
 
 #include <string>
 #include <utility>
 #include <vector>
 
-class QFormLayout;
-class QLabel;
-class QLineEdit;
-class QLayout;
-class QPushButton;
-
 namespace vantrel {
 
-class AlertLabel;
 class ReadTable;
 class StackedBars;
 
@@ -32,7 +25,6 @@ public:
 
 protected:
     void load() override;
-    QWidget* firstFocus() override;
 
 private:
     using Figure = Score::Figure Score::*;
@@ -60,7 +52,6 @@ private:
     QLabel* m_contestFigureCaption;
     QLabel* m_dupesLogged;
     QLabel* m_dupesNotCounted;
-    QPushButton* m_exitButton;
     ReadTable* m_bands;
     StackedBars* m_picture;
     Score m_score; // as shown

@@ -2,13 +2,9 @@
 #include "screens/main/frmVantrelDupe.h"
 
 #include "forms/colours.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "platform/platform.h"
 
 #include <QEvent>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace vantrel {
 

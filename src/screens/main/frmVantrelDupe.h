@@ -2,13 +2,11 @@
 // The word "DUPE", large and red, for two seconds; it never takes the keyboard.
 #pragma once
 
-#include "forms/form.h"
+#include "forms/page.h"
 
 class QTimer;
 
 namespace vantrel {
-
-class AlertLabel;
 
 class frmVantrelDupe : public Form {
     Q_OBJECT

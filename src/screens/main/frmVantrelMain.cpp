@@ -3,11 +3,7 @@
 
 #include "base/fixedtext.h"
 #include "forms/colours.h"
-#include "forms/controltext.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "forms/markedlabel.h"
-#include "platform/platform.h"
 #include "screens/main/frequency.h"
 #include "screens/main/widgets/contestpanel.h"
 #include "screens/main/widgets/suggestionlist.h"
@@ -18,7 +14,6 @@
 #include <QKeyEvent>
 #include <QShortcut>
 
-#include <functional>
 #include <initializer_list>
 #include <utility>
 
@@ -193,7 +188,7 @@ void frmVantrelMain::connectBoxes() {
                    [this] { run(&ContactEntry::frequencyEntered); });
     connectHandler(m_boxes.frequency, &QLineEdit::editingFinished,
                    [this] { run(&ContactEntry::frequencyLeft); });
-    m_boxes.call->installEventFilter(this);
+    focusFirst(m_boxes.call)->installEventFilter(this);
 }
 
 // --- Opening ---------------------------------------------------------------------------------

@@ -3,18 +3,12 @@
 // other screen.
 #pragma once
 
-#include "forms/form.h"
 #include "forms/inputhold.h"
+#include "forms/page.h"
 #include "screens/main/contactentry.h"
 #include "screens/main/widgets/entryboxes.h"
 
 #include <string>
-
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
-class QRadioButton;
-class QVBoxLayout;
 
 namespace vantrel {
 
@@ -43,7 +37,6 @@ public:
 protected:
     void load() override;
     void escapePressed() override { run(&ContactEntry::dropped); }
-    QWidget* firstFocus() override { return m_boxes.call; }
     bool isOwnPage() const override { return true; }
     int freeTop() const override;
     void closeEvent(QCloseEvent* event) override;

@@ -2,12 +2,9 @@
 #include "screens/start/frmVantrelStart.h"
 
 #include "forms/colours.h"
-#include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "forms/visiblestyle.h"
 #include "log/logfile.h"
 #include "platform/files.h"
-#include "platform/platform.h"
 #include "screens/start/startnotes.h"
 
 #include <QCloseEvent>
@@ -100,7 +97,7 @@ QLayout* frmVantrelStart::operatorPart() {
     const auto box = [&](const char* caption, const char* name, int width, const char* toolTip) {
         return build.row(form, caption, required(fitted(build.text(name, width, toolTip))));
     };
-    m_callBox = box("YOUR CALL:", "Text2", callWidth, "ENTER YOUR OWN CALL HERE");
+    m_callBox = focusFirst(box("YOUR CALL:", "Text2", callWidth, "ENTER YOUR OWN CALL HERE"));
     m_nameBox = box("YOUR NAME:", "Text6", nameWidth, "ENTER YOUR OWN NAME");
     m_stateBox = box("YOUR STATE:", "Text7", stateWidth, "ENTER YOUR OWN STATE");
     m_numberBox = box("YOUR SKCC#:", "Text8", numberWidth, "ENTER YOUR OWN SKCC#");

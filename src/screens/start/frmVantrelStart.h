@@ -3,18 +3,13 @@
 #pragma once
 
 #include "base/fixedtext.h"
-#include "forms/controltext.h"
-#include "forms/form.h"
 #include "forms/inputhold.h"
+#include "forms/page.h"
 #include "screens/start/startlists.h"
 #include "screens/start/widgets/radiosection.h"
 
 #include <memory>
 #include <utility>
-
-class QLabel;
-class QLayout;
-class QRadioButton;
 
 namespace vantrel {
 
@@ -35,7 +30,6 @@ public:
 protected:
     void load() override;
     void escapePressed() override {}
-    QWidget* firstFocus() override { return m_callBox; }
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

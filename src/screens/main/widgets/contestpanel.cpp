@@ -3,9 +3,7 @@
 
 #include "forms/accessible.h"
 #include "forms/colours.h"
-#include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "forms/readtable.h"
 #include "k3y/standings.h"
 #include "output/score/scoretext.h"
@@ -40,7 +38,7 @@ void RateBars::setRate(const Rate& rate) {
 
 void RateBars::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const int highest = std::max(1, *std::max_element(m_contacts.begin(), m_contacts.end()));
+    const int highest = std::max(1, *std::ranges::max_element(m_contacts));
     const int ground = height() - 1;
     const QColor past = frameColour(palette());
     painter.setPen(past);
@@ -131,8 +129,7 @@ void ContestPanel::showBands(const BandTable& table) {
                          Qt::AlignRight, band.present, colour}});
     }
     m_bandTable->setRows(rows);
-    const auto present = std::find_if(table.rows.begin(), table.rows.end(),
-                                      [](const BandRow& band) { return band.present; });
+    const auto present = std::ranges::find(table.rows, true, &BandRow::present);
     if (present != table.rows.end()) // there may be no room for all
         m_bandTable->scrollToItem(
             m_bandTable->item(static_cast<int>(present - table.rows.begin()), 0));

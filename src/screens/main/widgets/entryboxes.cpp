@@ -4,9 +4,7 @@
 #include "base/fixedtext.h"
 #include "forms/accessible.h"
 #include "forms/colours.h"
-#include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "forms/markedlabel.h"
 #include "shared/settings.h"
 
@@ -200,8 +198,8 @@ QHBoxLayout* EntryBoxes::hintRow() const {
 
 void EntryBoxes::toFirstEmpty() const {
     const auto boxes = filledByLookup();
-    const auto empty = std::find_if(boxes.begin(), boxes.end(),
-                                    [](const QLineEdit* box) { return trim(textOf(box)).empty(); });
+    const auto empty =
+        std::ranges::find_if(boxes, [](const QLineEdit* box) { return trim(textOf(box)).empty(); });
     if (empty != boxes.end())
         (*empty)->setFocus(Qt::TabFocusReason);
 }

@@ -7,7 +7,6 @@
 #include "forms/formbuilder.h"
 #include "forms/linelistmodel.h"
 #include "log/log.h"
-#include "platform/qt/latin1.h"
 #include "screens/main/widgets/entryboxes.h"
 
 #include <QKeyEvent>

@@ -2,10 +2,7 @@
 #include "screens/start/widgets/radiosection.h"
 
 #include "base/runtimeerror.h"
-#include "forms/alertlabel.h"
-#include "forms/controltext.h"
 #include "forms/formbuilder.h"
-#include "forms/layouts.h"
 #include "platform/serialnames.h"
 #include "rig/rigs.h"
 #include "shared/settings.h"

@@ -9,8 +9,8 @@ namespace vantrel {
 namespace {
 
 constexpr std::string_view eventPrefix = "K3Y/";
-constexpr Column areaCode{5, 1};     // of a call: "K3Y/5"
-constexpr Column outlyingCode{5, 2}; // of a call: "K3Y/KH6"
+constexpr Column areaOfCall{5, 1};     // of a call: "K3Y/5"
+constexpr Column outlyingOfCall{5, 2}; // of a call: "K3Y/KH6"
 
 // The number (from 1) of the row with this code among rows `first` to `last`; 0 for none.
 int rowOf(std::span<const StandingsRow> rows, std::size_t first, std::size_t last,
@@ -30,7 +30,7 @@ int continentRow(std::string_view code) {
 }
 
 bool isOutlyingCall(std::string_view call) {
-    return length(call) >= outlyingCode.last() && call.starts_with(eventPrefix);
+    return length(call) >= outlyingOfCall.last() && call.starts_with(eventPrefix);
 }
 
 // "/EU" at the end of the call or "K3Y/EU" at the end of the line.
@@ -79,8 +79,8 @@ Standings areaStandings(const Contacts& contacts) {
     Standings result(areaRows);
     for (const std::string_view line : contacts) {
         const std::string_view call = trim(qso::hisCall.of(line));
-        if (length(call) == areaCode.last() && call.starts_with(eventPrefix))
-            result.fill(rowOf(areaRows, 1, areaRows.size(), areaCode.of(call)),
+        if (length(call) == areaOfCall.last() && call.starts_with(eventPrefix))
+            result.fill(rowOf(areaRows, 1, areaRows.size(), areaOfCall.of(call)),
                         qso::frequency.of(line), qso::hisNumber.of(line));
     }
     return result;
@@ -91,8 +91,9 @@ Standings regionStandings(const Contacts& contacts) {
     for (const std::string_view line : contacts) {
         const std::string_view call = trim(qso::hisCall.of(line));
         const std::string_view khz = qso::frequency.of(line);
-        const bool counted = isOutlyingCall(call) && result.fill(outlyingRow(outlyingCode.of(call)),
-                                                                 khz, qso::hisNumber.of(line));
+        const bool counted =
+            isOutlyingCall(call) &&
+            result.fill(outlyingRow(outlyingOfCall.of(call)), khz, qso::hisNumber.of(line));
         // The closing tag picks the continent, never the call: a DX station without a tag
         // counts for none.
         if (!counted && mayCountForContinent(call, line))

@@ -12,9 +12,9 @@ namespace {
 
 // The parts of a date written year first. A date written month first, after a month end, is cut at
 // the same columns: the result is no date, and the programs that read these files expect that.
-constexpr Column year{qso::date.first, 4};
-constexpr Column month{qso::date.first + 5, 2};
-constexpr Column day{qso::date.first + 8, 2};
+constexpr Column yearOfDate{qso::date.first, 4};
+constexpr Column monthOfDate{qso::date.first + 5, 2};
+constexpr Column dayOfDate{qso::date.first + 8, 2};
 constexpr Column continent{qso::marker.first + 4, 2}; // the region letters of a K3Y tag
 constexpr std::size_t typicalRecord = 256;            // bytes
 
@@ -25,8 +25,8 @@ public:
         appendAdifItem(bytes, "<FREQ:", m_mhz);
         appendAdifItem(bytes, "<BAND:", m_band);
         bytes.append("<MODE:2>").append(qso::mode.of(contact));
-        bytes.append("<QSO_DATE:8>").append(year.of(contact));
-        bytes.append(month.of(contact)).append(day.of(contact));
+        bytes.append("<QSO_DATE:8>").append(yearOfDate.of(contact));
+        bytes.append(monthOfDate.of(contact)).append(dayOfDate.of(contact));
         bytes.append("<TIME_ON:4>").append(qso::time.of(contact));
         bytes.append("<RST_SENT:3>").append(qso::rstSent.of(contact));
         appendAdifItem(bytes, "<CALL:", trim(qso::hisCall.of(contact)));

@@ -16,7 +16,7 @@ namespace {
 constexpr int fewestTyped = 2;
 constexpr std::size_t mostMembers = 12;
 constexpr std::size_t shortestEntry = 6; // "K1 20" and a blank
-constexpr int between = 2;               // blanks
+constexpr int entryGap = 2;              // blanks
 
 // Blanks at the end do not count: a line may have lost them in an editor.
 bool sameField(Column column, std::string_view line, std::string_view value) {
@@ -118,9 +118,9 @@ std::vector<WorkedCall> workedBefore(const Contacts& contacts, std::string_view 
             entry->text += band;
         entry->dupe = entry->dupe || qso::bandTag.of(line) == bandTag;
     }
-    int width = -between;
+    int width = -entryGap;
     for (std::size_t i = 0; i < result.size(); ++i) {
-        width += between + length(result[i].text);
+        width += entryGap + length(result[i].text);
         if (width > columns) {
             result.resize(i);
             result.push_back({"", "...", false});

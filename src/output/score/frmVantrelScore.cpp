@@ -47,7 +47,7 @@ QFormLayout* frmVantrelScore::figures() {
     FormBuilder build(this);
     auto* form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignRight);
-    const auto add = [&](QLabel* caption, const char* name, Figure figure) {
+    const auto add = [&](QLabel* caption, const char* name, Score::Figure Score::*figure) {
         QLineEdit* box = build.output(name);
         setColumns(box, figureColumns); // close behind its caption
         FormBuilder::tie(caption, box);
@@ -62,7 +62,7 @@ QFormLayout* frmVantrelScore::figures() {
     add(build.caption("Tribunes:"), "Text4", &Score::tribunes);
     add(build.caption("Senators:"), "Text9", &Score::senators);
     add(build.caption("Bonus Station QSOs:"), "Text8", &Score::bonusStationQsos);
-    add(m_contestFigureCaption, "Text5", contestFigure);
+    add(m_contestFigureCaption, "Text5", &Score::contestFigure);
     add(build.caption("Total Bonus Points:"), "Text6", &Score::bonusPoints);
     return form;
 }
@@ -109,9 +109,7 @@ void frmVantrelScore::showLabels() {
 
 void frmVantrelScore::showScore() {
     for (const auto& [box, figure] : m_figures)
-        put(box, figureText(m_score.*(figure != contestFigure ? figure
-                                      : m_score.european      ? &Score::regularMembersWorked
-                                                              : &Score::k9skcQsos)));
+        put(box, figureText(m_score.*figure));
     put(m_total, figureText(m_score.total));
     const std::string sum = totalText(m_score);
     announce(m_sum, sum, "TOTAL SCORE " + figureText(m_score.total) + ": " + sum);

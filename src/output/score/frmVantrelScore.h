@@ -27,10 +27,6 @@ protected:
     void load() override;
 
 private:
-    using Figure = Score::Figure Score::*;
-    // K9SKC QSOs, or regular members worked: which it is depends on the contest.
-    static constexpr Figure contestFigure = nullptr;
-
     QFormLayout* figures();
     QLayout* total();
 
@@ -43,7 +39,7 @@ private:
     void showPicture();
     std::vector<std::string> report() const;
 
-    std::vector<std::pair<QLineEdit*, Figure>> m_figures;
+    std::vector<std::pair<QLineEdit*, Score::Figure Score::*>> m_figures;
     QLineEdit* m_total;
     AlertLabel* m_sum; // what the total is the sum of
     QLabel* m_copied;

@@ -88,16 +88,13 @@ bool DistinctValues::add(std::string_view value) {
     const auto place = std::ranges::lower_bound(m_values, value);
     if (place != m_values.end() && *place == value)
         return false;
-    if (m_values.size() <= distinctValuesCapacity)
+    if (m_values.size() <= static_cast<std::size_t>(distinctValuesCapacity))
         m_values.insert(place, value);
     return true;
 }
 
 Integer16 DistinctValues::count(const char* list) const {
-    if (m_values.size() > distinctValuesCapacity)
-        throw RuntimeError(ErrorCode::subscriptOutOfRange,
-                           "the list of " + std::string(list) + " holds at most " +
-                               std::to_string(distinctValuesCapacity) + " entries");
+    requireCapacity("the list of " + std::string(list), m_values.size(), distinctValuesCapacity);
     return static_cast<long long>(m_values.size());
 }
 
@@ -158,7 +155,7 @@ Score ScoreTally::score() const {
 void ScoreTally::enterSprint(Score& score) const {
     score.multipliers = m_multipliers.count("S/P/Cs");
     enterAwards(score);
-    score.k9skcQsos = m_clubStationQsos;
+    score.contestFigure = m_clubStationQsos;
     score.bonusStationQsos = m_bonusStationQsos;
     enterTotal(score, clubStationPoints * m_clubStationQsos);
 }
@@ -169,7 +166,7 @@ void ScoreTally::enterEuropeanSprint(Score& score) const {
     score.bonusStationQsos = m_bonusStationQsos;
     score.multipliers = m_multipliers.count("DXCC countries");
     // What is shown as regular members worked: Senators are not taken off.
-    score.regularMembersWorked = m_qsos - *score.centurions - *score.tribunes - m_noMembers;
+    score.contestFigure = m_qsos - *score.centurions - *score.tribunes - m_noMembers;
     enterTotal(score, score.membersPoints->value());
 }
 

@@ -15,22 +15,23 @@ namespace vantrel {
 struct OperatingSettings;
 
 // How many different values each list of the score holds at most.
-inline constexpr std::size_t distinctValuesCapacity = 400;
+inline constexpr int distinctValuesCapacity = 400;
 
 struct Score {
     // Empty when the computation stopped before it.
     using Figure = std::optional<Integer16>;
 
-    bool european = false;       // by the rules of the European sprint
-    Figure qsos;                 // without duplicates
-    Figure multipliers;          // S/P/Cs; DXCC countries in the European sprint
-    Figure centurions;           // different numbers worked
-    Figure tribunes;             // likewise
-    Figure senators;             // likewise
-    Figure bonusStationQsos;     // without duplicates
-    Figure k9skcQsos;            // without duplicates; not in the European sprint
-    Figure regularMembersWorked; // European sprint only; below 0 when duplicates abound
-    Figure membersPoints;        // European sprint only: a point for each regular member
+    bool european = false;   // by the rules of the European sprint
+    Figure qsos;             // without duplicates
+    Figure multipliers;      // S/P/Cs; DXCC countries in the European sprint
+    Figure centurions;       // different numbers worked
+    Figure tribunes;         // likewise
+    Figure senators;         // likewise
+    Figure bonusStationQsos; // without duplicates
+    // K9SKC QSOs without duplicates; in the European sprint regular members worked, which is below
+    // 0 when duplicates abound.
+    Figure contestFigure;
+    Figure membersPoints; // European sprint only: a point for each regular member
     Figure bonusPoints;
     Figure total;
 

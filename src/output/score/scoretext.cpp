@@ -3,42 +3,29 @@
 
 #include "log/qsoline.h"
 
-#include <array>
+#include <algorithm>
 
 namespace vantrel {
 
 namespace {
 
-struct ReportLine {
-    std::string_view label;
-    Score::Figure Score::*figure;
-};
-using ReportLines = std::array<ReportLine, 9>;
-
+// The labels of a sprint and of the European one.
 // "Tribumes": the manager who reads printed reports knows them by that spelling.
-constexpr ReportLines sprintLines{{
-    {"       Number of QSOs: ", &Score::qsos},
-    {"     Number of S/P/Cs: ", &Score::multipliers},
-    {" Number of Centurions: ", &Score::centurions},
-    {"   Number of Tribumes: ", &Score::tribunes},
-    {"   Number of Senators: ", &Score::senators},
-    {"Number Bonus Stn QSOs: ", &Score::bonusStationQsos},
-    {" Number of K9SKC QSOs: ", &Score::k9skcQsos},
-    {"   Total Bonus Points: ", &Score::bonusPoints},
-    {"         TOTAL SCORE: ", &Score::total},
-}};
-
-constexpr ReportLines europeanLines{{
-    {"            Number of QSOs: ", &Score::qsos},
-    {"  Number of DXCC Countries: ", &Score::multipliers},
-    {"      Number of Centurions: ", &Score::centurions},
-    {"        Number of Tribumes: ", &Score::tribunes},
-    {"        Number of Senators: ", &Score::senators},
-    {"  Number of Bonus Stn QSOs: ", &Score::bonusStationQsos},
-    {"    Regular Members Worked: ", &Score::regularMembersWorked},
-    {"        Total Bonus Points: ", &Score::bonusPoints},
-    {"               TOTAL SCORE: ", &Score::total},
-}};
+constexpr struct {
+    std::string_view sprint;
+    std::string_view european;
+    Score::Figure Score::*figure;
+} reportLines[] = {
+    {"       Number of QSOs: ", "            Number of QSOs: ", &Score::qsos},
+    {"     Number of S/P/Cs: ", "  Number of DXCC Countries: ", &Score::multipliers},
+    {" Number of Centurions: ", "      Number of Centurions: ", &Score::centurions},
+    {"   Number of Tribumes: ", "        Number of Tribumes: ", &Score::tribunes},
+    {"   Number of Senators: ", "        Number of Senators: ", &Score::senators},
+    {"Number Bonus Stn QSOs: ", "  Number of Bonus Stn QSOs: ", &Score::bonusStationQsos},
+    {" Number of K9SKC QSOs: ", "    Regular Members Worked: ", &Score::contestFigure},
+    {"   Total Bonus Points: ", "        Total Bonus Points: ", &Score::bonusPoints},
+    {"         TOTAL SCORE: ", "               TOTAL SCORE: ", &Score::total},
+};
 
 constexpr std::size_t paperColumns = 72; // of 12 points, on the narrower of the two papers
 
@@ -47,28 +34,27 @@ struct Gain {
     const char* brief;
     const char* word;
 };
-
-using Gains = std::array<Gain, 6>;
-constexpr Gains sprintGains{{{&Score::multipliers, "NEW S/P/C", ""},
-                             {&Score::centurions, "+5", " CENTURION"},
-                             {&Score::tribunes, "+10", " TRIBUNE"},
-                             {&Score::senators, "+15", " SENATOR"},
-                             {&Score::bonusStationQsos, "+25", " BONUS STATION"},
-                             {&Score::k9skcQsos, "+25", " K9SKC"}}};
-constexpr Gains europeanGains{{{&Score::multipliers, "NEW COUNTRY", ""},
-                               {&Score::centurions, "+5", " CENTURION"},
+constexpr Gain awardGains[] = {{&Score::centurions, "+5", " CENTURION"},
                                {&Score::tribunes, "+10", " TRIBUNE"},
                                {&Score::senators, "+15", " SENATOR"},
-                               {&Score::bonusStationQsos, "+25", " BONUS STATION"},
-                               {&Score::membersPoints, "+1", " MEMBER"}}};
+                               {&Score::bonusStationQsos, "+25", " BONUS STATION"}};
+constexpr Gain sprintGain{&Score::contestFigure, "+25", " K9SKC"};
+constexpr Gain europeanGain{&Score::membersPoints, "+1", " MEMBER"};
 
-std::string grown(const Gains& gains, const Score& before, const Score& after, GainText text) {
+std::string grown(const Score& before, const Score& after, GainText text) {
     const bool full = text == GainText::full;
-    const char* separator = full ? "  " : " ";
     std::string grown;
-    for (const auto& [figure, brief, word] : gains)
-        if (*(after.*figure) > *(before.*figure))
-            grown.append(grown.empty() ? "" : separator).append(brief).append(full ? word : "");
+    const auto add = [&](const Gain& gain) {
+        if (after.*gain.figure > before.*gain.figure)
+            grown.append(grown.empty() ? ""
+                         : full        ? "  "
+                                       : " ")
+                .append(gain.brief)
+                .append(full ? gain.word : "");
+    };
+    add({&Score::multipliers, after.european ? "NEW COUNTRY" : "NEW S/P/C", ""});
+    std::ranges::for_each(awardGains, add);
+    add(after.european ? europeanGain : sprintGain);
     return grown;
 }
 
@@ -98,8 +84,7 @@ std::string scoreGain(const ScoreTally& tally, std::string_view contact, GainTex
     const Score after = more.score();
     if (before.stoppedBy || after.stoppedBy)
         return {};
-    const std::string gain =
-        grown(after.european ? europeanGains : sprintGains, before, after, text);
+    const std::string gain = grown(before, after, text);
     if (!isDupe(contact))
         return gain;
     return gain.empty() ? "DUPE: +0" : "DUPE  " + gain;
@@ -107,8 +92,9 @@ std::string scoreGain(const ScoreTally& tally, std::string_view contact, GainTex
 
 std::vector<std::string> scoreReport(const Score& score, std::string_view logPath) {
     std::vector<std::string> lines{"", "", std::string(logPath), ""};
-    for (const auto& [label, figure] : score.european ? europeanLines : sprintLines)
-        lines.push_back(std::string(label) + figureText(score.*figure));
+    for (const auto& [sprint, european, figure] : reportLines)
+        lines.push_back(std::string(score.european ? european : sprint) +
+                        figureText(score.*figure));
     lines.insert(lines.end() - 1, ""); // above the total
     return lines;
 }

@@ -7,8 +7,6 @@
 
 #include <QProgressBar>
 
-#include <initializer_list>
-
 namespace vantrel {
 
 namespace {
@@ -26,18 +24,19 @@ const MemberImportPage dataImportPage{
     Screen::readData,
     "READS SKCCDATA.TXT AND ADDS NEW MEMBERS",
     "Label6",
-    changedText};
+    [](int changed) { return counted(changed, "NUMBER") + " CHANGED"; }};
 
-const MemberImportPage memberImportPage{"frmVantrelUpdate",
-                                        "Update The Data Files",
-                                        MemberList::members,
-                                        memberListFile,
-                                        "",
-                                        "USE TO FIND THE SKCCLIST.TXT FILE",
-                                        Screen::memberUpdate,
-                                        "READS SKCCLIST.TXT AND ADDS NEW MEMBERS",
-                                        "Label4",
-                                        fixedText};
+const MemberImportPage memberImportPage{
+    "frmVantrelUpdate",
+    "Update The Data Files",
+    MemberList::members,
+    memberListFile,
+    "",
+    "USE TO FIND THE SKCCLIST.TXT FILE",
+    Screen::memberUpdate,
+    "READS SKCCLIST.TXT AND ADDS NEW MEMBERS",
+    "Label4",
+    [](int fixed) { return std::to_string(fixed) + " SKCC#'s Fixed"; }};
 
 frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportPage& edition)
     : Form(context, edition.name, edition.caption), m_page(edition) {
@@ -163,7 +162,7 @@ bool frmMemberImport::showStep(const ImportStep& step) {
         return true;
     put(m_phase, step.phase);
     if (step.line > 0) {
-        put(m_lineNumber, lineNumberText(step.line));
+        put(m_lineNumber, std::to_string(step.line) + blanks(24));
         m_progress->setMaximum(step.lines);
         m_progress->setValue(step.line);
     }
@@ -176,7 +175,7 @@ void frmMemberImport::showResult(const ImportResult& result) {
     put(m_skipped, skippedText(m_page.list, result));
     const std::string added = addedText(m_page.list, result.added);
     announce(m_added, added, added + ". " + textOf(m_skipped));
-    put(m_linesRead, linesReadText(result.lines));
+    put(m_linesRead, counted(result.lines, "LINE") + " READ");
     put(m_changed, m_page.changedText(result.fixed));
 }
 

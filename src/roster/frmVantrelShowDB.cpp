@@ -9,7 +9,9 @@ namespace vantrel {
 
 frmVantrelShowDB::frmVantrelShowDB(const FormContext& context)
     : ViewerForm(context, "frmVantrelShowDB", "Vantrel - Members") {
-    setHeading(memberHeading());
+    setHeading(leftAligned("CALL", member::call.width) +
+               leftAligned("SKCC#", member::number.width) +
+               leftAligned("NAME", member::name.width) + "S/P/C");
 }
 
 void frmVantrelShowDB::take(std::string path, std::vector<std::string> lines) {

@@ -25,8 +25,8 @@ bool isHeader(std::string_view line) {
 }
 
 // Separators count in the first 200 columns; the last field runs to the end of the line.
-void split(std::string_view line, std::vector<std::string_view>& fields) {
-    fields.clear();
+std::vector<std::string_view> split(std::string_view line) {
+    std::vector<std::string_view> fields;
     const std::string_view searched = left(line, searchedColumns);
     std::size_t start = 0;
     for (std::size_t end = searched.find(separator); end != std::string_view::npos;
@@ -35,6 +35,7 @@ void split(std::string_view line, std::vector<std::string_view>& fields) {
         start = end + 1;
     }
     fields.push_back(line.substr(start));
+    return fields;
 }
 
 bool isBlank(std::string_view text) {
@@ -101,24 +102,23 @@ std::string ListLines::next() {
 void MemberListReader::readHeader(std::string_view header) {
     if (m_list == MemberList::data)
         return;
-    split(header, m_fields);
-    m_wrongList = m_wrongList || m_fields.size() > datedMemberFields + 1;
+    m_wrongList = m_wrongList || split(header).size() > datedMemberFields + 1;
     const bool dated = upper(header).find(dateHeading) != std::string::npos;
     m_headersFields = dated ? datedMemberFields : memberFields;
 }
 
-// How many fields the line in m_fields must have; 0 for a line of the other list.
-std::size_t MemberListReader::fieldCount() const {
+// How many fields a line with these must have; 0 for a line of the other list.
+std::size_t MemberListReader::fieldCount(const Fields& fields) const {
     if (m_list == MemberList::data)
         return dataFields;
-    if (m_wrongList || m_fields.size() >= dataFields)
+    if (m_wrongList || fields.size() >= dataFields)
         return 0;
-    if (m_headersFields != 0 || m_fields.size() < datedMemberFields)
+    if (m_headersFields != 0 || fields.size() < datedMemberFields)
         return m_headersFields != 0 ? m_headersFields : memberFields;
     // Without a header: is an empty seventh field the number, or a separator behind six fields? It
     // is a separator when the sixth is a number.
     const bool sixthIsLast =
-        isBlank(m_fields[datedMemberFields - 1]) && isNumber(m_fields[memberFields - 1]);
+        isBlank(fields[datedMemberFields - 1]) && isNumber(fields[memberFields - 1]);
     return sixthIsLast ? memberFields : datedMemberFields;
 }
 
@@ -129,9 +129,8 @@ ListLine MemberListReader::read(std::string_view line) {
     }
     if (isBlank(line))
         return ListLine::other;
-    std::vector<std::string_view>& fields = m_fields; // a member, so that each line uses its memory
-    split(line, fields);
-    const std::size_t count = fieldCount();
+    const Fields fields = split(line);
+    const std::size_t count = fieldCount(fields);
     if (count == 0 || fields.size() < count)
         return ListLine::malformed;
     const auto behind = fields.begin() + static_cast<std::ptrdiff_t>(count);

@@ -57,13 +57,13 @@ public:
     const std::string& record() const { return m_record; }
 
 private:
+    using Fields = std::vector<std::string_view>;
     void readHeader(std::string_view header);
-    std::size_t fieldCount() const;
+    std::size_t fieldCount(const Fields& fields) const;
 
     MemberList m_list;
     std::size_t m_headersFields = 0; // of the members' list; 0: no header yet
     bool m_wrongList = false;
-    std::vector<std::string_view> m_fields; // of the line being read
     std::string m_record;
 };
 

@@ -93,11 +93,6 @@ RosterView viewRosterFile(const Files& files, std::size_t number) {
     return {files.path(name), {items.begin(), items.end()}};
 }
 
-std::string memberHeading() {
-    return leftAligned("CALL", member::call.width) + leftAligned("SKCC#", member::number.width) +
-           leftAligned("NAME", member::name.width) + "S/P/C";
-}
-
 void sortRosterFiles(Files& files) {
     for (const std::string_view file : rosterFiles) {
         const std::string name(file);

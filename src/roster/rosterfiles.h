@@ -67,9 +67,6 @@ struct RosterView {
 // file, 9 for more than 8,000 items.
 RosterView viewRosterFile(const Files& files, std::size_t number);
 
-// The heading over the columns of a viewed file: "CALL", "SKCC#", "NAME", "S/P/C".
-std::string memberHeading();
-
 // Shown when the files are sorted.
 inline constexpr std::string_view rosterSorted =
     "THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s";

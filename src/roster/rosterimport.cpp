@@ -165,27 +165,10 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     return result;
 }
 
-std::string lineNumberText(int line) {
-    constexpr int trailingBlanks = 24;
-    return std::to_string(line) + blanks(trailingBlanks);
-}
-
 std::string addedText(MemberList list, int added) {
     return list == MemberList::data
                ? "DONE. . . . " + std::to_string(added) + " MBRS ADDED. Click EXIT"
                : "DONE..." + std::to_string(added) + " Mbrs Added...Click EXIT";
-}
-
-std::string fixedText(int fixed) {
-    return std::to_string(fixed) + " SKCC#'s Fixed";
-}
-
-std::string changedText(int changed) {
-    return counted(changed, "NUMBER") + " CHANGED";
-}
-
-std::string linesReadText(int lines) {
-    return counted(lines, "LINE") + " READ";
 }
 
 std::string skippedText(MemberList list, const ImportResult& result) {

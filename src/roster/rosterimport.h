@@ -46,13 +46,8 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
 inline constexpr std::string_view memberListMissing = "SKCCLIST.TXT IS NOT FOUND";
 // Shown for an import while another one runs.
 inline constexpr std::string_view otherImportRuns = "AN IMPORT IS RUNNING: WAIT FOR ITS END";
-// The running line number as shown: the digits and 24 blanks.
-std::string lineNumberText(int line);
 // "DONE. . . . 3 MBRS ADDED. Click EXIT"; the page of the members' list has its own wording.
 std::string addedText(MemberList list, int added);
-std::string fixedText(int fixed);     // "3 SKCC#'s Fixed", on the page of the members' list
-std::string changedText(int changed); // "3 NUMBERS CHANGED", on that of the data list
-std::string linesReadText(int lines); // "3 LINES READ"
 // "3 LINES SKIPPED", and that it is the other list; empty for none.
 std::string skippedText(MemberList list, const ImportResult& result);
 // Where a missing list comes from, and where it may be.

@@ -61,33 +61,29 @@ Roster::ReadFile& Roster::current(std::size_t file) {
 }
 
 std::optional<Member> Roster::findByCall(std::string_view callBoxText) {
-    ReadFile& file = current(rosterFileOf(callBoxText));
-    // Built at the first lookup and not when the file is read: a call's first key reads all five.
-    if (file.recordOfCall.empty())
-        for (const std::string_view record : file.records)
-            file.recordOfCall.emplace(callOf(record), record);
-    const auto found = file.recordOfCall.find(callBoxText);
-    if (found == file.recordOfCall.end())
+    const Records& records = current(rosterFileOf(callBoxText)).records;
+    const auto found = std::ranges::find(records, callBoxText, callOf);
+    if (found == records.end())
         return std::nullopt;
-    return memberOf(found->second);
+    return memberOf(*found);
 }
 
-NumberMatch Roster::findByNumber(std::string_view callBoxText) {
+std::optional<std::string> Roster::callOfNumber(std::string_view callBoxText) {
     const std::string typed = upper(trim(callBoxText));
     if (countCapitals(typed) > 1)
-        return {NumberLookup::notANumber};
+        return std::nullopt;
     const std::string key = numberKey(typed);
     if (key.empty()) // every number begins with the empty one
-        return {NumberLookup::nobody};
+        return "";
     for (std::size_t file = 0; file < rosterFiles.size(); ++file) {
         ItemReader reader(current(file).bytes);
         while (!reader.atEnd()) {
             const std::string_view record = reader.next();
             if (midToEnd(record, member::number.first).starts_with(key))
-                return {NumberLookup::found, std::string(member::call.of(record))};
+                return std::string(member::call.of(record));
         }
     }
-    return {NumberLookup::nobody};
+    return "";
 }
 
 bool Roster::hasMembers() {

@@ -9,7 +9,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace vantrel {
@@ -25,13 +24,6 @@ struct Member {
     std::string state;  // 3
 };
 
-enum class NumberLookup { notANumber, nobody, found };
-
-struct NumberMatch {
-    NumberLookup outcome;
-    std::string call{}; // 10, when found
-};
-
 // Lookups in the five roster files as they are on the disk now; a missing file is an empty one.
 // What was read is kept until a file changes: members are looked up at each key. All throw as
 // Files::read.
@@ -44,11 +36,11 @@ public:
     // finds nobody.
     std::optional<Member> findByCall(std::string_view callBoxText);
 
-    // The first member, in the order of the files and of their lines, whose number begins
-    // with the one typed: four digits also find a five-digit number that comes first. Case,
-    // blanks around the text and an award letter C or T do not matter. A text of two letters or
-    // more is notANumber: it is a call.
-    NumberMatch findByNumber(std::string_view callBoxText);
+    // The call (10) of the first member, in the order of the files and of their lines, whose
+    // number begins with the one typed: four digits also find a five-digit number that comes
+    // first. Case, blanks around the text and an award letter C or T do not matter. Empty when
+    // nobody has it; nothing for a text of two letters or more, which is a call and no number.
+    std::optional<std::string> callOfNumber(std::string_view callBoxText);
 
     // Whether any of the files has a record. Reads all of them, so that the next lookup need not.
     bool hasMembers();
@@ -63,8 +55,7 @@ private:
     struct ReadFile {
         std::string stamp; // Files::stamp of what was read; empty: read it again
         std::string bytes;
-        std::vector<std::string_view> records;                               // the first 8,000
-        std::unordered_map<std::string_view, std::string_view> recordOfCall; // the first of each
+        std::vector<std::string_view> records; // the first 8,000
     };
 
     ReadFile& current(std::size_t file);

@@ -276,9 +276,9 @@ void rosterLookup(std::string input) {
     const auto found = roster.findByCall(typed);
     assert((found ? found->call + found->number + found->name + found->state : "nobody") == plain);
 
-    const NumberMatch match = roster.findByNumber(typed);
-    assert((match.outcome == NumberLookup::notANumber) == (countCapitals(upper(typed)) > 1));
-    assert(match.outcome != NumberLookup::found || input.find(match.call) != input.npos);
+    const auto call = roster.callOfNumber(typed);
+    assert(call.has_value() == (countCapitals(upper(typed)) <= 1));
+    assert(!call || input.find(*call) != input.npos);
     const std::string number = normalisedNumber(typed);
     assert(normalisedNumber(number) == number && numberKey(number) == numberKey(typed));
 }

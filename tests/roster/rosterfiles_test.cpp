@@ -152,11 +152,11 @@ TEST_F(RosterFiles, AreLookedUpByCallAndByNumberAsTheyAreNow) {
     EXPECT_FALSE(roster.findByCall("B") || roster.findByCall("K1OVER"));
     std::string found;
     for (const char* typed : {"0123c", " 7t ", "123s", "777", "0123S", "T", "4X1AB"})
-        found += roster.findByNumber(typed).call + "|";
+        found += roster.callOfNumber(typed).value_or("") + "|";
     EXPECT_EQ(found, "K1LONG    |VE3ABC    |VE3SSS    |K1OVER    ||||");
     for (const char* number : {"0124", "0125"}) { // as long, and at the same moment
         folder.write("SKSDB5.TXT", record("VE3ABC", number));
-        EXPECT_EQ(roster.findByNumber(number).call, "VE3ABC    ");
+        EXPECT_EQ(roster.callOfNumber(number), "VE3ABC    ");
     }
 }
 

@@ -40,11 +40,9 @@ bool canLookUp(std::string_view call) {
 
 LookupOutcome lookUp(Entry& entry, Roster& roster) {
     if (isDigit(entry.call.front())) {
-        const NumberMatch match = roster.findByNumber(entry.call);
-        if (match.outcome != NumberLookup::notANumber) {
-            entry.call = match.call;
-            return match.outcome == NumberLookup::found ? LookupOutcome::callOfNumber
-                                                        : LookupOutcome::nobody;
+        if (const auto call = roster.callOfNumber(entry.call)) {
+            entry.call = *call;
+            return call->empty() ? LookupOutcome::nobody : LookupOutcome::callOfNumber;
         }
     }
     const auto member = roster.findByCall(entry.call);

@@ -34,16 +34,14 @@ void sortRegardlessOfCase(std::vector<std::string>& names) {
 
 } // namespace
 
-SystemFolders::SystemFolders(std::string mountTable) : m_mountTable(std::move(mountTable)) {}
-
-std::vector<std::string> SystemFolders::drives() const {
-    std::vector<std::string> drives = mountedVolumes(m_mountTable);
+std::vector<std::string> drives() {
+    std::vector<std::string> drives = mountedVolumes();
     sortRegardlessOfCase(drives);
     drives.erase(std::unique(drives.begin(), drives.end()), drives.end());
     return drives;
 }
 
-FolderContent SystemFolders::content(const std::string& folder) const {
+FolderContent contentOf(const std::string& folder) {
     FolderContent result;
     std::error_code error;
     for (const fs::directory_entry& entry : entriesOf(pathOf(folder), error)) {

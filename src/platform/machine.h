@@ -51,8 +51,8 @@ std::filesystem::path asOnDisk(const std::filesystem::path& path);
 std::size_t longestName(const std::string& folder);
 
 bool isHidden(const std::filesystem::directory_entry& entry);
-// Where volumes are mounted, in no order. mountTable: where the system lists them.
-std::vector<std::string> mountedVolumes(const std::string& mountTable);
+// Where volumes are mounted, in no order.
+std::vector<std::string> mountedVolumes();
 
 // Where this program's file lies, to the last byte: text would not hold a name that is no UTF-8.
 std::string executableFolder();

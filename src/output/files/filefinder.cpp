@@ -47,8 +47,8 @@ std::string folderText(const Files& files, const std::string& folder) {
 
 } // namespace
 
-FileFinder::FileFinder(const Files& files, const Folders& folders, FinderNames names)
-    : m_files(files), m_machine(folders), m_names(names), m_drives(folders.drives()) {
+FileFinder::FileFinder(const Files& files, FinderNames names)
+    : m_files(files), m_names(names), m_drives(vantrel::drives()) {
     leaveOutUnsayable(m_drives);
     moveTo(files.nativePath(""));
 }
@@ -97,7 +97,7 @@ void FileFinder::leaveOutUnsayable(std::vector<std::string>& names) const {
 }
 
 void FileFinder::moveTo(const std::string& folder) {
-    FolderContent content = m_machine.content(folder);
+    FolderContent content = contentOf(folder);
     leaveOutUnsayable(content.folders);
     leaveOutUnsayable(content.files);
     if (pathOf(folder).has_relative_path())

@@ -20,9 +20,8 @@ enum class FinderNames { anywhere, asLog };
 // whose names have other characters cannot be handed back and are not listed.
 class FileFinder {
 public:
-    // Starts in the program folder. Throws as Folders::content.
-    FileFinder(const Files& files, const Folders& folders,
-               FinderNames names = FinderNames::anywhere);
+    // Starts in the program folder. Throws as contentOf.
+    explicit FileFinder(const Files& files, FinderNames names = FinderNames::anywhere);
 
     std::vector<std::string> drives() const;
     // Index of the drive on which the current folder lies.
@@ -31,7 +30,7 @@ public:
     std::vector<std::string> folders() const;
     std::vector<std::string> files() const;
 
-    // Both change the current folder and clear the file chosen. Throw as Folders::content; folder
+    // Both change the current folder and clear the file chosen. Throw as contentOf; folder
     // and choice are then as before.
     void openDrive(std::size_t index);
     void enterFolder(std::size_t index);
@@ -46,7 +45,6 @@ private:
     void leaveOutUnsayable(std::vector<std::string>& names) const;
 
     const Files& m_files;
-    const Folders& m_machine;
     FinderNames m_names;
     std::vector<std::string> m_drives; // this and the rest: real paths and names
     std::string m_folder;

@@ -55,7 +55,7 @@ frmFileFinder::frmFileFinder(const FormContext& context)
 }
 
 void frmFileFinder::load() {
-    m_finder.emplace(platform().files, m_machine,
+    m_finder.emplace(platform().files,
                      m_receiver == Screen::start ? FinderNames::asLog : FinderNames::anywhere);
     m_driveBox->clear();
     for (const std::string& drive : m_finder->drives())

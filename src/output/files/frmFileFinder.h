@@ -39,7 +39,6 @@ private:
     QLabel* m_selection;
 
     Screen m_receiver = Screen::start;
-    SystemFolders m_machine;
     std::optional<FileFinder> m_finder;
     LineListModel* m_folders;
     LineListModel* m_files;

@@ -84,9 +84,9 @@ bool isHidden(const fs::directory_entry& entry) {
     return entry.path().filename().string().starts_with('.');
 }
 
-std::vector<std::string> mountedVolumes(const std::string& mountTable) {
+std::vector<std::string> mountedVolumes() {
     std::vector<std::string> volumes{"/"};
-    if (std::FILE* const table = ::setmntent(mountTable.c_str(), "r")) {
+    if (std::FILE* const table = ::setmntent("/proc/self/mounts", "r")) {
         while (const mntent* const mount = ::getmntent(table)) {
             std::error_code ignored;
             if (isVolume(mount->mnt_fsname) && fs::is_directory(mount->mnt_dir, ignored))

@@ -142,7 +142,7 @@ bool isHidden(const fs::directory_entry& entry) {
             (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0);
 }
 
-std::vector<std::string> mountedVolumes(const std::string&) {
+std::vector<std::string> mountedVolumes() {
     std::vector<std::string> drives;
     const DWORD present = ::GetLogicalDrives();
     for (int i = 0; i < 26; ++i)

@@ -50,11 +50,10 @@ TEST_F(Machine, NamesAreFoundWithoutCaseAndNewOnesStayAsGiven) {
 TEST_F(Machine, ContentIsFoldersAndRegularFilesInOrderHiddenOnesOut) {
     make({"logs/", "Old/", ".git/", "link->logs", "broken->nowhere", "device->/dev/null", "b.CBR",
           "A.CBR", ".secret", "a.CBR", "linked.CBR->A.CBR"});
-    const FolderContent content = SystemFolders().content(folder.string());
+    const FolderContent content = contentOf(folder.string());
     EXPECT_THAT(content.folders, ElementsAre("link", "logs", "Old"));
     EXPECT_THAT(content.files, ElementsAre("A.CBR", "a.CBR", "b.CBR", "linked.CBR"));
-    EXPECT_RUNTIME_ERROR(SystemFolders().content(at("gone")), ErrorCode::pathNotFound,
-                         HasSubstr("/gone"));
+    EXPECT_RUNTIME_ERROR(contentOf(at("gone")), ErrorCode::pathNotFound, HasSubstr("/gone"));
 }
 
 // --- The program's own folder --------------------------------------------------------------

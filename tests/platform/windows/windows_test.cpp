@@ -33,7 +33,7 @@ TEST_F(Windows, NamesAreSpelledAsOnTheDiskAndBeginWithADriveOrAShare) {
         {"\\\\HOST\\logs\\New.cbr", "\\\\HOST\\logs\\New.cbr"}};
     for (const auto& [name, path] : rows)
         EXPECT_EQ(files.nativePath(name), path) << name;
-    EXPECT_THAT(SystemFolders().drives(), ::testing::Contains("C:\\"));
+    EXPECT_THAT(drives(), ::testing::Contains("C:\\"));
 }
 
 TEST_F(Windows, DevicesAndStreamsAreRefusedInWords) {

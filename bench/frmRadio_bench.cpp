@@ -5,7 +5,7 @@
 #include "fakes/qt/ptyradio.h"
 #include "fakes/radios.h"
 #include "platform/files.h"
-#include "platform/qt/posix/qtserialport.h"
+#include "platform/qt/qtdevices.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
 #include "support/ratiotable.h"
@@ -48,7 +48,7 @@ void measure(const test::Radio& radio) {
     SystemCalls calls;
     const Files files(folder.path.string(), calls);
     std::filesystem::create_symlink(simulated.device(), folder.path / "com1");
-    QtSerialPort port(files);
+    const std::unique_ptr<SerialPort> port = makeSerialPort(files);
     const OperatingSettings settings = test::settingsFor(radio);
 
     std::string strays = test::straysOf(radio).front();
@@ -68,7 +68,7 @@ void measure(const test::Radio& radio) {
     for (int i = 0; i < 2 * reads; ++i) {
         inFront = i < reads ? "" : strays;
         clock.start();
-        if (readFrequency(settings, port).outcome != ReadOutcome::read)
+        if (readFrequency(settings, *port).outcome != ReadOutcome::read)
             std::abort();
         const qint64 end = clock.nsecsElapsed();
         (i < reads ? whole : disturbed).push_back(static_cast<double>(end) / 1e6);

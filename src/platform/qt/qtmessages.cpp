@@ -17,17 +17,9 @@ namespace vantrel {
 
 namespace {
 
-QMessageBox::Icon iconOf(BoxIcon icon) {
-    switch (icon) {
-    case BoxIcon::exclamation:
-        return QMessageBox::Warning;
-    case BoxIcon::critical:
-        return QMessageBox::Critical;
-    case BoxIcon::none:
-        break;
-    }
-    return QMessageBox::NoIcon;
-}
+// Of BoxIcon, in its order.
+constexpr QMessageBox::Icon icons[] = {QMessageBox::NoIcon, QMessageBox::Warning,
+                                       QMessageBox::Critical};
 
 // As it is painted: no word breaks but a path, and that behind a "/" alone.
 QString breakable(QString text) {
@@ -78,7 +70,7 @@ int showBox(const Message& message, QMessageBox::StandardButtons buttons,
     const QPointer<QWidget> focus(QApplication::focusWidget());
     QMessageBox box(parent);
     box.setTextFormat(Qt::PlainText);
-    box.setIcon(iconOf(message.icon));
+    box.setIcon(icons[static_cast<std::size_t>(message.icon)]);
     box.setWindowTitle(message.title.empty() ? QStringLiteral("Vantrel") : toQt(message.title));
     box.setText(toQt(message.text));
     box.setInformativeText(toQt(message.informative));

@@ -3,7 +3,7 @@
 // and an end at once when the radio or the program goes.
 #include "fakes/qt/ptyradio.h"
 #include "platform/files.h"
-#include "platform/qt/posix/qtserialport.h"
+#include "platform/qt/qtdevices.h"
 #include "platform/systemcalls.h"
 #include "rig/catlink.h"
 #include "support/testing.h"
@@ -50,7 +50,7 @@ struct RealPort : ::testing::TestWithParam<Radio> {
     void expectRefusal(const std::string& name, const std::string& line, bool notThere,
                        const char* words) {
         try {
-            port.open(name, line, RtsLine::low);
+            port->open(name, line, RtsLine::low);
             ADD_FAILURE() << name << " opened";
         } catch (const SerialPortError& error) {
             EXPECT_EQ(error.notThere(), notThere) << error.what();
@@ -62,7 +62,7 @@ struct RealPort : ::testing::TestWithParam<Radio> {
     TempFolder folder;
     SystemCalls calls;
     Files files{folder.string(), calls};
-    QtSerialPort port{files};
+    std::unique_ptr<SerialPort> port = makeSerialPort(files);
     OperatingSettings settings;
     QElapsedTimer clock;
 };
@@ -89,7 +89,7 @@ TEST_P(EachRadio, IsAskedItsBytesOnItsLineWithItsModemLinesAndReadLate) {
     radio.send(GetParam().reply(7'025'000)); // the late answer to an earlier query
     radio.delay = 150;                       // several polls; the shortest time-out is 360
     keyingLines.clear();
-    EXPECT_EQ(readFrequency(settings, port).frequency, "14.025");
+    EXPECT_EQ(readFrequency(settings, *port).frequency, "14.025");
     EXPECT_EQ(radio.received(), GetParam().query);
     // What could move the lines at closing: hanging up, and the flow control of whoever had
     // the port before.
@@ -106,9 +106,9 @@ TEST_F(RealPort, UnpluggedMidReplyIsToldAtOnceAndNothingHangsAfterwards) {
         QTimer::singleShot(5, &radio, &PtyRadio::vanish);
         return "";
     };
-    const ReadResult result = readFrequency(settings, port);
+    const ReadResult result = readFrequency(settings, *port);
     EXPECT_THAT(result.message.informative, HasSubstr("unplugged"));
-    EXPECT_EQ(readFrequency(settings, port).outcome, ReadOutcome::failed);
+    EXPECT_EQ(readFrequency(settings, *port).outcome, ReadOutcome::failed);
     EXPECT_LT(clock.elapsed(), 3000);
 }
 
@@ -122,13 +122,13 @@ TEST_F(RealPort, PortsThatCannotBeUsedSayWhy) {
     expectRefusal("None", line, true, "None");
     expectRefusal("com1", "None,n,8,1", false, "baud rate");
 
-    QtSerialPort other(files);
-    other.open("com1", line, RtsLine::low);
+    const auto other = makeSerialPort(files);
+    other->open("com1", line, RtsLine::low);
     expectRefusal("com1", line, false, "another program");
-    other.close();
-    port.open("com1", line, RtsLine::low);
+    other->close();
+    port->open("com1", line, RtsLine::low);
     expectRefusal("com1", line, false, "already");
-    port.close();
+    port->close();
     if (::geteuid() != 0) { // the superuser may open every port
         std::filesystem::permissions(radio.device(), std::filesystem::perms::none);
         expectRefusal("com1", line, false, "group \"");
@@ -136,12 +136,12 @@ TEST_F(RealPort, PortsThatCannotBeUsedSayWhy) {
 }
 
 TEST_F(RealPort, ClosingItOrQuittingTheProgramEndsARead) {
-    QTimer::singleShot(50, qApp, [this] { port.close(); });
+    QTimer::singleShot(50, qApp, [this] { port->close(); });
     radio.answer = nullptr;
-    EXPECT_EQ(readFrequency(settings, port).outcome, ReadOutcome::cancelled);
+    EXPECT_EQ(readFrequency(settings, *port).outcome, ReadOutcome::cancelled);
     QTimer::singleShot(50, qApp, [] { QCoreApplication::exit(0); });
     QTimer::singleShot(0, qApp, [this] {
-        EXPECT_EQ(readFrequency(settings, port).outcome, ReadOutcome::cancelled);
+        EXPECT_EQ(readFrequency(settings, *port).outcome, ReadOutcome::cancelled);
     });
     QCoreApplication::exec();
     EXPECT_LT(clock.elapsed(), 1000);

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/posix/qtserialport.h"
-
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
@@ -9,7 +7,9 @@
 #include "platform/qt/qtdevices.h"
 #include "platform/serialnames.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
+#include <QSerialPort>
 #include <QTimer>
 
 #include <fcntl.h>
@@ -104,95 +104,104 @@ void closeQuietly(QSerialPort& port) {
     ::close(device);
 }
 
-} // namespace
-
-QtSerialPort::QtSerialPort(const Files& files) : m_files(files) {
-    QObject::connect(&m_port, &QSerialPort::readyRead, &m_port, [this] {
-        if (m_waiting != nullptr)
-            m_waiting->exit(woken);
-    });
-}
-
-QtSerialPort::~QtSerialPort() {
-    QtSerialPort::close();
-}
-
-std::string QtSerialPort::device(const std::string& name) const {
-    try {
-        return shownText(serialIdentity(m_files, name));
-    } catch (const RuntimeError&) { // two files are called so: opening it says that
-        return {};
+// The machine's serial port. The keying lines are set as soon as it is open, and are low when it is
+// closed: a radio keyed by DTR or RTS must not transmit.
+class QtSerialPort : public SerialPort {
+public:
+    explicit QtSerialPort(const Files& files) : m_files(files) {
+        QObject::connect(&m_port, &QSerialPort::readyRead, &m_port, [this] {
+            if (m_waiting != nullptr)
+                m_waiting->exit(woken);
+        });
     }
-}
 
-void QtSerialPort::open(const std::string& name, const std::string& settings, RtsLine rts) {
-    if (m_port.isOpen())
-        throw SerialPortError(name + " is being read already.");
-    const std::optional<LineSettings> line = lineSettings(settings);
-    if (!line)
-        throw SerialPortError(name + ": no baud rate is chosen on the start page.");
-    const std::string device = realDevice(m_files.programFolder(), name);
-    m_name = name + " (" + shownText(device) + ")";
-    m_port.setPortName(QString::fromStdString(device));
-    setLine(m_port, *line);
-    if (!m_port.open(QIODevice::ReadWrite))
-        throw openError(m_port, device, m_name);
-    // A port without these lines (a pseudo-terminal) refuses, and has nothing to set.
-    m_rtsRaised = rts == RtsLine::high;
-    m_port.setDataTerminalReady(false);
-    m_port.setRequestToSend(m_rtsRaised);
-    m_port.clearError();
-    m_port.clear(QSerialPort::Input); // a late answer to an earlier query is no answer to this
-    m_sinceOpen.start();
-}
+    ~QtSerialPort() override { QtSerialPort::close(); }
 
-void QtSerialPort::close() {
-    if (m_waiting != nullptr)
-        m_waiting->exit(givenUp);
-    if (!m_port.isOpen())
-        return;
-    m_port.clear(QSerialPort::Input); // what is still being sent goes out: it is a query, too
-    if (m_rtsRaised)
-        m_port.setRequestToSend(false);
-    closeQuietly(m_port);
-}
+    std::string device(const std::string& name) const override {
+        try {
+            return shownText(serialIdentity(m_files, name));
+        } catch (const RuntimeError&) { // two files are called so: opening it says that
+            return {};
+        }
+    }
 
-void QtSerialPort::write(std::string_view bytes) {
-    m_port.write(bytes.data(), static_cast<qint64>(bytes.size()));
-    m_port.flush();
-}
+    void open(const std::string& name, const std::string& settings, RtsLine rts) override {
+        if (m_port.isOpen())
+            throw SerialPortError(name + " is being read already.");
+        const std::optional<LineSettings> line = lineSettings(settings);
+        if (!line)
+            throw SerialPortError(name + ": no baud rate is chosen on the start page.");
+        const std::string device = realDevice(m_files.programFolder(), name);
+        m_name = name + " (" + shownText(device) + ")";
+        m_port.setPortName(QString::fromStdString(device));
+        setLine(m_port, *line);
+        if (!m_port.open(QIODevice::ReadWrite))
+            throw openError(m_port, device, m_name);
+        // A port without these lines (a pseudo-terminal) refuses, and has nothing to set.
+        m_rtsRaised = rts == RtsLine::high;
+        m_port.setDataTerminalReady(false);
+        m_port.setRequestToSend(m_rtsRaised);
+        m_port.clearError();
+        m_port.clear(QSerialPort::Input); // a late answer to an earlier query is no answer to this
+        m_sinceOpen.start();
+    }
 
-bool QtSerialPort::wait(int milliseconds) {
-    if (!m_port.isOpen())
-        return false;
-    if (m_port.bytesAvailable() > 0)
-        return true;
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, [&loop] { loop.exit(woken); });
-    m_waiting = &loop;
-    const int result = loop.exec(); // another code: the program is quitting
-    m_waiting = nullptr;
-    return result == woken && m_port.isOpen();
-}
+    void close() override {
+        if (m_waiting != nullptr)
+            m_waiting->exit(givenUp);
+        if (!m_port.isOpen())
+            return;
+        m_port.clear(QSerialPort::Input); // what is still being sent goes out: it is a query, too
+        if (m_rtsRaised)
+            m_port.setRequestToSend(false);
+        closeQuietly(m_port);
+    }
 
-std::string QtSerialPort::readAll() {
-    std::string bytes = m_port.readAll().toStdString();
-    if (bytes.empty())
-        checkThere();
-    return bytes;
-}
+    void write(std::string_view bytes) override {
+        m_port.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        m_port.flush();
+    }
 
-// A device that is pulled out hangs up; reading it then yields nothing and is no error.
-void QtSerialPort::checkThere() const {
-    pollfd state = {m_port.handle(), 0, 0};
-    ::poll(&state, 1, 0);
-    if ((state.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0)
-        throw SerialPortError(m_name + " has been unplugged.");
-}
+    bool wait(int milliseconds) override {
+        if (!m_port.isOpen())
+            return false;
+        if (m_port.bytesAvailable() > 0)
+            return true;
+        QEventLoop loop;
+        QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, [&loop] { loop.exit(woken); });
+        m_waiting = &loop;
+        const int result = loop.exec(); // another code: the program is quitting
+        m_waiting = nullptr;
+        return result == woken && m_port.isOpen();
+    }
 
-int QtSerialPort::elapsed() const {
-    return static_cast<int>(m_sinceOpen.elapsed());
-}
+    std::string readAll() override {
+        std::string bytes = m_port.readAll().toStdString();
+        if (bytes.empty())
+            checkThere();
+        return bytes;
+    }
+
+    int elapsed() const override { return static_cast<int>(m_sinceOpen.elapsed()); }
+
+private:
+    // A device that is pulled out hangs up; reading it then yields nothing and is no error.
+    void checkThere() const {
+        pollfd state = {m_port.handle(), 0, 0};
+        ::poll(&state, 1, 0);
+        if ((state.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0)
+            throw SerialPortError(m_name + " has been unplugged.");
+    }
+
+    const Files& m_files;
+    std::string m_name; // "com1 (/dev/ttyUSB0)", for messages
+    QSerialPort m_port;
+    QElapsedTimer m_sinceOpen;
+    bool m_rtsRaised = false;
+    QEventLoop* m_waiting = nullptr;
+};
+
+} // namespace
 
 std::unique_ptr<SerialPort> makeSerialPort(const Files& files) {
     return std::make_unique<QtSerialPort>(files);

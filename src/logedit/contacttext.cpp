@@ -76,7 +76,10 @@ std::string sentence(DupeStatus before, const DupeNote& now, std::size_t index,
                      const Lines& lines) {
     if (now.status == before)
         return {};
-    const std::string contact = briefly(lines[index]);
+    const std::string& line = lines[index];
+    // "K1ABC 20M 0015"; the kHz where there is no band.
+    const std::string contact = std::string(trim(qso::hisCall.of(line))) + ' ' + bandText(line) +
+                                ' ' + text(qso::time, line);
     if (now.status == DupeStatus::repeats)
         return contact + " IS NOW A DUPLICATE OF " + text(qso::time, lines[now.repeated]) +
                " WITHOUT THE MARK";
@@ -107,11 +110,6 @@ std::string matchText(std::string_view line, bool current) {
 
 std::string matchWords(std::string_view matchText) {
     return std::string(midToEnd(matchText, length(currentMark) + 1));
-}
-
-std::string briefly(std::string_view line) {
-    return std::string(trim(qso::hisCall.of(line))) + ' ' + bandText(line) + ' ' +
-           text(qso::time, line);
 }
 
 std::vector<std::string> duplicateNews(const Lines& before, const Lines& after, bool byNumber) {

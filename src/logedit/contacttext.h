@@ -23,9 +23,6 @@ std::string matchText(std::string_view line, bool current);
 // A line of that list without its mark: screen readers say by themselves which line is current.
 std::string matchWords(std::string_view matchText);
 
-// "K1ABC 20M 0015"; the kHz where there is no band.
-std::string briefly(std::string_view line);
-
 // What a change did to duplicates: a sentence for each contact that
 // - now repeats an earlier one on its band without the mark, and would count twice;
 // - is no longer a duplicate;

@@ -115,13 +115,13 @@ QLayout* frmLogPage::searchRow(const char* caption, QLineEdit* callBox,
     FormBuilder build(this);
     m_callBox = focusFirst(callBox);
     setColumns(m_callBox, qso::hisCall.width);
-    connectHandler(m_callBox, &QLineEdit::returnPressed, [this] { search(); });
+    connectHandler(m_callBox, &QLineEdit::returnPressed, [this] { search(Search::first); });
     QPushButton* again =
-        build.command("Command4", "SEARCH AGAIN", searchAgainTip, [this] { searchAgain(); });
+        build.command("Command4", "SEARCH AGAIN", searchAgainTip, [this] { search(Search::next); });
     again->setShortcut(Qt::Key_F3);
     return row({build.caption(caption, m_callBox), m_callBox,
                 bold(build.command("Command3", "SEARCH", "ENTER A CALL THEN CLICK HERE",
-                                   [this] { search(); })),
+                                   [this] { search(Search::first); })),
                 again, Item::room()});
 }
 
@@ -190,33 +190,20 @@ QLayout* frmLogPage::changeButtons(const char* caption, const char* toolTip, con
 
 // --- Finding ---------------------------------------------------------------------------------
 
-void frmLogPage::search() {
+// What is in the call box, tidied, is the key from now on.
+void frmLogPage::search(Search search) {
     if (!maySearch())
         return;
-    const std::string key = takeKey();
-    showOutcome(m_log.search(key), key, notFoundText(key));
-}
-
-void frmLogPage::searchAgain() {
-    if (!maySearch())
-        return;
-    const std::string key = takeKey();
-    showOutcome(m_log.searchNext(key), key, lastEntryText());
-}
-
-std::string frmLogPage::takeKey() {
     const std::string key = tidied(textOf(m_callBox));
     put(m_callBox, key);
     searchStarts(key);
-    return key;
-}
-
-void frmLogPage::showOutcome(SearchResult result, const std::string& key, std::string_view none) {
+    const bool first = search == Search::first;
+    const SearchResult result = first ? m_log.search(key) : m_log.searchNext(key);
     std::vector<std::string> notes;
     if (result == SearchResult::found) {
         showFound(key);
     } else if (result == SearchResult::notFound) {
-        setStatus(none);
+        setStatus(first ? notFoundText(key) : lastEntryText());
         if (m_log.dropsLines())
             notes.push_back(searchedNote());
     }
@@ -313,10 +300,6 @@ void frmLogPage::setNotes(std::vector<std::string> notes) {
         text += (text.empty() || note.empty() ? "" : "\n") + note;
     announce(m_noteLabel, text);
     setTextColour(m_noteLabel, cautionColour);
-}
-
-std::string frmLogPage::placeText(int place, int count) const {
-    return std::to_string(place) + " OF " + std::to_string(count);
 }
 
 void frmLogPage::refreshControls() {

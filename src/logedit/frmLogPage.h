@@ -16,8 +16,6 @@ namespace vantrel {
 class LineListModel;
 
 class frmLogPage : public Form {
-    Q_OBJECT
-
 public:
     // The contact, 1 to the log's count, that the page opens on; see Screens::openContact.
     void startAt(int contact, OpenAt at);
@@ -53,12 +51,14 @@ protected:
     virtual void searchStarts(const std::string& /*key*/) {}
     virtual void showFound(const std::string& key) = 0; // the contact is log().line()
     virtual std::string notFoundText(const std::string& key) const = 0;
-    virtual std::string_view lastEntryText() const { return "LAST ENTRY"; }
+    virtual std::string lastEntryText() const { return "LAST ENTRY"; }
     virtual void change() = 0; // of the contact found
     // A note that is added to all others.
     virtual std::string standingNote() const { return {}; }
     // "2 OF 3".
-    virtual std::string placeText(int place, int count) const;
+    virtual std::string placeText(int place, int count) const {
+        return std::to_string(place) + " OF " + std::to_string(count);
+    }
 
     // On the screen when this returns.
     void setStatus(std::string_view message);
@@ -85,8 +85,8 @@ private:
         OpenAt at;
     };
 
-    void search();
-    void searchAgain();
+    enum class Search { first, next };
+    void search(Search search);
     void showMatch(const QModelIndex& index);
     void changeFound();
     void undo();
@@ -97,10 +97,6 @@ private:
     bool mayDrop(const Boxes& texts);
     // The same for a search, which takes what is typed in the call box as its key.
     bool maySearch();
-    // The call box's text tidied, put back into it: from now on it is the key.
-    std::string takeKey();
-    // Shows the contact that a search found, else the text `none`.
-    void showOutcome(SearchResult result, const std::string& key, std::string_view none);
     // Shows the contact found and puts its call into the call box: it need not begin with the key.
     void showWithItsCall();
     void showMatches();

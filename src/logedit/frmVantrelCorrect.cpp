@@ -31,14 +31,6 @@ void frmVantrelCorrect::searchStarts(const std::string& key) {
     setStatus("");
 }
 
-void frmVantrelCorrect::showFound(const std::string& key) {
-    showBoxes(correctionBoxes(key, log().line()));
-}
-
-std::string frmVantrelCorrect::notFoundText(const std::string& /*key*/) const {
-    return "THIS CALL IS NOT FOUND";
-}
-
 void frmVantrelCorrect::change() {
     if (!keepsFindable(unchanged(), typed())) {
         messages().show({"A CALL NEEDS AT LEAST THREE CHARACTERS", BoxIcon::exclamation});

@@ -7,15 +7,15 @@
 namespace vantrel {
 
 class frmVantrelCorrect : public frmLogPage {
-    Q_OBJECT
-
 public:
     explicit frmVantrelCorrect(const FormContext& context);
 
 protected:
     void searchStarts(const std::string& key) override;
-    void showFound(const std::string& key) override;
-    std::string notFoundText(const std::string& key) const override;
+    void showFound(const std::string& key) override {
+        showBoxes(correctionBoxes(key, log().line()));
+    }
+    std::string notFoundText(const std::string&) const override { return "THIS CALL IS NOT FOUND"; }
     void change() override;
     // The call as well, of which the call box may hold only the beginning.
     std::string placeText(int place, int count) const override;

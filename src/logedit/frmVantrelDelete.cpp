@@ -34,14 +34,6 @@ void frmVantrelDelete::load() {
     setStatus("ENTER A CALLSIGN ");
 }
 
-void frmVantrelDelete::showFound(const std::string& /*key*/) {
-    setStatus("");
-}
-
-std::string frmVantrelDelete::notFoundText(const std::string& /*key*/) const {
-    return "THIS CALL NOT FOUND ";
-}
-
 void frmVantrelDelete::change() {
     const ChangeResult result = log().removeLine();
     if (publish(result))

@@ -7,16 +7,14 @@
 namespace vantrel {
 
 class frmVantrelDelete : public frmLogPage {
-    Q_OBJECT
-
 public:
     explicit frmVantrelDelete(const FormContext& context);
 
 protected:
     void load() override;
-    void showFound(const std::string& key) override;
-    std::string notFoundText(const std::string& key) const override;
-    std::string_view lastEntryText() const override { return "  LAST ENTRY"; }
+    void showFound(const std::string&) override { setStatus(""); }
+    std::string notFoundText(const std::string&) const override { return "THIS CALL NOT FOUND "; }
+    std::string lastEntryText() const override { return "  LAST ENTRY"; }
     void change() override;
     // Shows the contact found as well.
     void refreshControls() override;

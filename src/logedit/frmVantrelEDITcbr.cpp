@@ -41,10 +41,6 @@ void frmVantrelEDITcbr::showFound(const std::string& /*key*/) {
     setStatus("MAKE CORRECTIONS AS NECESSARY");
 }
 
-std::string frmVantrelEDITcbr::notFoundText(const std::string& key) const {
-    return key + " IS NOT IN THE FILE";
-}
-
 std::string frmVantrelEDITcbr::standingNote() const {
     if (m_saved)
         return {};

@@ -7,14 +7,14 @@
 namespace vantrel {
 
 class frmVantrelEDITcbr : public frmLogPage {
-    Q_OBJECT
-
 public:
     explicit frmVantrelEDITcbr(const FormContext& context);
 
 protected:
     void showFound(const std::string& key) override;
-    std::string notFoundText(const std::string& key) const override;
+    std::string notFoundText(const std::string& key) const override {
+        return key + " IS NOT IN THE FILE";
+    }
     void change() override;
     std::string standingNote() const override;
 

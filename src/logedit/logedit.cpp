@@ -144,14 +144,6 @@ std::string LogEdit::fullCopyName() const {
 
 // --- Changing --------------------------------------------------------------------------------
 
-ChangeResult LogEdit::replaceLine(const std::string& line) {
-    return changeLine(&line);
-}
-
-ChangeResult LogEdit::removeLine() {
-    return changeLine(nullptr);
-}
-
 // nullptr removes the line found.
 ChangeResult LogEdit::changeLine(const std::string* replacement) {
     if (!m_found)

@@ -77,9 +77,9 @@ public:
     // too. Contacts added since the search stay. Nothing is written when nothing is found or
     // changed, or (with a notice) when the log on the disk is no longer what the search read.
     // Throw as Files::rewriteAll and Files::keepCopy; the log is then as it was.
-    ChangeResult replaceLine(const std::string& line);
+    ChangeResult replaceLine(const std::string& line) { return changeLine(&line); }
     // A next search goes on with the line that moved up.
-    ChangeResult removeLine();
+    ChangeResult removeLine() { return changeLine(nullptr); }
 
     bool canUndo() const { return m_change.has_value(); }
     // Exchanges the log and its NAME.BAK: undoes the last change made here, or redoes it. Refused,

@@ -4,6 +4,7 @@
 #include "base/fixedtext.h"
 #include "base/itemreader.h"
 #include "base/runtimeerror.h"
+#include "log/qsoline.h"
 #include "platform/files.h"
 
 #include <array>
@@ -43,12 +44,13 @@ std::string normalised(std::string_view typed) {
 
 OperatingSettings storedSettings(const OperatingSettings& typed) {
     OperatingSettings settings = typed;
-    settings.myCall = padded(normalised(typed.myCall), callWidth, "the call");
+    settings.myCall = padded(normalised(typed.myCall), qso::myCall.width, "the call");
     settings.myCall = trimRight(settings.myCall); // only its length was to be checked
-    settings.myName = padded(normalised(typed.myName), nameWidth, "the name");
-    settings.myState = padded(normalised(typed.myState), stateWidth, "the state");
-    settings.myNumber = padded(normalised(typed.myNumber), numberWidth, "the SKCC number");
-    settings.bonusStation = padded(normalised(typed.bonusStation), callWidth, "the bonus station");
+    settings.myName = padded(normalised(typed.myName), qso::myName.width, "the name");
+    settings.myState = padded(normalised(typed.myState), qso::myState.width, "the state");
+    settings.myNumber = padded(normalised(typed.myNumber), qso::myNumber.width, "the SKCC number");
+    settings.bonusStation =
+        padded(normalised(typed.bonusStation), qso::hisCall.width, "the bonus station");
     settings.contestText = normalised(typed.contestText);
     settings.logFileName = normalised(typed.logFileName);
     return settings;

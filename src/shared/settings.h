@@ -45,12 +45,6 @@ struct OperatingSettings {
     bool hasRadio() const { return rig != noneSetting && comPort != noneSetting; }
 };
 
-// Widths of the fixed fields.
-inline constexpr int callWidth = 10;
-inline constexpr int nameWidth = 10;
-inline constexpr int stateWidth = 3;
-inline constexpr int numberWidth = 6;
-
 // The settings as START stores them, from what its boxes hold: upper-cased, trimmed, padded
 // to their widths; commas, double quotes and control characters become blanks. Throws
 // RuntimeError 5 naming the field when a call, name, state, number or bonus station is longer than

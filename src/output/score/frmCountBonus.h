@@ -7,8 +7,6 @@
 namespace vantrel {
 
 class frmCountBonus : public Form {
-    Q_OBJECT
-
 public:
     explicit frmCountBonus(const FormContext& context);
 

@@ -15,8 +15,6 @@ class ReadTable;
 class StackedBars;
 
 class frmVantrelScore : public Form {
-    Q_OBJECT
-
 public:
     explicit frmVantrelScore(const FormContext& context);
 

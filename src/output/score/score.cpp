@@ -103,7 +103,7 @@ ScoreTally::ScoreTally(const OperatingSettings& settings, const Contacts& contac
     : m_european(settings.contestCode == contestSkse),
       m_bonusStation(trim(settings.bonusStation).empty()
                          ? std::string()
-                         : leftAligned(settings.bonusStation, callWidth)) {
+                         : leftAligned(settings.bonusStation, qso::hisCall.width)) {
     for (const std::string_view contact : contacts)
         add(contact);
 }

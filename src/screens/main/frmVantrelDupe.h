@@ -9,8 +9,6 @@ class QTimer;
 namespace vantrel {
 
 class frmVantrelDupe : public Form {
-    Q_OBJECT
-
 public:
     explicit frmVantrelDupe(const FormContext& context);
 

@@ -17,8 +17,6 @@ class SuggestionList;
 class WorkedList;
 
 class frmVantrelMain : public Form, public MainPage {
-    Q_OBJECT
-
 public:
     explicit frmVantrelMain(const FormContext& context);
 

@@ -97,10 +97,11 @@ QLayout* frmVantrelStart::operatorPart() {
     const auto box = [&](const char* caption, const char* name, int width, const char* toolTip) {
         return build.row(form, caption, required(fitted(build.text(name, width, toolTip))));
     };
-    m_callBox = focusFirst(box("YOUR CALL:", "Text2", callWidth, "ENTER YOUR OWN CALL HERE"));
-    m_nameBox = box("YOUR NAME:", "Text6", nameWidth, "ENTER YOUR OWN NAME");
-    m_stateBox = box("YOUR STATE:", "Text7", stateWidth, "ENTER YOUR OWN STATE");
-    m_numberBox = box("YOUR SKCC#:", "Text8", numberWidth, "ENTER YOUR OWN SKCC#");
+    m_callBox =
+        focusFirst(box("YOUR CALL:", "Text2", qso::myCall.width, "ENTER YOUR OWN CALL HERE"));
+    m_nameBox = box("YOUR NAME:", "Text6", qso::myName.width, "ENTER YOUR OWN NAME");
+    m_stateBox = box("YOUR STATE:", "Text7", qso::myState.width, "ENTER YOUR OWN STATE");
+    m_numberBox = box("YOUR SKCC#:", "Text8", qso::myNumber.width, "ENTER YOUR OWN SKCC#");
     m_offsetBox = build.row(
         form, "DIFF IN COMPUTER TIME TO GMT:",
         filled(build.combo("Combo5", "HOURS TO ADD TO THE COMPUTER'S TIME"), offsetList()));
@@ -137,13 +138,13 @@ QLayout* frmVantrelStart::filePart() {
                  row({m_newFileBox, Item::room(), build.caption("LOG DUPES:", m_dupeModeBox),
                       m_dupeModeBox}));
     form->addRow(m_oldLogLabel = wrapped(build.label("Label14")));
-    m_bonusBox =
-        fitted(build.text("Text10", callWidth, "ENTER THE CALL OF THE BONUS STATION HERE"));
+    m_bonusBox = fitted(
+        build.text("Text10", qso::hisCall.width, "ENTER THE CALL OF THE BONUS STATION HERE"));
     form->addRow(build.caption("BONUS STATION:", m_bonusBox),
                  row({m_bonusBox,
                       {build.command("Command6", "CLEAR  BONUS STATION",
                                      "CLEARS THE BONUS STATION BOX-->LEAVE BLANK IF NO BONUS STN",
-                                     [this] { put(m_bonusBox, blanks(callWidth)); }),
+                                     [this] { put(m_bonusBox, blanks(qso::hisCall.width)); }),
                        1}}));
     return form;
 }

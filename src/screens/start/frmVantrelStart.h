@@ -14,8 +14,6 @@
 namespace vantrel {
 
 class frmVantrelStart : public Form, public StartPage, public PathReceiver {
-    Q_OBJECT
-
 public:
     explicit frmVantrelStart(const FormContext& context);
 

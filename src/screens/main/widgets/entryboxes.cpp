@@ -6,7 +6,6 @@
 #include "forms/colours.h"
 #include "forms/formbuilder.h"
 #include "forms/markedlabel.h"
-#include "shared/settings.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -80,11 +79,12 @@ bool isTyping(const QKeyEvent& key) {
 
 EntryBoxes::EntryBoxes(QWidget* form) {
     FormBuilder build(form);
-    call = build.text("Text2", callWidth, "ENTER HIS CALL OR HIS SKCC#=10 CHARACTERS & DIGITS");
+    call = build.text("Text2", qso::hisCall.width,
+                      "ENTER HIS CALL OR HIS SKCC#=10 CHARACTERS & DIGITS");
     rstSent = reportBox(build, "Combo1");
     rstReceived = reportBox(build, "Combo2");
-    name = build.text("Text3", nameWidth, "10 CHARACTERS");
-    state = build.text("Text4", stateWidth, "3 CHARACTERS");
+    name = build.text("Text3", qso::hisName.width, "10 CHARACTERS");
+    state = build.text("Text4", qso::hisState.width, "3 CHARACTERS");
     number = build.text("Text5", numberBoxWidth, "Enter as: 1234T or 100W or NONE");
     frequency =
         build.text("Text7", frequencyBoxWidth,
@@ -209,9 +209,9 @@ QGridLayout* EntryBoxes::exchangeRow(QWidget* form, QLineEdit* count) const {
         const char* caption;
         QWidget* box;
         int columns;
-    } boxes[] = {{"HIS CALL", call, callWidth}, {"RST SENT", rstSent, 3},
-                 {"RST RCVD", rstReceived, 3},  {"NAME", name, nameWidth},
-                 {"STATE", state, stateWidth},  {"SKCC#", number, numberWidth}};
+    } boxes[] = {{"HIS CALL", call, qso::hisCall.width}, {"RST SENT", rstSent, 3},
+                 {"RST RCVD", rstReceived, 3},           {"NAME", name, qso::hisName.width},
+                 {"STATE", state, qso::hisState.width},  {"SKCC#", number, qso::hisNumber.width}};
     FormBuilder build(form);
     auto* grid = new QGridLayout;
     grid->setVerticalSpacing(1);

@@ -149,16 +149,4 @@ void AppScreens::handBackPath(Screen receiver, const std::string& path) {
     }
 }
 
-StartPage* AppScreens::startPage() {
-    return dynamic_cast<StartPage*>(m_slots[Screen::start].data());
-}
-
-MainPage* AppScreens::mainPage() {
-    return dynamic_cast<MainPage*>(m_slots[Screen::main].data());
-}
-
-void AppScreens::quit() {
-    QCoreApplication::exit(0);
-}
-
 } // namespace vantrel

@@ -5,6 +5,8 @@
 #include "forms/form.h"
 #include "forms/keyguard.h"
 
+#include <QCoreApplication>
+
 #include <map>
 
 namespace vantrel {
@@ -25,9 +27,11 @@ public:
     void openHelp(const std::string& page) override;
     void askAboutDupe(DupeQuestion question) override;
     void handBackPath(Screen receiver, const std::string& path) override;
-    StartPage* startPage() override;
-    MainPage* mainPage() override;
-    void quit() override;
+    StartPage* startPage() override {
+        return dynamic_cast<StartPage*>(m_slots[Screen::start].data());
+    }
+    MainPage* mainPage() override { return dynamic_cast<MainPage*>(m_slots[Screen::main].data()); }
+    void quit() override { QCoreApplication::exit(0); }
 
 private:
     // The screen's form; a new one when there is none.

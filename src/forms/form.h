@@ -67,8 +67,6 @@ protected:
     }
     QWidget* firstFocus() const { return m_firstFocus; }
 
-    // For the page that a contest is run from; all others open as large as what they hold.
-    void openAtPageSize() { resize(800, 600); }
     // A page of its own is tied to no other window.
     virtual bool isOwnPage() const { return false; }
     // The line of the screen below which a page opens over this one, if there is room: that of the
@@ -91,7 +89,12 @@ protected:
     template <typename Sender, typename Signal, typename Handler>
     void connectHandler(Sender* sender, Signal signal, Handler handler) {
         connect(sender, signal, this, [this, handler](const auto&... args) -> void {
-            runHandler([&] { callWith(handler, args...); });
+            runHandler([&] {
+                if constexpr (std::is_invocable_v<const Handler&, decltype(args)...>)
+                    handler(args...);
+                else
+                    handler();
+            });
         });
     }
 
@@ -101,14 +104,6 @@ protected:
     Messages& messages() { return m_context.platform.messages; }
 
 private:
-    template <typename Handler, typename... Args>
-    static void callWith(const Handler& handler, const Args&... args) {
-        if constexpr (std::is_invocable_v<const Handler&, const Args&...>)
-            handler(args...);
-        else
-            handler();
-    }
-
     void placeOver(const Form* page);
     void moveOnto(const QScreen* screen, QRect place);
     void stayAbove(const QWidget* page);

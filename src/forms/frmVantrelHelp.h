@@ -9,8 +9,6 @@ class QPlainTextEdit;
 namespace vantrel {
 
 class frmVantrelHelp : public Form {
-    Q_OBJECT
-
 public:
     explicit frmVantrelHelp(const FormContext& context);
 

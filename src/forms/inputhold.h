@@ -18,8 +18,6 @@ namespace vantrel {
 
 // One per window that has such handlers; each of them runs inside a Scope.
 class InputHold : public QObject {
-    Q_OBJECT
-
 public:
     // giveUp: ends the wait at once (closes the port); called when `window` or the program is
     // closed inside a scope. It is then closed when the handler has ended.

@@ -14,8 +14,6 @@ namespace vantrel {
 // - Alt with a letter that no button of the page has types nothing.
 // - The wheel changes a list only when that has the focus.
 class KeyGuard : public QObject {
-    Q_OBJECT
-
 public:
     KeyGuard();
 

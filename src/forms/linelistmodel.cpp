@@ -13,10 +13,6 @@ void LineListModel::setLines(std::vector<std::string> lines) {
     endResetModel();
 }
 
-int LineListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
-}
-
 QVariant LineListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};

@@ -11,8 +11,6 @@
 namespace vantrel {
 
 class LineListModel : public QAbstractListModel {
-    Q_OBJECT
-
 public:
     using Words = std::string (*)(std::string_view line);
 
@@ -25,7 +23,9 @@ public:
     void setLines(std::vector<std::string> lines);
     const std::vector<std::string>& lines() const { return m_lines; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
+    }
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:

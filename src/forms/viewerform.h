@@ -14,8 +14,6 @@ namespace vantrel {
 class LineListModel;
 
 class ViewerForm : public Form {
-    Q_OBJECT
-
 public:
     ViewerForm(const FormContext& context, const char* name, const char* caption);
 

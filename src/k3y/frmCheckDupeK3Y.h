@@ -10,8 +10,6 @@ class QTimer;
 namespace vantrel {
 
 class frmCheckDupeK3Y : public Form {
-    Q_OBJECT
-
 public:
     explicit frmCheckDupeK3Y(const FormContext& context);
 

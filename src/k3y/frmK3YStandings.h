@@ -38,8 +38,6 @@ inline constexpr StandingsPage regionPage{Screen::standings2, "frmK3YStandings2"
                                           "PREV PAGE"};
 
 class frmK3YStandings : public Form {
-    Q_OBJECT
-
 public:
     frmK3YStandings(const FormContext& context, const StandingsPage& edition);
 

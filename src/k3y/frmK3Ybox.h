@@ -10,8 +10,6 @@
 namespace vantrel {
 
 class frmK3Ybox : public Form {
-    Q_OBJECT
-
 public:
     explicit frmK3Ybox(const FormContext& context);
 

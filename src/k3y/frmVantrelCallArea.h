@@ -8,8 +8,6 @@
 namespace vantrel {
 
 class frmVantrelCallArea : public Form {
-    Q_OBJECT
-
 public:
     explicit frmVantrelCallArea(const FormContext& context);
 

@@ -102,10 +102,6 @@ Standings regionStandings(const Contacts& contacts) {
     return result;
 }
 
-std::string StandingsTotals::text() const {
-    return "AREAS " + areas.text() + ", REGIONS " + regions.text();
-}
-
 StandingsTotals standingsTotals(const Contacts& contacts) {
     return {areaStandings(contacts).total(), regionStandings(contacts).total()};
 }

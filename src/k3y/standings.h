@@ -107,7 +107,8 @@ struct StandingsTotals {
     Integer16 regions;
 
     Integer16 whole() const { return areas + regions; }
-    std::string text() const; // "AREAS 12, REGIONS 3"
+    // "AREAS 12, REGIONS 3"
+    std::string text() const { return "AREAS " + areas.text() + ", REGIONS " + regions.text(); }
 };
 StandingsTotals standingsTotals(const Contacts& contacts);
 

@@ -29,8 +29,6 @@ extern const MemberImportPage dataImportPage;   // frmReadSKCCDATA
 extern const MemberImportPage memberImportPage; // frmVantrelUpdate
 
 class frmMemberImport : public Form, public PathReceiver {
-    Q_OBJECT
-
 public:
     frmMemberImport(const FormContext& context, const MemberImportPage& edition);
 

@@ -7,8 +7,6 @@
 namespace vantrel {
 
 class frmSelectUpdateList : public Form {
-    Q_OBJECT
-
 public:
     explicit frmSelectUpdateList(const FormContext& context);
 

@@ -19,8 +19,4 @@ void frmVantrelShowDB::take(std::string path, std::vector<std::string> lines) {
     m_rosterLines = std::move(lines);
 }
 
-void frmVantrelShowDB::load() {
-    showLines(m_path, m_rosterLines);
-}
-
 } // namespace vantrel

@@ -7,8 +7,6 @@
 namespace vantrel {
 
 class frmVantrelShowDB : public ViewerForm {
-    Q_OBJECT
-
 public:
     explicit frmVantrelShowDB(const FormContext& context);
 
@@ -16,7 +14,7 @@ public:
     void take(std::string path, std::vector<std::string> lines);
 
 protected:
-    void load() override;
+    void load() override { showLines(m_path, m_rosterLines); }
 
 private:
     std::string m_path;

@@ -75,17 +75,9 @@ std::vector<std::string> FileFinder::files() const {
     return shown(m_content.files);
 }
 
-void FileFinder::openDrive(std::size_t index) {
-    moveTo(m_drives.at(index));
-}
-
 void FileFinder::enterFolder(std::size_t index) {
     const std::string& name = m_content.folders.at(index);
     moveTo(name == upwards ? pathOf(m_folder).parent_path().string() : inside(m_folder, name));
-}
-
-void FileFinder::chooseFile(std::size_t index) {
-    m_chosen = m_content.files.at(index);
 }
 
 std::string FileFinder::selection() const {

@@ -32,9 +32,9 @@ public:
 
     // Both change the current folder and clear the file chosen. Throw as contentOf; folder
     // and choice are then as before.
-    void openDrive(std::size_t index);
+    void openDrive(std::size_t index) { moveTo(m_drives.at(index)); }
     void enterFolder(std::size_t index);
-    void chooseFile(std::size_t index);
+    void chooseFile(std::size_t index) { m_chosen = m_content.files.at(index); }
 
     // The current folder and the file chosen in it, if any: what is shown and handed back. The
     // folder ends with the separator and is in upper case where that still leads to it.

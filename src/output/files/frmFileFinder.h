@@ -14,8 +14,6 @@ namespace vantrel {
 class LineListModel;
 
 class frmFileFinder : public Form {
-    Q_OBJECT
-
 public:
     explicit frmFileFinder(const FormContext& context);
 

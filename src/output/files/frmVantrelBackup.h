@@ -7,8 +7,6 @@
 namespace vantrel {
 
 class frmVantrelBackup : public Form, public PathReceiver {
-    Q_OBJECT
-
 public:
     explicit frmVantrelBackup(const FormContext& context);
 

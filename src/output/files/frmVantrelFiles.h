@@ -13,8 +13,6 @@ class QGridLayout;
 namespace vantrel {
 
 class frmVantrelFiles : public Form {
-    Q_OBJECT
-
 public:
     explicit frmVantrelFiles(const FormContext& context);
 

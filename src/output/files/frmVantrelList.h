@@ -7,8 +7,6 @@
 namespace vantrel {
 
 class frmVantrelList : public ViewerForm {
-    Q_OBJECT
-
 public:
     explicit frmVantrelList(const FormContext& context);
 

@@ -13,9 +13,6 @@ namespace vantrel {
 
 namespace {
 
-constexpr std::string_view catError = "ERROR READING FREQUENCY FROM THE CAT PORT";
-constexpr std::string_view catErrorLead = "                       AN ERROR HAS OCCURED: ";
-
 // The hertz of an answer that begins with `letters`, then so many digits, then `end`; nothing
 // when it has another form.
 std::optional<std::int64_t> hertzOfAnswer(std::string_view answer, std::string_view letters,
@@ -50,14 +47,10 @@ Reply frequencyReply(std::string_view bytes, std::string_view letters, int digit
     return {true, hertzOfAnswer(answer, letters, digits, ';')};
 }
 
-// "FA00014025000;"
-Reply elevenDigitReply(std::string_view bytes, std::string_view) {
-    return frequencyReply(bytes, "FA", 11);
-}
-
-// "FA14025000;"
-Reply eightDigitReply(std::string_view bytes, std::string_view) {
-    return frequencyReply(bytes, "FA", 8);
+// "FA00014025000;" with eleven digits, "FA14025000;" with eight.
+template <int digits>
+Reply vfoAReply(std::string_view bytes, std::string_view) {
+    return frequencyReply(bytes, "FA", digits);
 }
 
 // "FT0;FA00014025000;FB00007025000;MD3;": the frequency of the VFO that transmits is logged, A
@@ -85,35 +78,30 @@ std::string askVfoA(const OperatingSettings&) {
     return "FA;";
 }
 
+constexpr RadioFamily kenwoodOrYaesu(std::string_view settings,
+                                     decltype(RadioFamily::parseReply) parseReply) {
+    return {
+        .settings = settings,
+        .takesBaud = true,
+        .rts = RtsLine::high, // they send nothing while RTS is low
+        .query = askVfoA,
+        .polls = 500,
+        .parseReply = parseReply,
+        .message = "ERROR READING FREQUENCY FROM THE CAT PORT",
+        .errorLead = "                       AN ERROR HAS OCCURED: ",
+    };
+}
+
 } // namespace
 
-const RadioFamily kenwood{
-    .settings = ",n,8,1",
-    .takesBaud = true,
-    .rts = RtsLine::high, // it sends nothing while RTS is low
-    .query = askVfoA,
-    .polls = 500,
-    .parseReply = elevenDigitReply,
-    .message = catError,
-    .errorLead = catErrorLead,
-};
-
-const RadioFamily yaesuAscii{
-    .settings = ",n,8,2",
-    .takesBaud = true,
-    .rts = RtsLine::high, // it sends nothing while RTS is low
-    .query = askVfoA,
-    .polls = 500,
-    .parseReply = eightDigitReply,
-    .message = catError,
-    .errorLead = catErrorLead,
-};
+const RadioFamily kenwood = kenwoodOrYaesu(",n,8,1", vfoAReply<11>);
+const RadioFamily yaesuAscii = kenwoodOrYaesu(",n,8,2", vfoAReply<8>);
 
 const RadioFamily elecraftK3{
     .settings = "38400,n,8,2",
     .query = askVfoA,
     .polls = 500 + 10'000, // on a band change it answers up to half a second later
-    .parseReply = elevenDigitReply,
+    .parseReply = vfoAReply<11>,
     .message = " Com Port Not Read ",
 };
 

@@ -22,50 +22,36 @@ constexpr double smallestFontSize = 8; // a contact line's 107 columns just fit 
 constexpr double fontStep = 0.25;
 constexpr double marginInches = 0.5;
 
-QFont printFont(double pointSize) {
+struct PageLayout {
+    std::size_t columns;
+    double lineHeight;
+    double ascent;
+};
+
+// Sets the font and says what a page takes in it.
+PageLayout layoutWith(double pointSize, QPainter& painter) {
     QFont font(QStringLiteral("Courier New"));
     font.setStyleHint(QFont::Monospace);
     font.setPointSizeF(pointSize);
-    return font;
+    painter.setFont(font);
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    const double columnWidth = metrics.horizontalAdvance(QLatin1Char('0'));
+    return {static_cast<std::size_t>(painter.viewport().width() / columnWidth),
+            metrics.lineSpacing(), metrics.ascent()};
 }
 
-// What a page takes: the largest font in which the longest line fits, else the smallest one
-// and as many columns as fit.
-class PageLayout {
-public:
-    PageLayout(const std::vector<std::string>& lines, QPainter& painter)
-        : m_page(painter.viewport()) {
-        std::size_t longest = 0;
-        for (const std::string& line : lines)
-            longest = std::max(longest, line.size());
-        double size = fontSize;
-        setFont(painter, size);
-        while (m_columns < longest && size > smallestFontSize) {
-            size -= fontStep;
-            setFont(painter, size);
-        }
-    }
-
-    std::size_t columns() const { return m_columns; }
-    double lineHeight() const { return m_lineHeight; }
-    double ascent() const { return m_ascent; }
-    bool fitsBelow(double y) const { return y + m_lineHeight <= m_page.height(); }
-
-private:
-    void setFont(QPainter& painter, double size) {
-        painter.setFont(printFont(size));
-        const QFontMetricsF metrics(painter.font(), painter.device());
-        const double columnWidth = metrics.horizontalAdvance(QLatin1Char('0'));
-        m_columns = static_cast<std::size_t>(m_page.width() / columnWidth);
-        m_ascent = metrics.ascent();
-        m_lineHeight = metrics.lineSpacing();
-    }
-
-    QRect m_page;
-    std::size_t m_columns = 0;
-    double m_lineHeight = 0;
-    double m_ascent = 0;
-};
+// The largest font in which the longest line fits, else the smallest one and as many columns as
+// fit.
+PageLayout layoutFor(const std::vector<std::string>& lines, QPainter& painter) {
+    std::size_t longest = 0;
+    for (const std::string& line : lines)
+        longest = std::max(longest, line.size());
+    double size = fontSize;
+    PageLayout layout = layoutWith(size, painter);
+    while (layout.columns < longest && size > smallestFontSize)
+        layout = layoutWith(size -= fontStep, painter);
+    return layout;
+}
 
 // Draws the lines on as many pages as they need; a line wider than the page goes on in the
 // next. False when the device cannot be painted on.
@@ -73,21 +59,21 @@ bool paintLines(const std::vector<std::string>& lines, QPagedPaintDevice& device
     QPainter painter;
     if (!painter.begin(&device))
         return false;
-    const PageLayout layout(lines, painter);
+    const PageLayout layout = layoutFor(lines, painter);
     double y = 0;
     const auto paint = [&](std::string_view piece) {
-        if (!layout.fitsBelow(y)) {
+        if (y + layout.lineHeight > painter.viewport().height()) {
             device.newPage();
             y = 0;
         }
-        painter.drawText(QPointF(0, y + layout.ascent()), toQt(piece));
-        y += layout.lineHeight();
+        painter.drawText(QPointF(0, y + layout.ascent), toQt(piece));
+        y += layout.lineHeight;
     };
     for (const std::string& line : lines) {
         std::string_view rest = line;
-        while (rest.size() > layout.columns()) {
-            paint(rest.substr(0, layout.columns()));
-            rest.remove_prefix(layout.columns());
+        while (rest.size() > layout.columns) {
+            paint(rest.substr(0, layout.columns));
+            rest.remove_prefix(layout.columns);
         }
         paint(rest);
     }

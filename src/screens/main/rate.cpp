@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/rate.h"
 
-#include "log/qsoline.h"
-
 #include <algorithm>
 #include <numeric>
 
@@ -18,17 +16,9 @@ constexpr int barMinutes = 5;
 std::vector<UtcMinute> contactMinutes(const Contacts& contacts) {
     std::vector<UtcMinute> moments;
     moments.reserve(contacts.size());
-    std::string_view date;
-    std::optional<std::chrono::year_month_day> day;
-    for (const std::string_view contact : contacts) {
-        if (qso::date.of(contact) != date) { // mostly it is that of the contact before
-            date = qso::date.of(contact);
-            day = readDate(date);
-        }
-        const auto time = readTime(qso::time.of(contact));
-        if (day && time)
-            moments.push_back(std::chrono::sys_days(*day) + *time);
-    }
+    for (const std::string_view contact : contacts)
+        if (const auto moment = contactMinute(contact))
+            moments.push_back(*moment);
     return moments;
 }
 

@@ -38,11 +38,8 @@ public:
         return QAccessible::queryAccessibleInterface(readingOrder(widget()).value(index));
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
-        const QList<QWidget*> order = readingOrder(widget());
-        for (qsizetype i = 0; i < order.size(); ++i)
-            if (order[i] == child->object())
-                return static_cast<int>(i);
-        return -1;
+        auto* const control = qobject_cast<QWidget*>(child->object());
+        return static_cast<int>(readingOrder(widget()).indexOf(control));
     }
 };
 

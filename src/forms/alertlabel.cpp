@@ -13,6 +13,7 @@ namespace vantrel {
 // shown. So the alert holds a hidden notification, and a timer shows that.
 AlertLabel::AlertLabel(QWidget* parent)
     : QLabel(parent), m_notification(new QLabel(this)), m_timer(new QTimer(this)) {
+    setTextFormat(Qt::PlainText);
     setRole(this, QAccessible::AlertMessage);
     setRole(m_notification, QAccessible::Notification);
     m_notification->setFixedSize(0, 0);

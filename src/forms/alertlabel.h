@@ -17,17 +17,11 @@ public:
     // Shows the text. When the present event is over a screen reader speaks the words (nothing
     // when they are empty); of several announcements only the last one.
     void announce(std::string_view text, std::string_view words);
+    void announce(std::string_view text) { announce(text, text); }
 
 private:
     QLabel* m_notification;
     QTimer* m_timer;
 };
-
-inline void announce(AlertLabel* alert, std::string_view text, std::string_view words) {
-    alert->announce(text, words);
-}
-inline void announce(AlertLabel* alert, std::string_view text) {
-    alert->announce(text, text);
-}
 
 } // namespace vantrel

@@ -4,7 +4,6 @@
 
 #include "platform/qt/latin1.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,14 +13,9 @@
 
 namespace vantrel {
 
-inline void put(QLabel* label, std::string_view text) {
-    label->setText(toQt(text));
-}
-inline void put(QLineEdit* box, std::string_view text) {
-    box->setText(toQt(text));
-}
-inline void put(QAbstractButton* button, std::string_view caption) {
-    button->setText(toQt(caption));
+template <typename Control>
+void put(Control* control, std::string_view text) {
+    control->setText(toQt(text));
 }
 
 inline std::string textOf(const QLabel* label) {

@@ -153,18 +153,14 @@ QLabel* FormBuilder::heading(const char* name, const char* text, double enlargem
 }
 
 AlertLabel* FormBuilder::alert(const char* name) {
-    AlertLabel* label = named(new AlertLabel(m_form), name);
-    label->setTextFormat(Qt::PlainText);
-    return label;
+    return named(new AlertLabel(m_form), name);
 }
 
 QLabel* FormBuilder::caption(const char* text, QWidget* buddy) {
-    auto* label = new QLabel(m_form);
-    label->setTextFormat(Qt::PlainText);
-    label->setText(vantrel::text(text));
+    QLabel* caption = label("", text);
     if (buddy != nullptr)
-        tie(label, buddy);
-    return label;
+        tie(caption, buddy);
+    return caption;
 }
 
 void FormBuilder::tie(QLabel* caption, QWidget* box) {

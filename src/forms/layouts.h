@@ -31,7 +31,8 @@ struct Item {
     Qt::Alignment alignment{};
 };
 
-inline void addItems(QBoxLayout* box, const std::vector<Item>& items) {
+template <typename Box>
+Box* withItems(Box* box, const std::vector<Item>& items) {
     for (const Item& item : items) {
         if (item.widget != nullptr)
             box->addWidget(item.widget, item.stretch, item.alignment);
@@ -42,25 +43,20 @@ inline void addItems(QBoxLayout* box, const std::vector<Item>& items) {
         else
             box->addStretch();
     }
+    return box;
 }
 
 inline QHBoxLayout* row(const std::vector<Item>& items) {
-    auto* box = new QHBoxLayout;
-    addItems(box, items);
-    return box;
+    return withItems(new QHBoxLayout, items);
 }
 
 inline QVBoxLayout* column(const std::vector<Item>& items) {
-    auto* box = new QVBoxLayout;
-    addItems(box, items);
-    return box;
+    return withItems(new QVBoxLayout, items);
 }
 
 // The whole of a page or a widget, from the top down.
 inline QVBoxLayout* page(QWidget* widget, const std::vector<Item>& items) {
-    auto* box = new QVBoxLayout(widget);
-    addItems(box, items);
-    return box;
+    return withItems(new QVBoxLayout(widget), items);
 }
 
 } // namespace vantrel

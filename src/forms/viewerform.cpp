@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/viewerform.h"
 
-#include "base/fixedtext.h"
 #include "forms/linelistmodel.h"
 
 #include <QApplication>
@@ -169,7 +168,7 @@ void ViewerForm::showPlace() {
             std::to_string(place - m_found.begin() + 1) + " OF " + std::to_string(m_found.size());
     const bool typing = m_findBox->hasFocus() && !text.empty();
     const std::string words = fromQt(line.data(Qt::AccessibleTextRole).toString());
-    announce(m_foundLabel, text, typing ? text + ". " + words : "");
+    m_foundLabel->announce(text, typing ? text + ". " + words : "");
 }
 
 void ViewerForm::escapePressed() {

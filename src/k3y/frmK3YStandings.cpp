@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmK3YStandings.h"
 
-#include "base/fixedtext.h"
-
 #include <QGridLayout>
 #include <QPalette>
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmK3Ybox.h"
 
-#include "base/fixedtext.h"
-
 #include <QKeyEvent>
 #include <QShortcut>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/standings.h"
 
-#include "base/fixedtext.h"
 #include "log/qsoline.h"
 
 namespace vantrel {
@@ -21,16 +20,8 @@ int rowOf(std::span<const StandingsRow> rows, std::size_t first, std::size_t las
     return 0;
 }
 
-int outlyingRow(std::string_view code) {
-    return rowOf(regionRows, 1, outlyingRows, code);
-}
-
 int continentRow(std::string_view code) {
     return rowOf(regionRows, outlyingRows + 1, regionRows.size(), code);
-}
-
-bool isOutlyingCall(std::string_view call) {
-    return length(call) >= outlyingOfCall.last() && call.starts_with(eventPrefix);
 }
 
 // "/EU" at the end of the call or "K3Y/EU" at the end of the line.
@@ -91,9 +82,11 @@ Standings regionStandings(const Contacts& contacts) {
     for (const std::string_view line : contacts) {
         const std::string_view call = trim(qso::hisCall.of(line));
         const std::string_view khz = qso::frequency.of(line);
-        const bool counted =
-            isOutlyingCall(call) &&
-            result.fill(outlyingRow(outlyingOfCall.of(call)), khz, qso::hisNumber.of(line));
+        const bool isOutlying =
+            length(call) >= outlyingOfCall.last() && call.starts_with(eventPrefix);
+        const int row =
+            isOutlying ? rowOf(regionRows, 1, outlyingRows, outlyingOfCall.of(call)) : 0;
+        const bool counted = result.fill(row, khz, qso::hisNumber.of(line));
         // The closing tag picks the continent, never the call: a DX station without a tag
         // counts for none.
         if (!counted && mayCountForContinent(call, line))

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "log/log.h"
 
-#include "base/fixedtext.h"
 #include "base/itemreader.h"
 #include "platform/files.h"
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "log/logfile.h"
 
-#include "base/fixedtext.h"
 #include "base/itemreader.h"
 #include "base/runtimeerror.h"
 #include "log/qsoline.h"
@@ -17,14 +16,6 @@ namespace {
 constexpr int headerLines = 4;
 constexpr std::string_view contestHeading = " Contest: ";
 constexpr int extensionWidth = 3;
-
-// The log's name without its extension, followed by `ending`.
-std::string beside(std::string_view logFileName, std::string_view ending) {
-    const std::size_t nameLength = lastPart(logFileName).size();
-    const std::size_t extension = lastPart(logFileName).rfind('.');
-    logFileName.remove_suffix(nameLength - std::min(extension, nameLength));
-    return std::string(logFileName) + std::string(ending);
-}
 
 } // namespace
 
@@ -88,16 +79,15 @@ std::string adifFileName(std::string_view logFileName) {
     return std::string(left(logFileName, length(logFileName) - extensionWidth)) + "ADI";
 }
 
+std::string nameBeside(std::string_view logFileName, std::string_view ending) {
+    const std::size_t nameLength = lastPart(logFileName).size();
+    const std::size_t extension = lastPart(logFileName).rfind('.');
+    logFileName.remove_suffix(nameLength - std::min(extension, nameLength));
+    return std::string(logFileName) + std::string(ending);
+}
+
 std::string strictAdifFileName(std::string_view logFileName) {
-    return beside(logFileName, "-STRICT.ADI");
-}
-
-std::string scorePdfName(std::string_view logFileName) {
-    return beside(logFileName, "-SCORE.PDF");
-}
-
-std::string logPdfName(std::string_view logFileName) {
-    return beside(logFileName, "-LOG.PDF");
+    return nameBeside(logFileName, "-STRICT.ADI");
 }
 
 void requireRoomForNames(const Files& files, std::string_view logFileName) {

@@ -50,10 +50,9 @@ std::string_view lastPart(std::string_view fileName);
 // "SKS0512.CBR" gives "SKS0512.ADI": the last three characters are replaced. Throws
 // RuntimeError 5 for a name of less than three.
 std::string adifFileName(std::string_view logFileName);
-// "SKS0512-STRICT.ADI", "SKS0512-SCORE.PDF", "SKS0512-LOG.PDF".
-std::string strictAdifFileName(std::string_view logFileName);
-std::string scorePdfName(std::string_view logFileName);
-std::string logPdfName(std::string_view logFileName);
+// A file beside the log: "SKS0512-LOG.PDF" with the ending "-LOG.PDF".
+std::string nameBeside(std::string_view logFileName, std::string_view ending);
+std::string strictAdifFileName(std::string_view logFileName); // "SKS0512-STRICT.ADI"
 
 // Throws RuntimeError 75 when the log's name is so long that a file beside it could not be named:
 // the operator learns that at START and not when an export or a kept copy fails.

@@ -286,7 +286,7 @@ void frmLogPage::finish(std::string_view message, const ChangeResult& result,
 // --- Showing ---------------------------------------------------------------------------------
 
 void frmLogPage::setStatus(std::string_view message) {
-    announce(m_messageLabel, message);
+    m_messageLabel->announce(message);
     m_messageLabel->repaint();
 }
 
@@ -298,7 +298,7 @@ void frmLogPage::setNotes(std::vector<std::string> notes) {
     std::string text;
     for (const std::string& note : notes)
         text += (text.empty() || note.empty() ? "" : "\n") + note;
-    announce(m_noteLabel, text);
+    m_noteLabel->announce(text);
     setTextColour(m_noteLabel, cautionColour);
 }
 

@@ -174,7 +174,7 @@ bool frmMemberImport::showStep(const ImportStep& step) {
 void frmMemberImport::showResult(const ImportResult& result) {
     put(m_skipped, skippedText(m_page.list, result));
     const std::string added = addedText(m_page.list, result.added);
-    announce(m_added, added, added + ". " + textOf(m_skipped));
+    m_added->announce(added, added + ". " + textOf(m_skipped));
     put(m_linesRead, counted(result.lines, "LINE") + " READ");
     put(m_changed, m_page.changedText(result.fixed));
 }

@@ -18,12 +18,9 @@ constexpr int sortedLinesCapacity = 8000;
 // each other are in this order.
 constexpr Column sortKey{member::call.last(), 10};
 
-bool hasAwardLetter(std::string_view number) {
-    return number.ends_with('C') || number.ends_with('T');
-}
-
 std::string_view withoutAwardLetter(std::string_view number) {
-    return hasAwardLetter(number) ? left(number, length(number) - 1) : number;
+    const bool hasAwardLetter = number.ends_with('C') || number.ends_with('T');
+    return hasAwardLetter ? left(number, length(number) - 1) : number;
 }
 
 // An empty number stays empty: zeros would make it somebody's.

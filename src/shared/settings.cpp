@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shared/settings.h"
 
-#include "base/fixedtext.h"
 #include "base/itemreader.h"
 #include "base/runtimeerror.h"
 #include "log/qsoline.h"

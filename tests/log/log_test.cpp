@@ -10,7 +10,7 @@ using namespace std::string_literals;
 using ::testing::ElementsAreArray;
 
 TEST(OutputFiles, AreNamedAfterTheLogWhateverDotsItsFolderHas) {
-    EXPECT_EQ(scorePdfName("/A.B/LOG"), "/A.B/LOG-SCORE.PDF");
+    EXPECT_EQ(nameBeside("/A.B/LOG", "-SCORE.PDF"), "/A.B/LOG-SCORE.PDF");
     EXPECT_RUNTIME_ERROR(adifFileName("AB"), ErrorCode::invalidCall, HasSubstr("no extension"));
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/filetexts.h"
 
-#include "base/fixedtext.h"
 #include "base/itemreader.h"
 #include "base/runtimeerror.h"
 #include "log/contactdate.h"
@@ -18,10 +17,6 @@ std::string membersText(const Files& files, std::size_t number) {
     if (!files.present(rosterFiles.at(number - 1)))
         return std::string(noSuchFileYet);
     return counted(countMembers(files, number), "MEMBER");
-}
-
-std::string allMembersText(const Files& files) {
-    return counted(countMembers(files), "MEMBER");
 }
 
 std::string writtenText(const Files& files, std::string_view name, std::string_view utcToday) {

@@ -13,10 +13,8 @@ class Files;
 
 // How the files of the file screen's jobs are now, each shown beside its job.
 
-// "145 MEMBERS" of roster file 1 to 5, or that there is none; of all five together. Throw as
-// Files::read.
+// "145 MEMBERS" of roster file 1 to 5, or that there is none. Throws as Files::read.
 std::string membersText(const Files& files, std::size_t number);
-std::string allMembersText(const Files& files);
 // "TODAY 1423 SKS112126.ADI": when the file was written, UTC, and the last part of its name; with
 // the date when that was on another day than `utcToday` (YYYY-MM-DD). Or that there is none.
 std::string writtenText(const Files& files, std::string_view name, std::string_view utcToday);

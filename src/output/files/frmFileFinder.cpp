@@ -46,8 +46,12 @@ frmFileFinder::frmFileFinder(const FormContext& context)
     grid->setRowStretch(4, 1);
     // Chosen, not only changed: the drive that shows already leads back to its top.
     connectHandler(m_driveBox, &QComboBox::activated, [this](int index) { openDrive(index); });
-    connectHandler(folderList, &QListView::activated,
-                   [this](const QModelIndex& index) { openFolder(index); });
+    connectHandler(folderList, &QListView::activated, [this](const QModelIndex& index) {
+        if (!index.isValid())
+            return;
+        m_finder->enterFolder(static_cast<std::size_t>(index.row()));
+        showFolder();
+    });
     FormBuilder::onChoice(fileList, [this](std::size_t row) {
         m_finder->chooseFile(row);
         put(m_selection, m_finder->selection());
@@ -70,13 +74,6 @@ void frmFileFinder::openDrive(int index) {
         showDrive(); // as before, like all else
         throw;
     }
-    showFolder();
-}
-
-void frmFileFinder::openFolder(const QModelIndex& index) {
-    if (!index.isValid())
-        return;
-    m_finder->enterFolder(static_cast<std::size_t>(index.row()));
     showFolder();
 }
 

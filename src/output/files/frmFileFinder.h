@@ -7,8 +7,6 @@
 
 #include <optional>
 
-class QModelIndex;
-
 namespace vantrel {
 
 class LineListModel;
@@ -27,7 +25,6 @@ protected:
 
 private:
     void openDrive(int index);
-    void openFolder(const QModelIndex& index);
     void returnSelection();
 
     void showDrive();

@@ -74,7 +74,7 @@ void frmVantrelBackup::backUp() {
         m_status->clear();
         throw;
     }
-    announce(m_status, backupDone, std::string(backupDone) + ". " + textOf(m_copy));
+    m_status->announce(backupDone, std::string(backupDone) + ". " + textOf(m_copy));
 }
 
 void frmVantrelBackup::altBPressed() {

@@ -65,10 +65,11 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
            [this] { sortMembers(); }},
           {"Option11", "&UPDATE THE DATABASE",
            "UPDATES THE VANTREL DATABASE USING SKCCDATA.TXT OR SKCCLIST.TXT",
-           opens(Screen::updateList), [this] { return allMembersText(platform().files); }}}},
+           opens(Screen::updateList),
+           [this] { return counted(countMembers(platform().files), "MEMBER"); }}}},
         {"LOG",
          {{"Option6", "MAKE AN AD&IF FILE", "WRITES THE LOG AS AN ADIF FILE",
-           [this] { exportLog(); }, adif},
+           [this] { showAdifFile(exportAdif(platform().files, shared().log)); }, adif},
           {"Option14", "ADIF FILE &FOR OTHER LOGGERS",
            "WRITES THE LOG STRICTLY BY ADIF 3.1, BESIDE THE OTHER ADIF FILE",
            [this] { exportLogStrictly(); }, strictAdif},
@@ -106,7 +107,7 @@ void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
     result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     result->setMinimumWidth(fontMetrics().size(0, toQt(noSuchFileYet)).width());
     column->addWidget(result, row, 1);
-    m_results.push_back({result, job.result});
+    m_results.emplace_back(result, job.result);
 }
 
 void frmVantrelFiles::bringToFront() {
@@ -125,11 +126,11 @@ void frmVantrelFiles::run(QRadioButton* option, const std::function<void()>& job
 }
 
 void frmVantrelFiles::showResults() {
-    for (const Result& result : m_results) {
+    for (const auto& [label, text] : m_results) {
         try {
-            put(result.label, result.text());
+            put(label, text());
         } catch (const RuntimeError&) {
-            put(result.label, "CANNOT BE READ"); // the job itself says why
+            put(label, "CANNOT BE READ"); // the job itself says why
         }
     }
 }
@@ -148,21 +149,17 @@ void frmVantrelFiles::sortMembers() {
 
 // --- The log ---------------------------------------------------------------------------------
 
-void frmVantrelFiles::exportLog() {
-    showAdifFile(exportAdif(platform().files, shared().log));
-}
-
 void frmVantrelFiles::exportLogStrictly() {
     const StrictAdifFile file = exportStrictAdif(platform().files, platform().clock,
                                                  shared().settings.gmtOffset, shared().log);
     showAdifFile(file.path);
-    announce(m_adifContacts, contactsWritten(file));
+    m_adifContacts->announce(contactsWritten(file));
     setTextColour(m_adifContacts, file.leftOut == 0 ? nullptr : cautionColour);
 }
 
 // path: empty when no file was made.
 void frmVantrelFiles::showAdifFile(const std::string& path) {
-    announce(m_adifCaption, path.empty() ? std::string_view() : adifCreated);
+    m_adifCaption->announce(path.empty() ? std::string_view() : adifCreated);
     put(m_adifPath, path);
     m_adifPath->setToolTip(m_adifPath->text());
     m_adifContacts->clear();
@@ -176,8 +173,9 @@ std::string frmVantrelFiles::writtenNow(const std::string& name) {
 void frmVantrelFiles::printLog() {
     const std::string& log = shared().log.name();
     Files& files = platform().files;
-    const std::string note = sendToPrinter(platform().printer, files,
-                                           logPrintLines(log, files.read(log)), logPdfName(log));
+    const std::string note =
+        sendToPrinter(platform().printer, files, logPrintLines(log, files.read(log)),
+                      nameBeside(log, "-LOG.PDF"));
     messages().show({std::string(logPrinted), BoxIcon::exclamation, note});
 }
 

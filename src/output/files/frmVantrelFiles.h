@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QGridLayout;
@@ -30,10 +31,6 @@ private:
         std::function<void()> run;
         std::function<std::string()> result = {}; // how its file is now
     };
-    struct Result {
-        QLabel* label;
-        std::function<std::string()> text;
-    };
     struct Group {
         const char* title;
         std::vector<Job> jobs;
@@ -47,13 +44,12 @@ private:
     void showResults();
     void showMembers(std::size_t number);
     void sortMembers();
-    void exportLog();
     void exportLogStrictly();
     void showAdifFile(const std::string& path);
     std::string writtenNow(const std::string& name);
     void printLog();
 
-    std::vector<Result> m_results;
+    std::vector<std::pair<QLabel*, std::function<std::string()>>> m_results;
     AlertLabel* m_adifCaption;
     QLineEdit* m_adifPath;
     AlertLabel* m_adifContacts; // how many were written and left out

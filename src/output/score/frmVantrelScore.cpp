@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/score/frmVantrelScore.h"
 
-#include "base/fixedtext.h"
 #include "forms/readtable.h"
 #include "forms/stackedbars.h"
 #include "log/logfile.h"
@@ -112,7 +111,7 @@ void frmVantrelScore::showScore() {
         put(box, figureText(m_score.*figure));
     put(m_total, figureText(m_score.total));
     const std::string sum = totalText(m_score);
-    announce(m_sum, sum, "TOTAL SCORE " + figureText(m_score.total) + ": " + sum);
+    m_sum->announce(sum, "TOTAL SCORE " + figureText(m_score.total) + ": " + sum);
 }
 
 void frmVantrelScore::showBands() {
@@ -159,7 +158,7 @@ std::vector<std::string> frmVantrelScore::report() const {
 void frmVantrelScore::print() {
     const std::string note =
         sendToPrinter(platform().printer, platform().files, wrappedForPaper(report()),
-                      scorePdfName(shared().log.name()));
+                      nameBeside(shared().log.name(), "-SCORE.PDF"));
     messages().show({std::string(reportPrinted), BoxIcon::exclamation, note});
     firstFocus()->setFocus(); // EXIT
 }

@@ -117,8 +117,5 @@ private:
 inline Score computeScore(const Contacts& contacts, const OperatingSettings& settings) {
     return ScoreTally(settings, contacts).score();
 }
-inline Score computeScore(const Log& log, const OperatingSettings& settings) {
-    return ScoreTally(settings, log).score();
-}
 
 } // namespace vantrel

@@ -37,7 +37,7 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
 
 void frmVantrelDupe::load() {
     m_timer->start();
-    announce(m_label, "DUPE");
+    m_label->announce("DUPE");
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
     if (QWidget* below = opener()) {

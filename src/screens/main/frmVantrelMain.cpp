@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/frmVantrelMain.h"
 
-#include "base/fixedtext.h"
 #include "forms/colours.h"
 #include "forms/markedlabel.h"
 #include "screens/main/frequency.h"

@@ -66,10 +66,6 @@ std::size_t rowOf(std::string_view tag) {
 struct Bands {
     std::string_view call;
     std::array<CallOnBand, rowBands.size()> onBand{};
-
-    void add(std::size_t row, bool dupe) {
-        onBand[row] = std::max(onBand[row], dupe ? CallOnBand::dupe : CallOnBand::worked);
-    }
 };
 
 } // namespace
@@ -174,7 +170,8 @@ BandTable bandTable(const Contacts& contacts, std::string_view typed, std::strin
         several = several || (call != typed && !longer.call.empty() && call != longer.call);
         if (call != typed)
             longer.call = call;
-        (call == typed ? exact : longer).add(row, tag == bandTag);
+        CallOnBand& onBand = (call == typed ? exact : longer).onBand[row];
+        onBand = std::max(onBand, tag == bandTag ? CallOnBand::dupe : CallOnBand::worked);
     }
     const bool isWorked = exact.onBand != decltype(exact.onBand){};
     const Bands shown = isWorked ? exact : several ? Bands() : longer;

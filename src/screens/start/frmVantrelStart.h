@@ -2,7 +2,6 @@
 // The start page: contest, operator, log file, radio; START saves them and opens the log.
 #pragma once
 
-#include "base/fixedtext.h"
 #include "forms/inputhold.h"
 #include "forms/page.h"
 #include "screens/start/startlists.h"

@@ -105,7 +105,8 @@ TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
     folder.write("SKS.CBR", numbered("QSO ", 0, Log::capacity, "\r\n"));
     messages.expect(tooMany);
     EXPECT_EQ(figures(), "|||||||||no picture");
-    EXPECT_EQ(scoreSum(computeScore(module.log, module.settings)), "SEE SCORE"); // the main page's
+    EXPECT_EQ(scoreSum(ScoreTally(module.settings, module.log).score()),
+              "SEE SCORE"); // the main page's
 }
 
 TEST_F(ScorePage, PrintsWhatItShows) {

@@ -172,7 +172,7 @@ void EntryBoxes::showFrequency(const EntryView& view) const {
 void EntryBoxes::showHint(const Hint& shown) const {
     if (textOf(hint) == shown.text)
         return;
-    announce(hint, shown.text, spokenHint(shown));
+    hint->announce(shown.text, spokenHint(shown));
     const ToneColours& tone = toneColours[static_cast<std::size_t>(shown.tone)];
     const bool says = !shown.text.empty();
     setTextColour(hint, tone.text);

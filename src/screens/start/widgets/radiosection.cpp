@@ -77,7 +77,7 @@ void RadioSection::showReading() {
 
 void RadioSection::showRead(const ReadResult& result) {
     if (result.outcome == ReadOutcome::read)
-        announce(m_needsLabel, result.frequency + " MHz");
+        m_needsLabel->announce(result.frequency + " MHz");
     else
         showNeeds();
 }

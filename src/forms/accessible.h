@@ -25,8 +25,8 @@ void setRole(QWidget* control, QAccessible::Role role);
 // to them too.
 void letReaderReach(QWidget* page);
 
-// A choice by the arrow keys in the closed box is announced as typed text, or as the current line
-// of its list: readers follow no other event.
+// Readers do not notice a choice by the arrow keys in a closed box. So it is announced to them: as
+// text typed into the box, or, where one cannot type, as the current line of its list.
 void announceChoices(QComboBox* box);
 
 // Announces the list's current line: Qt does so when another line becomes the current one, but

@@ -67,14 +67,14 @@ protected:
     }
     QWidget* firstFocus() const { return m_firstFocus; }
 
-    // A page of its own is tied to no other window.
+    // True for a page that does not stay above the page that opened it.
     virtual bool isOwnPage() const { return false; }
-    // The line of the screen below which a page opens over this one, if there is room: that of the
-    // page that opened this one, unless the screen says otherwise.
+    // Where a page opened over this one has its upper edge, if there is room below: the least y on
+    // the screen that covers nothing the operator needs. By default as the page below this one.
     virtual int freeTop() const;
 
-    // What takes too long to do before the page shows: runs inside the guard once the page has been
-    // drawn again, in the place of what has not run yet.
+    // Runs the work inside the guard once the page has been painted, for what would take too long
+    // before it shows. Work that has not run yet is replaced.
     void afterPaint(std::function<void()> work);
     // Runs inside the guard, each second while the page shows.
     void eachSecond(std::function<void()> tick);

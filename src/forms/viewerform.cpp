@@ -18,8 +18,8 @@ constexpr int fewestRows = 8;
 constexpr int mostRows = 24;
 constexpr int mostDigits = 14; // "12000 OF 12000"
 
-// Gives every line the width of the longest: to open at once, a list with uniform item sizes asks
-// for the size of one line only.
+// Gives every line the width of the longest. The list opens at once because its items are of one
+// size: it asks for the size of a single line.
 class LineDelegate : public QStyledItemDelegate {
 public:
     LineDelegate(QObject* parent, int columns) : QStyledItemDelegate(parent), m_columns(columns) {}

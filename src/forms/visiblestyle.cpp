@@ -116,7 +116,7 @@ QSize VisibleStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
     return {std::max(contents.width() + 2 * buttonMargin, least), size.height()};
 }
 
-// As large as the letters beside it.
+// The ring of an option is as large as the letters beside it.
 int VisibleStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                               const QWidget* widget) const {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);

@@ -43,8 +43,8 @@ private:
 };
 
 [[noreturn]] void throwSystemError(int error, const std::string& path);
-// What somebody else made in a folder of the operator's, as a start with sudo does, comes with the
-// command that makes it his.
+// The command that makes the file the operator's, for one that belongs to another user, as files
+// do that a start with sudo has made. Empty for his own.
 std::string chownHint(const std::string& path);
 
 // True for any entry of that path, a link that leads nowhere too.

@@ -60,7 +60,7 @@ void requireKnownName(const std::string& folder) {
                            "the folder's name is not UTF-8: rename " + shownText(folder));
 }
 
-// Closed where another program holds it by having it open.
+// The lock file. Not open where another program holds it by the mere opening, as on Windows.
 DiskFile openedLock(SystemCalls& calls, const std::string& path) {
     int file = calls.open(path, OpenFor::locking, DiskFile::newMode);
     if (file < 0 && errno != EWOULDBLOCK && exists(path))

@@ -26,9 +26,8 @@ std::optional<std::int64_t> hertzOfAnswer(std::string_view answer, std::string_v
 }
 
 // The bytes from the first answer on that begins with `letters` and a digit and ends in a
-// semicolon; empty until it has come. What stands before it is passed over: the query echoed by the
-// cable,
-// "?;" of a busy radio, reports nobody asked for, the rest of an earlier answer.
+// semicolon; empty until it has come. What stands before it is passed over: the query echoed by
+// the cable, "?;" of a busy radio, reports nobody asked for, the rest of an earlier answer.
 std::string_view fromAnswer(std::string_view bytes, std::string_view letters) {
     for (auto end = bytes.find(';'); end != std::string_view::npos;
          end = bytes.find(';', end + 1)) {

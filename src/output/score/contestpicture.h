@@ -21,9 +21,9 @@ struct ContestPicture {
     std::vector<PictureBar> bars; // oldest first
 };
 
-// A log that spans less than three hours in steps of ten minutes, also those without contacts; a
-// longer one by the clock hours in which contacts were made, the last 48 of them. Duplicates are
-// left out, like in the score, and lines without a readable date and time.
+// A log that spans less than three hours has a bar for each ten minutes, pauses included. A longer
+// one has a bar for each clock hour with contacts, the last 48 of them. Duplicates are left out, as
+// in the score, and lines without a readable date and time.
 inline constexpr int pictureHours = 48;
 ContestPicture contestPicture(const Contacts& contacts);
 

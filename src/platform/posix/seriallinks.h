@@ -16,10 +16,10 @@ struct SerialRoots {
     std::string devices = "/dev";
 };
 
-// The device behind `port`: the file or link of that name (any case) in
-// the program folder if there is one, otherwise the n-th of the adapters by their lasting name
-// and then of the ports with hardware behind them. "" for none or another name. Throws
-// RuntimeError 75 when two entries of the folder differ from the name by case only.
+// The device behind `port`: the file or link of that name (any case) in the program folder if there
+// is one, otherwise the n-th of a list: the adapters by their lasting names, then the ports with
+// hardware behind them. "" for none, and for a text that is no port. Throws RuntimeError 75 when
+// two entries of the folder differ from the name by case only.
 std::string serialDevice(const std::string& programFolder, std::string_view port,
                          const SerialRoots& roots = {});
 

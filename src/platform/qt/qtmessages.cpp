@@ -21,7 +21,8 @@ namespace {
 constexpr QMessageBox::Icon icons[] = {QMessageBox::NoIcon, QMessageBox::Warning,
                                        QMessageBox::Critical};
 
-// As it is painted: no word breaks but a path, and that behind a "/" alone.
+// The text as it is painted: its lines break at blanks and behind the "/" of a path, not at a
+// hyphen.
 QString breakable(QString text) {
     static const QRegularExpression hyphen(QStringLiteral("-(?=\\S)"));
     return text.replace(hyphen, QStringLiteral("-") + QChar(0x2060)); // no break here

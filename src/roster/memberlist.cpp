@@ -80,23 +80,24 @@ std::string downloadByHand(std::string_view programFolder) {
            " AND TAKE THE FIRST CHOICE THEN (WITH SKCCLIST.TXT THE SECOND).";
 }
 
-ListLines::ListLines(std::string_view bytes)
-    : m_rest(bytes), m_isUtf8(bytes.starts_with(utf8Mark) || isUtf8(bytes)) {
-    if (m_rest.starts_with(utf8Mark))
-        m_rest.remove_prefix(utf8Mark.size());
-}
-
-std::string ListLines::next() {
-    // find_first_of("\r\n") takes four times as long.
-    const auto* const end = std::ranges::find_if(
-        m_rest, [](char character) { return character == '\n' || character == '\r'; });
-    std::string line(m_rest.begin(), end);
-    m_rest.remove_prefix(line.size());
-    m_rest.remove_prefix(m_rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(m_rest.size(), 1));
-    if (m_isUtf8 && !std::ranges::all_of(line, isAscii))
-        line = shownText(line);
-    std::ranges::replace_if(line, isControl, ' ');
-    return line;
+std::vector<std::string> linesOfList(std::string_view bytes, std::size_t most) {
+    const bool isMarked = bytes.starts_with(utf8Mark);
+    const bool convert = isMarked || isUtf8(bytes);
+    bytes.remove_prefix(isMarked ? utf8Mark.size() : 0);
+    std::vector<std::string> lines;
+    while (!bytes.empty() && lines.size() < most) {
+        // find_first_of("\r\n") takes four times as long.
+        const auto* const end = std::ranges::find_if(
+            bytes, [](char character) { return character == '\n' || character == '\r'; });
+        std::string line(bytes.begin(), end);
+        bytes.remove_prefix(line.size());
+        bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : std::min<std::size_t>(bytes.size(), 1));
+        if (convert && !std::ranges::all_of(line, isAscii))
+            line = shownText(line);
+        std::ranges::replace_if(line, isControl, ' ');
+        lines.push_back(std::move(line));
+    }
+    return lines;
 }
 
 void MemberListReader::readHeader(std::string_view header) {

@@ -26,20 +26,11 @@ enum class MemberList { data, members };
 
 enum class ListLine { member, other, malformed };
 
-// A list's lines, ended by CR LF, LF or CR, as text in ISO 8859-1 without control characters
-// (blanks in their place). A list that begins with the UTF-8 mark or is valid UTF-8 throughout is
-// converted; what ISO 8859-1 does not have becomes `?`. The mark is no part of the first line.
-class ListLines {
-public:
-    explicit ListLines(std::string_view bytes); // which outlive this
-
-    bool atEnd() const { return m_rest.empty(); }
-    std::string next();
-
-private:
-    std::string_view m_rest;
-    bool m_isUtf8;
-};
+// A list's first lines, `most` at the most. They end with CR LF, LF or CR, and are handed back as
+// text in ISO 8859-1 without control characters (blanks in their place). A list that begins with
+// the UTF-8 mark or is valid UTF-8 throughout is converted; what ISO 8859-1 does not have becomes
+// `?`. The mark is no part of the first line.
+std::vector<std::string> linesOfList(std::string_view bytes, std::size_t most);
 
 // Makes member records from the lines of one list, given in their order: a header decides how the
 // lines behind it are read.
@@ -47,12 +38,12 @@ class MemberListReader {
 public:
     explicit MemberListReader(MemberList list) : m_list(list) {}
 
-    // What the line (of ListLines) is: a member, whose record() then holds his 33 columns; a header
-    // or blank line; or malformed and not to be imported. A member's line has its fields within
-    // its first 200 columns and nothing but separators behind them, a call, and a number: digits
-    // and letters that begin with a digit. In the members' list a line with as many separators as
-    // the data list has is malformed, and so is every line behind a header of the data list:
-    // importing that list as this one would take every award letter from the roster.
+    // What the line (of linesOfList) is: a member, whose record() then holds his 33 columns; a
+    // header or blank line; or malformed and not to be imported. A member's line has its fields
+    // within its first 200 columns and nothing but separators behind them, a call, and a number:
+    // digits and letters that begin with a digit. In the members' list a line with as many
+    // separators as the data list has is malformed, and so is every line behind a header of the
+    // data list: importing that list as this one would take every award letter from the roster.
     ListLine read(std::string_view line);
     const std::string& record() const { return m_record; }
 

@@ -116,15 +116,6 @@ std::string readList(const Files& files, std::string_view path) {
     }
 }
 
-std::vector<std::string> linesOf(std::string_view bytes, const std::string& path) {
-    std::vector<std::string> lines;
-    for (ListLines reader(bytes); !reader.atEnd();) {
-        lines.push_back(reader.next());
-        requireCapacity("the table of " + path, lines.size(), listCapacity);
-    }
-    return lines;
-}
-
 } // namespace
 
 ImportResult importMembers(Files& files, MemberList list, std::string_view listPath,
@@ -136,7 +127,8 @@ ImportResult importMembers(Files& files, MemberList list, std::string_view listP
     const std::string bytes = readList(files, listPath);
     if (std::min(bytes.find('\r'), bytes.size()) > longFirstLine && !progress({splittingPhase}))
         return result;
-    const std::vector<std::string> lines = linesOf(bytes, files.path(listPath));
+    const std::vector<std::string> lines = linesOfList(bytes, listCapacity + 1);
+    requireCapacity("the table of " + files.path(listPath), lines.size(), listCapacity);
 
     MemberListReader reader(list);
     for (const std::string& line : lines) {

@@ -62,13 +62,24 @@ QLabel* makeCount(FormBuilder& build, int number, const std::string& of) {
 
 } // namespace
 
-std::string areaCellName(int row, int column) {
-    return "Text" + std::to_string((row - 1) * bandCount + column);
-}
-
-std::string regionCellName(int row, int column) {
-    return "Text" + std::to_string(row) + std::to_string(row) + std::to_string(column);
-}
+// Its cells: "Text1" (K3Y/1 on 160M) to "Text90" (K3Y/0 on 10M).
+const StandingsPage areaPage{
+    Screen::standings,
+    "frmK3YStandings",
+    areaRows,
+    areaStandings,
+    [](int row, int column) { return "Text" + std::to_string((row - 1) * bandCount + column); },
+    Screen::standings2,
+    "Next Page"};
+// "Text111" (K3Y/KH on 160M) to "Text999" (K3Y/OC on 10M): the row twice, then the column.
+const StandingsPage regionPage{
+    Screen::standings2,
+    "frmK3YStandings2",
+    regionRows,
+    regionStandings,
+    [](int row, int column) { return "Text" + std::to_string(row * 110 + column); },
+    Screen::standings,
+    "PREV PAGE"};
 
 frmK3YStandings::frmK3YStandings(const FormContext& context, const StandingsPage& edition)
     : Form(context, edition.name, "K3Y Standings"), m_page(edition) {

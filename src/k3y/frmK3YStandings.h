@@ -25,17 +25,8 @@ struct StandingsPage {
     const char* otherCaption;                     // of the button that leads there
 };
 
-// "Text1" (K3Y/1 on 160M) to "Text90" (K3Y/0 on 10M).
-std::string areaCellName(int row, int column);
-// "Text111" (K3Y/KH on 160M) to "Text999" (K3Y/OC on 10M): the row twice, then the column.
-std::string regionCellName(int row, int column);
-
-inline constexpr StandingsPage areaPage{Screen::standings, "frmK3YStandings", areaRows,
-                                        areaStandings,     areaCellName,      Screen::standings2,
-                                        "Next Page"};
-inline constexpr StandingsPage regionPage{Screen::standings2, "frmK3YStandings2", regionRows,
-                                          regionStandings,    regionCellName,     Screen::standings,
-                                          "PREV PAGE"};
+extern const StandingsPage areaPage;
+extern const StandingsPage regionPage;
 
 class frmK3YStandings : public Form {
 public:

@@ -84,30 +84,26 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
 }
 
 QLayout* frmVantrelFiles::jobs(const Group& group) {
+    FormBuilder build(this);
     auto* column = new QGridLayout;
-    for (const Job& job : group.jobs)
-        addOption(job, column);
+    for (int row = 0; const Job& job : group.jobs) {
+        QRadioButton* option = build.jobOption(job.name, job.caption, job.toolTip);
+        connectHandler(option, &QRadioButton::clicked,
+                       [this, option, task = job.run] { run(option, task); });
+        column->addWidget(option, ++row, 0);
+        if (!job.result)
+            continue;
+        QLabel* result = build.label((job.name + std::string("Result")).c_str());
+        setTextColour(result, dimmedColour);
+        // It takes the room that is left, whatever its text: the page keeps its width.
+        result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        result->setMinimumWidth(fontMetrics().size(0, toQt(noSuchFileYet)).width());
+        column->addWidget(result, row, 1);
+        m_results.emplace_back(result, job.result);
+    }
     column->setRowStretch(column->rowCount(), 1);
     column->setColumnStretch(1, 1);
     return column;
-}
-
-void frmVantrelFiles::addOption(const Job& job, QGridLayout* column) {
-    FormBuilder build(this);
-    QRadioButton* option = build.jobOption(job.name, job.caption, job.toolTip);
-    connectHandler(option, &QRadioButton::clicked,
-                   [this, option, task = job.run] { run(option, task); });
-    const int row = column->rowCount();
-    column->addWidget(option, row, 0);
-    if (!job.result)
-        return;
-    QLabel* result = build.label((job.name + std::string("Result")).c_str());
-    setTextColour(result, dimmedColour);
-    // It takes the room that is left, whatever its text: the page keeps its width.
-    result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    result->setMinimumWidth(fontMetrics().size(0, toQt(noSuchFileYet)).width());
-    column->addWidget(result, row, 1);
-    m_results.emplace_back(result, job.result);
 }
 
 void frmVantrelFiles::bringToFront() {

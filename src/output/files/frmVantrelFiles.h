@@ -9,8 +9,6 @@
 #include <utility>
 #include <vector>
 
-class QGridLayout;
-
 namespace vantrel {
 
 class frmVantrelFiles : public Form {
@@ -38,7 +36,6 @@ private:
 
     std::vector<Group> groups();
     QLayout* jobs(const Group& group);
-    void addOption(const Job& job, QGridLayout* column);
 
     void run(QRadioButton* option, const std::function<void()>& job);
     void showResults();

@@ -23,16 +23,9 @@ namespace {
 constexpr std::string_view finishJournal = ".vantrel-finish";
 constexpr std::string_view undoJournal = ".vantrel-undo";
 
-// True as long as this lives.
-class ScopedFlag {
-public:
-    explicit ScopedFlag(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~ScopedFlag() { m_flag = false; }
-    ScopedFlag(const ScopedFlag&) = delete;
-    ScopedFlag& operator=(const ScopedFlag&) = delete;
-
-private:
-    bool& m_flag;
+struct FlagReset {
+    bool& flag;
+    ~FlagReset() { flag = false; }
 };
 
 // fsync of all files in parallel: a slow disk then writes them in one go. In threads, so that the
@@ -62,7 +55,8 @@ void Replacement::replaceAll(const std::vector<FileContent>& contents,
     if (m_running) // it would take the other's files for strays
         throw RuntimeError(ErrorCode::pathFileAccess,
                            contents.front().name + ": other files are being saved; try again");
-    const ScopedFlag running(m_running);
+    m_running = true;
+    const FlagReset reset{m_running};
     recover(); // what an earlier one could not settle would mistake our files for its own
     const ReplacedFiles files = filesOf(contents);
     const std::string journal = journalPath(finishJournal);

@@ -21,18 +21,9 @@ constexpr int shortestPoll = 3; // milliseconds
 constexpr std::int64_t lowestHertz = 1'000;
 constexpr std::int64_t aboveHertz = 100'000'000;
 
-class OpenPort {
-public:
-    OpenPort(SerialPort& port, const std::string& name, const std::string& line, RtsLine rts)
-        : m_port(port) {
-        m_port.open(name, line, rts);
-    }
-    ~OpenPort() { m_port.close(); }
-    OpenPort(const OpenPort&) = delete;
-    OpenPort& operator=(const OpenPort&) = delete;
-
-private:
-    SerialPort& m_port;
+struct PortCloser {
+    SerialPort& port;
+    ~PortCloser() { port.close(); }
 };
 
 // One query and its reply.
@@ -113,8 +104,8 @@ bool awaitReply(CatTransaction& cat) {
 
 // False when the program is being closed.
 bool exchange(CatTransaction& cat) {
-    const OpenPort open(cat.port, cat.settings.comPort, lineOf(cat.family, cat.settings),
-                        cat.family.rts);
+    cat.port.open(cat.settings.comPort, lineOf(cat.family, cat.settings), cat.family.rts);
+    const PortCloser closer{cat.port};
     if (!awaitQuiet(cat))
         return false;
     cat.port.write(cat.query);

@@ -37,20 +37,15 @@ protected:
 
 private:
     void dropPadding() {
-        const QString shown = text();
-        const auto kept = shown.size() - countTrailingBlanks(shown);
-        const bool inTheWay = kept == 0 || shown.size() == maxLength();
-        if (kept == shown.size() || !inTheWay)
+        QString kept = text();
+        while (kept.endsWith(u' '))
+            kept.chop(1);
+        const bool inTheWay = kept.isEmpty() || text().size() == maxLength();
+        if (kept == text() || !inTheWay)
             return;
         const int cursor = cursorPosition();
-        setText(shown.first(kept));
-        setCursorPosition(std::min(cursor, static_cast<int>(kept)));
-    }
-
-    static qsizetype countTrailingBlanks(const QString& shown) {
-        const auto end = std::find_if(shown.crbegin(), shown.crend(),
-                                      [](QChar character) { return character != u' '; });
-        return end - shown.crbegin();
+        setText(kept);
+        setCursorPosition(std::min(cursor, static_cast<int>(kept.size())));
     }
 };
 

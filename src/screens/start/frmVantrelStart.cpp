@@ -85,6 +85,7 @@ QLayout* frmVantrelStart::contestPart() {
     auto* form = new QFormLayout;
     m_contestBox = build.row(form, "CONTEST NAME:",
                              build.text("Text1", 0, "CONTEST NAME CAN BE CHANGED TO YOUR CHOICE"));
+    m_typed.emplace_back(&OperatingSettings::contestText, m_contestBox);
     connectHandler(m_contestBox, &QLineEdit::textChanged, [this] { showLogNote(); });
     items.insert(items.end(), {form, Item::room()});
     return column(items);
@@ -94,14 +95,17 @@ QLayout* frmVantrelStart::operatorPart() {
     FormBuilder build(this);
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    const auto box = [&](const char* caption, const char* name, int width, const char* toolTip) {
-        return build.row(form, caption, required(fitted(build.text(name, width, toolTip))));
+    const auto box = [&](std::string OperatingSettings::*setting, const char* caption,
+                         const char* name, int width, const char* toolTip) {
+        m_typed.emplace_back(
+            setting, build.row(form, caption, required(fitted(build.text(name, width, toolTip)))));
     };
-    m_callBox =
-        focusFirst(box("YOUR CALL:", "Text2", qso::myCall.width, "ENTER YOUR OWN CALL HERE"));
-    m_nameBox = box("YOUR NAME:", "Text6", qso::myName.width, "ENTER YOUR OWN NAME");
-    m_stateBox = box("YOUR STATE:", "Text7", qso::myState.width, "ENTER YOUR OWN STATE");
-    m_numberBox = box("YOUR SKCC#:", "Text8", qso::myNumber.width, "ENTER YOUR OWN SKCC#");
+    using Settings = OperatingSettings;
+    box(&Settings::myCall, "YOUR CALL:", "Text2", qso::myCall.width, "ENTER YOUR OWN CALL HERE");
+    m_callBox = focusFirst(m_typed.back().second);
+    box(&Settings::myName, "YOUR NAME:", "Text6", qso::myName.width, "ENTER YOUR OWN NAME");
+    box(&Settings::myState, "YOUR STATE:", "Text7", qso::myState.width, "ENTER YOUR OWN STATE");
+    box(&Settings::myNumber, "YOUR SKCC#:", "Text8", qso::myNumber.width, "ENTER YOUR OWN SKCC#");
     m_offsetBox = build.row(
         form, "DIFF IN COMPUTER TIME TO GMT:",
         filled(build.combo("Combo5", "HOURS TO ADD TO THE COMPUTER'S TIME"), offsetList()));
@@ -119,6 +123,7 @@ QLayout* frmVantrelStart::filePart() {
         build.text("Text9", 0,
                    "FILE NAME CAN BE CHANGED TO YOUR CHOICE  +  .CBR-->THEN CLICK START A NEW "
                    "FILE -YES-"));
+    m_typed.emplace_back(&OperatingSettings::logFileName, m_fileBox);
     connectHandler(m_fileBox, &QLineEdit::textEdited, [this] { m_oldLogLabel->clear(); });
     connectHandler(m_fileBox, &QLineEdit::textChanged, [this] { showLogNote(); });
     form->addRow(QString(), m_logLabel = build.label("Label15"));
@@ -140,6 +145,7 @@ QLayout* frmVantrelStart::filePart() {
     form->addRow(m_oldLogLabel = wrapped(build.label("Label14")));
     m_bonusBox = fitted(
         build.text("Text10", qso::hisCall.width, "ENTER THE CALL OF THE BONUS STATION HERE"));
+    m_typed.emplace_back(&OperatingSettings::bonusStation, m_bonusBox);
     form->addRow(build.caption("BONUS STATION:", m_bonusBox),
                  row({m_bonusBox,
                       {build.command("Command6", "CLEAR  BONUS STATION",
@@ -170,7 +176,7 @@ void frmVantrelStart::load() {
             chooseValue(box, OperatingSettings{}.*setting);
             unknown.push_back(fromQt(box->accessibleName()) + ' ' + settings.*setting);
         }
-    for (const auto& [setting, box] : typedSettings())
+    for (const auto& [setting, box] : m_typed)
         put(box, trim(settings.*setting));
     m_radio->loaded();
     m_oldLogLabel->clear();
@@ -301,7 +307,9 @@ void frmVantrelStart::testRadio() {
 // --- START -----------------------------------------------------------------------------------
 
 void frmVantrelStart::start() {
-    upperCaseBoxes();
+    for (const auto& [setting, box] : m_typed)
+        if (box != m_bonusBox)
+            put(box, upper(textOf(box)));
     const OperatingSettings settings = storedSettings(pageSettings());
     saveSettings(platform().files, settings);
     const OpenResult probe = tryToOpen(platform().files, settings.logFileName);
@@ -322,19 +330,6 @@ void frmVantrelStart::start() {
     hide();
 }
 
-void frmVantrelStart::upperCaseBoxes() {
-    for (QLineEdit* box : {m_contestBox, m_callBox, m_nameBox, m_stateBox, m_numberBox, m_fileBox})
-        put(box, upper(textOf(box)));
-}
-
-auto frmVantrelStart::typedSettings() const -> std::vector<BoxOfSetting<QLineEdit>> {
-    using Settings = OperatingSettings;
-    return {{&Settings::contestText, m_contestBox}, {&Settings::myCall, m_callBox},
-            {&Settings::myName, m_nameBox},         {&Settings::myState, m_stateBox},
-            {&Settings::myNumber, m_numberBox},     {&Settings::logFileName, m_fileBox},
-            {&Settings::bonusStation, m_bonusBox}};
-}
-
 auto frmVantrelStart::chosenSettings() const -> std::vector<BoxOfSetting<QComboBox>> {
     using Settings = OperatingSettings;
     return {{&Settings::rig, m_radio->rig},      {&Settings::comPort, m_radio->port},
@@ -345,7 +340,7 @@ auto frmVantrelStart::chosenSettings() const -> std::vector<BoxOfSetting<QComboB
 OperatingSettings frmVantrelStart::pageSettings() const {
     OperatingSettings settings;
     settings.contestCode = contestCode();
-    for (const auto& [setting, box] : typedSettings())
+    for (const auto& [setting, box] : m_typed)
         settings.*setting = textOf(box);
     for (const auto& [setting, box] : chosenSettings())
         settings.*setting = chosenValue(box);

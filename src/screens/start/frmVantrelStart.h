@@ -53,19 +53,15 @@ private:
     void testRadio();
     void start();
 
-    std::vector<BoxOfSetting<QLineEdit>> typedSettings() const;
     std::vector<BoxOfSetting<QComboBox>> chosenSettings() const;
     OperatingSettings pageSettings() const;
     std::string contestCode() const;
-    void upperCaseBoxes();
     void startNewFile();
 
     std::vector<QRadioButton*> m_contestOptions;
+    std::vector<BoxOfSetting<QLineEdit>> m_typed; // all settings that are typed
     QLineEdit* m_contestBox;
     QLineEdit* m_callBox;
-    QLineEdit* m_nameBox;
-    QLineEdit* m_stateBox;
-    QLineEdit* m_numberBox;
     QComboBox* m_offsetBox;
     QLabel* m_utcLabel;
     QLineEdit* m_fileBox;

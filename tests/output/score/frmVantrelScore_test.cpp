@@ -105,8 +105,8 @@ TEST_F(ScorePage, WhatCannotBeReachedStaysEmpty) {
     folder.write("SKS.CBR", numbered("QSO ", 0, Log::capacity, "\r\n"));
     messages.expect(tooMany);
     EXPECT_EQ(figures(), "|||||||||no picture");
-    EXPECT_EQ(scoreSum(ScoreTally(module.settings, module.log).score()),
-              "SEE SCORE"); // the main page's
+    // What the main page says.
+    EXPECT_EQ(scoreSum(ScoreTally(module.settings, module.log).score()), "SEE SCORE");
 }
 
 TEST_F(ScorePage, PrintsWhatItShows) {

@@ -27,7 +27,6 @@ public:
 
     friend constexpr Integer16 operator+(Integer16 a, Integer16 b) { return wide(a) + wide(b); }
     friend constexpr Integer16 operator-(Integer16 a, Integer16 b) { return wide(a) - wide(b); }
-    friend constexpr Integer16 operator*(Integer16 a, Integer16 b) { return wide(a) * wide(b); }
     friend constexpr auto operator<=>(Integer16, Integer16) = default;
 
 private:

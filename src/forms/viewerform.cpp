@@ -142,10 +142,6 @@ void ViewerForm::findTyped() {
     goToFound(m_list->currentIndex().row());
 }
 
-void ViewerForm::findNext() {
-    goToFound(m_list->currentIndex().row() + 1);
-}
-
 // Goes to the first match from that row on; from the last one on to the first.
 void ViewerForm::goToFound(int row) {
     if (!m_findBox->text().isEmpty() && !m_found.empty()) {

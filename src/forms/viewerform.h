@@ -5,9 +5,6 @@
 #include "forms/page.h"
 
 #include <cstddef>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace vantrel {
 
@@ -35,8 +32,8 @@ protected:
 
 private:
     void openFind();
-    void findTyped(); // from the current line on
-    void findNext();  // behind it
+    void findTyped();                                                // from the current line on
+    void findNext() { goToFound(m_list->currentIndex().row() + 1); } // behind it
     void copySelected();
 
     void goToFound(int row);

@@ -7,8 +7,6 @@
 #include "k3y/standings.h"
 
 #include <span>
-#include <string>
-#include <vector>
 
 class QGridLayout;
 

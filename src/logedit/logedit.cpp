@@ -135,11 +135,7 @@ std::vector<int> LogEdit::matches() const {
 }
 
 std::string LogEdit::fullCopyName() const {
-    const std::string first = withSuffix(m_logName, fullSuffix);
-    std::string name = first;
-    for (int number = 2; m_files.present(name); ++number)
-        name = first + std::to_string(number);
-    return std::string(lastPart(name));
+    return std::string(lastPart(m_files.freeName(withSuffix(m_logName, fullSuffix))));
 }
 
 // --- Changing --------------------------------------------------------------------------------

@@ -133,11 +133,15 @@ void Files::rewrite(std::string_view name, std::string_view bytes) {
     folder.syncFolder();
 }
 
-std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
+std::string Files::freeName(std::string_view name) const {
     std::string taken(name);
     for (int number = 2; exists(nativePath(taken)); ++number)
         taken = std::string(name) + std::to_string(number);
-    const std::string path = nativePath(taken);
+    return taken;
+}
+
+std::string Files::keepCopy(std::string_view name, std::string_view bytes) {
+    const std::string path = nativePath(freeName(name));
     const DiskFile folder = openFolderOf(m_calls, path);
     const std::string original = nativePath(name.substr(0, name.rfind('.')));
     const DiskFile file = createFile(m_calls, path, original, path, bytes);

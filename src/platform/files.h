@@ -61,9 +61,11 @@ public:
                     const std::function<void()>& between = {}) {
         m_replacement.replaceAll(contents, between);
     }
-    // Writes the bytes to a file that does not exist yet: `name`, or else `name` followed by
-    // 2, 3, ... Never replaces anything. `name` is that of the file which the bytes are a copy of,
-    // and a suffix (".OLD"); the copy is no more readable. Returns the path taken, as text to show.
+    // The name, or else the name followed by 2, 3, ...: the first that no file has.
+    std::string freeName(std::string_view name) const;
+    // Writes the bytes to a file of the first free name. Never replaces anything. `name` is that of
+    // the file which the bytes are a copy of, and a suffix (".OLD"); the copy is no more readable.
+    // Returns the path taken, as text to show.
     std::string keepCopy(std::string_view name, std::string_view bytes);
 
     // Throws RuntimeError 75 when the last part of the name is too long for a file that is written

@@ -20,25 +20,21 @@ struct LocalTime {
     int second = 0;
 };
 
-struct TimeOfDay {
-    int hour = 0;   // 0-23
-    int minute = 0; // 0-59
-};
-
 // The PC's clock.
 class Clock {
 public:
     virtual ~Clock() = default;
     virtual LocalTime now() const = 0;
-    // What the machine takes for UTC, by the time zone that it is set to.
-    virtual TimeOfDay utc() const = 0;
+    // What the machine takes for UTC, by the time zone that it is set to, in minutes since
+    // midnight.
+    virtual int utc() const = 0;
 };
 
 // The machine's clock in the machine's time zone.
 class SystemClock : public Clock {
 public:
     LocalTime now() const override;
-    TimeOfDay utc() const override;
+    int utc() const override;
 };
 
 enum class BoxIcon { none, exclamation, critical };
@@ -60,15 +56,11 @@ public:
     virtual bool ask(const Message& message) = 0;
 };
 
-// How long a display shows one picture, at 60 a second: nothing has to be drawn more often.
-inline constexpr int frameMilliseconds = 16;
-
 // Keeping the window alive during long work and waits.
 class EventLoop {
 public:
     virtual ~EventLoop() = default;
-    // Lets the window paint and react; called more than once per display frame it costs next
-    // to nothing.
+    // Lets the window paint and react. More often than once per display frame is of no use.
     virtual void yield() = 0;
 };
 

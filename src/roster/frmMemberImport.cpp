@@ -11,6 +11,8 @@ namespace vantrel {
 
 namespace {
 constexpr int widthInCharacters = 90;
+// How long a display shows one picture, at 60 a second: nothing has to be drawn more often.
+constexpr int frameMilliseconds = 16;
 } // namespace
 
 const MemberImportPage dataImportPage{

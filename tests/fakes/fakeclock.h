@@ -10,9 +10,9 @@ namespace vantrel::test {
 class FakeClock : public Clock {
 public:
     LocalTime now() const override { return time; }
-    TimeOfDay utc() const override { return ownUtc.value_or(TimeOfDay{time.hour, time.minute}); }
+    int utc() const override { return ownUtc.value_or(time.hour * 60 + time.minute); }
     LocalTime time{2011, 6, 16, 0, 12, 30};
-    std::optional<TimeOfDay> ownUtc; // without one the machine's zone is UTC
+    std::optional<int> ownUtc; // without one the machine's zone is UTC
 };
 
 } // namespace vantrel::test

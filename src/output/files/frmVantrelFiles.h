@@ -5,9 +5,7 @@
 #include "forms/page.h"
 
 #include <cstddef>
-#include <string>
 #include <utility>
-#include <vector>
 
 namespace vantrel {
 

@@ -5,9 +5,7 @@
 #include "forms/page.h"
 #include "output/score/score.h"
 
-#include <string>
 #include <utility>
-#include <vector>
 
 namespace vantrel {
 

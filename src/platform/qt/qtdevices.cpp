@@ -4,18 +4,10 @@
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
 
 namespace vantrel {
-
-void QtEventLoop::yield() {
-    if (m_sinceLast.isValid() && m_sinceLast.elapsed() < frameMilliseconds)
-        return;
-    QCoreApplication::processEvents();
-    m_sinceLast.start();
-}
 
 void QtLauncher::start(const std::string& path) {
     const QFileInfo program(QString::fromStdString(path));

@@ -4,19 +4,16 @@
 
 #include "platform/platform.h"
 
-#include <QElapsedTimer>
+#include <QCoreApplication>
 
 #include <memory>
 
 namespace vantrel {
 
-// Yields to the window's event loop, at most once per display frame.
+// Yields to the window's event loop.
 class QtEventLoop : public EventLoop {
 public:
-    void yield() override;
-
-private:
-    QElapsedTimer m_sinceLast;
+    void yield() override { QCoreApplication::processEvents(); }
 };
 
 // Starts another program and does not wait for it.

@@ -8,8 +8,6 @@
 #include "screens/main/contactentry.h"
 #include "screens/main/widgets/entryboxes.h"
 
-#include <string>
-
 namespace vantrel {
 
 class ContestPanel;

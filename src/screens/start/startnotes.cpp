@@ -12,16 +12,12 @@
 #include "shared/utctime.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace vantrel {
 
 namespace {
 
 constexpr std::string_view programFile = "vantrel";
-constexpr int hourMinutes = 60;
-constexpr int dayMinutes = 24 * hourMinutes;
-constexpr int doubtfulMinutes = 30;
 
 std::string heldText(const Contacts& contacts) {
     return contacts.empty() ? "NO QSO YET" : contactsText(contacts);
@@ -112,18 +108,14 @@ StatusNote rosterNote(const Files& files) {
 }
 
 StatusNote utcNote(const Clock& clock, std::string_view gmtOffset) {
-    const LocalTime local = clock.now();
-    const TimeOfDay own = clock.utc();
-    const UtcTime utc = utcTime(local, gmtOffset);
-    const auto hour = static_cast<int>(numericValue(left(utc.time, 2)));
-    const int apart =
-        std::abs((hour - own.hour) * hourMinutes + local.minute - own.minute); // on one day
+    using namespace std::chrono_literals;
+    const UtcTime utc = utcTime(clock.now(), gmtOffset);
+    const std::chrono::minutes own(clock.utc());
+    const auto apart = std::chrono::abs(readTime(utc.time).value_or(own) - own); // on one day
     StatusNote note{utc.time + " UTC   " + utc.date};
-    note.caution = std::min(apart, dayMinutes - apart) > doubtfulMinutes;
+    note.caution = std::min<std::chrono::minutes>(apart, 24h - apart) > 30min;
     if (note.caution)
-        note.tip = "THE COMPUTER ITSELF SAYS " +
-                   timeText(std::chrono::hours(own.hour) + std::chrono::minutes(own.minute)) +
-                   " UTC";
+        note.tip = "THE COMPUTER ITSELF SAYS " + timeText(own) + " UTC";
     return note;
 }
 

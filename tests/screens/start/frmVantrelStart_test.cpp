@@ -148,7 +148,7 @@ TEST_F(StartPageTest, MarksWhatIsEmptyAndTellsWhichUtcAndSavedValuesAreDoubtful)
     module.settings.gmtOffset = "+05";
     module.settings.rig = "FT-891";
     clock.time = {2011, 6, 16, 22, 30, 0};
-    clock.ownUtc = {4, 0};
+    clock.ownUtc = 4 * 60;
     QApplication::setStyle(new VisibleStyle);
     screens.open(Screen::start);
     EXPECT_EQ(told("Label14"), "!SAVED, BUT IN NO LIST: RIG: FT-891");

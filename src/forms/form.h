@@ -89,12 +89,7 @@ protected:
     template <typename Sender, typename Signal, typename Handler>
     void connectHandler(Sender* sender, Signal signal, Handler handler) {
         connect(sender, signal, this, [this, handler](const auto&... args) -> void {
-            runHandler([&] {
-                if constexpr (std::is_invocable_v<const Handler&, decltype(args)...>)
-                    handler(args...);
-                else
-                    handler();
-            });
+            runHandler([&] { callWith(handler, args...); });
         });
     }
 
@@ -104,6 +99,15 @@ protected:
     Messages& messages() { return m_context.platform.messages; }
 
 private:
+    // A function of its own, since clang 14 looks into both branches inside a lambda in a lambda.
+    template <typename Handler, typename... Args>
+    static void callWith(const Handler& handler, const Args&... args) {
+        if constexpr (std::is_invocable_v<const Handler&, const Args&...>)
+            handler(args...);
+        else
+            handler();
+    }
+
     void placeOver(const Form* page);
     void moveOnto(const QScreen* screen, QRect place);
     void stayAbove(const QWidget* page);

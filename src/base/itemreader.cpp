@@ -48,10 +48,11 @@ std::string_view ItemReader::next() {
     return item;
 }
 
-std::string_view LineReader::next() {
-    if (atEnd())
-        throw RuntimeError(ErrorCode::inputPastEnd, "no further line");
-    return takeLine(m_rest);
+std::vector<std::string_view> linesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty())
+        lines.push_back(takeLine(text));
+    return lines;
 }
 
 } // namespace vantrel

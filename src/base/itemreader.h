@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The comma-delimited reader and the whole-line reader over a file's bytes in memory.
+// A file's bytes in memory as comma-delimited items, or as lines.
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 namespace vantrel {
 
@@ -28,17 +29,7 @@ private:
     int m_lineNumber = 0;
 };
 
-// Reads whole lines, without their CR LF or LF. Views point into the text given.
-class LineReader {
-public:
-    explicit LineReader(std::string_view text) : m_rest(text) {}
-
-    bool atEnd() const { return m_rest.empty(); }
-    // The next line. Throws RuntimeError 62 at the end of the text.
-    std::string_view next();
-
-private:
-    std::string_view m_rest;
-};
+// The lines of the text without their CR LF or LF; views into it.
+std::vector<std::string_view> linesOf(std::string_view text);
 
 } // namespace vantrel

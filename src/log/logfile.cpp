@@ -13,7 +13,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr int headerLines = 4;
+constexpr std::size_t headerLines = 4;
 constexpr std::string_view contestHeading = " Contest: ";
 constexpr int extensionWidth = 3;
 
@@ -53,10 +53,11 @@ std::string startNewLog(Files& files, const std::string& name, std::string_view 
 
 LogSummary summaryOf(std::string_view logBytes) {
     LogSummary summary{{}, contactsIn(logBytes)};
-    LineReader lines(logBytes);
-    for (int line = 0; line < headerLines && !lines.atEnd(); ++line)
-        if (const std::string_view text = lines.next(); text.starts_with(contestHeading))
-            summary.contest = trim(text.substr(contestHeading.size()));
+    std::vector<std::string_view> lines = linesOf(logBytes);
+    lines.resize(std::min(lines.size(), headerLines));
+    for (const std::string_view line : lines)
+        if (line.starts_with(contestHeading))
+            summary.contest = trim(line.substr(contestHeading.size()));
     return summary;
 }
 

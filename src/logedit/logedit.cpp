@@ -50,16 +50,10 @@ bool hasGrownFrom(std::string_view bytes, std::string_view before) {
            (before.ends_with('\n') || bytes.substr(before.size()).starts_with("\r\n"));
 }
 
-int linesIn(std::string_view bytes) {
-    const bool endsOpen = !bytes.empty() && !bytes.ends_with('\n');
-    return static_cast<int>(std::ranges::count(bytes, '\n')) + (endsOpen ? 1 : 0);
-}
-
 std::vector<std::string> tableOf(std::string_view bytes) {
-    std::vector<std::string> lines;
-    for (LineReader reader(bytes); !reader.atEnd() && lines.size() < LogEdit::lineCapacity;)
-        lines.emplace_back(reader.next());
-    return lines;
+    std::vector<std::string_view> lines = linesOf(bytes);
+    lines.resize(std::min<std::size_t>(lines.size(), LogEdit::lineCapacity));
+    return {lines.begin(), lines.end()};
 }
 
 } // namespace
@@ -165,7 +159,7 @@ bool LogEdit::takeNewLines() {
     std::string bytes = m_files.readOrEmpty(m_logName);
     if (bytes == m_logBytes)
         return true;
-    if (!hasGrownFrom(bytes, m_logBytes) || (!dropsLines() && linesIn(bytes) > lineCapacity))
+    if (!hasGrownFrom(bytes, m_logBytes) || (!dropsLines() && linesOf(bytes).size() > lineCapacity))
         return false;
     const int position = m_position;
     take(m_logName, std::move(bytes));
@@ -217,7 +211,7 @@ std::vector<std::string> LogEdit::newsOfDuplicates(bool byNumber) const {
 
 void LogEdit::take(const std::string& logName, std::string bytes) {
     m_lines = tableOf(bytes);
-    m_droppedLines = linesIn(bytes) - lineCount();
+    m_droppedLines = static_cast<int>(linesOf(bytes).size()) - lineCount();
     m_logName = logName;
     m_logBytes = std::move(bytes);
     m_position = 0;

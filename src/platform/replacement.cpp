@@ -144,8 +144,7 @@ Replacement::ReplacedFiles Replacement::readJournal(std::string_view journal) co
     std::string bytes;
     readFile(m_calls, journalPath(journal), bytes);
     ReplacedFiles files;
-    for (LineReader lines(bytes); !lines.atEnd();) {
-        const std::string_view line = lines.next();
+    for (const std::string_view line : linesOf(bytes)) {
         const bool isCopy = mid(line, 2, 1) == "*";
         const std::string name(midToEnd(line, isCopy ? 3 : 2));
         files.push_back(

@@ -71,8 +71,8 @@ std::string numberKey(std::string_view number) {
 int countMembers(const Files& files, std::size_t number) {
     const std::string bytes = files.readOrEmpty(rosterFiles.at(number - 1));
     int members = 0;
-    for (LineReader reader(bytes); !reader.atEnd();)
-        members += trim(member::call.of(reader.next())).empty() ? 0 : 1;
+    for (const std::string_view line : linesOf(bytes))
+        members += trim(member::call.of(line)).empty() ? 0 : 1;
     return members;
 }
 

@@ -38,8 +38,8 @@ public:
     // width: to which shorter lines are padded with blanks.
     RosterTable(std::string_view name, int capacity, int width, std::string_view bytes)
         : m_name(name), m_capacity(capacity), m_width(width) {
-        for (LineReader reader(bytes); !reader.atEnd();)
-            append(reader.next());
+        for (const std::string_view line : linesOf(bytes))
+            append(line);
     }
 
     void merge(const std::string& record, ImportResult& result) {

@@ -23,10 +23,9 @@ TEST(FixedText, OneByteIsOneColumnAndWhatIsBeyondTheEndIsShortOrEmpty) {
                          "the number 99999999999999999999");
 }
 
-template <typename Reader>
 std::string allOf(std::string_view text) {
     std::string result;
-    Reader reader(text);
+    ItemReader reader(text);
     while (!reader.atEnd())
         result.append(reader.next()) += '|';
     EXPECT_RUNTIME_ERROR(reader.next(), ErrorCode::inputPastEnd, HasSubstr("line"));
@@ -36,10 +35,11 @@ std::string allOf(std::string_view text) {
 // Leading blanks go, trailing ones and tabs stay, a blank line is an item; quotes keep commas
 // and blanks up to the end of the line, what follows them is dropped; a lone CR is ordinary.
 TEST(Readers, SplitAtLineEndsAndItemsAtCommasOutsideQuotes) {
-    EXPECT_EQ(allOf<ItemReader>(""), "");
-    EXPECT_EQ(allOf<ItemReader>("  a ,\tb  \r\n\r\n   \nc,\r\n  \" d,e \"junk,f\r\n\"g,h\ni\"j\rk"),
+    EXPECT_EQ(allOf(""), "");
+    EXPECT_EQ(allOf("  a ,\tb  \r\n\r\n   \nc,\r\n  \" d,e \"junk,f\r\n\"g,h\ni\"j\rk"),
               "a |\tb  |||c|| d,e |f|g,h|i\"j\rk|");
-    EXPECT_EQ(allOf<LineReader>("  a,\"b\" \r\n\r\nc\na\r\r\nb\rd"), "  a,\"b\" ||c|a\r|b\rd|");
+    EXPECT_THAT(linesOf("  a,\"b\" \r\n\r\nc\na\r\r\nb\rd"),
+                ::testing::ElementsAre("  a,\"b\" ", "", "c", "a\r", "b\rd"));
 }
 
 } // namespace

@@ -129,20 +129,21 @@ void adif(std::string input) {
     assert(std::count(customary.begin(), customary.end(), '\n') ==
            static_cast<long>(contacts.size()) + 2);
     const std::string strictFile = strictAdifText(contacts, created);
-    LineReader strictLines(strictFile);
+    const std::vector<std::string_view> strictLines = linesOf(strictFile);
+    auto next = strictLines.begin();
     for (const char* head : {"Contacts", "<ADIF_VER"})
-        assert(strictLines.next().starts_with(head));
+        assert(next++->starts_with(head));
     for (const std::string_view line : contacts) {
         const std::string_view call = trim(qso::hisCall.of(line));
         if (call.empty() || !contactMinute(line)) // no logger could take it in
             continue;
-        const std::string_view record = strictLines.next();
+        const std::string_view record = *next++;
         const std::string value =
             ":" + std::to_string(call.size()) + '>' + std::string(call) + " <";
         assert(!isPlain(call) || record.find(value) == 5);
         assert(isPlain(record) && record.starts_with("<CALL:") && record.ends_with("<EOR>"));
     }
-    assert(strictLines.atEnd());
+    assert(next == strictLines.end());
 }
 
 // Anything typed into the boxes: a contact is refused, or it becomes one line of the log with

@@ -34,14 +34,6 @@ std::string logText(std::string_view name, int contacts) {
     return std::string(lastPart(name)) + ' ' + counted(contacts, "QSO");
 }
 
-std::vector<std::string> wholeLines(std::string_view bytes) {
-    std::vector<std::string> lines;
-    LineReader reader(bytes);
-    while (!reader.atEnd())
-        lines.emplace_back(reader.next());
-    return lines;
-}
-
 std::size_t lastContactOf(const std::vector<std::string>& lines) {
     for (std::size_t i = lines.size(); i > 0; --i)
         if (isContact(lines[i - 1]))

@@ -21,8 +21,6 @@ std::string writtenText(const Files& files, std::string_view name, std::string_v
 // "SKS112126.CBR 28 QSOS".
 std::string logText(std::string_view name, int contacts);
 
-// The file's whole lines, for the list screen.
-std::vector<std::string> wholeLines(std::string_view bytes);
 // Index of the last contact among a log's lines; of the last line when there is none.
 std::size_t lastContactOf(const std::vector<std::string>& lines);
 

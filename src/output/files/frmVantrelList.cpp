@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmVantrelList.h"
 
+#include "base/itemreader.h"
 #include "log/logfile.h"
 #include "output/files/filetexts.h"
 #include "platform/files.h"
@@ -15,7 +16,9 @@ void frmVantrelList::load() {
     const std::string name = m_file == ListedFile::adif ? adifFileName(log) : log;
     const std::string path = platform().files.path(name);
     showLines(path, {});
-    std::vector<std::string> lines = wholeLines(platform().files.read(name));
+    const std::string bytes = platform().files.read(name);
+    const std::vector<std::string_view> views = linesOf(bytes);
+    std::vector<std::string> lines(views.begin(), views.end());
     const std::size_t current = m_file == ListedFile::log ? lastContactOf(lines) : 0;
     showLines(path, std::move(lines), current);
 }

@@ -104,7 +104,7 @@ void score(std::string input) {
     if (score.stoppedBy)
         return;
     assert(*score.qsos == std::count_if(contacts.begin(), contacts.end(), std::not_fn(isDupe)));
-    assert(*score.total == *score.qsos * *score.multipliers + *score.bonusPoints);
+    assert(*score.total - *score.bonusPoints == score.qsos->value() * score.multipliers->value());
     int sum = 0; // of what the bands brought
     for (const BandScore& band : bandScores(contacts, settings))
         sum += 1000 * band.qsos + band.newMultipliers;

@@ -76,6 +76,10 @@ Form* AppScreens::formOf(Screen screen) {
     return slot;
 }
 
+MainPage* AppScreens::mainPage() {
+    return dynamic_cast<MainPage*>(m_slots[Screen::main].data());
+}
+
 void AppScreens::open(Screen screen) {
     QWidget* opener = QApplication::activeWindow();
     // Some platforms know no active window for a moment after another one closed.

@@ -30,7 +30,7 @@ public:
     StartPage* startPage() override {
         return dynamic_cast<StartPage*>(m_slots[Screen::start].data());
     }
-    MainPage* mainPage() override { return dynamic_cast<MainPage*>(m_slots[Screen::main].data()); }
+    MainPage* mainPage() override; // Windows' Qt gives the word main another meaning in main.cpp
     void quit() override { QCoreApplication::exit(0); }
 
 private:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The desktop's own style with frames that can be seen: rings of options, frames of boxes, buttons
-// and sections, handles of scroll bars, and what has the focus, in light and in dark palettes. A
-// text without room ends in "...", and the whole is its tool tip.
+// One style for all desktops, with frames that can be seen: rings of options, frames of boxes,
+// buttons and sections, handles of scroll bars, and what has the focus, in light and in dark
+// palettes. A text without room ends in "...", and the whole is its tool tip.
 #pragma once
 
 #include <QProxyStyle>
@@ -15,6 +15,8 @@ QLineEdit* required(QLineEdit* box);
 
 class VisibleStyle : public QProxyStyle {
 public:
+    // Windows' own style puts a pale bar below a selected line's white text.
+    VisibleStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
     // The selected text of some desktops can hardly be read.
     void polish(QPalette& palette) override;
     void polish(QWidget* widget) override;

@@ -54,14 +54,19 @@ class Screen:
             process.wait()
 
 
+def start(program):
+    """Starts it in its folder, on the screen of DISPLAY; one for Windows under Wine."""
+    # Its libraries' own leaks on a real display are not what is tried here.
+    environment = dict(os.environ, TZ="UTC", LC_ALL="C.UTF-8", ASAN_OPTIONS="detect_leaks=0",
+                       QT_QPA_PLATFORM="windows" if program.suffix == ".exe" else "xcb")
+    runner = ["wine"] if program.suffix == ".exe" else []
+    return subprocess.Popen([*runner, program], cwd=program.parent, env=environment)
+
+
 @contextlib.contextmanager
 def running(built, folder):
-    """The program alone in the folder, on the screen of DISPLAY."""
-    shutil.copy(built, folder / "vantrel")
-    # Its libraries' own leaks on a real display are not what is tried here.
-    environment = dict(os.environ, TZ="UTC", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
-                       ASAN_OPTIONS="detect_leaks=0")
-    program = subprocess.Popen([folder / "vantrel"], cwd=folder, env=environment)
+    """The program alone in the folder."""
+    program = start(pathlib.Path(shutil.copy(built, folder)))
     try:
         yield program
     finally:

@@ -196,8 +196,8 @@ ReadTable* FormBuilder::table(const char* name, const char* words) {
     return table;
 }
 
-QListView* FormBuilder::list(const char* name, const char* toolTip) {
-    QListView* list = named(new QListView(m_form), name, toolTip);
+LineList* FormBuilder::list(const char* name, const char* toolTip, LineListModel::Words words) {
+    auto* list = named(new LineList(m_form, words), name, toolTip);
     list->setFont(fixedWidthFont());
     list->setUniformItemSizes(true);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -6,10 +6,10 @@
 #include "forms/alertlabel.h"
 #include "forms/controltext.h"
 #include "forms/layouts.h"
+#include "forms/linelistmodel.h"
 
 #include <QFontMetrics>
 #include <QFormLayout>
-#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -64,8 +64,9 @@ public:
                             Handler clicked = {});
     // `words`: its name to a screen reader.
     ReadTable* table(const char* name, const char* words);
-    // A list of lines in the fixed-width font.
-    QListView* list(const char* name, const char* toolTip = "");
+    // A list of lines in the fixed-width font. words: see LineListModel.
+    LineList* list(const char* name, const char* toolTip = "",
+                   LineListModel::Words words = nullptr);
     // A click, Enter and an arrow key choose alike; `chosen` gets the row, inside the guard.
     static void onChoice(QListView* list, const std::function<void(std::size_t)>& chosen);
     // A framed part of the page, under its title.

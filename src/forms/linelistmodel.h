@@ -2,7 +2,7 @@
 // Lines of text behind a list view: no item objects, so 12,000 lines cost nothing to show.
 #pragma once
 
-#include <QAbstractListModel>
+#include <QListView>
 
 #include <string>
 #include <string_view>
@@ -31,6 +31,15 @@ public:
 private:
     Words m_words;
     std::vector<std::string> m_lines;
+};
+
+// The list view in front of such lines.
+class LineList : public QListView {
+public:
+    explicit LineList(QWidget* parent, LineListModel::Words words = nullptr) : QListView(parent) {
+        setModel(new LineListModel(this, words));
+    }
+    LineListModel* lines() const { return static_cast<LineListModel*>(model()); }
 };
 
 } // namespace vantrel

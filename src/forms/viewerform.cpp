@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/viewerform.h"
 
-#include "forms/linelistmodel.h"
-
 #include <QApplication>
 #include <QClipboard>
 #include <QShortcut>
@@ -57,12 +55,10 @@ std::vector<int> rowsWith(const std::vector<std::string>& lines, std::string_vie
 ViewerForm::ViewerForm(const FormContext& context, const char* name, const char* caption)
     : Form(context, name, caption) {
     FormBuilder build(this);
-    m_lines = new LineListModel(this);
     m_list = focusFirst(build.list("List1", "CTRL+F FINDS, CTRL+C COPIES THE SELECTED LINES"));
     m_list->setAccessibleName(QStringLiteral("LINES"));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTextElideMode(Qt::ElideNone);
-    m_list->setModel(m_lines);
     m_headingLabel = build.label("Label3");
     m_headingLabel->setFont(fixedWidthFont());
     m_headingLabel->hide();
@@ -107,9 +103,9 @@ void ViewerForm::showLines(const std::string& path, std::vector<std::string> lin
     QAbstractItemDelegate* old = m_list->itemDelegate();
     m_list->setItemDelegate(new LineDelegate(m_list, m_columns));
     old->deleteLater();
-    m_lines->setLines(std::move(lines));
-    m_found = rowsWith(m_lines->lines(), textOf(m_findBox));
-    m_list->setCurrentIndex(m_lines->index(static_cast<int>(current)));
+    m_list->lines()->setLines(std::move(lines));
+    m_found = rowsWith(m_list->lines()->lines(), textOf(m_findBox));
+    m_list->setCurrentIndex(m_list->lines()->index(static_cast<int>(current)));
     showPlace();
     updateGeometry();
 }
@@ -124,7 +120,7 @@ QSize ViewerForm::listSize() const {
     const int columnWidth = m_list->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_list);
     const int frame = 2 * m_list->frameWidth();
-    const int rows = std::clamp(m_lines->rowCount(), fewestRows, mostRows);
+    const int rows = std::clamp(m_list->lines()->rowCount(), fewestRows, mostRows);
     const int margins = columnWidth * 2;
     return {columnWidth * m_columns + margins + scrollBar + frame,
             m_list->fontMetrics().height() * (rows + 1) + scrollBar + frame};
@@ -138,7 +134,7 @@ void ViewerForm::openFind() {
 }
 
 void ViewerForm::findTyped() {
-    m_found = rowsWith(m_lines->lines(), textOf(m_findBox));
+    m_found = rowsWith(m_list->lines()->lines(), textOf(m_findBox));
     goToFound(m_list->currentIndex().row());
 }
 
@@ -146,7 +142,8 @@ void ViewerForm::findTyped() {
 void ViewerForm::goToFound(int row) {
     if (!m_findBox->text().isEmpty() && !m_found.empty()) {
         const auto next = std::ranges::lower_bound(m_found, row);
-        m_list->setCurrentIndex(m_lines->index(next == m_found.end() ? m_found.front() : *next));
+        m_list->setCurrentIndex(
+            m_list->lines()->index(next == m_found.end() ? m_found.front() : *next));
     }
     showPlace();
 }

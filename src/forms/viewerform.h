@@ -8,8 +8,6 @@
 
 namespace vantrel {
 
-class LineListModel;
-
 class ViewerForm : public Form {
 public:
     ViewerForm(const FormContext& context, const char* name, const char* caption);
@@ -41,11 +39,10 @@ private:
     QSize listSize() const;
 
     QLabel* m_pathLabel;
-    QListView* m_list;
+    LineList* m_list;
     QLineEdit* m_findBox;
     QLabel* m_headingLabel;
     AlertLabel* m_foundLabel;
-    LineListModel* m_lines;
 
     std::vector<int> m_found; // rows with the text to find; all of them without one
     int m_columns = 0;        // of the longest line

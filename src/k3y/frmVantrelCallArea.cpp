@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "k3y/frmVantrelCallArea.h"
 
-#include "forms/linelistmodel.h"
 #include "log/logfile.h"
 #include "shared/utctime.h"
 
@@ -71,9 +70,7 @@ void frmVantrelCallArea::createAreas() {
     items.reserve(callAreas.size());
     for (const CallArea& area : callAreas)
         items.emplace_back(area.item);
-    auto* model = new LineListModel(this);
-    model->setLines(std::move(items));
-    m_areas->setModel(model);
+    m_areas->lines()->setLines(std::move(items));
     m_areas->setItemDelegate(new AreaDelegate(m_areas));
     const int rowHeight = fontMetrics().height() + 1;
     m_areas->setMinimumSize(fontMetrics().averageCharWidth() * listColumns,

@@ -19,7 +19,7 @@ private:
     void choose(const CallArea& area);
     void abort();
 
-    QListView* m_areas;
+    LineList* m_areas;
     QLabel* m_chosenArea;
 
     std::string m_utcDate;   // when the screen opened

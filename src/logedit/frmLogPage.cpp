@@ -2,7 +2,6 @@
 #include "logedit/frmLogPage.h"
 
 #include "forms/colours.h"
-#include "forms/linelistmodel.h"
 #include "log/qsoline.h"
 #include "logedit/contacttext.h"
 
@@ -150,10 +149,9 @@ QFormLayout* frmLogPage::fieldRows(std::size_t first, std::size_t end) {
 QLayout* frmLogPage::matchesSection(const char* placeName) {
     FormBuilder build(this);
     m_placeLabel = build.label(placeName);
-    m_matchList = build.list("List1", "CLICK A CONTACT, OR ARROWS AND ENTER, TO GO TO IT");
+    m_matchList =
+        build.list("List1", "CLICK A CONTACT, OR ARROWS AND ENTER, TO GO TO IT", matchWords);
     m_matchList->setAccessibleName(QStringLiteral("CONTACTS WITH THIS CALL"));
-    m_matchLines = new LineListModel(m_matchList, matchWords);
-    m_matchList->setModel(m_matchLines);
     const QFontMetrics metrics(m_matchList->font());
     m_matchList->setMinimumSize(widthOfColumns(metrics, matchColumns + 1) +
                                     m_matchList->verticalScrollBar()->sizeHint().width(),
@@ -321,8 +319,8 @@ void frmLogPage::showMatches() {
     }
     const int count = static_cast<int>(lines.size());
     put(m_placeLabel, place > 0 ? placeText(place, count) : "");
-    m_matchLines->setLines(std::move(lines));
-    m_matchList->setCurrentIndex(m_matchLines->index(place - 1));
+    m_matchList->lines()->setLines(std::move(lines));
+    m_matchList->setCurrentIndex(m_matchList->lines()->index(place - 1));
 }
 
 } // namespace vantrel

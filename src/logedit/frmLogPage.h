@@ -13,8 +13,6 @@ class QModelIndex;
 
 namespace vantrel {
 
-class LineListModel;
-
 class frmLogPage : public Form {
 public:
     // The contact, 1 to the log's count, that the page opens on; see Screens::openContact.
@@ -108,8 +106,7 @@ private:
     QLineEdit* m_callBox = nullptr;
     QPushButton* m_changeButton = nullptr;
     QPushButton* m_undoButton = nullptr;
-    QListView* m_matchList = nullptr;
-    LineListModel* m_matchLines = nullptr;
+    LineList* m_matchList = nullptr;
     QLabel* m_placeLabel = nullptr;
     AlertLabel* m_messageLabel = nullptr;
     AlertLabel* m_noteLabel = nullptr;

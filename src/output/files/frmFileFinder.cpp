@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/files/frmFileFinder.h"
 
-#include "forms/linelistmodel.h"
-
 #include <QGridLayout>
 
 namespace vantrel {
@@ -21,23 +19,19 @@ frmFileFinder::frmFileFinder(const FormContext& context)
         grid->addWidget(caption, row, column);
         grid->addWidget(list, row + 1, column);
     };
-    const auto list = [&](const char* name, const char* toolTip, LineListModel* lines) {
-        QListView* view = build.list(name, toolTip);
-        view->setModel(lines);
+    const auto list = [&](const char* name, const char* toolTip) {
+        LineList* view = build.list(name, toolTip);
         view->setMinimumSize(fontMetrics().averageCharWidth() * listColumns,
                              fontMetrics().height() * listRows);
         return view;
     };
-    m_folders = new LineListModel(this);
-    m_files = new LineListModel(this);
     m_driveBox = build.combo("drvList", "CHOOSE A DRIVE");
-    QListView* folderList =
-        focusFirst(list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER", m_folders));
-    QListView* fileList = list("filList", "CLICK OR ENTER SELECTS A FILE", m_files);
+    m_folders = focusFirst(list("dirList", "DOUBLE CLICK OR ENTER OPENS A FOLDER"));
+    m_files = list("filList", "CLICK OR ENTER SELECTS A FILE");
     grid->addWidget(build.label("Label1", "Select a File"), 0, 0, 1, 2, Qt::AlignCenter);
     addUnder(build.label("Label2", "DRIVE:"), m_driveBox, 1, 0);
-    addUnder(build.label("Label3", "FOLDER"), folderList, 3, 0);
-    addUnder(build.label("Label4", "FILE"), fileList, 3, 1);
+    addUnder(build.label("Label3", "FOLDER"), m_folders, 3, 0);
+    addUnder(build.label("Label4", "FILE"), m_files, 3, 1);
     grid->addWidget(build.label("Label6", "FILE SELECTED :"), 5, 0);
     grid->addWidget(m_selection = wrapped(build.label("Label5")), 6, 0, 1, 2);
     grid->addWidget(build.command("Command1", "&RETURN", "GOES BACK WITH WHAT IS SELECTED",
@@ -46,13 +40,13 @@ frmFileFinder::frmFileFinder(const FormContext& context)
     grid->setRowStretch(4, 1);
     // Chosen, not only changed: the drive that shows already leads back to its top.
     connectHandler(m_driveBox, &QComboBox::activated, [this](int index) { openDrive(index); });
-    connectHandler(folderList, &QListView::activated, [this](const QModelIndex& index) {
+    connectHandler(m_folders, &QListView::activated, [this](const QModelIndex& index) {
         if (!index.isValid())
             return;
         m_finder->enterFolder(static_cast<std::size_t>(index.row()));
         showFolder();
     });
-    FormBuilder::onChoice(fileList, [this](std::size_t row) {
+    FormBuilder::onChoice(m_files, [this](std::size_t row) {
         m_finder->chooseFile(row);
         put(m_selection, m_finder->selection());
     });
@@ -95,8 +89,8 @@ void frmFileFinder::showDrive() {
 
 void frmFileFinder::showFolder() {
     showDrive();
-    m_folders->setLines(m_finder->folders());
-    m_files->setLines(m_finder->files());
+    m_folders->lines()->setLines(m_finder->folders());
+    m_files->lines()->setLines(m_finder->files());
     put(m_selection, m_finder->selection());
 }
 

@@ -9,8 +9,6 @@
 
 namespace vantrel {
 
-class LineListModel;
-
 class frmFileFinder : public Form {
 public:
     explicit frmFileFinder(const FormContext& context);
@@ -35,8 +33,8 @@ private:
 
     Screen m_receiver = Screen::start;
     std::optional<FileFinder> m_finder;
-    LineListModel* m_folders;
-    LineListModel* m_files;
+    LineList* m_folders;
+    LineList* m_files;
 };
 
 } // namespace vantrel

@@ -29,9 +29,7 @@ frmVantrelDupe::frmVantrelDupe(const FormContext& context)
     m_timer->setSingleShot(true);
     m_timer->setInterval(shownMilliseconds);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(60, 30, 60, 30);
-    layout->addWidget(m_label);
+    page(this, {m_label})->setContentsMargins(60, 30, 60, 30);
     connectHandler(m_timer, &QTimer::timeout, [this] { close(); });
 }
 

@@ -5,7 +5,6 @@
 #include "forms/accessible.h"
 #include "forms/colours.h"
 #include "forms/formbuilder.h"
-#include "forms/linelistmodel.h"
 #include "log/log.h"
 #include "screens/main/widgets/entryboxes.h"
 
@@ -101,15 +100,13 @@ private:
 
 } // namespace
 
-WorkedList::WorkedList(QWidget* page)
-    : QListView(page), m_lines(new LineListModel(this, workedWords)) {
+WorkedList::WorkedList(QWidget* page) : LineList(page, workedWords) {
     setAccessibleName(QStringLiteral("STATIONS WORKED"));
     setFont(fixedWidthFont());
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideNone);
     setItemDelegate(new WorkedDelegate(this));
-    setModel(m_lines);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     // The last line is bold, which in a fixed-width font takes no more room.
     const int margins = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() +
@@ -121,14 +118,14 @@ WorkedList::WorkedList(QWidget* page)
 }
 
 void WorkedList::setLines(const std::vector<std::string>& lines) {
-    m_lines->setLines(lines);
+    this->lines()->setLines(lines);
     scrollToBottom();
 }
 
 bool WorkedList::takeFocus() {
-    if (m_lines->rowCount() == 0)
+    if (lines()->rowCount() == 0)
         return false;
-    setCurrentIndex(m_lines->index(m_lines->rowCount() - 1));
+    setCurrentIndex(lines()->index(lines()->rowCount() - 1));
     setFocus();
     announceCurrentRow(this);
     return true;

@@ -2,7 +2,7 @@
 // The main page's list of worked stations.
 #pragma once
 
-#include <QListView>
+#include "forms/linelistmodel.h"
 
 #include <string>
 #include <vector>
@@ -11,9 +11,7 @@ class QLabel;
 
 namespace vantrel {
 
-class LineListModel;
-
-class WorkedList : public QListView {
+class WorkedList : public LineList {
     Q_OBJECT
 
 public:
@@ -37,9 +35,6 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    LineListModel* m_lines;
 };
 
 } // namespace vantrel

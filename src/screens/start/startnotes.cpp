@@ -108,12 +108,12 @@ StatusNote rosterNote(const Files& files) {
 }
 
 StatusNote utcNote(const Clock& clock, std::string_view gmtOffset) {
-    using namespace std::chrono_literals;
+    constexpr std::chrono::minutes doubtful(30);
     const UtcTime utc = utcTime(clock.now(), gmtOffset);
     const std::chrono::minutes own(clock.utc());
     const auto apart = std::chrono::abs(readTime(utc.time).value_or(own) - own); // on one day
     StatusNote note{utc.time + " UTC   " + utc.date};
-    note.caution = std::min<std::chrono::minutes>(apart, 24h - apart) > 30min;
+    note.caution = std::min(apart, std::chrono::days(1) - apart) > doubtful;
     if (note.caution)
         note.tip = "THE COMPUTER ITSELF SAYS " + timeText(own) + " UTC";
     return note;

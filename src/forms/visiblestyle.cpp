@@ -100,9 +100,10 @@ void VisibleStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
 
 void VisibleStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);
+    const QColor text = palette.color(QPalette::HighlightedText);
+    palette.setColor(QPalette::HighlightedText, text); // in pages without the keyboard too
     palette.setColor(QPalette::Highlight,
-                     standingOut(palette.color(QPalette::Highlight),
-                                 palette.color(QPalette::HighlightedText), textContrast));
+                     standingOut(palette.color(QPalette::Highlight), text, textContrast));
 }
 
 QSize VisibleStyle::sizeFromContents(ContentsType type, const QStyleOption* option,

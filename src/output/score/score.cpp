@@ -85,12 +85,9 @@ std::vector<BandScore> bandScores(const Contacts& contacts, const OperatingSetti
 }
 
 bool DistinctValues::add(std::string_view value) {
-    const auto place = std::ranges::lower_bound(m_values, value);
-    if (place != m_values.end() && *place == value)
-        return false;
-    if (m_values.size() <= static_cast<std::size_t>(distinctValuesCapacity))
-        m_values.insert(place, value);
-    return true;
+    return m_values.size() <= static_cast<std::size_t>(distinctValuesCapacity)
+               ? m_values.insert(value).second
+               : !m_values.contains(value);
 }
 
 Integer16 DistinctValues::count(const char* list) const {

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace vantrel {
@@ -62,7 +63,7 @@ public:
     Integer16 count(const char* list) const;
 
 private:
-    std::vector<std::string_view> m_values; // sorted
+    std::unordered_set<std::string_view> m_values;
 };
 
 // What a score is made of, by the rules of `settings.contestCode`. The contacts are views that

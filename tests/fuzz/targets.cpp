@@ -130,9 +130,8 @@ void adif(std::string input) {
            static_cast<long>(contacts.size()) + 2);
     const std::string strictFile = strictAdifText(contacts, created);
     const std::vector<std::string_view> strictLines = linesOf(strictFile);
-    auto next = strictLines.begin();
-    for (const char* head : {"Contacts", "<ADIF_VER"})
-        assert(next++->starts_with(head));
+    assert(strictLines.at(0).starts_with("Contacts") && strictLines.at(1).starts_with("<ADIF_VER"));
+    auto next = strictLines.begin() + 2;
     for (const std::string_view line : contacts) {
         const std::string_view call = trim(qso::hisCall.of(line));
         if (call.empty() || !contactMinute(line)) // no logger could take it in

@@ -17,8 +17,8 @@ namespace vantrel {
 namespace {
 
 constexpr int listCapacity = 20000;
-constexpr int longFirstLine =
-    150; // up to the first CR: no line is longer, so lines end in LF alone
+// Columns up to the first CR: no line is longer, so the lines of such a list end in LF alone.
+constexpr int longFirstLine = 150;
 // The lines of "SKSDB4.TXT", and of no other file, are padded with blanks to 232 columns.
 constexpr std::size_t paddedFile = 3;
 constexpr int paddedWidth = 232;

@@ -86,11 +86,16 @@ std::optional<std::string> Roster::callOfNumber(std::string_view callBoxText) {
     return "";
 }
 
-bool Roster::hasMembers() {
-    bool found = false;
+void Roster::readAll() {
     for (std::size_t file = 0; file < rosterFiles.size(); ++file)
-        found = !current(file).records.empty() || found;
-    return found;
+        current(file);
+}
+
+bool Roster::hasMembers() {
+    for (std::size_t file = 0; file < rosterFiles.size(); ++file)
+        if (!current(file).records.empty())
+            return true;
+    return false;
 }
 
 std::vector<Member> Roster::partialMatches(std::string_view text, std::size_t most) {

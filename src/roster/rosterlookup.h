@@ -42,7 +42,10 @@ public:
     // nobody has it; nothing for a text of two letters or more, which is a call and no number.
     std::optional<std::string> callOfNumber(std::string_view callBoxText);
 
-    // Whether any of the files has a record. Reads all of them, so that the next lookup need not.
+    // Reads the five files, so that the next lookup need not.
+    void readAll();
+
+    // Whether any of the files has a record.
     bool hasMembers();
 
     // Check partial: members whose call begins with the text, shorter calls first; then those

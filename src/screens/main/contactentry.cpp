@@ -48,7 +48,7 @@ std::vector<MemberLine> ContactEntry::members() {
 
 void ContactEntry::readRoster() {
     try {
-        std::ignore = m_roster.hasMembers();
+        m_roster.readAll();
     } catch (const RuntimeError&) { // as in members()
     }
 }

@@ -119,6 +119,13 @@ enum class RtsLine {
     high, // the radio sends only when it may
 };
 
+// How a port is set: 8 data bits, no parity, no flow control.
+struct PortSettings {
+    int baud;
+    int stopBits; // 1 or 2
+    RtsLine rts = RtsLine::low;
+};
+
 // One serial port, as the radio routines use it: opened, used and closed within one read.
 class SerialPort {
 public:
@@ -126,10 +133,9 @@ public:
     // What tells the device behind the port `name` from another one that may take its place, as
     // text to show; "" when there is none. Opens nothing.
     virtual std::string device(const std::string& name) const = 0;
-    // Opens the port `name` ("com1" .. "com10") at `settings` ("38400,n,8,2": baud, parity
-    // letter, data bits, stop bits), no flow control, drops DTR, sets RTS, and discards what was
-    // waiting. Throws SerialPortError when the port cannot be opened.
-    virtual void open(const std::string& name, const std::string& settings, RtsLine rts) = 0;
+    // Opens the port `name` ("com1" .. "com10"), sets it, drops DTR, sets RTS, and discards what
+    // was waiting. Throws SerialPortError when the port cannot be opened.
+    virtual void open(const std::string& name, const PortSettings& settings) = 0;
     virtual void close() = 0; // leaves both lines low
     // Sends the bytes. That nobody is there any more shows in readAll().
     virtual void write(std::string_view bytes) = 0;

@@ -77,12 +77,9 @@ std::string askVfoA(const OperatingSettings&) {
     return "FA;";
 }
 
-constexpr RadioFamily kenwoodOrYaesu(std::string_view settings,
-                                     decltype(RadioFamily::parseReply) parseReply) {
+constexpr RadioFamily kenwoodOrYaesu(int stopBits, decltype(RadioFamily::parseReply) parseReply) {
     return {
-        .settings = settings,
-        .takesBaud = true,
-        .rts = RtsLine::high, // they send nothing while RTS is low
+        .port = {0, stopBits, RtsLine::high}, // they send nothing while RTS is low
         .query = askVfoA,
         .polls = 500,
         .parseReply = parseReply,
@@ -93,11 +90,11 @@ constexpr RadioFamily kenwoodOrYaesu(std::string_view settings,
 
 } // namespace
 
-const RadioFamily kenwood = kenwoodOrYaesu(",n,8,1", vfoAReply<11>);
-const RadioFamily yaesuAscii = kenwoodOrYaesu(",n,8,2", vfoAReply<8>);
+const RadioFamily kenwood = kenwoodOrYaesu(1, vfoAReply<11>);
+const RadioFamily yaesuAscii = kenwoodOrYaesu(2, vfoAReply<8>);
 
 const RadioFamily elecraftK3{
-    .settings = "38400,n,8,2",
+    .port = {38400, 2},
     .query = askVfoA,
     .polls = 500 + 10'000, // on a band change it answers up to half a second later
     .parseReply = vfoAReply<11>,
@@ -106,7 +103,7 @@ const RadioFamily elecraftK3{
 
 // Which VFO transmits and what each is tuned to, in one go: sending and answering take 150 ms.
 const RadioFamily elecraftK2{
-    .settings = "4800,n,8,2",
+    .port = {4800, 2},
     .query = [](const OperatingSettings&) -> std::string { return "FT;FA;FB;MD;"; },
     .polls = 110'000 + 8'000,
     .parseReply = twoVfoReply,
@@ -115,7 +112,7 @@ const RadioFamily elecraftK2{
 };
 
 const RadioFamily tenTecAscii{
-    .settings = "57600,n,8,1",
+    .port = {57600, 1},
     .query = [](const OperatingSettings&) -> std::string { return "?AF\r"; },
     .attempts = 5,
     .polls = 15'000,

@@ -46,7 +46,7 @@ Reply statusReply(std::string_view bytes, std::string_view query) {
 } // namespace
 
 const RadioFamily tenTecBinary{
-    .settings = "57600,n,8,1",
+    .port = {57600, 1},
     .query = [](const OperatingSettings&) -> std::string { return "?A\r"; },
     .polls = 80'000,
     .parseReply = tenTecReply,
@@ -54,9 +54,7 @@ const RadioFamily tenTecBinary{
 };
 
 const RadioFamily yaesuBinary{
-    .settings = ",n,8,2",
-    .takesBaud = true,
-    .rts = RtsLine::high, // it sends nothing while RTS is low
+    .port = {0, 2, RtsLine::high}, // it sends nothing while RTS is low
     .query = [](const OperatingSettings&) { return std::string("\x00\x00\x00\x02\x10", 5); },
     .polls = 16'000,
     .parseReply = statusReply,

@@ -47,8 +47,8 @@ std::string mhzText(std::int64_t hertz) {
            zeroPadded(static_cast<int>(kilohertz % 1000), 3);
 }
 
-std::string lineOf(const RadioFamily& family, const OperatingSettings& settings) {
-    return (family.takesBaud ? settings.baud : "") + std::string(family.settings);
+int baudOf(const RadioFamily& family, const OperatingSettings& settings) {
+    return family.port.baud > 0 ? family.port.baud : static_cast<int>(numericValue(settings.baud));
 }
 
 // Adapters change places when they are plugged in again, and what is a harmless query to the radio
@@ -104,7 +104,11 @@ bool awaitReply(CatTransaction& cat) {
 
 // False when the program is being closed.
 bool exchange(CatTransaction& cat) {
-    cat.port.open(cat.settings.comPort, lineOf(cat.family, cat.settings), cat.family.rts);
+    PortSettings portSettings = cat.family.port;
+    portSettings.baud = baudOf(cat.family, cat.settings);
+    if (portSettings.baud == 0)
+        throw SerialPortError(cat.settings.comPort + ": no baud rate is chosen on the start page.");
+    cat.port.open(cat.settings.comPort, portSettings);
     const PortCloser closer{cat.port};
     if (!awaitQuiet(cat))
         return false;
@@ -126,13 +130,13 @@ std::string plainReason(const CatTransaction& cat) {
     const std::string known = family.reason != nullptr ? family.reason(settings, cat.bytes) : "";
     if (!known.empty())
         return known;
-    const std::string line = lineOf(family, settings);
     const bool silent = cat.bytes.empty() || cat.bytes == cat.query;
+    const bool fixed = family.port.baud > 0;
     return "The " + settings.rig + " on " + settings.comPort +
            (silent ? " did not answer" : " sent no frequency") + " at " +
-           line.substr(0, line.find(',')) + " baud" + (family.takesBaud ? "" : ", its fixed rate") +
+           std::to_string(baudOf(family, settings)) + " baud" + (fixed ? ", its fixed rate" : "") +
            (silent ? ". Is it on, and at this rate?" : ". Is it the right rig and rate?") +
-           (family.takesBaud ? "" : " BAUD RATE is not used for this rig.");
+           (fixed ? " BAUD RATE is not used for this rig." : "");
 }
 
 Message badReply(const CatTransaction& cat) {

@@ -124,8 +124,7 @@ std::string reason(const OperatingSettings& settings, std::string_view bytes) {
 } // namespace
 
 const RadioFamily icomCiv{
-    .settings = ",n,8,1",
-    .takesBaud = true,
+    .port = {0, 1},
     .query = query,
     .quietMs = 10,
     .polls = 5'000 + 80'000,

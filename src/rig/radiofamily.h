@@ -27,10 +27,7 @@ struct Received {
 };
 
 struct RadioFamily {
-    // The port's settings, "38400,n,8,2"; without the rate where the operator chooses that.
-    std::string_view settings;
-    bool takesBaud = false;
-    RtsLine rts = RtsLine::low;
+    PortSettings port; // baud 0: the rate that the operator chose
 
     std::string (*query)(const OperatingSettings& settings);
     int quietMs = 0;  // waited before the query; what is received then is discarded

@@ -77,11 +77,8 @@ std::string rigNeeds(std::string_view rig) {
         return "THIS RADIO IS NOT READ: TYPE THE FREQUENCY";
     const std::string_view address = usualCivAddress(rig);
     std::string needs = address.empty() ? "" : "ADDRESS " + std::string(address.substr(4)) + ", ";
-    if (family->takesBaud)
-        needs += family->rate;
-    else
-        needs +=
-            std::string(family->settings.substr(0, family->settings.find(','))) + " BAUD, FIXED";
+    const int fixed = family->port.baud;
+    needs += fixed == 0 ? std::string(family->rate) : std::to_string(fixed) + " BAUD, FIXED";
     return needs + ", " + std::string(family->vfo);
 }
 

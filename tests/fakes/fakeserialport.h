@@ -22,9 +22,10 @@ struct Answer {
 class FakeSerialPort : public SerialPort {
 public:
     std::string device(const std::string&) const override { return isDevice; }
-    void open(const std::string& name, const std::string& settings, RtsLine) override {
+    void open(const std::string& name, const PortSettings& settings) override {
         EXPECT_FALSE(m_open) << "opened twice";
-        opened.push_back(name + ' ' + settings);
+        opened.push_back(name + ' ' + std::to_string(settings.baud) + ",n,8," +
+                         std::to_string(settings.stopBits));
         if (refusal)
             throw *refusal;
         m_open = true;

@@ -162,6 +162,8 @@ TEST_F(CatLink, PortsThatCannotBeOpenedOrAreOthersThanAtStartSayWhy) {
         port.refusal = SerialPortError("why", notThere);
         EXPECT_EQ(read(), notThere ? " Incorrect COM Port \nwhy" : " AN ERROR HAS OCCURED \nwhy");
     }
+    settings.baud = "None";
+    EXPECT_THAT(read(), HasSubstr("com1: no baud rate is chosen"));
     settings.portDevice = "/dev/ttyUSB0";
     port.isDevice = "/dev/ttyUSB1";
     port.opened.clear();

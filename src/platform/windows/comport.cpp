@@ -3,14 +3,12 @@
 
 #include "base/fixedtext.h"
 #include "platform/filenames.h"
-#include "platform/linesettings.h"
 #include "platform/machine.h"
 #include "platform/serialnames.h"
 #include "platform/windows/win32.h"
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <utility>
 
 namespace vantrel {
@@ -18,19 +16,16 @@ namespace vantrel {
 namespace {
 
 // No flow control; DTR low, RTS as the radio needs it.
-DCB lineFor(const LineSettings& settings, RtsLine rts) {
+DCB lineFor(const PortSettings& settings) {
     DCB line = {};
     line.DCBlength = sizeof line;
     line.BaudRate = static_cast<DWORD>(settings.baud);
     line.fBinary = 1;
-    line.fParity = settings.parity != 'n';
-    line.Parity = settings.parity == 'e'   ? EVENPARITY
-                  : settings.parity == 'o' ? ODDPARITY
-                                           : NOPARITY;
-    line.ByteSize = static_cast<BYTE>(settings.dataBits);
+    line.Parity = NOPARITY;
+    line.ByteSize = 8;
     line.StopBits = settings.stopBits == 2 ? TWOSTOPBITS : ONESTOPBIT;
     line.fDtrControl = DTR_CONTROL_DISABLE;
-    line.fRtsControl = rts == RtsLine::high ? RTS_CONTROL_ENABLE : RTS_CONTROL_DISABLE;
+    line.fRtsControl = settings.rts == RtsLine::high ? RTS_CONTROL_ENABLE : RTS_CONTROL_DISABLE;
     return line;
 }
 
@@ -85,23 +80,20 @@ std::string ComPort::device(const std::string& name) const {
     return shownText(serialIdentity(m_files, name));
 }
 
-void ComPort::open(const std::string& name, const std::string& settings, RtsLine rts) {
+void ComPort::open(const std::string& name, const PortSettings& settings) {
     if (isOpen())
         throw SerialPortError(name + " is being read already.");
-    const std::optional<LineSettings> line = lineSettings(settings);
-    if (!line)
-        throw SerialPortError(name + ": no baud rate is chosen on the start page.");
     if (portNumber(name) == 0)
         throw SerialPortError(name + " is not there: no such serial port.", true);
     m_name = name + " (" + upper(name) + ")";
     m_port = m_calls->open(wideText("\\\\.\\" + upper(name)).c_str()); // COM10 has no shorter name
     if (!isOpen())
         throw openError(m_name);
-    m_rtsRaised = rts == RtsLine::high;
+    m_rtsRaised = settings.rts == RtsLine::high;
     m_unplugged = false;
     m_input.clear();
     m_openedAt = std::chrono::steady_clock::now();
-    setUp(lineFor(*line, rts));
+    setUp(lineFor(settings));
 }
 
 void ComPort::setUp(const DCB& wanted) {

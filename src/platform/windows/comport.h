@@ -37,7 +37,7 @@ public:
     ~ComPort() override;
 
     std::string device(const std::string& name) const override;
-    void open(const std::string& name, const std::string& settings, RtsLine rts) override;
+    void open(const std::string& name, const PortSettings& settings) override;
     void close() override;
     void write(std::string_view bytes) override;
     bool wait(int milliseconds) override;

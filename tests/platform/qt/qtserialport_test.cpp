@@ -47,10 +47,9 @@ struct RealPort : ::testing::TestWithParam<Radio> {
         clock.start();
     }
 
-    void expectRefusal(const std::string& name, const std::string& line, bool notThere,
-                       const char* words) {
+    void expectRefusal(const std::string& name, bool notThere, const char* words) {
         try {
-            port->open(name, line, RtsLine::low);
+            port->open(name, usual);
             ADD_FAILURE() << name << " opened";
         } catch (const SerialPortError& error) {
             EXPECT_EQ(error.notThere(), notThere) << error.what();
@@ -64,6 +63,7 @@ struct RealPort : ::testing::TestWithParam<Radio> {
     Files files{folder.string(), calls};
     std::unique_ptr<SerialPort> port = makeSerialPort(files);
     OperatingSettings settings;
+    PortSettings usual{9600, 1};
     QElapsedTimer clock;
 };
 
@@ -113,25 +113,22 @@ TEST_F(RealPort, UnpluggedMidReplyIsToldAtOnceAndNothingHangsAfterwards) {
 }
 
 TEST_F(RealPort, PortsThatCannotBeUsedSayWhy) {
-    const std::string line = "9600,n,8,1";
     folder.write("com3", "no port");
     std::filesystem::create_symlink("/dev/vantrel-no-such-device", folder.path() / "com4");
-    expectRefusal("com3", line, true, "no serial port");
-    expectRefusal("com4", line, true,
-                  "com4 leads to /dev/vantrel-no-such-device, which is not there.");
-    expectRefusal("None", line, true, "None");
-    expectRefusal("com1", "None,n,8,1", false, "baud rate");
+    expectRefusal("com3", true, "no serial port");
+    expectRefusal("com4", true, "com4 leads to /dev/vantrel-no-such-device, which is not there.");
+    expectRefusal("None", true, "None");
 
     const auto other = makeSerialPort(files);
-    other->open("com1", line, RtsLine::low);
-    expectRefusal("com1", line, false, "another program");
+    other->open("com1", usual);
+    expectRefusal("com1", false, "another program");
     other->close();
-    port->open("com1", line, RtsLine::low);
-    expectRefusal("com1", line, false, "already");
+    port->open("com1", usual);
+    expectRefusal("com1", false, "already");
     port->close();
     if (::geteuid() != 0) { // the superuser may open every port
         std::filesystem::permissions(radio.device(), std::filesystem::perms::none);
-        expectRefusal("com1", line, false, "group \"");
+        expectRefusal("com1", false, "group \"");
     }
 }
 

@@ -204,6 +204,7 @@ TEST_F(MainPageTest, AutoReadStaysOffUntilItIsTurnedOn) {
     const Radio& radio = radioNamed("Kenwood");
     module.settings.rig = radio.rig;
     module.settings.comPort = "com1";
+    module.settings.baud = radio.baud;
     serialPort.answers.push_back({radio.query, radio.reply(7'050'000)});
     openPage();
     settle();

@@ -2,7 +2,6 @@
 #include "base/runtimeerror.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "platform/linesettings.h"
 #include "platform/posix/seriallinks.h"
 #include "platform/qt/qtdevices.h"
 #include "platform/serialnames.h"
@@ -26,16 +25,6 @@ namespace vantrel {
 namespace {
 
 enum WaitResult { woken = 1, givenUp = 2 };
-
-void setLine(QSerialPort& port, const LineSettings& line) {
-    port.setBaudRate(line.baud);
-    port.setDataBits(line.dataBits == 7 ? QSerialPort::Data7 : QSerialPort::Data8);
-    port.setStopBits(line.stopBits == 2 ? QSerialPort::TwoStop : QSerialPort::OneStop);
-    port.setParity(line.parity == 'e'   ? QSerialPort::EvenParity
-                   : line.parity == 'o' ? QSerialPort::OddParity
-                                        : QSerialPort::NoParity);
-    port.setFlowControl(QSerialPort::NoFlowControl);
-}
 
 // The device behind the port as the system names it, links followed; throws where there is
 // none.
@@ -125,20 +114,21 @@ public:
         }
     }
 
-    void open(const std::string& name, const std::string& settings, RtsLine rts) override {
+    void open(const std::string& name, const PortSettings& settings) override {
         if (m_port.isOpen())
             throw SerialPortError(name + " is being read already.");
-        const std::optional<LineSettings> line = lineSettings(settings);
-        if (!line)
-            throw SerialPortError(name + ": no baud rate is chosen on the start page.");
         const std::string device = realDevice(m_files.programFolder(), name);
         m_name = name + " (" + shownText(device) + ")";
         m_port.setPortName(QString::fromStdString(device));
-        setLine(m_port, *line);
+        m_port.setBaudRate(settings.baud);
+        m_port.setDataBits(QSerialPort::Data8);
+        m_port.setStopBits(settings.stopBits == 2 ? QSerialPort::TwoStop : QSerialPort::OneStop);
+        m_port.setParity(QSerialPort::NoParity);
+        m_port.setFlowControl(QSerialPort::NoFlowControl);
         if (!m_port.open(QIODevice::ReadWrite))
             throw openError(m_port, device, m_name);
         // A port without these lines (a pseudo-terminal) refuses, and has nothing to set.
-        m_rtsRaised = rts == RtsLine::high;
+        m_rtsRaised = settings.rts == RtsLine::high;
         m_port.setDataTerminalReady(false);
         m_port.setRequestToSend(m_rtsRaised);
         m_port.clearError();

@@ -11,15 +11,6 @@ bool isDupe(std::string_view line) {
     return qso::dupeColumns.of(line) == dupeMarker;
 }
 
-std::string assembleLine(const ContactFields& qso) {
-    // My state and number run together and touch his call: their own padding separates
-    // them, and every reader's columns rely on it.
-    return "QSO: " + qso.frequency + ' ' + qso.mode + ' ' + qso.date + ' ' + qso.time + ' ' +
-           qso.myCall + ' ' + qso.rstSent + ' ' + qso.myName + ' ' + qso.myState + qso.myNumber +
-           qso.hisCall + ' ' + qso.rstReceived + ' ' + qso.hisName + ' ' + qso.hisState + ' ' +
-           qso.hisNumber + qso.marker;
-}
-
 std::string withField(std::string_view line, Column column, std::string_view value) {
     std::string result =
         length(line) < column.last() ? leftAligned(line, column.last()) : std::string(line);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The fixed-column "QSO: " line of the contest log: its one column table, reading a field,
-// assembling a line.
+// The fixed-column "QSO: " line of the contest log: its one column table, reading a field, writing
+// one.
 #pragma once
 
 #include "base/fixedtext.h"
@@ -51,28 +51,6 @@ inline constexpr int shortestCall = 3; // less is neither logged nor searched fo
 bool isContact(std::string_view line);
 // True when columns 102-105 read "DUPE".
 bool isDupe(std::string_view line);
-
-// One contact's fields, each already at its width (the marker: 6, or 4 for "DUPE").
-struct ContactFields {
-    std::string frequency;   // 5
-    std::string mode;        // 2
-    std::string date;        // 10
-    std::string time;        // 4
-    std::string myCall;      // 10
-    std::string rstSent;     // 3
-    std::string myName;      // 10
-    std::string myState;     // 3
-    std::string myNumber;    // 6
-    std::string hisCall;     // 10
-    std::string rstReceived; // 3
-    std::string hisName;     // 10
-    std::string hisState;    // 3
-    std::string hisNumber;   // 6
-    std::string marker;      // 4 or 6
-};
-
-// The contact line: 107 columns, 105 with the "DUPE" marker, without a line end.
-std::string assembleLine(const ContactFields& qso);
 
 // `line` with `value` written over the columns of `column`, the line first padded with
 // blanks to reach them; value is cut or padded on the right to the column's width. No other

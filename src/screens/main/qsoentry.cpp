@@ -8,13 +8,11 @@
 #include "shared/settings.h"
 #include "shared/utctime.h"
 
+#include <utility>
+
 namespace vantrel {
 
 namespace {
-
-std::string fieldOf(std::string_view box, int width) {
-    return leftAligned(withoutSeparators(box), width);
-}
 
 // A setting that a hand-edited file made too wide is refused: it would shift the columns behind it.
 std::string settingOf(std::string_view setting, int width, std::string_view field) {
@@ -67,22 +65,25 @@ FrequencyCheck checkFrequency(std::string_view mhz, const OperatingSettings& set
 
 std::string contactLine(const Entry& entry, const OperatingSettings& settings,
                         std::string_view marker, const UtcTime& utc) {
-    return assembleLine(
-        {.frequency = khzField(entry.frequency),
-         .mode = "CW",
-         .date = utc.date,
-         .time = utc.time,
-         .myCall = settingOf(settings.myCall, qso::myCall.width, "my call"),
-         .rstSent = fieldOf(entry.rstSent, qso::rstSent.width),
-         .myName = settingOf(settings.myName, qso::myName.width, "my name"),
-         .myState = settingOf(settings.myState, qso::myState.width, "my state"),
-         .myNumber = settingOf(settings.myNumber, qso::myNumber.width, "my SKCC number"),
-         .hisCall = leftAligned(upper(callAsEntered(entry.call)), qso::hisCall.width),
-         .rstReceived = fieldOf(entry.rstReceived, qso::rstReceived.width),
-         .hisName = fieldOf(entry.name, qso::hisName.width),
-         .hisState = fieldOf(entry.state, qso::hisState.width),
-         .hisNumber = fieldOf(entry.number, qso::hisNumber.width),
-         .marker = std::string(marker)});
+    const std::pair<Column, std::string> fields[] = {
+        {qso::frequency, khzField(entry.frequency)},
+        {qso::mode, "CW"},
+        {qso::date, utc.date},
+        {qso::time, utc.time},
+        {qso::myCall, settingOf(settings.myCall, qso::myCall.width, "my call")},
+        {qso::rstSent, withoutSeparators(entry.rstSent)},
+        {qso::myName, settingOf(settings.myName, qso::myName.width, "my name")},
+        {qso::myState, settingOf(settings.myState, qso::myState.width, "my state")},
+        {qso::myNumber, settingOf(settings.myNumber, qso::myNumber.width, "my SKCC number")},
+        {qso::hisCall, upper(callAsEntered(entry.call))},
+        {qso::rstReceived, withoutSeparators(entry.rstReceived)},
+        {qso::hisName, withoutSeparators(entry.name)},
+        {qso::hisState, withoutSeparators(entry.state)},
+        {qso::hisNumber, withoutSeparators(entry.number)}};
+    std::string line = "QSO:";
+    for (const auto& [column, value] : fields)
+        line = withField(line, column, value);
+    return line + std::string(marker); // not padded: "DUPE" stays the bare four
 }
 
 RuntimeError notLogged(const RuntimeError& error) {

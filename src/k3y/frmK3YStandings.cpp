@@ -66,7 +66,7 @@ QLabel* makeCount(FormBuilder& build, int number, const std::string& of) {
 const StandingsPage areaPage{
     Screen::standings,
     "frmK3YStandings",
-    areaRows,
+    areaStations,
     areaStandings,
     [](int row, int column) { return "Text" + std::to_string((row - 1) * bandCount + column); },
     Screen::standings2,
@@ -75,7 +75,7 @@ const StandingsPage areaPage{
 const StandingsPage regionPage{
     Screen::standings2,
     "frmK3YStandings2",
-    regionRows,
+    regionStations,
     regionStandings,
     [](int row, int column) { return "Text" + std::to_string(row * 110 + column); },
     Screen::standings,
@@ -113,7 +113,7 @@ QGridLayout* frmK3YStandings::createGrid() {
         grid->addWidget(m_bandTotals.back(), rowCount + 1, column);
     }
     for (int row = 1; row <= rowCount; ++row) {
-        const std::string station(m_page.rows[static_cast<std::size_t>(row - 1)].label);
+        const std::string station(m_page.rows[static_cast<std::size_t>(row - 1)]);
         grid->addWidget(build.label(rowLabels[row - 1], station.c_str()), row, 0);
         for (int column = 1; column <= bandCount; ++column) {
             m_cells.push_back(makeCell(build, m_page.cellName(row, column)));
@@ -142,7 +142,7 @@ void frmK3YStandings::showStandings(const Contacts& contacts) {
     const Standings standings = m_page.tally(contacts);
     auto box = m_cells.begin();
     for (int row = 1; row <= static_cast<int>(m_page.rows.size()); ++row) {
-        const std::string_view station = m_page.rows[static_cast<std::size_t>(row - 1)].label;
+        const std::string_view station = m_page.rows[static_cast<std::size_t>(row - 1)];
         for (int column = 1; column <= bandCount; ++column, ++box)
             showCell(*box, standings.cell(row, column), station,
                      bands.at(static_cast<std::size_t>(column - 1)).label);

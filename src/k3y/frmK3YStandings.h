@@ -16,7 +16,7 @@ namespace vantrel {
 struct StandingsPage {
     Screen screen;
     const char* name;
-    std::span<const StandingsRow> rows;
+    std::span<const std::string_view> rows;
     Standings (*tally)(const Contacts& contacts);
     std::string (*cellName)(int row, int column); // row and column from 1
     Screen other;                                 // the other page

@@ -78,7 +78,7 @@ void exporting(const bench::BenchFolder& folder, Files& files, Log& log) {
         "ADIF of 12,000", 2, [&] { exportAdif(files, log); }, bound(adifText(log.contacts())));
     bench::pair(
         "ADIF for other loggers of 12,000", 3, [&] { exportStrictAdif(files, clock, "0", log); },
-        bound(strictAdifText(log.contacts(), "20110616 001230")));
+        bound(strictAdif(log.contacts(), "20110616 001230").bytes));
 }
 
 void sorting(const bench::BenchFolder& folder, Files& files) {

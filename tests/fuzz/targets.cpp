@@ -128,7 +128,7 @@ void adif(std::string input) {
     const std::string customary = adifText(contacts);
     assert(std::count(customary.begin(), customary.end(), '\n') ==
            static_cast<long>(contacts.size()) + 2);
-    const std::string strictFile = strictAdifText(contacts, created);
+    const std::string strictFile = strictAdif(contacts, created).bytes;
     const std::vector<std::string_view> strictLines = linesOf(strictFile);
     assert(strictLines.at(0).starts_with("Contacts") && strictLines.at(1).starts_with("<ADIF_VER"));
     auto next = strictLines.begin() + 2;

@@ -186,14 +186,6 @@ void appendHisSide(std::string& bytes, std::string_view contact, std::string_vie
     appendField(bytes, "<NOTES:", notesOf(country.empty() ? state : std::string_view(), number));
 }
 
-void appendFrequency(std::string& bytes, std::string_view contact) {
-    const int khz = kilohertz(qso::frequency.of(contact));
-    if (khz == 0)
-        return;
-    appendField(bytes, "<BAND:", bandName(khz));
-    appendField(bytes, "<FREQ:", megahertz(khz));
-}
-
 void appendMySide(std::string& bytes, std::string_view contact) {
     const std::string call = plainText(qso::myCall.of(contact));
     const std::string state = plainText(qso::myState.of(contact));
@@ -208,10 +200,12 @@ void appendMySide(std::string& bytes, std::string_view contact) {
 void appendContact(std::string& bytes, std::string_view contact,
                    const chrono::year_month_day& date) {
     const std::string call = plainText(qso::hisCall.of(contact));
+    const int khz = kilohertz(qso::frequency.of(contact));
     appendField(bytes, "<CALL:", call);
     appendField(bytes, "<QSO_DATE:", adifDate(date));
     appendField(bytes, "<TIME_ON:", qso::time.of(contact));
-    appendFrequency(bytes, contact);
+    appendField(bytes, "<BAND:", bandName(khz));
+    appendField(bytes, "<FREQ:", khz == 0 ? std::string() : megahertz(khz));
     appendField(bytes, "<MODE:", plainText(qso::mode.of(contact)));
     appendHisSide(bytes, contact, call);
     appendMySide(bytes, contact);
@@ -226,26 +220,24 @@ std::optional<chrono::year_month_day> dayToWrite(std::string_view contact) {
     return readDate(qso::date.of(contact));
 }
 
-void appendHeader(std::string& bytes, std::string_view created) {
-    bytes += "Contacts logged with Vantrel\r\n";
+} // namespace
+
+// The sprints and the K3Y event are not in ADIF's list of contests: no CONTEST_ID.
+StrictAdif strictAdif(const Contacts& contacts, std::string_view created) {
+    StrictAdif file{"Contacts logged with Vantrel\r\n"};
+    std::string& bytes = file.bytes;
+    bytes.reserve((contacts.size() + 1) * typicalStrictRecord);
     appendField(bytes, "<ADIF_VER:", adifVersion);
     appendField(bytes, "<PROGRAMID:", programId);
     appendField(bytes, "<PROGRAMVERSION:", version);
     appendField(bytes, "<CREATED_TIMESTAMP:", created);
     bytes += "<EOH>\r\n";
-}
-
-} // namespace
-
-// The sprints and the K3Y event are not in ADIF's list of contests: no CONTEST_ID.
-std::string strictAdifText(const Contacts& contacts, std::string_view created) {
-    std::string bytes;
-    bytes.reserve((contacts.size() + 1) * typicalStrictRecord);
-    appendHeader(bytes, created);
     for (const std::string_view contact : contacts)
-        if (const auto day = dayToWrite(contact))
+        if (const auto day = dayToWrite(contact)) {
             appendContact(bytes, contact, *day);
-    return bytes;
+            ++file.written;
+        }
+    return file;
 }
 
 std::string creationTime(const LocalTime& local, std::string_view gmtOffset) {
@@ -269,10 +261,9 @@ StrictAdifFile exportStrictAdif(Files& files, const Clock& clock, std::string_vi
     const Contacts& contacts = log.contacts();
     const std::string name = strictAdifFileName(log.name());
     requireOtherThanLog(files, name, log.name());
-    files.rewrite(name, strictAdifText(contacts, creationTime(clock.now(), gmtOffset)));
-    const auto written =
-        static_cast<std::size_t>(std::count_if(contacts.begin(), contacts.end(), dayToWrite));
-    return {files.path(name), written, contacts.size() - written};
+    const StrictAdif file = strictAdif(contacts, creationTime(clock.now(), gmtOffset));
+    files.rewrite(name, file.bytes);
+    return {files.path(name), file.written, contacts.size() - file.written};
 }
 
 } // namespace vantrel

@@ -14,9 +14,14 @@ class Clock;
 class Files;
 struct LocalTime;
 
-// The file's bytes: a header, then a line per contact. Contacts without a call, a date or a time of
-// day are left out: no logger could import them. `created`: "YYYYMMDD HHMMSS", UTC.
-std::string strictAdifText(const Contacts& contacts, std::string_view created);
+struct StrictAdif {
+    std::string bytes;
+    std::size_t written = 0; // contacts
+};
+
+// A header, then a line per contact. Contacts without a call, a date or a time of day are left out:
+// no logger could import them. `created`: "YYYYMMDD HHMMSS", UTC.
+StrictAdif strictAdif(const Contacts& contacts, std::string_view created);
 
 // "YYYYMMDD HHMMSS" in UTC, `gmtOffset` hours after local time.
 std::string creationTime(const LocalTime& local, std::string_view gmtOffset);

@@ -45,7 +45,7 @@ TEST(Adif, EveryContactIsALineWithTheQuirksThatReadersRelyOn) {
 }
 
 std::string strict(const std::string& log) {
-    return strictAdifText(contactsIn(log), "20110616 001230");
+    return strictAdif(contactsIn(log), "20110616 001230").bytes;
 }
 
 const std::string threeContacts =

@@ -55,7 +55,7 @@ TEST_F(FilesPage, WritesBothAdifFilesAtEachClickAndSaysWhere) {
     module.settings.gmtOffset = "5";
     click(page, "Option14");
     EXPECT_EQ(folder.read("SKS-STRICT.ADI"),
-              strictAdifText(contactsIn(contacts), "20120229 031209"));
+              strictAdif(contactsIn(contacts), "20120229 031209").bytes);
     EXPECT_THAT(shown(page, "Option6Result"), // not on the day of the clock: with its date
                 ::testing::MatchesRegex("20..-..-.. [0-2].[0-5]. SKS.ADI"));
     folder.write("SKS.ADI", log);

@@ -36,17 +36,6 @@ void drawFrame(QPainter& painter, const QRect& rect, const QColor& colour, int w
     painter.restore();
 }
 
-// Inside the frame of the box, which shows where the focus is.
-void drawRequiredFrame(QPainter& painter, const QRect& rect, const QPalette& palette) {
-    constexpr qreal line = 2;
-    constexpr qreal inset = 2 + line / 2;
-    painter.save();
-    painter.setPen(QPen(cautionColour(palette), line));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(rect).adjusted(inset, inset, -inset, -inset));
-    painter.restore();
-}
-
 bool isMissing(const QWidget* widget) {
     const auto* box = qobject_cast<const QLineEdit*>(widget);
     return box != nullptr && box->property(requiredProperty).isValid() &&
@@ -144,8 +133,9 @@ void VisibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         drawFrame(*painter, option->rect,
                   focus ? accentColour(option->palette) : frameColour(option->palette),
                   focus ? 2 : 1);
-        if (isMissing(widget))
-            drawRequiredFrame(*painter, option->rect, option->palette);
+        if (isMissing(widget)) // inside the frame that shows where the focus is
+            drawFrame(*painter, option->rect.adjusted(2, 2, -2, -2), cautionColour(option->palette),
+                      2);
     }
 }
 

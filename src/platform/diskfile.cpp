@@ -152,12 +152,12 @@ std::string replaceablePath(const std::string& folder, std::string_view name) {
     return path;
 }
 
-void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
+std::string readFile(SystemCalls& calls, const std::string& path) {
     requireRegular(path);
     const DiskFile file(calls, path, OpenFor::reading, path);
     // One more than its size, so that the end shows without another round.
     const std::optional<FileFacts> facts = factsOf(path);
-    bytes.resize(std::max<std::size_t>(facts ? facts->size + 1 : 0, smallestRead));
+    std::string bytes(std::max<std::size_t>(facts ? facts->size + 1 : 0, smallestRead), '\0');
     std::size_t filled = 0;
     for (;;) {
         if (filled == bytes.size())
@@ -172,6 +172,7 @@ void readFile(SystemCalls& calls, const std::string& path, std::string& bytes) {
         filled += static_cast<std::size_t>(count);
     }
     bytes.resize(filled);
+    return bytes;
 }
 
 DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& like,

@@ -56,7 +56,7 @@ std::string targetPath(const std::string& folder, std::string_view name);
 // Somebody else's may be replaced, as the system has it, by whoever may write the folder.
 std::string replaceablePath(const std::string& folder, std::string_view name);
 
-void readFile(SystemCalls& calls, const std::string& path, std::string& bytes);
+std::string readFile(SystemCalls& calls, const std::string& path);
 
 // Creates the file, which must not be there; nothing is left of it on failure. It gets the owner,
 // group and permissions of `like`, where that exists, as far as the system lets it, and is at no

@@ -70,9 +70,7 @@ bool Files::present(std::string_view name) const {
 }
 
 std::string Files::read(std::string_view name) const {
-    std::string bytes;
-    readFile(m_calls, nativePath(name), bytes);
-    return bytes;
+    return readFile(m_calls, nativePath(name));
 }
 
 std::string Files::stamp(std::string_view name) const {

@@ -126,9 +126,7 @@ void Replacement::linkOrCopy(const std::string& file, const std::string& second)
         return;
     if (isDiskFull(errno))
         throwSystemError(errno, file);
-    std::string bytes;
-    readFile(m_calls, file, bytes);
-    createFile(m_calls, second, file, file, bytes).sync();
+    createFile(m_calls, second, file, file, readFile(m_calls, file)).sync();
 }
 
 // A line each: "+" or "-" for a file that existed or not, "*" for a copy, its name.
@@ -141,8 +139,7 @@ std::string Replacement::journalText(const ReplacedFiles& files) {
 }
 
 Replacement::ReplacedFiles Replacement::readJournal(std::string_view journal) const {
-    std::string bytes;
-    readFile(m_calls, journalPath(journal), bytes);
+    const std::string bytes = readFile(m_calls, journalPath(journal));
     ReplacedFiles files;
     for (const std::string_view line : linesOf(bytes)) {
         const bool isCopy = mid(line, 2, 1) == "*";

@@ -117,14 +117,14 @@ void frmMemberImport::receivePath(const std::string& path) {
 void frmMemberImport::addMembers() {
     const std::string path = textOf(m_pathBox);
     if (m_page.list == MemberList::members && !platform().files.present(path)) {
-        messages().show({std::string(memberListMissing), BoxIcon::exclamation,
+        messages().show({"SKCCLIST.TXT IS NOT FOUND", BoxIcon::exclamation,
                          missingListText(platform().files, path)});
         return;
     }
     // Each import writes all five files as it read them: what the other one added would be lost.
     bool& isRunning = shared().importRuns;
     if (isRunning) {
-        messages().show({std::string(otherImportRuns), BoxIcon::exclamation});
+        messages().show({"AN IMPORT IS RUNNING: WAIT FOR ITS END", BoxIcon::exclamation});
         return;
     }
     isRunning = true;

@@ -67,10 +67,6 @@ struct RosterView {
 // file, 9 for more than 8,000 items.
 RosterView viewRosterFile(const Files& files, std::size_t number);
 
-// Shown when the files are sorted.
-inline constexpr std::string_view rosterSorted =
-    "THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s";
-
 // Sorts each of the five files by the number in its lines; lines with equal numbers keep their
 // order. One file after the other is replaced: what was sorted before a failure stays so. Throws
 // RuntimeError 53 for a missing file, 9 for one of more than 8,000 lines, and as Files::rewrite.

@@ -42,10 +42,6 @@ struct ImportResult {
 ImportResult importMembers(Files& files, MemberList list, std::string_view listPath,
                            const ImportProgress& progress);
 
-// Shown when the list of members is missing.
-inline constexpr std::string_view memberListMissing = "SKCCLIST.TXT IS NOT FOUND";
-// Shown for an import while another one runs.
-inline constexpr std::string_view otherImportRuns = "AN IMPORT IS RUNNING: WAIT FOR ITS END";
 // "DONE. . . . 3 MBRS ADDED. Click EXIT"; the page of the members' list has its own wording.
 std::string addedText(MemberList list, int added);
 // "3 LINES SKIPPED", and that it is the other list; empty for none.

@@ -18,9 +18,6 @@ void appendAdifItem(std::string& bytes, std::string_view head, std::string_view 
 // The file's bytes: "<EOH>", a line per contact (duplicates too), "<EOF>", CR LF after each.
 std::string adifText(const Contacts& contacts);
 
-// Shown above the path of an ADIF file that was written.
-inline constexpr std::string_view adifCreated = "ADIF FILE CREATED AT:";
-
 // Rereads the log and writes its ADIF file. Returns that file's full path, to show. Throws as
 // Log::reread, adifFileName, requireOtherThanLog and Files::rewrite; the file is then as it was.
 std::string exportAdif(Files& files, Log& log);

@@ -9,10 +9,6 @@ namespace vantrel {
 
 class Files;
 
-// Shown while the backup is made and afterwards.
-inline constexpr std::string_view backupUnderWay = "    < WORKING >";
-inline constexpr std::string_view backupDone = "DONE......CLICK EXIT";
-
 // What a backup did.
 struct Backup {
     int contacts;     // written

@@ -65,7 +65,7 @@ void frmVantrelBackup::receivePath(const std::string& path) {
 
 void frmVantrelBackup::backUp() {
     showLog();
-    put(m_status, backupUnderWay);
+    put(m_status, "    < WORKING >");
     m_status->repaint();
     try {
         const Backup backup = backUpLog(platform().files, shared().log.name(), textOf(m_folderBox));
@@ -74,7 +74,8 @@ void frmVantrelBackup::backUp() {
         m_status->clear();
         throw;
     }
-    m_status->announce(backupDone, std::string(backupDone) + ". " + textOf(m_copy));
+    const std::string done = "DONE......CLICK EXIT";
+    m_status->announce(done, done + ". " + textOf(m_copy));
 }
 
 void frmVantrelBackup::altBPressed() {

@@ -52,7 +52,10 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
     const auto strictAdif = [this] {
         return "UPLOAD THIS: " + writtenNow(strictAdifFileName(shared().log.name()));
     };
-    const auto log = [this] { return logText(shared().log.name(), shared().log.count().value()); };
+    const auto log = [this] {
+        return std::string(lastPart(shared().log.name())) + ' ' +
+               counted(shared().log.count().value(), "QSO");
+    };
     return {
         {"MEMBERS",
          {{"Option1", "SHOW MEMBERS &A...", "SHOWS SKSDB1.TXT", members(1), membersOf(1)},
@@ -140,7 +143,7 @@ void frmVantrelFiles::showMembers(std::size_t number) {
 
 void frmVantrelFiles::sortMembers() {
     sortRosterFiles(platform().files);
-    messages().show({std::string(rosterSorted), BoxIcon::exclamation});
+    messages().show({"THE DATABASE FILES HAVE BEEN ALPHABETIZED BY SKCC#s", BoxIcon::exclamation});
 }
 
 // --- The log ---------------------------------------------------------------------------------
@@ -155,7 +158,7 @@ void frmVantrelFiles::exportLogStrictly() {
 
 // path: empty when no file was made.
 void frmVantrelFiles::showAdifFile(const std::string& path) {
-    m_adifCaption->announce(path.empty() ? std::string_view() : adifCreated);
+    m_adifCaption->announce(path.empty() ? "" : "ADIF FILE CREATED AT:");
     put(m_adifPath, path);
     m_adifPath->setToolTip(m_adifPath->text());
     m_adifContacts->clear();
@@ -172,7 +175,7 @@ void frmVantrelFiles::printLog() {
     const std::string note =
         sendToPrinter(platform().printer, files, logPrintLines(log, files.read(log)),
                       nameBeside(log, "-LOG.PDF"));
-    messages().show({std::string(logPrinted), BoxIcon::exclamation, note});
+    messages().show({"THE FILE HAS BEEN SENT TO THE PRINTER", BoxIcon::exclamation, note});
 }
 
 } // namespace vantrel

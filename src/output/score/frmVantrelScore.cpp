@@ -159,7 +159,7 @@ void frmVantrelScore::print() {
     const std::string note =
         sendToPrinter(platform().printer, platform().files, wrappedForPaper(report()),
                       nameBeside(shared().log.name(), "-SCORE.PDF"));
-    messages().show({std::string(reportPrinted), BoxIcon::exclamation, note});
+    messages().show({"The File has been sent to the Printer!", BoxIcon::exclamation, note});
     firstFocus()->setFocus(); // EXIT
 }
 

@@ -26,9 +26,6 @@ std::string scoreSum(const Score& score);
 enum class GainText { full, brief };
 std::string scoreGain(const ScoreTally& tally, std::string_view contact, GainText text);
 
-// Shown when the report has been sent to the printer.
-inline constexpr std::string_view reportPrinted = "The File has been sent to the Printer!";
-
 // Two empty lines, the log's full path, an empty line, eight lines of label and figure, an
 // empty line, the total.
 std::vector<std::string> scoreReport(const Score& score, std::string_view logPath);

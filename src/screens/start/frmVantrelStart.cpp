@@ -312,11 +312,9 @@ void frmVantrelStart::start() {
             put(box, upper(textOf(box)));
     const OperatingSettings settings = storedSettings(pageSettings());
     saveSettings(platform().files, settings);
-    const OpenResult probe = tryToOpen(platform().files, settings.logFileName);
-    if (probe != OpenResult::opened) {
-        const bool file = probe == OpenResult::fileNotFound;
-        messages().show({std::string(file ? fileNotFoundText : pathNotFoundText), BoxIcon::critical,
-                         platform().files.path(settings.logFileName)});
+    const std::string missing(notThereText(platform().files, settings.logFileName));
+    if (!missing.empty()) {
+        messages().show({missing, BoxIcon::critical, platform().files.path(settings.logFileName)});
         return;
     }
     // Not earlier: a main page behind this one uses the old settings until START succeeds.

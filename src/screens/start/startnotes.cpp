@@ -48,20 +48,20 @@ void refuseOwnFile(const Files& files, std::string_view logFileName) {
     requireRoomForNames(files, logFileName);
 }
 
-OpenResult tryToOpen(const Files& files, std::string_view logFileName) {
+std::string_view notThereText(const Files& files, std::string_view logFileName) {
     if (trim(logFileName).empty())
-        return OpenResult::fileNotFound;
+        return fileNotFoundText;
     refuseOwnFile(files, logFileName);
     try {
         files.read(logFileName);
     } catch (const RuntimeError& error) {
         if (error.code() == ErrorCode::fileNotFound)
-            return OpenResult::fileNotFound;
+            return fileNotFoundText;
         if (error.code() == ErrorCode::pathNotFound)
-            return OpenResult::pathNotFound;
+            return pathNotFoundText;
         throw;
     }
-    return OpenResult::opened;
+    return {};
 }
 
 StatusNote logNote(const Files& files, std::string_view logFileName, std::string_view contestText) {

@@ -12,7 +12,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr int listColumns = 36;
+constexpr int areaColumns = 36;
 
 // The blanks inside the items line up the codes in one font only; this draws them as a column in
 // any font.
@@ -73,7 +73,7 @@ void frmVantrelCallArea::createAreas() {
     m_areas->lines()->setLines(std::move(items));
     m_areas->setItemDelegate(new AreaDelegate(m_areas));
     const int rowHeight = fontMetrics().height() + 1;
-    m_areas->setMinimumSize(fontMetrics().averageCharWidth() * listColumns,
+    m_areas->setMinimumSize(fontMetrics().averageCharWidth() * areaColumns,
                             rowHeight * static_cast<int>(callAreas.size()) +
                                 2 * m_areas->frameWidth());
     FormBuilder::onChoice(m_areas, [this](std::size_t row) { choose(callAreas.at(row)); });

@@ -10,7 +10,7 @@
 namespace vantrel {
 
 namespace {
-constexpr int widthInCharacters = 90;
+constexpr int importCharacters = 90;
 // How long a display shows one picture, at 60 a second: nothing has to be drawn more often.
 constexpr int frameMilliseconds = 16;
 } // namespace
@@ -56,7 +56,7 @@ frmMemberImport::frmMemberImport(const FormContext& context, const MemberImportP
                row({m_addButton, Item::room(), m_exitButton})});
     connectHandler(m_pathBox, &QLineEdit::returnPressed, [this] { m_addButton->setFocus(); });
     // As high as its texts need when they wrap at this width.
-    const int width = fontMetrics().averageCharWidth() * widthInCharacters;
+    const int width = fontMetrics().averageCharWidth() * importCharacters;
     resize(width, whole->totalHeightForWidth(width));
 }
 

@@ -17,7 +17,7 @@ constexpr std::size_t memberFields = 6;
 constexpr std::size_t datedMemberFields = 7;
 constexpr std::string_view dateHeading = "|DATE ISSUED|";
 
-enum Field : std::size_t { memberNumber = 0, call = 1, name = 2, state = 4 };
+enum Field : std::size_t { firstNumber = 0, call = 1, name = 2, state = 4 };
 
 // Every header of either list begins with these letters, and no member's line does.
 bool isHeader(std::string_view line) {
@@ -137,7 +137,7 @@ ListLine MemberListReader::read(std::string_view line) {
     const auto behind = fields.begin() + static_cast<std::ptrdiff_t>(count);
     const std::string callField = withoutSeparators(fields[Field::call]);
     const bool numberIsLast = m_list == MemberList::members && !isBlank(fields[count - 1]);
-    const std::string_view number = fields[numberIsLast ? count - 1 : Field::memberNumber];
+    const std::string_view number = fields[numberIsLast ? count - 1 : Field::firstNumber];
     if (!std::all_of(behind, fields.end(), isBlank) || isBlank(callField) || !isNumber(number))
         return ListLine::malformed;
     m_record = memberRecord(number, callField, withoutSeparators(fields[Field::name]),

@@ -22,7 +22,7 @@ constexpr int longFirstLine = 150;
 // The lines of "SKSDB4.TXT", and of no other file, are padded with blanks to 232 columns.
 constexpr std::size_t paddedFile = 3;
 constexpr int paddedWidth = 232;
-constexpr std::string_view backupSuffix = ".BAK";
+constexpr std::string_view keptSuffix = ".BAK";
 
 constexpr std::string_view workingPhase = "<<< WORKING >>>";
 constexpr std::string_view splittingPhase = "PREPARING THE FILE";
@@ -98,7 +98,7 @@ void save(const std::vector<RosterTable>& roster, Files& files,
     for (const RosterTable& table : roster) {
         // Of a missing file an empty copy replaces that of an earlier import: together the five
         // copies are the roster as it was.
-        const std::string copy = table.name() + std::string(backupSuffix);
+        const std::string copy = table.name() + std::string(keptSuffix);
         if (changed && (files.present(table.name()) || files.present(copy)))
             contents.push_back({copy, {}, table.name()});
         contents.push_back({table.name(), table.bytes()});

@@ -11,25 +11,26 @@ namespace vantrel {
 
 namespace {
 
-std::string field(Column column, std::string_view contact) {
+std::string fieldText(Column column, std::string_view contact) {
     return std::string(trim(column.of(contact)));
 }
 
 // "20 METERS"; the kHz where the page has no name for the band.
-std::string bandName(std::string_view contact) {
+std::string bandWords(std::string_view contact) {
     const Band* band = bandOfKhz(qso::frequency.of(contact));
     if (band == nullptr || band->text.empty())
-        return field(qso::frequency, contact) + " kHz";
+        return fieldText(qso::frequency, contact) + " kHz";
     return upper(trim(band->text));
 }
 
 std::string callBandTime(std::string_view contact) {
-    return field(qso::hisCall, contact) + ' ' + bandName(contact) + ' ' + field(qso::time, contact);
+    return fieldText(qso::hisCall, contact) + ' ' + bandWords(contact) + ' ' +
+           fieldText(qso::time, contact);
 }
 
 std::string callKhzTime(std::string_view contact) {
-    return field(qso::hisCall, contact) + ' ' + field(qso::frequency, contact) + ' ' +
-           field(qso::time, contact);
+    return fieldText(qso::hisCall, contact) + ' ' + fieldText(qso::frequency, contact) + ' ' +
+           fieldText(qso::time, contact);
 }
 
 } // namespace
@@ -58,15 +59,15 @@ std::string missingText(const Entry& boxes, bool hasRoster) {
 std::string inLogText(std::string_view contact) {
     std::string text = "IN THE LOG:";
     for (const LookupField& known : lookupFields)
-        if (!field(known.column, contact).empty())
-            text += ' ' + field(known.column, contact);
+        if (!fieldText(known.column, contact).empty())
+            text += ' ' + fieldText(known.column, contact);
     return text + " - SPACE FILLS IN";
 }
 
 Hint loggedHint(std::string_view contact, std::string_view repeated) {
     Hint hint{"LOGGED " + callKhzTime(contact)};
     for (const LookupField& known : lookupFields)
-        if (field(known.column, contact).empty()) {
+        if (fieldText(known.column, contact).empty()) {
             hint.text += std::string("  NO ") + known.name;
             hint.tone = HintTone::caution;
         }

@@ -5,7 +5,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
-// A macro of Qt's that works in no namespace. The linker would leave the text out otherwise.
+// Without this the linker leaves keys.txt out. Qt's macro works outside namespaces only.
 static void takeInText() {
     Q_INIT_RESOURCE(keys);
 }
@@ -53,7 +53,7 @@ QString keySheet(const QString& page, const OperatingSettings& settings) {
 frmVantrelHelp::frmVantrelHelp(const FormContext& context)
     : Form(context, "frmVantrelHelp", "Vantrel - Keys") {
     takeInText();
-    // It has the focus to be read line by line, and scrolled.
+    // The text has the focus: arrow keys scroll it, a screen reader reads it line by line.
     m_sheet = focusFirst(FormBuilder::named(new QPlainTextEdit(this), "Text1"));
     m_sheet->setAccessibleName(QStringLiteral("KEYS"));
     m_sheet->setReadOnly(true);
@@ -80,7 +80,7 @@ QSize frmVantrelHelp::textSize() const {
         2 * (m_sheet->frameWidth() + static_cast<int>(m_sheet->document()->documentMargin()));
     const QSize text = QFontMetrics(m_sheet->font()).size(0, m_sheet->toPlainText());
     return {text.width() + around + m_sheet->verticalScrollBar()->sizeHint().width(),
-            text.height() + around + 1}; // without the one the last line had to be scrolled to
+            text.height() + around + 1}; // a pixel less, and the last line had to be scrolled to
 }
 
 // Looking up a key leads back to the box in which it is to be pressed.

@@ -57,7 +57,7 @@ bool KeyGuard::takesKey(QObject* receiver, const QKeyEvent& key) {
 bool KeyGuard::eventFilter(QObject* receiver, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress:
-        // Only what is on its way to a control: its window sees the key first.
+        // The window object sees each key before the control does: only the control's turn counts.
         return receiver->isWidgetType() && takesKey(receiver, *static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
         if (const auto& key = *static_cast<QKeyEvent*>(event); isEnter(key))

@@ -63,7 +63,7 @@ std::string readFile(SystemCalls& calls, const std::string& path);
 // time more readable; errors name `named`.
 DiskFile createFile(SystemCalls& calls, const std::string& path, const std::string& like,
                     const std::string& named, std::string_view bytes);
-// The same at newPath(target), whatever a crash may have left there.
+// The same at newPath(target); what a crash may have left there goes first.
 DiskFile createBeside(SystemCalls& calls, const std::string& target, std::string_view bytes);
 // The same, on the disk when this returns. Where the file system can do that, it has no name until
 // then, so that a kill leaves nothing.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What one kind of machine answers in another way than the other: posix/ and windows/ each hold the
-// answers. All paths are real ones of the machine.
+// Questions that each kind of machine answers in its own way: posix/ and windows/ hold the answers.
+// All paths are real ones of the machine.
 #pragma once
 
 #include <chrono>

@@ -156,8 +156,8 @@ bool frmMemberImport::runImport() {
 
 // Shows a phase at once and the lines once a frame; false once the window has been closed.
 bool frmMemberImport::showStep(const ImportStep& step) {
-    if (isGone()) // the files are saved all the same; a turn of the event loop would delete this
-                  // form
+    // The files are saved all the same, but a turn of the event loop would delete this form.
+    if (isGone())
         return false;
     const bool lastLine = step.line == step.lines;
     if (!lastLine && m_sinceShown.isValid() && m_sinceShown.elapsed() < frameMilliseconds)

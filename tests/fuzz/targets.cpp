@@ -18,7 +18,7 @@
 #include "output/adif/strictadif.h"
 #include "output/files/filetexts.h"
 #include "output/score/bonuscount.h"
-#include "output/score/contestpicture.h"
+#include "output/score/ratesheet.h"
 #include "output/score/scoretext.h"
 #include "platform/files.h"
 #include "rig/catlink.h"
@@ -84,7 +84,7 @@ void log(std::string input) {
         if (const auto time = readTime(qso::time.of(line)))
             assert(timeText(*time) == qso::time.of(line));
     }
-    assert(contestPicture(contacts).bars.size() <= pictureHours);
+    assert(rateSheet(contacts).bars.size() <= rateSheetHours);
     errorOf([&] { countBonusPoints(contacts); });
     for (const Standings& standings : {areaStandings(contacts), regionStandings(contacts)})
         assert(standings.total() <= static_cast<int>(contacts.size())); // each counts once at most

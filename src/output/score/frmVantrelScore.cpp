@@ -4,7 +4,7 @@
 #include "forms/readtable.h"
 #include "forms/stackedbars.h"
 #include "log/logfile.h"
-#include "output/score/contestpicture.h"
+#include "output/score/ratesheet.h"
 #include "output/score/scoretext.h"
 #include "platform/files.h"
 
@@ -128,15 +128,15 @@ void frmVantrelScore::showBands() {
 }
 
 void frmVantrelScore::showPicture() {
-    const ContestPicture picture = contestPicture(shared().log.contacts());
-    const bool byHours = picture.minutesPerBar == minutesPerHour;
+    const RateSheet sheet = rateSheet(shared().log.contacts());
+    const bool byHours = sheet.minutesPerBar == minutesPerHour;
     std::vector<QString> series;
     series.reserve(bands.size() + 1);
     for (const Band& band : bands)
         series.push_back(toQt(band.label));
     series.push_back(QStringLiteral("OTHER"));
     std::vector<StackedBar> bars;
-    for (const PictureBar& bar : picture.bars) {
+    for (const RateSheetBar& bar : sheet.bars) {
         const std::string hour = zeroPadded(bar.minuteOfDay / minutesPerHour, 2);
         const std::string minute = zeroPadded(bar.minuteOfDay % minutesPerHour, 2);
         bars.push_back({toQt(hour + (byHours ? "Z" : minute)),

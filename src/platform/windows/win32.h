@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The system's calls, and between its texts and errors and ours.
+// The system's calls; its texts and errors as ours, and our texts as its.
 #pragma once
 
 #include <string>

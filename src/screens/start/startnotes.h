@@ -26,9 +26,9 @@ inline constexpr std::string_view newFileQuestion =
 // the names of the files kept beside a log.
 void refuseOwnFile(const Files& files, std::string_view logFileName);
 
-// Reads the log. Returns one of the first two texts when it or its folder is not there, nothing
-// when it can be opened. An empty name is a file that is not found. Throws as refuseOwnFile, and as
-// Files::read for other failures.
+// Reads the log. Returns fileNotFoundText or pathNotFoundText when it or its folder is not there,
+// an empty text when it can be opened. An empty name is a file that is not found. Throws as
+// refuseOwnFile, and as Files::read for other failures.
 std::string_view notThereText(const Files& files, std::string_view logFileName);
 
 // A line beside a box.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The figures of the score and bonus pages by each contest's rules, and the picture of the hours.
 #include "forms/stackedbars.h"
-#include "output/score/contestpicture.h"
+#include "output/score/ratesheet.h"
 #include "output/score/scoretext.h"
 #include "support/qt/formharness.h"
 
@@ -172,7 +172,7 @@ std::string picture(const std::string& contacts) {
     const std::string log =
         logOf({&Fields::date, &Fields::time, &Fields::frequency, &Fields::marker}, contacts);
     std::string result;
-    for (const PictureBar& bar : contestPicture(contactsIn(log)).bars) {
+    for (const RateSheetBar& bar : rateSheet(contactsIn(log)).bars) {
         result += (bar.afterBreak ? "... " : "") + zeroPadded(bar.minuteOfDay / 60, 2) +
                   (bar.minuteOfDay % 60 == 0 ? "Z" : std::to_string(bar.minuteOfDay % 60));
         for (const int count : bar.contacts)
@@ -182,7 +182,7 @@ std::string picture(const std::string& contacts) {
     return result;
 }
 
-TEST(ContestPicture, ContactsByBandInHoursOrForAShortLogInTenMinutes) {
+TEST(RateSheet, ContactsByBandInHoursOrForAShortLogInTenMinutes) {
     EXPECT_EQ(picture("07-01-2011 0000; 2011-06-30 2359; 2011-06-30 2300 7040; 2011-06-30 2301;"
                       "2011-06-30 0659 50125; 2011-06-30 2302 14050 DUPE; 2011-13-01;"
                       "0000-01-01; 2011-06-30 2400; 2011-06-30 12_0; QSO: 14050 CW"),

@@ -4,7 +4,6 @@
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
-#include "platform/machine.h"
 #include "platform/windows/comport.h"
 #include "platform/windows/win32.h"
 #include "rig/catlink.h"

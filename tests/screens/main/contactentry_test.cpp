@@ -4,7 +4,6 @@
 #include "output/score/score.h"
 #include "rig/rigs.h"
 #include "screens/main/contactentry.h"
-#include "shared/utctime.h"
 #include "support/fakemachine.h"
 
 namespace vantrel::test {

@@ -4,7 +4,6 @@
 #include "screens/main/qsoentry.h"
 #include "screens/main/rate.h"
 #include "screens/main/workedcalls.h"
-#include "shared/utctime.h"
 #include "support/testing.h"
 
 namespace vantrel::test {

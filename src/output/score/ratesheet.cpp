@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output/score/contestpicture.h"
+#include "output/score/ratesheet.h"
 
 #include "log/contactdate.h"
 #include "log/qsoline.h"
@@ -24,7 +24,7 @@ UtcMinute stepOf(UtcMinute moment, chrono::minutes step) {
 
 } // namespace
 
-ContestPicture contestPicture(const Contacts& contacts) {
+RateSheet rateSheet(const Contacts& contacts) {
     std::vector<std::pair<UtcMinute, std::size_t>> made; // when, and the index of the band
     for (const std::string_view contact : contacts)
         if (const auto moment = contactMinute(contact); moment && !isDupe(contact))
@@ -35,23 +35,23 @@ ContestPicture contestPicture(const Contacts& contacts) {
     const auto [first, last] = std::ranges::minmax_element(made);
     const bool isShort = last->first - first->first < shortLog;
     const chrono::minutes step = isShort ? shortStep : hour;
-    std::map<UtcMinute, decltype(PictureBar::contacts)> steps; // under their beginnings
+    std::map<UtcMinute, decltype(RateSheetBar::contacts)> steps; // under their beginnings
     for (const auto& [moment, band] : made)
         ++steps[stepOf(moment, step)][band];
     if (isShort)
         for (UtcMinute moment = stepOf(first->first, step); moment < last->first; moment += step)
             steps[moment]; // a pause shows as bars of no height
-    while (steps.size() > pictureHours)
+    while (steps.size() > rateSheetHours)
         steps.erase(steps.begin());
 
-    ContestPicture picture{static_cast<int>(step.count()), {}};
+    RateSheet sheet{static_cast<int>(step.count()), {}};
     UtcMinute expected = steps.begin()->first;
     for (const auto& [moment, counts] : steps) {
         const auto minuteOfDay = (moment - chrono::floor<chrono::days>(moment)).count();
-        picture.bars.push_back({static_cast<int>(minuteOfDay), moment != expected, counts});
+        sheet.bars.push_back({static_cast<int>(minuteOfDay), moment != expected, counts});
         expected = moment + step;
     }
-    return picture;
+    return sheet;
 }
 
 } // namespace vantrel

@@ -117,8 +117,10 @@ bool Form::event(QEvent* event) {
         if (layout() != nullptr && layout()->hasHeightForWidth())
             setMinimumHeight(std::max(layout()->totalMinimumSize().height(),
                                       layout()->totalMinimumHeightForWidth(width())));
-    // The window manager has put its frame around the page by the time that it gets the keys.
-    if (event->type() == QEvent::WindowActivate && !m_isPlaced && !frameOf(this).isNull()) {
+    // The window manager has put its frame around the page by the time that it gets the keys, or
+    // moves the page by the frame afterwards.
+    const bool framed = event->type() == QEvent::WindowActivate || event->type() == QEvent::Move;
+    if (framed && !m_isPlaced && !frameOf(this).isNull()) {
         m_isPlaced = true;
         if (!screen()->availableGeometry().contains(frameGeometry()))
             moveOnto(screen(), frameGeometry());

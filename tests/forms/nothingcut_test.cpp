@@ -10,6 +10,7 @@
 #include "screens/start/startnotes.h"
 #include "support/qt/formharness.h"
 
+#include <QAbstractButton>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>

@@ -7,7 +7,6 @@
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/qt/qtdevices.h"
-#include "platform/qt/qtmessages.h"
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
 #include "shared/settings.h"

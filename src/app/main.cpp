@@ -9,7 +9,6 @@
 #include "platform/machine.h"
 #include "platform/programfolder.h"
 #include "platform/qt/qtdevices.h"
-#include "platform/qt/qtmessages.h"
 #include "platform/systemcalls.h"
 #include "shared/settings.h"
 

@@ -2,8 +2,8 @@
 #include "forms/alertlabel.h"
 
 #include "forms/accessible.h"
-#include "forms/controltext.h"
-#include "platform/qt/readernotice.h"
+#include "platform/qt/latin1.h"
+#include "platform/qt/qtdevices.h"
 
 #include <QTimer>
 

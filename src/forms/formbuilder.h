@@ -4,9 +4,9 @@
 #pragma once
 
 #include "forms/alertlabel.h"
-#include "forms/controltext.h"
 #include "forms/layouts.h"
 #include "forms/linelistmodel.h"
+#include "platform/qt/latin1.h"
 
 #include <QFontMetrics>
 #include <QFormLayout>

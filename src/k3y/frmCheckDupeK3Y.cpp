@@ -29,16 +29,15 @@ frmCheckDupeK3Y::frmCheckDupeK3Y(const FormContext& context)
     for (QPushButton* button : {logButton, noLogButton})
         button->setFont(familyFont(this, "Arial Rounded MT Bold"));
     // Unlike the other dupe screen's, this timer closes nothing: the operator has to decide.
-    m_timer = new QTimer(this);
-    m_timer->setObjectName(QStringLiteral("Timer1"));
-    m_timer->setInterval(timerMilliseconds);
+    auto* timer = new QTimer(this);
+    timer->setObjectName(QStringLiteral("Timer1"));
+    timer->start(timerMilliseconds);
     page(this, {verdict, reason, row({logButton, noLogButton})});
 }
 
 void frmCheckDupeK3Y::load() {
     if (shared().audioOn)
         platform().sound.playDupeAlarm();
-    m_timer->start();
 }
 
 void frmCheckDupeK3Y::ask(DupeQuestion question) {

@@ -5,8 +5,6 @@
 
 #include "forms/page.h"
 
-class QTimer;
-
 namespace vantrel {
 
 class frmCheckDupeK3Y : public Form {
@@ -21,8 +19,6 @@ protected:
 
 private:
     void logDupe();
-
-    QTimer* m_timer;
 
     DupeQuestion m_question;
     bool m_logged = false;

@@ -48,13 +48,22 @@ inline constexpr std::string_view noMarker = "      ";
 inline constexpr int shortestCall = 3; // less is neither logged nor searched for
 
 // True for a line whose first three characters are "QSO": every reader's test for a contact.
-bool isContact(std::string_view line);
+inline bool isContact(std::string_view line) {
+    return left(line, 3) == "QSO";
+}
 // True when columns 102-105 read "DUPE".
-bool isDupe(std::string_view line);
+inline bool isDupe(std::string_view line) {
+    return qso::dupeColumns.of(line) == dupeMarker;
+}
 
 // `line` with `value` written over the columns of `column`, the line first padded with
 // blanks to reach them; value is cut or padded on the right to the column's width. No other
 // column changes.
-std::string withField(std::string_view line, Column column, std::string_view value);
+inline std::string withField(std::string_view line, Column column, std::string_view value) {
+    std::string result =
+        length(line) < column.last() ? leftAligned(line, column.last()) : std::string(line);
+    return result.replace(static_cast<std::size_t>(column.first - 1),
+                          static_cast<std::size_t>(column.width), leftAligned(value, column.width));
+}
 
 } // namespace vantrel

@@ -3,7 +3,6 @@
 
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
-#include "platform/platform.h"
 #include "rig/radiofamily.h"
 #include "rig/rigs.h"
 #include "shared/settings.h"

@@ -7,7 +7,6 @@
 #include "roster/rosterfiles.h"
 
 #include <algorithm>
-#include <functional>
 #include <unordered_map>
 #include <utility>
 #include <vector>

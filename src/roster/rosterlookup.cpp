@@ -3,7 +3,6 @@
 
 #include "base/itemreader.h"
 #include "platform/files.h"
-#include "roster/rosterfiles.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,10 +2,10 @@
 // Nothing is cut: every page as small as it lets itself be made, in the fonts that desktops have
 // and with the longest texts it can hold, and every message box.
 #include "forms/colours.h"
-#include "forms/controltext.h"
 #include "forms/form.h"
 #include "forms/visiblestyle.h"
-#include "platform/qt/qtmessages.h"
+#include "platform/qt/latin1.h"
+#include "platform/qt/qtdevices.h"
 #include "screens/main/qsoentry.h"
 #include "screens/start/startnotes.h"
 #include "support/qt/formharness.h"

@@ -17,7 +17,6 @@
 #include "output/adif/adif.h"
 #include "output/adif/strictadif.h"
 #include "output/files/filetexts.h"
-#include "output/score/bonuscount.h"
 #include "output/score/ratesheet.h"
 #include "output/score/scoretext.h"
 #include "platform/files.h"

@@ -9,7 +9,6 @@
 #include "platform/platform.h"
 #include "platform/qt/latin1.h"
 #include "platform/qt/qtdevices.h"
-#include "platform/qt/qtmessages.h"
 #include "platform/systemcalls.h"
 #include "shared/module1.h"
 #include "support/qt/hands.h"

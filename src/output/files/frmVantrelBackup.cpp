@@ -44,7 +44,12 @@ frmVantrelBackup::frmVantrelBackup(const FormContext& context)
         button->setShortcut({});
     auto* altB = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_B), this);
     altB->setAutoRepeat(false);
-    connectHandler(altB, &QShortcut::activated, [this] { altBPressed(); });
+    connectHandler(altB, &QShortcut::activated, [this] {
+        if (m_backupButton->hasFocus())
+            backUp();
+        else
+            m_backupButton->setFocus();
+    });
 }
 
 void frmVantrelBackup::load() {
@@ -76,13 +81,6 @@ void frmVantrelBackup::backUp() {
     }
     const std::string done = "DONE......CLICK EXIT";
     m_status->announce(done, done + ". " + textOf(m_copy));
-}
-
-void frmVantrelBackup::altBPressed() {
-    if (m_backupButton->hasFocus())
-        backUp();
-    else
-        m_backupButton->setFocus();
 }
 
 // The open log, and what is known of its copy in the folder.

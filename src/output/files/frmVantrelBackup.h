@@ -19,7 +19,6 @@ protected:
 
 private:
     void backUp();
-    void altBPressed();
 
     void showLog();
     void showCopyThere();

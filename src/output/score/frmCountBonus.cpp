@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/score/frmCountBonus.h"
 
-#include "output/score/bonuscount.h"
+#include "output/score/score.h"
 
 namespace vantrel {
 

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <unordered_set>
 
 namespace vantrel {
 
@@ -20,6 +19,9 @@ constexpr int tribunePoints = 10;
 constexpr int senatorPoints = 15;
 constexpr int clubStationPoints = 25;
 constexpr int bonusStationPoints = 25;
+
+constexpr int countedStations = 200;
+constexpr Column stationKey{qso::hisCall.first, qso::hisCall.width + 1}; // the blank after it too
 
 constexpr std::string_view clubStation = "K9SKC";
 constexpr std::string_view noNumber = "NONE";
@@ -197,6 +199,28 @@ const ScoreTally& LogTally::tally() const {
         m_reading = m_log.reading();
     }
     return *m_tally;
+}
+
+Integer16 countBonusPoints(const Contacts& contacts) {
+    std::vector<std::string_view> counted;
+    Integer16 total;
+    for (const std::string_view contact : contacts) {
+        const std::string_view name = qso::hisName.of(contact);
+        const std::string_view station = stationKey.of(contact);
+        for (int position = 1; position <= length(name); ++position) {
+            if (mid(name, position, 1) != "/")
+                continue;
+            const Integer16 points = numericValue(trim(midToEnd(name, position + 1)));
+            // Once each: what a station has after a second slash, or on another band, adds nothing,
+            // even when the first value was no number.
+            if (std::ranges::find(counted, station) != counted.end())
+                continue;
+            counted.push_back(station);
+            requireCapacity("the list of bonus stations", counted.size(), countedStations);
+            total += points;
+        }
+    }
+    return total;
 }
 
 } // namespace vantrel

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The claimed score of a log: one set of rules for the European sprint, one for all others.
+// The claimed score of a log: one set of rules for the European sprint, one for all others. The
+// bonus points noted in the log.
 #pragma once
 
 #include "base/runtimeerror.h"
@@ -118,5 +119,11 @@ private:
 inline Score computeScore(const Contacts& contacts, const OperatingSettings& settings) {
     return ScoreTally(settings, contacts).score();
 }
+
+// The bonus points noted in the name field after a slash ("JOHN/25") of all contacts, duplicates
+// included, once per station: the first contact with a slash decides for its station. The score
+// does not hold them. Throws RuntimeError 9 at the 201st station with a slash, 6 when a value or
+// the sum is beyond 32,767.
+Integer16 countBonusPoints(const Contacts& contacts);
 
 } // namespace vantrel

@@ -8,7 +8,16 @@
 
 #include <memory>
 
+class QLabel;
+
 namespace vantrel {
+
+// Message boxes as real windows over the form that is active.
+class QtMessages : public Messages {
+public:
+    void show(const Message& message) override;
+    bool ask(const Message& message) override;
+};
 
 // Yields to the window's event loop.
 class QtEventLoop : public EventLoop {
@@ -38,5 +47,7 @@ inline constexpr const char* builtInAlarmPath = ":/Dupe.wav";
 std::unique_ptr<Sound> makeSound();
 // files: a link named "com1" in the program folder stands for that port.
 std::unique_ptr<SerialPort> makeSerialPort(const Files& files);
+// A screen reader says the text of `notification`, a hidden label in `alert`.
+void notifyReader(QLabel* alert, QLabel* notification);
 
 } // namespace vantrel

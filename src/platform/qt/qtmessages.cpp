@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/qtmessages.h"
-
 #include "platform/qt/latin1.h"
+#include "platform/qt/qtdevices.h"
 
 #include <QApplication>
 #include <QLabel>

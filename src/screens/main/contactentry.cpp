@@ -4,7 +4,6 @@
 #include "base/fixedtext.h"
 #include "base/runtimeerror.h"
 #include "platform/files.h"
-#include "platform/platform.h"
 #include "rig/rigs.h"
 #include "shared/module1.h"
 #include "shared/utctime.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "screens/main/qsoentry.h"
 
-#include "base/runtimeerror.h"
 #include "log/log.h"
 #include "roster/rosterlookup.h"
 #include "screens/main/frequency.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/readernotice.h"
+#include "platform/qt/qtdevices.h"
 
 #include <QAccessible>
 #include <QLabel>

@@ -209,7 +209,11 @@ def sprint(reader):
         (BUTTON, "BACKUP"): {(BUTTON, "BROWSE"): {}}, (BUTTON, "SCORE"): {},
         (BUTTON, "BONUS"): {}})
     keys("F1")
-    reader.close(reader.window("Keys"))
+    sheet = reader.window("Keys")
+    said = reader.find(sheet, "text", "KEYS").queryText().getText(0, -1)
+    if "Alt+S Alt+L      SEARCH, LOG" not in said or not said.endswith("this sheet"):
+        raise SystemExit(f"reader: the key sheet says {said!r}")
+    reader.close(sheet)
 
 
 def enter_station(reader, page):

@@ -119,8 +119,9 @@ bool Form::event(QEvent* event) {
                                       layout()->totalMinimumHeightForWidth(width())));
     // The window manager has put its frame around the page by the time that it gets the keys, or
     // moves the page by the frame afterwards.
-    const bool framed = event->type() == QEvent::WindowActivate || event->type() == QEvent::Move;
-    if (framed && !m_isPlaced && !frameOf(this).isNull()) {
+    const bool mayHaveFrame =
+        event->type() == QEvent::WindowActivate || event->type() == QEvent::Move;
+    if (mayHaveFrame && !m_isPlaced && !frameOf(this).isNull()) {
         m_isPlaced = true;
         if (!screen()->availableGeometry().contains(frameGeometry()))
             moveOnto(screen(), frameGeometry());

@@ -56,10 +56,9 @@ std::string plainText(std::string_view field) {
 
 // "20110616"
 std::string adifDate(const chrono::year_month_day& date) {
-    const auto month = static_cast<unsigned>(date.month());
-    const auto day = static_cast<unsigned>(date.day());
-    return zeroPadded(static_cast<int>(date.year()) * 10000 + static_cast<int>(month * 100 + day),
-                      8);
+    std::string text = dateText(date);
+    std::erase(text, '-');
+    return text;
 }
 
 // 0 for a field that holds no frequency.

@@ -30,6 +30,10 @@ std::string writtenText(const Files& files, std::string_view name, std::string_v
            std::string(lastPart(name));
 }
 
+std::string logText(std::string_view name, int contacts) {
+    return std::string(lastPart(name)) + ' ' + counted(contacts, "QSO");
+}
+
 std::size_t lastContactOf(const std::vector<std::string>& lines) {
     for (std::size_t i = lines.size(); i > 0; --i)
         if (isContact(lines[i - 1]))

@@ -18,6 +18,8 @@ std::string membersText(const Files& files, std::size_t number);
 // "TODAY 1423 SKS112126.ADI": when the file was written, UTC, and the last part of its name; with
 // the date when that was on another day than `utcToday` (YYYY-MM-DD). Or that there is none.
 std::string writtenText(const Files& files, std::string_view name, std::string_view utcToday);
+// "SKS112126.CBR 28 QSOS".
+std::string logText(std::string_view name, int contacts);
 
 // Index of the last contact among a log's lines; of the last line when there is none.
 std::size_t lastContactOf(const std::vector<std::string>& lines);

@@ -52,10 +52,7 @@ std::vector<frmVantrelFiles::Group> frmVantrelFiles::groups() {
     const auto strictAdif = [this] {
         return "UPLOAD THIS: " + writtenNow(strictAdifFileName(shared().log.name()));
     };
-    const auto log = [this] {
-        return std::string(lastPart(shared().log.name())) + ' ' +
-               counted(shared().log.count().value(), "QSO");
-    };
+    const auto log = [this] { return logText(shared().log.name(), shared().log.count().value()); };
     return {
         {"MEMBERS",
          {{"Option1", "SHOW MEMBERS &A...", "SHOWS SKSDB1.TXT", members(1), membersOf(1)},

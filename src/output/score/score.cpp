@@ -20,8 +20,8 @@ constexpr int senatorPoints = 15;
 constexpr int clubStationPoints = 25;
 constexpr int bonusStationPoints = 25;
 
-constexpr int countedStations = 200;
-constexpr Column stationKey{qso::hisCall.first, qso::hisCall.width + 1}; // the blank after it too
+constexpr int notedStations = 200; // with bonus points in the name field
+constexpr Column notedStation{qso::hisCall.first, qso::hisCall.width + 1}; // the blank after it too
 
 constexpr std::string_view clubStation = "K9SKC";
 constexpr std::string_view noNumber = "NONE";
@@ -206,7 +206,7 @@ Integer16 countBonusPoints(const Contacts& contacts) {
     Integer16 total;
     for (const std::string_view contact : contacts) {
         const std::string_view name = qso::hisName.of(contact);
-        const std::string_view station = stationKey.of(contact);
+        const std::string_view station = notedStation.of(contact);
         for (int position = 1; position <= length(name); ++position) {
             if (mid(name, position, 1) != "/")
                 continue;
@@ -216,7 +216,7 @@ Integer16 countBonusPoints(const Contacts& contacts) {
             if (std::ranges::find(counted, station) != counted.end())
                 continue;
             counted.push_back(station);
-            requireCapacity("the list of bonus stations", counted.size(), countedStations);
+            requireCapacity("the list of bonus stations", counted.size(), notedStations);
             total += points;
         }
     }

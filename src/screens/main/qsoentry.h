@@ -82,9 +82,10 @@ enum class FrequencyCheck { good, outsideSprintBands, unloggable };
 // Whether LOG takes the frequency; mhz: completed.
 FrequencyCheck checkFrequency(std::string_view mhz, const OperatingSettings& settings);
 
-// The contact line that LOG writes for these boxes: every field cut or padded to its columns,
-// commas and control characters turned into blanks. The frequency is a completed one that
-// checkFrequency calls good. Throws RuntimeError 5 when a setting is wider than its field.
+// The contact line that LOG writes for these boxes, 107 columns or 105 with "DUPE", without a line
+// end: every field cut or padded to its columns, commas and control characters turned into blanks.
+// The frequency is a completed one that checkFrequency calls good. Throws RuntimeError 5 when a
+// setting is wider than its field.
 std::string contactLine(const Entry& entry, const OperatingSettings& settings,
                         std::string_view marker, const UtcTime& utc);
 
